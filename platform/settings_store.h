@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace quillet
+{
+
+// A per-user store of texts (UTF-8) that lasts between runs.
+class SettingsStore
+{
+public:
+    virtual ~SettingsStore() = default;
+
+    // The stored text, which may be empty, or the default text when the key does not exist.
+    [[nodiscard]] virtual std::string readSetting(const std::string& application,
+                                                  const std::string& section,
+                                                  const std::string& key,
+                                                  const std::string& defaultText) = 0;
+
+    // Throws RunTimeError when the text cannot be stored; what was stored before stays whole.
+    virtual void writeSetting(const std::string& application, const std::string& section,
+                              const std::string& key, const std::string& text) = 0;
+};
+
+} // namespace quillet

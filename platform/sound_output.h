@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace quillet
+{
+
+// Plays one wave file at a time, without making the caller wait.
+class SoundOutput
+{
+public:
+    virtual ~SoundOutput() = default;
+
+    // Starts the file at this path and cuts off the one still playing. A file that cannot be
+    // played, or a machine without sound, is silence.
+    virtual void play(const std::string& path) = 0;
+};
+
+} // namespace quillet
