@@ -1,0 +1,48 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillet
+{
+
+// The text of a settings file: "[section]" and "key=value" lines in UTF-8, and comments that
+// begin with "#" or ";". Whatever is not changed is written as it was read: comments, blank
+// lines, keys that nobody asked for, line ends, a byte order mark.
+//
+// Every text can be a section, key or value. What would be misread is escaped: \n \r \t \\ and
+// \xHH for a byte. A backslash before anything else stands for itself, for a person's sake.
+class SettingsText
+{
+public:
+    // Nothing when a line is of no known kind, or the bytes are not plain UTF-8 text.
+    [[nodiscard]] static std::optional<SettingsText> parse(std::string_view bytes);
+
+    // Of a key that stands there twice, the last value counts.
+    [[nodiscard]] std::optional<std::string> value(std::string_view section,
+                                                   std::string_view key) const;
+    void setValue(const std::string& section, const std::string& key, std::string_view value);
+
+    [[nodiscard]] std::string bytes() const;
+
+private:
+    struct Line {
+        std::string raw;     // as it stands in the file, up to the line feed
+        std::string section; // in which the line stands, or which it opens
+        bool opensSection = false;
+        std::optional<std::string> key;
+        std::string value;
+    };
+
+    [[nodiscard]] static std::optional<Line> parseLine(std::string_view raw,
+                                                       const std::string& section);
+    void insertEntry(Line entry);
+
+    std::string m_byteOrderMark;
+    std::string m_carriageReturn; // of the lines that we write
+    std::vector<Line> m_lines;
+};
+
+} // namespace quillet

@@ -1,0 +1,281 @@
+#include "engine/run_time_error.h"
+#include "platform/text_file_store.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+// No file may grow beyond this many bytes, as on a disk that is nearly full.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit small = m_before;
+        small.rlim_cur = bytes;
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+class TextFileStoreTest : public testing::Test
+{
+protected:
+    [[nodiscard]] QString path(const QString& name = "settings.ini") const
+    {
+        return m_home.filePath("config/Quillet/" + name);
+    }
+
+    void writeFile(const QString& name, const QByteArray& bytes) const
+    {
+        QDir().mkpath(path(""));
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    [[nodiscard]] std::string fileText(const QString& name = "settings.ini") const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "no file";
+    }
+
+    [[nodiscard]] std::string read(const std::string& key)
+    {
+        return store.readSetting("Quillet", "Preferences", key, "default");
+    }
+
+    // Writes, and answers what the store threw.
+    std::string write(const std::string& key, const std::string& text)
+    {
+        try {
+            store.writeSetting("Quillet", "Preferences", key, text);
+            return "";
+        } catch (const RunTimeError& error) {
+            return error.what();
+        }
+    }
+
+    // Everything in the folder but the settings themselves.
+    [[nodiscard]] QStringList leftovers() const
+    {
+        QStringList names = QDir(path("")).entryList(QDir::AllEntries | QDir::Hidden |
+                                                     QDir::System | QDir::NoDotAndDotDot);
+        names.removeAll("settings.ini");
+        return names;
+    }
+
+    QTemporaryDir m_home;
+    TextFileStore store{m_home.filePath("config")};
+};
+
+} // namespace
+
+TEST_F(TextFileStoreTest, textsLastAndAnEmptyOneIsNotMissing)
+{
+    EXPECT_EQ(read("k"), "default");
+    EXPECT_FALSE(QDir(m_home.filePath("config")).exists());
+
+    EXPECT_EQ(write("k", "a=b\n"), "");
+    EXPECT_EQ(write("empty", ""), "");
+    store.writeSetting("../x", "Preferences", "k", "other application");
+    TextFileStore later(m_home.filePath("config"));
+    EXPECT_EQ(later.readSetting("Quillet", "Preferences", "k", "default"), "a=b\n");
+    EXPECT_EQ(later.readSetting("Quillet", "Preferences", "empty", "default"), "");
+    EXPECT_EQ(later.readSetting("../x", "Preferences", "k", "default"), "other application");
+    EXPECT_EQ(fileText(), "[Preferences]\nk=a=b\\n\nempty=\n");
+    EXPECT_EQ(QDir(m_home.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList("config"));
+    EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(TextFileStoreTest, theUsersConfigurationFolderIsTheUsualPlace)
+{
+    const QByteArray home = qgetenv("HOME");
+    qputenv("XDG_CONFIG_HOME", m_home.filePath("config").toLocal8Bit());
+    TextFileStore().writeSetting("Quillet", "Preferences", "k", "v");
+    qputenv("XDG_CONFIG_HOME", "relative");
+    qputenv("HOME", m_home.path().toLocal8Bit());
+    TextFileStore().writeSetting("Quillet", "Preferences", "k", "w");
+    qputenv("HOME", home);
+    qunsetenv("XDG_CONFIG_HOME");
+    EXPECT_TRUE(QFile::exists(m_home.filePath(".config/Quillet/settings.ini")));
+    EXPECT_EQ(read("k"), "v");
+}
+
+TEST_F(TextFileStoreTest, filesThatAreNoSettingsAreKeptAside)
+{
+    const QByteArray large = "[Preferences]\nk=" + QByteArray(1024 * 1024, 'x');
+    for (const QByteArray& bytes :
+         {QByteArray("[Preferences]\nk=1\nwhat\n"), QByteArray(9, '\0'), large}) {
+        writeFile("settings.ini", bytes);
+        EXPECT_EQ(read("k"), "default");
+        EXPECT_EQ(leftovers().size(), 0) << "by reading alone";
+        EXPECT_EQ(write("k", "new"), "");
+        EXPECT_EQ(fileText(), "[Preferences]\nk=new\n");
+        EXPECT_EQ(leftovers(), QStringList("settings.ini.bad"));
+        EXPECT_EQ(fileText("settings.ini.bad"), bytes.toStdString());
+        QFile::remove(path("settings.ini.bad"));
+    }
+    writeFile("settings.ini.bad", "earlier");
+    writeFile("settings.ini", "what");
+    EXPECT_EQ(write("k", "new"), "");
+    EXPECT_EQ(fileText("settings.ini.bad"), "earlier");
+    EXPECT_EQ(fileText("settings.ini.bad2"), "what");
+}
+
+TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
+{
+    EXPECT_EQ(write("k", "old"), "");
+    for (const rlim_t bytes : {1000, 0}) {
+        const FullDisk full(bytes);
+        EXPECT_THAT(write("k", std::string(5000, 'x')),
+                    testing::AllOf(testing::StartsWith("The settings cannot be stored in /"),
+                                   testing::HasSubstr(bytes > 0 ? "File too large" : "disk")));
+        EXPECT_EQ(write("k", "old"), "") << "nothing to store";
+    }
+    EXPECT_EQ(fileText(), "[Preferences]\nk=old\n");
+    EXPECT_EQ(leftovers(), QStringList());
+
+    writeFile("settings.ini", "what");
+    {
+        const FullDisk full(1000);
+        EXPECT_NE(write("k", std::string(5000, 'x')), "");
+    }
+    EXPECT_EQ(fileText(), "what") << "not set aside in vain";
+    EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(TextFileStoreTest, aTextThatWouldMakeTheFileUnreadableIsRefused)
+{
+    EXPECT_EQ(write("k", "v"), "");
+    EXPECT_THAT(write("l", std::string(1024 * 1024, 'x')), testing::EndsWith("too long"));
+    EXPECT_EQ(read("k"), "v");
+}
+
+// Permissions do not bind every user, but nobody can read a folder or a pipe as a file.
+TEST_F(TextFileStoreTest, whatCannotBeReadIsNotReplaced)
+{
+    QDir().mkpath(path() + "/inside");
+    EXPECT_EQ(read("k"), "default");
+    EXPECT_THAT(write("k", "v"), testing::EndsWith("It is not a file"));
+    EXPECT_TRUE(QDir(path() + "/inside").exists());
+    QDir(path()).removeRecursively();
+
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    EXPECT_EQ(read("k"), "default");
+    EXPECT_THAT(write("k", "v"), testing::EndsWith("It is not a file"));
+    QFile::remove(path());
+
+    QFile::link("settings.ini", path());
+    EXPECT_EQ(read("k"), "default");
+    EXPECT_NE(write("k", "v"), "") << "a link to itself";
+    EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(TextFileStoreTest, aFolderThatCannotBeMadeIsAnError)
+{
+    for (const QString& folder :
+         {m_home.filePath("file/config"), QString("/proc/none"), QString("/dev/null")}) {
+        QFile(m_home.filePath("file")).open(QIODevice::WriteOnly);
+        store = TextFileStore(folder);
+        EXPECT_EQ(read("k"), "default");
+        EXPECT_THAT(write("k", "v"), testing::EndsWith("The folder cannot be made"));
+    }
+}
+
+TEST_F(TextFileStoreTest, linksStayLinks)
+{
+    writeFile("target", "[Preferences]\nk=1\n");
+    QFile::link("target", path("middle"));
+    QFile::link(path("middle"), path());
+    EXPECT_EQ(read("k"), "1");
+    EXPECT_EQ(write("k", "2"), "");
+    EXPECT_EQ(fileText("target"), "[Preferences]\nk=2\n");
+
+    writeFile("target", "what");
+    EXPECT_EQ(write("k", "3"), "");
+    EXPECT_EQ(fileText("target.bad"), "what");
+    QFile::remove(path("target"));
+    EXPECT_EQ(write("k", "4"), "");
+    EXPECT_EQ(fileText("target"), "[Preferences]\nk=4\n");
+    EXPECT_TRUE(QFileInfo(path()).isSymLink() && QFileInfo(path("middle")).isSymLink());
+}
+
+TEST_F(TextFileStoreTest, writersMergeTheirKeys)
+{
+    EXPECT_EQ(write("k", "v"), "");
+    const auto writer = [folder = m_home.filePath("config")](const std::string& name) {
+        TextFileStore own(folder);
+        for (int i = 0; i < 6; ++i)
+            own.writeSetting("Quillet", "Preferences", name + std::to_string(i), name);
+    };
+    const pid_t child = ::fork();
+    if (child == 0) {
+        writer("process");
+        ::_exit(0);
+    }
+    std::thread first(writer, "first"), second(writer, "second");
+    first.join();
+    second.join();
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    for (const std::string name : {"first", "second", "process"})
+        for (int i = 0; i < 6; ++i)
+            EXPECT_EQ(read(name + std::to_string(i)), name);
+    EXPECT_EQ(read("k"), "v");
+}
+
+TEST_F(TextFileStoreTest, onlyALivingLockIsRespected)
+{
+    // The lock of a program that crashed, and one from a machine that nobody can ask.
+    EXPECT_EQ(write("k", "1"), "");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        (new QLockFile(path("settings.ini.lock")))->lock();
+        ::_exit(0);
+    }
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    EXPECT_EQ(leftovers(), QStringList("settings.ini.lock"));
+    EXPECT_EQ(write("k", "2"), "");
+    writeFile("settings.ini.lock", "1\nquillet\nelsewhere\n");
+    QFile old(path("settings.ini.lock"));
+    ASSERT_TRUE(old.open(QIODevice::ReadWrite));
+    old.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime);
+    EXPECT_EQ(write("k", "3"), "");
+
+    QLockFile held(path("settings.ini.lock"));
+    ASSERT_TRUE(held.lock());
+    EXPECT_THAT(write("k", "4"), testing::EndsWith("Another program is holding its lock"));
+    EXPECT_EQ(read("k"), "3");
+}
+
+} // namespace quillet::test
