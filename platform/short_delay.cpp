@@ -1,0 +1,32 @@
+#include "platform/short_delay.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTimer>
+
+#include <cassert>
+
+namespace quillet
+{
+
+void shortDelay(std::int32_t delayTime, const std::function<bool()>& cutShort)
+{
+    if (delayTime <= 0)
+        return;
+    // Without it nothing would wait, and the loop would spin.
+    assert(QCoreApplication::instance());
+
+    const QDeadlineTimer deadline(qint64{delayTime}, Qt::PreciseTimer);
+    QTimer waker;
+    waker.setTimerType(Qt::PreciseTimer);
+    waker.setSingleShot(true);
+    while (!deadline.hasExpired()) {
+        // Armed anew in each turn: a pause within this one may have used up its timeout.
+        waker.start(static_cast<int>(deadline.remainingTime()));
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        if (cutShort && cutShort())
+            return;
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace quillet
+{
+
+// Waits for so many milliseconds and handles every event meanwhile: any handler may have run
+// before this returns. 0 or less returns at once and handles nothing. When cutShort is given, it
+// is asked after each turn of the events, and true ends the wait. Needs the application object.
+void shortDelay(std::int32_t delayTime, const std::function<bool()>& cutShort = {});
+
+} // namespace quillet
