@@ -1,0 +1,79 @@
+#include "screens/frm_about.h"
+#include "screens/single_window.h"
+#include "tests/screens/window_driving.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+class AboutTest : public testing::Test
+{
+protected:
+    frmAbout& present()
+    {
+        frmAbout::present(&owner, shell);
+        auto* box = openWindow<frmAbout>();
+        EXPECT_TRUE(box != nullptr && QTest::qWaitForWindowExposed(box));
+        return *box;
+    }
+
+    QWidget owner;
+    RecordingShell shell;
+};
+
+TEST_F(AboutTest, theLinkOpensTheAddressThatItShows)
+{
+    frmAbout& box = present();
+    auto& link = control<QLabel>(box, "lblLink");
+    EXPECT_EQ(link.text(), "http://downloads.quillet.example/free/videopoker");
+    doubleClick(link);
+    link.setText("http://elsewhere.example/x");
+    link.adjustSize();
+    click(link);
+    EXPECT_THAT(shell.opened,
+                testing::ElementsAre("http://downloads.quillet.example/free/videopoker",
+                                     "http://elsewhere.example/x"));
+    EXPECT_TRUE(shell.allPlain);
+}
+
+TEST_F(AboutTest, itSaysWhatItHasToSay)
+{
+    frmAbout& box = present();
+    EXPECT_EQ(box.windowTitle(), "About Quillet");
+    EXPECT_EQ(control<QLabel>(box, "lblTitle").text(), "Quillet");
+    EXPECT_EQ(control<QLabel>(box, "lblVersion").text(), "Version 1.00");
+    EXPECT_EQ(control<QLabel>(box, "lblshareware").text(), "Free Software");
+    EXPECT_EQ(control<QLabel>(box, "Label5").text(), "Programming by");
+    for (const char* name : {"Label3", "Label4", "lblDisclaimer"})
+        EXPECT_FALSE(control<QLabel>(box, name).text().isEmpty()) << name;
+}
+
+TEST_F(AboutTest, thereIsOneModelessBoxWhichAClosedOneDoesNotBlock)
+{
+    QPointer<frmAbout> first = &present();
+    EXPECT_FALSE(first->isModal());
+    EXPECT_EQ(&present(), first);
+
+    // Within one event the closed box still exists when the next is asked for.
+    QTest::keyClick(first->windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(openWindow<frmAbout>(), nullptr);
+    frmAbout& second = present();
+    EXPECT_TRUE(second.isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(first.isNull());
+    EXPECT_EQ(openWindow<frmAbout>(), &second);
+}
+
+TEST_F(AboutTest, enterIsOK)
+{
+    QTest::keyClick(present().windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(openWindow<frmAbout>(), nullptr);
+    EXPECT_TRUE(shell.opened.empty());
+}
+
+} // namespace quillet::test

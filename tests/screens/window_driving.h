@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/shell_open.h"
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+#include <string>
+#include <vector>
+
+namespace quillet::test
+{
+
+// Keeps what the windows ask the desktop to open.
+class RecordingShell : public ShellOpen
+{
+public:
+    void open(const std::string& verb, const std::string& file, const std::string& parameters,
+              const std::string& directory, int showCommand) override
+    {
+        opened.push_back(file);
+        const bool plain = verb == "open" && parameters.empty() && directory.empty();
+        allPlain = allPlain && plain && showCommand == 1;
+    }
+
+    std::vector<std::string> opened;
+    bool allPlain = true;
+};
+
+template <typename Widget = QWidget>
+Widget& control(QWidget& window, const QString& name)
+{
+    auto* widget = window.findChild<Widget*>(name);
+    if (widget == nullptr)
+        qFatal("no control %s", qPrintable(name));
+    return *widget;
+}
+
+// Where the middle of a control lies in its window; the mouse is driven through the window, so
+// that the events and their order are the ones that Qt makes of real presses.
+inline QPoint middleOf(QWidget& widget)
+{
+    return widget.mapTo(widget.window(), widget.rect().center());
+}
+
+inline void click(QWidget& widget, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseClick(widget.window()->windowHandle(), button, {}, middleOf(widget));
+}
+
+inline void doubleClick(QWidget& widget)
+{
+    QTest::mouseDClick(widget.window()->windowHandle(), Qt::LeftButton, {}, middleOf(widget));
+}
+
+} // namespace quillet::test
