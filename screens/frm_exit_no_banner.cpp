@@ -1,0 +1,150 @@
+#include "screens/frm_exit_no_banner.h"
+
+#include "screens/designed_labels.h"
+#include "screens/link_label.h"
+#include "screens/run_shell_execute.h"
+#include "screens/web_pages.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quillet
+{
+
+namespace
+{
+
+struct Offering {
+    const char* label;
+    const char* text;
+};
+
+constexpr Offering offerings[] = {
+    {"Label1", "Rules of Texas Hold'em, step by step"},
+    {"Label2", "Starting hands, seat by seat"},
+    {"Label4", "Pot odds without a calculator"},
+    {"Label5", "Omaha and Stud for Hold'em players"},
+    {"Label6", "Video poker pay tables compared"},
+    {"Label7", "Strategy charts to print"},
+    {"Label8", "Quiz: which cards would you hold?"},
+    {"Label9", "Glossary of poker words"},
+    {"Label10", "Home games: chips, blinds and manners"},
+    {"Label11", "Books worth reading"},
+    {"Label12", "Questions and answers from players"},
+    {"lblLink", "More free programs to download"},
+};
+
+QPushButton* namedButton(const char* name, const QString& text)
+{
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setMinimumWidth(button->sizeHint().width() + 24);
+    return button;
+}
+
+} // namespace
+
+frmExitNoBanner::frmExitNoBanner(ShellOpen& shell, QWidget* parent)
+    : QDialog(parent), m_shell(shell)
+{
+    setObjectName("frmExitNoBanner");
+    setWindowTitle("More Texas Hold'em Resources..");
+    wearItsOwnColours();
+
+    auto* lblTitle = namedLabel("lblTitle", "Visit the Home Page for more Poker Goodies..");
+    lblTitle->setFont(boldComicSans(15));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(32, 20, 32, 16);
+    layout->setSpacing(4);
+    layout->addWidget(lblTitle, 0, Qt::AlignHCenter);
+    layout->addSpacing(10);
+    addLinkLabels(*layout);
+    layout->addSpacing(14);
+    addButtons(*layout);
+    layout->addSpacing(8);
+    addFooter(*layout);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// The window is light grey with black text on every desktop; all other shades follow from the
+// grey, so that its buttons stay readable where the desktop is dark.
+void frmExitNoBanner::wearItsOwnColours()
+{
+    QPalette colours(QColor(0xC0, 0xC0, 0xC0));
+    colours.setColor(QPalette::WindowText, Qt::black);
+    colours.setColor(QPalette::ButtonText, Qt::black);
+    setPalette(colours);
+}
+
+void frmExitNoBanner::addLinkLabels(QVBoxLayout& layout)
+{
+    for (const Offering& offering : offerings) {
+        auto* label = namedLabel<LinkLabel>(offering.label, offering.text);
+        connect(label, &LinkLabel::clicked, this, &frmExitNoBanner::openHomePage);
+        connect(label, &LinkLabel::doubleClicked, this, &frmExitNoBanner::openHomePage);
+        layout.addWidget(label, 0, Qt::AlignHCenter);
+    }
+}
+
+void frmExitNoBanner::addButtons(QVBoxLayout& layout)
+{
+    auto* cmdOK = namedButton("cmdOK", "Go To Home Page");
+    auto* command1 = namedButton("Command1", "Exit");
+    connect(cmdOK, &QPushButton::clicked, this, &frmExitNoBanner::cmdOK_Click);
+    connect(command1, &QPushButton::clicked, this, &frmExitNoBanner::Command1_Click);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(12);
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(command1);
+    buttons->addStretch();
+    layout.addLayout(buttons);
+
+    // Whoever leaves with Enter has not asked for a browser.
+    command1->setDefault(true);
+    command1->setFocus();
+}
+
+void frmExitNoBanner::addFooter(QVBoxLayout& layout)
+{
+    auto* footer = namedLabel<LinkLabel>("Label3", "Thank you for playing Quillet.");
+    QFont underlined = smallFonts();
+    underlined.setUnderline(true);
+    footer->setFont(underlined);
+    connect(footer, &LinkLabel::clicked, this, &frmExitNoBanner::openHomePage);
+    layout.addWidget(footer, 0, Qt::AlignHCenter);
+}
+
+void frmExitNoBanner::openHomePage()
+{
+    openWebPage(m_shell, homePage());
+}
+
+void frmExitNoBanner::cmdOK_Click()
+{
+    openHomePage();
+    endEverything();
+}
+
+void frmExitNoBanner::Command1_Click()
+{
+    endEverything();
+}
+
+void frmExitNoBanner::endEverything()
+{
+    emit unloadMainWindow();
+    done(QDialog::Accepted);
+    emit endProgram();
+}
+
+void frmExitNoBanner::reject()
+{
+    emit unloadMainWindow();
+    QDialog::reject();
+}
+
+} // namespace quillet

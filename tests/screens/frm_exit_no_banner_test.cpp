@@ -1,0 +1,152 @@
+#include "screens/frm_exit_no_banner.h"
+#include "screens/link_label.h"
+#include "tests/screens/window_driving.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+using testing::ElementsAre;
+
+const std::string home = "http://www.quillet.example";
+
+class ExitScreenTest : public testing::Test
+{
+protected:
+    ExitScreenTest()
+    {
+        QObject::connect(&window, &frmExitNoBanner::unloadMainWindow, [this] { note("unload"); });
+        QObject::connect(&window, &frmExitNoBanner::endProgram, [this] { note("end"); });
+    }
+
+    void show()
+    {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+    void note(const std::string& what)
+    {
+        log.push_back(what + (window.isVisible() ? ", shown" : ", gone") + ", opened " +
+                      std::to_string(shell.opened.size()));
+    }
+    // Shows the window as the program does and lets the player act once it stands.
+    void runWith(const std::function<void()>& act)
+    {
+        QTimer::singleShot(0, &window, [&] {
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+            act();
+        });
+        window.exec();
+    }
+
+    RecordingShell shell;
+    frmExitNoBanner window{shell};
+    std::vector<std::string> log;
+};
+
+TEST_F(ExitScreenTest, everyLinkLabelOpensOncePerClickAndTwicePerDoubleClick)
+{
+    show();
+    for (const char* name : {"Label1", "Label2", "Label4", "Label5", "Label6", "Label7", "Label8",
+                             "Label9", "Label10", "Label11", "Label12", "lblLink"}) {
+        auto& label = control<LinkLabel>(window, name);
+        shell.opened.clear();
+        click(label);
+        EXPECT_THAT(shell.opened, ElementsAre(home)) << name;
+        doubleClick(label);
+        EXPECT_THAT(shell.opened, ElementsAre(home, home, home)) << name;
+        EXPECT_FALSE(label.text().isEmpty()) << name;
+    }
+    EXPECT_TRUE(shell.allPlain);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(ExitScreenTest, theFooterOpensOnceHoweverOftenItIsDoubleClicked)
+{
+    show();
+    auto& footer = control<LinkLabel>(window, "Label3");
+    doubleClick(footer);
+    EXPECT_EQ(shell.opened.size(), 1U);
+    doubleClick(footer);
+    EXPECT_EQ(shell.opened.size(), 2U);
+}
+
+TEST_F(ExitScreenTest, onlyALeftReleaseInsideTheLabelCounts)
+{
+    show();
+    auto& label = control(window, "Label5");
+    click(label, Qt::RightButton);
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, middleOf(label));
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middleOf(label));
+    EXPECT_TRUE(shell.opened.empty());
+}
+
+TEST_F(ExitScreenTest, linksWorkFromTheKeyboardAndForAScreenReader)
+{
+    show();
+    auto& label = control<LinkLabel>(window, "Label9");
+    for (int tabs = 0; tabs < 20 && !label.hasFocus(); ++tabs)
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    ASSERT_TRUE(label.hasFocus());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter})
+        QTest::keyClick(window.windowHandle(), key);
+    EXPECT_EQ(shell.opened.size(), 3U);
+    EXPECT_TRUE(window.isVisible());
+
+    auto* access = QAccessible::queryAccessibleInterface(&label);
+    EXPECT_EQ(access->role(), QAccessible::Link);
+    EXPECT_EQ(access->text(QAccessible::Name), label.text());
+    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(shell.opened.size(), 4U);
+}
+
+TEST_F(ExitScreenTest, goToHomePageOpensUnloadsGoesAndEnds)
+{
+    runWith([this] { click(control(window, "cmdOK")); });
+    EXPECT_THAT(shell.opened, ElementsAre(home));
+    EXPECT_THAT(log, ElementsAre("unload, shown, opened 1", "end, gone, opened 1"));
+}
+
+TEST_F(ExitScreenTest, exitOpensNothing)
+{
+    runWith([this] { click(control(window, "Command1")); });
+    EXPECT_THAT(log, ElementsAre("unload, shown, opened 0", "end, gone, opened 0"));
+}
+
+TEST_F(ExitScreenTest, enterAtOnceExitsWithoutABrowser)
+{
+    runWith([this] { QTest::keyClick(window.windowHandle(), Qt::Key_Return); });
+    EXPECT_THAT(log, ElementsAre("unload, shown, opened 0", "end, gone, opened 0"));
+}
+
+TEST_F(ExitScreenTest, closeBoxAndEscUnloadOnceAndReturnToTheCaller)
+{
+    runWith([this] { window.windowHandle()->close(); });
+    EXPECT_THAT(log, ElementsAre("unload, shown, opened 0"));
+    log.clear();
+    runWith([this] { QTest::keyClick(window.windowHandle(), Qt::Key_Escape); });
+    EXPECT_THAT(log, ElementsAre("unload, shown, opened 0"));
+}
+
+TEST_F(ExitScreenTest, itStaysBlackOnLightGreyOnADarkDesktop)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+    show();
+    EXPECT_EQ(window.grab().toImage().pixelColor(3, 3), QColor(0xC0, 0xC0, 0xC0));
+    for (const auto* label : window.findChildren<QLabel*>())
+        EXPECT_EQ(label->palette().color(label->foregroundRole()), QColor(Qt::black));
+    EXPECT_EQ(control<QPushButton>(window, "cmdOK").palette().buttonText().color(), Qt::black);
+    QApplication::setPalette(before);
+}
+
+} // namespace quillet::test
