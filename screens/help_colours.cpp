@@ -1,0 +1,69 @@
+#include "screens/help_colours.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+QColor mixed(const QColor& ground, const QColor& ink, double share)
+{
+    const auto channel = [share](int from, int to) {
+        return static_cast<int>(std::lround(from + share * (to - from)));
+    };
+    return {channel(ground.red(), ink.red()), channel(ground.green(), ink.green()),
+            channel(ground.blue(), ink.blue())};
+}
+
+} // namespace
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor readableLinkColour(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor link = palette.color(QPalette::Link);
+    if (contrast(link, ground) >= 4.5)
+        return link;
+    const QColor dark(0x0b, 0x4f, 0xb3);
+    const QColor light(0x8a, 0xbc, 0xff);
+    return contrast(dark, ground) > contrast(light, ground) ? dark : light;
+}
+
+QString helpStyleSheet(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor ink = palette.color(QPalette::Text);
+    return QString("a { color: %1; }"
+                   "h2 { margin-top: 28px; margin-bottom: 8px; }"
+                   "h3 { margin-top: 16px; margin-bottom: 6px; }"
+                   "p { margin-top: 8px; margin-bottom: 8px; line-height: 125%; }"
+                   "li { margin-top: 2px; margin-bottom: 2px; line-height: 125%; }"
+                   "table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px; }"
+                   "td, th { border: 1px solid %2; padding: 4px 8px; }"
+                   "th { background-color: %3; text-align: left; }"
+                   ".hand, .hold { white-space: nowrap; font-family: monospace; }"
+                   "code { font-family: monospace; }")
+        .arg(readableLinkColour(palette).name(), mixed(ground, ink, 0.35).name(),
+             mixed(ground, ink, 0.08).name());
+}
+
+} // namespace quillet

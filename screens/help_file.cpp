@@ -1,0 +1,47 @@
+#include "screens/help_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
+
+HelpFile unreadable(const QString& reason)
+{
+    return {{}, "The help file " + reason};
+}
+
+} // namespace
+
+HelpFile readHelpFile(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return unreadable("is missing. It should be here: " + path);
+    if (!info.isFile())
+        return unreadable("cannot be read, because this is not a file: " + path);
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return unreadable("cannot be read (" + file.errorString() + "): " + path);
+    const QByteArray bytes = file.read(sizeLimit + 1);
+    if (bytes.size() > sizeLimit)
+        return unreadable("is too large to be shown (more than 4 MB): " + path);
+    if (bytes.isEmpty())
+        return unreadable("is empty: " + path);
+
+    // Stateless: a character that is cut off at the end of the file is an error as well.
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString html = utf8(bytes);
+    if (utf8.hasError())
+        return unreadable("cannot be read, because it is not a UTF-8 text: " + path);
+    return {html, {}};
+}
+
+} // namespace quillet

@@ -1,0 +1,133 @@
+#include "screens/help_page.h"
+
+#include "screens/help_colours.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace quillet
+{
+
+namespace
+{
+
+const char documentAddress[] = "quillet-help:/quillet.hlp";
+
+} // namespace
+
+HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_normalSize(font().pointSizeF())
+{
+    setOpenLinks(false);
+    document()->setDocumentMargin(16);
+    takeColoursFromPalette();
+    connect(this, &QTextBrowser::anchorClicked, this, &HelpPage::followLink);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpPage::searchOnFromHere);
+}
+
+void HelpPage::showText(const QString& html)
+{
+    if (html != m_html) {
+        m_html = html;
+        if (!source().isEmpty())
+            reload();
+        clearHistory();
+    }
+    showContents();
+}
+
+void HelpPage::showContents()
+{
+    setSource(QUrl(documentAddress));
+}
+
+QVariant HelpPage::loadResource(int type, const QUrl& name)
+{
+    const bool isText = type == QTextDocument::HtmlResource &&
+                        name.adjusted(QUrl::RemoveFragment) == QUrl(documentAddress);
+    return isText ? m_html : QVariant();
+}
+
+void HelpPage::followLink(const QUrl& target)
+{
+    if (target.adjusted(QUrl::RemoveFragment) == QUrl(documentAddress))
+        setSource(target);
+    else if (target.scheme() == "http" || target.scheme() == "https")
+        emit webLinkClicked(target);
+}
+
+// After a jump the reader looks here, so the next search starts here as well.
+void HelpPage::searchOnFromHere()
+{
+    setTextCursor(cursorForPosition(QPoint(0, 0)));
+}
+
+HelpPage::Found HelpPage::search(const QString& text, QTextDocument::FindFlags direction)
+{
+    if (find(text, direction))
+        return Found::Onward;
+    const QTextCursor before = textCursor();
+    const int scrolledTo = verticalScrollBar()->value();
+    QTextCursor otherEnd(document());
+    if (direction.testFlag(QTextDocument::FindBackward))
+        otherEnd.movePosition(QTextCursor::End);
+    setTextCursor(otherEnd);
+    if (find(text, direction))
+        return Found::AfterWrapping;
+    setTextCursor(before);
+    verticalScrollBar()->setValue(scrolledTo);
+    return Found::Nowhere;
+}
+
+HelpPage::Found HelpPage::searchWhileTyping(const QString& text)
+{
+    QTextCursor start = textCursor();
+    start.setPosition(start.selectionStart());
+    setTextCursor(start);
+    return search(text, {});
+}
+
+void HelpPage::zoomBy(int points)
+{
+    QFont zoomed = font();
+    zoomed.setPointSizeF(std::clamp(zoomed.pointSizeF() + points, 6.0, 40.0));
+    setFont(zoomed);
+}
+
+void HelpPage::zoomToNormal()
+{
+    QFont normal = font();
+    normal.setPointSizeF(m_normalSize);
+    setFont(normal);
+}
+
+void HelpPage::changeEvent(QEvent* event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColoursFromPalette();
+}
+
+// The colours of a text are settled when it is loaded, so a change of theme loads it again.
+void HelpPage::takeColoursFromPalette()
+{
+    QPalette colours = palette();
+    const QColor selection = colours.color(QPalette::Active, QPalette::Highlight);
+    if (colours.color(QPalette::Inactive, QPalette::Highlight) != selection) {
+        // What was found must stay visible while the keyboard is in the search field.
+        colours.setColor(QPalette::Inactive, QPalette::Highlight, selection);
+        colours.setColor(QPalette::Inactive, QPalette::HighlightedText,
+                         colours.color(QPalette::Active, QPalette::HighlightedText));
+        setPalette(colours);
+        return;
+    }
+    document()->setDefaultStyleSheet(helpStyleSheet(colours));
+    if (source().isEmpty())
+        return;
+    const int scrolledTo = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(scrolledTo);
+}
+
+} // namespace quillet

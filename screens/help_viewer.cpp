@@ -1,0 +1,179 @@
+#include "screens/help_viewer.h"
+
+#include "screens/help_file.h"
+#include "screens/run_shell_execute.h"
+#include "screens/single_window.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QShortcut>
+#include <QToolBar>
+
+namespace quillet
+{
+
+namespace
+{
+
+template <typename Act>
+QAction* addCommand(QToolBar& bar, const QString& text, const QList<QKeySequence>& keys, Act&& act)
+{
+    QAction* action = bar.addAction(text, std::forward<Act>(act));
+    action->setShortcuts(keys);
+    action->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
+    // Qt keeps the buttons of a tool bar out of the reach of the Tab key.
+    bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    return action;
+}
+
+QString notFound(const QString& text)
+{
+    return "\"" + text + "\" does not occur in the help.";
+}
+
+} // namespace
+
+void HelpViewer::present(QWidget* parent, ShellOpen& shell, const QString& path)
+{
+    auto* viewer = openWindow<HelpViewer>();
+    if (viewer == nullptr) {
+        viewer = new HelpViewer(shell, parent);
+        viewer->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    bringToFront(*viewer);
+    viewer->openAtContents(path);
+}
+
+HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), m_shell(shell), m_page(new HelpPage),
+      m_searchText(new QLineEdit), m_message(new QLabel)
+{
+    setObjectName("HelpViewer");
+    setWindowTitle("Quillet Help");
+    setContextMenuPolicy(Qt::PreventContextMenu);
+
+    m_page->setObjectName("helpPage");
+    m_page->setAccessibleName("Help text");
+    m_page->setFrameShape(QFrame::NoFrame);
+    connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
+        openWebPage(m_shell, address.toEncoded().toStdString());
+    });
+    setCentralWidget(m_page);
+
+    auto* commands = new QToolBar("Commands");
+    addNavigation(*commands);
+    addZoom(*commands);
+    auto* searching = new QToolBar("Search");
+    addSearch(*searching);
+    for (QToolBar* bar : {commands, searching})
+        bar->setMovable(false);
+    addToolBar(Qt::TopToolBarArea, commands);
+    addToolBar(Qt::BottomToolBarArea, searching);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+
+    resize(QSize(820, 680).boundedTo(screen()->availableSize() - QSize(40, 80)));
+    m_page->setFocus();
+}
+
+void HelpViewer::addNavigation(QToolBar& bar)
+{
+    QAction* back = addCommand(bar, "Back", {QKeySequence(Qt::ALT | Qt::Key_Left)},
+                               [this] { m_page->backward(); });
+    QAction* forward = addCommand(bar, "Forward", {QKeySequence(Qt::ALT | Qt::Key_Right)},
+                                  [this] { m_page->forward(); });
+    for (QAction* action : {back, forward})
+        action->setEnabled(false);
+    connect(m_page, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(m_page, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    addCommand(bar, "Contents", {QKeySequence(Qt::ALT | Qt::Key_Home)},
+               [this] { m_page->showContents(); });
+    bar.addSeparator();
+}
+
+void HelpViewer::addZoom(QToolBar& bar)
+{
+    addCommand(bar, "Smaller", {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
+               [this] { m_page->zoomBy(-1); });
+    addCommand(bar, "Larger",
+               {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+               [this] { m_page->zoomBy(1); });
+    addCommand(bar, "Normal size", {QKeySequence(Qt::CTRL | Qt::Key_0)},
+               [this] { m_page->zoomToNormal(); });
+}
+
+void HelpViewer::addSearch(QToolBar& bar)
+{
+    m_searchText->setObjectName("helpSearch");
+    m_searchText->setPlaceholderText("Find (Ctrl+F)");
+    m_searchText->setAccessibleName("Find in the help text");
+    m_searchText->setClearButtonEnabled(true);
+    m_searchText->setMaximumWidth(220);
+    bar.addWidget(m_searchText);
+    addCommand(bar, "Previous", {QKeySequence(Qt::SHIFT | Qt::Key_F3)},
+               [this] { searchNext(QTextDocument::FindBackward); });
+    addCommand(bar, "Next", {QKeySequence(Qt::Key_F3)}, [this] { searchNext({}); });
+    m_message->setObjectName("helpMessage");
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setContentsMargins(8, 0, 8, 0);
+    bar.addWidget(m_message);
+
+    connect(m_searchText, &QLineEdit::textEdited, this, &HelpViewer::searchTyped);
+    connect(m_searchText, &QLineEdit::returnPressed, this, [this] { searchNext({}); });
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_Return, m_searchText, nullptr, nullptr,
+                          Qt::WidgetShortcut),
+            &QShortcut::activated, this, [this] { searchNext(QTextDocument::FindBackward); });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        m_searchText->setFocus();
+        m_searchText->selectAll();
+    });
+}
+
+void HelpViewer::openAtContents(const QString& path)
+{
+    const HelpFile file = readHelpFile(path);
+    m_page->showText(file.problem.isEmpty()
+                         ? file.html
+                         : "<h1>No help to show</h1><p>" + file.problem.toHtmlEscaped() + "</p>");
+    tell({});
+}
+
+void HelpViewer::searchNext(QTextDocument::FindFlags direction)
+{
+    const QString text = m_searchText->text();
+    if (text.isEmpty()) {
+        m_searchText->setFocus();
+        return;
+    }
+    switch (m_page->search(text, direction)) {
+    case HelpPage::Found::Onward:
+        tell({});
+        break;
+    case HelpPage::Found::AfterWrapping:
+        tell(direction.testFlag(QTextDocument::FindBackward)
+                 ? "Reached the top; the search went on from the end."
+                 : "Reached the end; the search went on from the top.");
+        break;
+    case HelpPage::Found::Nowhere:
+        tell(notFound(text));
+    }
+}
+
+void HelpViewer::searchTyped(const QString& text)
+{
+    const bool missing =
+        !text.isEmpty() && m_page->searchWhileTyping(text) == HelpPage::Found::Nowhere;
+    tell(missing ? notFound(text) : QString());
+}
+
+void HelpViewer::tell(const QString& message)
+{
+    m_message->setText(message);
+    if (message.isEmpty())
+        return;
+    QAccessibleEvent spoken(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&spoken);
+}
+
+} // namespace quillet

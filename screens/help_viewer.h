@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/shell_open.h"
+#include "screens/help_page.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QLineEdit;
+
+namespace quillet
+{
+
+// The help window: modeless, at most one, deleted when it is closed. It reports a help file that
+// cannot be read itself, in the place of the text.
+class HelpViewer : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // Opens the help at its contents, in the open window if there is one. The shell must outlive
+    // the window.
+    static void present(QWidget* parent, ShellOpen& shell, const QString& path);
+
+    HelpViewer(ShellOpen& shell, QWidget* parent);
+
+    void openAtContents(const QString& path);
+
+private:
+    void addNavigation(QToolBar& bar);
+    void addSearch(QToolBar& bar);
+    void addZoom(QToolBar& bar);
+    void searchNext(QTextDocument::FindFlags direction);
+    void searchTyped(const QString& text);
+    void tell(const QString& message);
+
+    ShellOpen& m_shell;
+    HelpPage* m_page;
+    QLineEdit* m_searchText;
+    QLabel* m_message;
+};
+
+} // namespace quillet

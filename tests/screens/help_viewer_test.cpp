@@ -1,0 +1,186 @@
+#include "screens/help_colours.h"
+#include "screens/help_viewer.h"
+#include "screens/single_window.h"
+#include "tests/screens/window_driving.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class HelpViewerTest : public testing::Test
+{
+protected:
+    QString fileWith(const QByteArray& bytes)
+    {
+        QFile file(m_folder.filePath("quillet.hlp"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    // A contents page, two far sections, the word "needle" once in each of them.
+    QString helpWithTwoSections()
+    {
+        const QByteArray filling = QByteArray("<p>hay</p>").repeated(80);
+        return fileWith("<h1 id='contents'>Contents</h1><p><a href='#one'>one</a></p>" + filling +
+                        "<h2 id='one'>One</h2><p>Needle <a href='#contents'>up</a></p>" + filling +
+                        "<h2 id='two'>Two</h2><p>needle</p>" + filling);
+    }
+    HelpViewer& present(const QString& path)
+    {
+        HelpViewer::present(&owner, shell, path);
+        auto* viewer = openWindow<HelpViewer>();
+        EXPECT_TRUE(viewer != nullptr && QTest::qWaitForWindowExposed(viewer));
+        return *viewer;
+    }
+    static HelpPage& pageOf(HelpViewer& viewer) { return control<HelpPage>(viewer, "helpPage"); }
+    static std::string shownFor(HelpViewer& viewer)
+    {
+        return pageOf(viewer).toPlainText().toStdString();
+    }
+    // Reaches the command as a player does, by its key.
+    static void press(HelpViewer& viewer, int key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(viewer.windowHandle(), static_cast<Qt::Key>(key), modifiers);
+    }
+
+    QTemporaryDir m_folder;
+    QWidget owner;
+    RecordingShell shell;
+};
+
+TEST_F(HelpViewerTest, aFileThatCannotBeShownIsReportedInTheWindowWithItsPath)
+{
+    const QString missing = m_folder.filePath("a<b>.hlp");
+    EXPECT_THAT(shownFor(present(missing)), HasSubstr("is missing"));
+    EXPECT_THAT(shownFor(present(missing)), HasSubstr(missing.toStdString()));
+    EXPECT_THAT(shownFor(present(m_folder.path())), HasSubstr("not a file"));
+    EXPECT_THAT(shownFor(present(fileWith({}))), HasSubstr("is empty"));
+    EXPECT_THAT(shownFor(present(fileWith("caf\xe9"))), HasSubstr("not a UTF-8 text"));
+
+    const QString path = fileWith("x");
+    ASSERT_TRUE(QFile::resize(path, 4 * 1024 * 1024 + 1));
+    EXPECT_THAT(shownFor(present(path)), HasSubstr("too large"));
+    EXPECT_THAT(shownFor(present(path)), HasSubstr(path.toStdString()));
+
+    EXPECT_EQ(shownFor(present(fileWith("<p>caf\xc3\xa9 &ndash; open</p>"))),
+              "caf\u00e9 \u2013 open");
+}
+
+TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
+{
+    HelpViewer& viewer = present(helpWithTwoSections());
+    const QScrollBar& bar = *pageOf(viewer).verticalScrollBar();
+    EXPECT_EQ(bar.value(), 0);
+    press(viewer, Qt::Key_Tab);
+    press(viewer, Qt::Key_Return);
+    const int sectionOne = bar.value();
+    EXPECT_GT(sectionOne, 0);
+    press(viewer, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(bar.value(), 0);
+    press(viewer, Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(bar.value(), sectionOne);
+    press(viewer, Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(HelpViewerTest, webLinksGoToTheDesktopAndOtherTargetsNowhere)
+{
+    HelpViewer& viewer = present(
+        fileWith("<a href='http://www.quillet.example/?a=1&b=%20'>a</a> "
+                 "<a href='file:///etc/passwd'>b</a> <a href='other.html'>c</a> "
+                 "<a href='https://two.example'>d</a> <img src='http://three.example/x.png'>"));
+    for (int links = 0; links < 4; ++links) {
+        press(viewer, Qt::Key_Tab);
+        press(viewer, Qt::Key_Return);
+    }
+    EXPECT_THAT(shell.opened,
+                ElementsAre("http://www.quillet.example/?a=1&b=%20", "https://two.example"));
+    EXPECT_THAT(shownFor(viewer), HasSubstr("a b c d"));
+}
+
+TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
+{
+    HelpViewer& viewer = present(helpWithTwoSections());
+    const auto& message = control<QLabel>(viewer, "helpMessage");
+    const auto found = [&] { return pageOf(viewer).textCursor().selectionStart(); };
+
+    press(viewer, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(&control(viewer, "helpSearch"), "needle");
+    const int first = found();
+    EXPECT_EQ(pageOf(viewer).textCursor().selectedText(), "Needle");
+    press(viewer, Qt::Key_Return);
+    const int second = found();
+    EXPECT_GT(second, first);
+    EXPECT_EQ(message.text(), "");
+
+    press(viewer, Qt::Key_F3);
+    EXPECT_EQ(found(), first);
+    EXPECT_EQ(message.text(), "Reached the end; the search went on from the top.");
+    press(viewer, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(found(), second);
+    EXPECT_EQ(message.text(), "Reached the top; the search went on from the end.");
+    press(viewer, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(found(), first);
+    EXPECT_EQ(message.text(), "");
+
+    QTest::keyClicks(&control(viewer, "helpSearch"), "<b>");
+    EXPECT_EQ(message.text(), "\"needle<b>\" does not occur in the help.");
+    EXPECT_EQ(found(), first);
+}
+
+TEST_F(HelpViewerTest, theTextGrowsAndComesBackToItsSize)
+{
+    HelpViewer& viewer = present(helpWithTwoSections());
+    const auto height = [&] { return pageOf(viewer).document()->size().height(); };
+    const qreal normal = height();
+    press(viewer, Qt::Key_Plus, Qt::ControlModifier);
+    press(viewer, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_GT(height(), normal);
+    press(viewer, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(height(), normal);
+}
+
+TEST_F(HelpViewerTest, thereIsOneModelessWindowWhichOpensAtItsContentsEachTime)
+{
+    HelpViewer* viewer = &present(helpWithTwoSections());
+    EXPECT_FALSE(viewer->isModal());
+    QScrollBar& bar = *pageOf(*viewer).verticalScrollBar();
+    bar.setValue(bar.maximum());
+    EXPECT_EQ(&present(helpWithTwoSections()), viewer);
+    EXPECT_EQ(bar.value(), 0);
+    press(*viewer, Qt::Key_F, Qt::ControlModifier);
+    press(*viewer, Qt::Key_Escape);
+    EXPECT_EQ(openWindow<HelpViewer>(), nullptr);
+    EXPECT_TRUE(present(helpWithTwoSections()).isVisible());
+}
+
+TEST_F(HelpViewerTest, aChangeToADarkThemeKeepsThePlaceAndTheLinksReadable)
+{
+    HelpViewer& viewer = present(helpWithTwoSections());
+    QScrollBar& bar = *pageOf(viewer).verticalScrollBar();
+    bar.setValue(500);
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(0x30, 0x30, 0x30));
+    dark.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::Link, Qt::blue);
+    QApplication::setPalette(dark);
+    QTest::qWait(0);
+    EXPECT_EQ(bar.value(), 500);
+
+    QTextCursor link(pageOf(viewer).document()->find("one"));
+    EXPECT_TRUE(link.charFormat().isAnchor());
+    EXPECT_GE(contrast(link.charFormat().foreground().color(), dark.color(QPalette::Base)), 4.5);
+    QApplication::setPalette(before);
+}
+
+} // namespace quillet::test
