@@ -1,0 +1,105 @@
+#include "assets/make/sounds/cues.h"
+
+#include "assets/make/sounds/instruments.h"
+
+namespace quillet
+{
+
+namespace
+{
+
+// Notes of the scale of C, in hertz.
+constexpr double c3 = 130.81, e3 = 164.81, g3 = 196.00, a3 = 220.00, c4 = 261.63, c5 = 523.25,
+                 e5 = 659.26, g5 = 783.99, c6 = 1046.50, e6 = 1318.51, g6 = 1567.98;
+
+// Heard ten times a hand, so it is short, dark and soft: a card's edge touches the felt, the card
+// claps flat on the table, and its last bit of slide dies away.
+SoundBuffer deal()
+{
+    SoundBuffer buffer(110);
+    puff(buffer, {0.000, 2300, 0.8, 1.1, 0.0015, 0.030, -0.1});
+    puff(buffer, {0.002, 620, 0.7, 2.6, 0.0020, 0.060, 0.1});
+    puff(buffer, {0.004, 1500, 0.6, 0.75, 0.0120, 0.110, 0.2});
+    strike(buffer, {0.0015, 172, 0.85, 0}, std::vector{Mode{1, 1, 0.085}, Mode{1.9, 0.4, 0.05}});
+    soften(buffer, 1.6);
+    finish(buffer, 30, -5.2);
+    return buffer;
+}
+
+// Two steps down: not this hold.
+SoundBuffer wrong()
+{
+    SoundBuffer buffer(380);
+    strikeWood(buffer, {0.000, a3, 1.0, -0.15});
+    strikeWood(buffer, {0.120, e3, 1.1, 0.15});
+    finish(buffer, 60, -4);
+    return buffer;
+}
+
+// One dull knock across three bars, not quite together.
+SoundBuffer wrong2()
+{
+    SoundBuffer buffer(280);
+    strikeWood(buffer, {0.000, g3, 0.9, -0.1});
+    strikeWood(buffer, {0.012, c4, 0.5, 0.1});
+    strikeWood(buffer, {0.012, c3, 0.7, 0});
+    finish(buffer, 60, -4);
+    return buffer;
+}
+
+// The same low bar knocked twice.
+SoundBuffer wrong3()
+{
+    SoundBuffer buffer(340);
+    strikeWood(buffer, {0.000, g3, 0.9, 0.15});
+    strikeWood(buffer, {0.105, g3, 1.0, -0.15});
+    finish(buffer, 60, -4);
+    return buffer;
+}
+
+// The win cues climb one chord of C: the first takes two notes of it, the second three, and the
+// third all five over a bass note and under a bell.
+SoundBuffer pokerWin1()
+{
+    SoundBuffer buffer(195);
+    pluckHarp(buffer, {0.000, c5, 0.8, -0.2});
+    pluckHarp(buffer, {0.055, g5, 1.0, 0.2});
+    finish(buffer, 60, -5.8);
+    return buffer;
+}
+
+SoundBuffer pokerWin2()
+{
+    SoundBuffer buffer(440);
+    pluckHarp(buffer, {0.000, c5, 0.8, -0.3});
+    pluckHarp(buffer, {0.070, g5, 0.85, 0});
+    pluckHarp(buffer, {0.140, c6, 1.0, 0.3});
+    finish(buffer, 100, -5.5);
+    return buffer;
+}
+
+SoundBuffer pokerWin3()
+{
+    SoundBuffer buffer(490);
+    pluckHarp(buffer, {0.000, c4, 0.75, 0});
+    pluckHarp(buffer, {0.000, c5, 0.65, -0.4});
+    pluckHarp(buffer, {0.055, e5, 0.65, -0.2});
+    pluckHarp(buffer, {0.110, g5, 0.7, 0});
+    pluckHarp(buffer, {0.165, c6, 0.75, 0.2});
+    pluckHarp(buffer, {0.220, e6, 0.85, 0.4});
+    strikeBell(buffer, {0.220, g6, 0.16, -0.3});
+    finish(buffer, 110, -5);
+    return buffer;
+}
+
+} // namespace
+
+std::vector<Cue> makeCues()
+{
+    return {{"deal.wav", waveFile(deal())},           {"wrong.wav", waveFile(wrong())},
+            {"wrong2.wav", waveFile(wrong2())},       {"wrong3.wav", waveFile(wrong3())},
+            {"pokerwin1.wav", waveFile(pokerWin1())}, {"pokerwin2.wav", waveFile(pokerWin2())},
+            {"pokerwin3.wav", waveFile(pokerWin3())}};
+}
+
+} // namespace quillet
