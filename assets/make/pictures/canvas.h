@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPainterPath>
+#include <QRect>
+
+#include <algorithm>
+#include <vector>
+
+namespace quillet
+{
+
+struct Color {
+    float r = 0;
+    float g = 0;
+    float b = 0;
+    float a = 1;
+};
+
+[[nodiscard]] Color rgb(unsigned hex, double alpha = 1);
+[[nodiscard]] Color mix(const Color& from, const Color& to, double share);
+[[nodiscard]] Color lit(const Color& color, double factor);
+
+// How much of each pixel a shape covers, 0 to 1; nothing outside its bounds.
+class Mask
+{
+public:
+    explicit Mask(QRect bounds);
+
+    [[nodiscard]] QRect bounds() const { return m_bounds; }
+    [[nodiscard]] float at(int x, int y) const;
+    void set(int x, int y, float cover);
+
+    // Widths and distances of these are pixels of the picture.
+    [[nodiscard]] Mask blurred(double radius) const;
+    [[nodiscard]] Mask shifted(int dx, int dy) const;
+    [[nodiscard]] Mask without(const Mask& other) const;
+
+private:
+    [[nodiscard]] std::size_t index(int x, int y) const;
+
+    QRect m_bounds;
+    std::vector<float> m_cover;
+};
+
+// A picture that is painted in its own units while its pixels may be finer. Only the shapes'
+// outlines come from Qt; colours are reckoned here, so that a processor with other vector
+// instructions gives the same bytes.
+class Canvas
+{
+public:
+    Canvas(QSize size, double scale);
+
+    [[nodiscard]] double scale() const { return m_scale; }
+    [[nodiscard]] QRect bounds() const { return {0, 0, m_width, m_height}; }
+    [[nodiscard]] Mask mask(const QPainterPath& shape) const;
+
+    // The shader is asked for the colour at a point, in the canvas's units.
+    template <typename Shader>
+    void shade(const Mask& mask, const Shader& shader)
+    {
+        const QRect area = mask.bounds().intersected(bounds());
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x) {
+                const float cover = mask.at(x, y);
+                if (cover > 0)
+                    lay(x, y, shader((x + 0.5) / m_scale, (y + 0.5) / m_scale), cover);
+            }
+    }
+    template <typename Shader>
+    void shade(const QPainterPath& shape, const Shader& shader)
+    {
+        shade(mask(shape), shader);
+    }
+    void fill(const Mask& mask, const Color& color);
+    void fill(const QPainterPath& shape, const Color& color) { fill(mask(shape), color); }
+
+    [[nodiscard]] QImage toImage() const;
+
+private:
+    void lay(int x, int y, const Color& color, float cover);
+
+    int m_width;
+    int m_height;
+    double m_scale;
+    std::vector<Color> m_pixels; // premultiplied
+};
+
+// The outline of a line drawn along the path.
+[[nodiscard]] QPainterPath stroked(const QPainterPath& path, double width,
+                                   Qt::PenCapStyle cap = Qt::FlatCap,
+                                   Qt::PenJoinStyle join = Qt::MiterJoin);
+
+} // namespace quillet

@@ -1,0 +1,85 @@
+#include "assets/make/pictures/emblem.h"
+
+#include "assets/make/pictures/alphabet.h"
+#include "assets/make/pictures/quill.h"
+#include "assets/make/pictures/suits.h"
+
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+QPainterPath disc(const QPointF& centre, double radius)
+{
+    QPainterPath path;
+    path.addEllipse(centre, radius, radius);
+    return path;
+}
+
+QPainterPath ring(const QPointF& centre, double outer, double inner)
+{
+    return between(disc(centre, outer), disc(centre, inner));
+}
+
+// Small lozenges all the way round, with room left where the quill crosses.
+QPainterPath beading(const QPointF& centre, double radius)
+{
+    QPainterPath beads;
+    constexpr int count = 60;
+    for (int i = 0; i < count; ++i) {
+        const double angle = 6.283185307179586 * i / count;
+        beads.addEllipse(centre + QPointF(std::cos(angle), std::sin(angle)) * radius, 0.8, 0.8);
+    }
+    return beads;
+}
+
+void paintQuill(Canvas& canvas, const Ornament& ornament, const QPointF& point, const QPointF& tip)
+{
+    const Quill feather = quill(point, tip);
+    QPainterPath whole = feather.vane;
+    whole = whole.united(feather.shaft).united(feather.nib);
+    castShadow(canvas, whole, 3, 0.7);
+    inlay(canvas, feather.vane, ornament.accent);
+    canvas.fill(feather.barbs, rgb(0x5a4326, 0.55));
+    inlay(canvas, feather.shaft, ornament.metal);
+    inlay(canvas, feather.nib, ornament.metal);
+}
+
+} // namespace
+
+void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area)
+{
+    const double radius = area.width() * 0.405;
+    const QPointF centre(area.center().x(), area.top() + radius + 14);
+    const QPainterPath field = disc(centre, radius);
+    castShadow(canvas, field, 2, 0.5);
+    canvas.fill(field, ornament.ground);
+    sink(canvas, field, 5, 0.8);
+    inlay(canvas, ring(centre, radius, radius - 2.4), ornament.metal);
+    inlay(canvas, beading(centre, radius - 6), ornament.metal);
+    inlay(canvas, ring(centre, radius - 9.6, radius - 10.6), ornament.metal);
+
+    const double orbit = radius * 0.50;
+    const auto mark = [&](Suit suit, double dx, double dy, const InlayMaterial& material) {
+        inlay(canvas, suitMark(suit, centre + QPointF(dx, dy) * orbit, radius * 0.36), material);
+    };
+    mark(Suit::spade, 0.42, -0.98, ornament.metal);
+    mark(Suit::heart, 1.04, -0.30, ornament.redSuit);
+    mark(Suit::diamond, -1.04, 0.30, ornament.redSuit);
+    mark(Suit::club, -0.42, 0.98, ornament.metal);
+
+    paintQuill(canvas, ornament, centre + QPointF(0.83, 0.97) * radius,
+               centre + QPointF(-0.88, -1.0) * radius);
+
+    const double middle = area.center().x();
+    const Lettering name{19, 0.125, 0.18, true};
+    inlay(canvas, centredLettering("QUILLET", name, {middle, area.bottom() - 32}), ornament.metal);
+    const Lettering motto{7.5, 0.15, 0.22, false};
+    inlay(canvas, centredLettering("JACKS OR BETTER", motto, {middle, area.bottom() - 13}),
+          ornament.metal);
+}
+
+} // namespace quillet

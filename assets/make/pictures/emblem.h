@@ -1,0 +1,19 @@
+#pragma once
+
+#include "assets/make/pictures/inlay.h"
+
+namespace quillet
+{
+
+// What the pictures on a table are made of.
+struct Ornament {
+    InlayMaterial metal;   // lines, figures, names
+    InlayMaterial accent;  // the quill and the best line of the pay table
+    InlayMaterial redSuit; // hearts and diamonds
+    Color ground;          // behind letters and marks
+};
+
+// The letter Q made of a ring and a quill, the four suits inside, the name below.
+void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area);
+
+} // namespace quillet

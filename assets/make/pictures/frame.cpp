@@ -1,0 +1,104 @@
+#include "assets/make/pictures/frame.h"
+
+#include "assets/make/pictures/table_geometry.h"
+#include "assets/make/pictures/wood.h"
+
+#include <array>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr double windowWidth = 800;
+constexpr double windowHeight = 514;
+constexpr double sideWidth = 13;
+constexpr double railHeight = 14;
+
+enum class Matter { wood, brass, joint };
+
+// One facet of the moulding, from the outside inwards; the slopes are those at its two edges,
+// 1 for a facet that turns wholly outwards.
+struct Facet {
+    double until; // share of the width
+    double slopeFrom;
+    double slopeTo;
+    Matter matter;
+};
+
+constexpr std::array<Facet, 8> moulding{{
+    {0.05, 0, 0, Matter::joint},
+    {0.24, 0.9, 0.6, Matter::wood},
+    {0.28, -0.9, -0.9, Matter::wood},
+    {0.60, 0.30, -0.25, Matter::wood},
+    {0.76, -0.5, -1.0, Matter::wood},
+    {0.80, 0, 0, Matter::joint},
+    {0.94, 1.0, -1.0, Matter::brass},
+    {1.01, 0, 0, Matter::joint},
+}};
+
+// The side of the frame that a place belongs to, which mitres the corners.
+struct Rail {
+    double inward; // 0 at the outer edge, 1 at the inner
+    double along;
+    double facing; // 1 where the outer facets turn to the light, -1 where they turn away
+    double joint;  // distance from the mitre
+};
+
+Rail railAt(double x, double y)
+{
+    const double side = std::min(x, windowWidth - x) / sideWidth;
+    const double end = std::min(y, windowHeight - y) / railHeight;
+    const double joint = std::abs(side - end) * 9;
+    if (side < end)
+        return {side, y + (x < windowWidth / 2 ? 2000 : 4000), x < windowWidth / 2 ? 0.8 : -0.8,
+                joint};
+    return {end, x + (y < windowHeight / 2 ? 6000 : 8000), y < windowHeight / 2 ? 1.0 : -1.0,
+            joint};
+}
+
+Color frameColor(const Wood& wood, double x, double y)
+{
+    const Rail rail = railAt(x, y);
+    double from = 0;
+    for (const Facet& facet : moulding) {
+        if (rail.inward < facet.until) {
+            const double share = (rail.inward - from) / (facet.until - from);
+            const double slope = facet.slopeFrom + (facet.slopeTo - facet.slopeFrom) * share;
+            const double light = slope * rail.facing;
+            const double seam = rail.joint < 0.5 ? 0.6 : 1;
+            if (facet.matter == Matter::joint)
+                return lit(rgb(0x1a0d06), seam);
+            if (facet.matter == Matter::brass)
+                return lit(mix(rgb(0x8a6428), rgb(0xf6dfa6), 0.5 + 0.5 * light), seam);
+            return lit(wood.at(rail.along, rail.inward * sideWidth), (1 + 0.62 * light) * seam);
+        }
+        from = facet.until;
+    }
+    return rgb(0x1a0d06);
+}
+
+} // namespace
+
+Canvas framePiece(FramePiece piece)
+{
+    const bool lying = piece == FramePiece::top || piece == FramePiece::bottom;
+    const QSize size = lying ? QSize(566, 14) : QSize(13, 461);
+    const double stretchX = lying ? windowWidth / size.width() : 1;
+    const double stretchY = lying ? 1 : windowHeight / size.height();
+    const double left = piece == FramePiece::right ? windowWidth - sideWidth : 0;
+    const double top = piece == FramePiece::bottom ? windowHeight - railHeight : 0;
+    const Wood wood({rgb(0x8d5330), rgb(0x45220f), 5, 0.5, 0.8, 1e9, 71});
+
+    Canvas canvas(size, tableScale);
+    QPainterPath whole;
+    whole.addRect(QRectF(QPointF(0, 0), size));
+    canvas.shade(whole, [&](double x, double y) {
+        return frameColor(wood, left + x * stretchX, top + y * stretchY);
+    });
+    return canvas;
+}
+
+} // namespace quillet

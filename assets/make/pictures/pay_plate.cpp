@@ -1,0 +1,90 @@
+#include "assets/make/pictures/pay_plate.h"
+
+#include "assets/make/pictures/alphabet.h"
+#include "assets/make/pictures/suits.h"
+
+#include <array>
+#include <string_view>
+
+namespace quillet
+{
+
+namespace
+{
+
+struct PayLine {
+    std::string_view hand;
+    std::string_view credits;
+};
+
+constexpr std::array payLines{
+    PayLine{"ROYAL", "4000"},     PayLine{"STRAIGHT FLUSH", "250"}, PayLine{"4 OF A KIND", "125"},
+    PayLine{"FULL HOUSE", "45"},  PayLine{"FLUSH", "30"},           PayLine{"STRAIGHT", "20"},
+    PayLine{"3 OF A KIND", "15"}, PayLine{"2 PAIR", "10"},          PayLine{"HIGH PAIR", "5"},
+};
+
+constexpr Lettering lineLettering{10, 0.15, 0.07, false};
+constexpr Lettering titleLettering{8, 0.155, 0.24, false};
+
+void paintGround(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+{
+    const QPainterPath outline = scoopedPath(plate, 9);
+    castShadow(canvas, outline, 2.5, 0.55);
+    canvas.fill(outline, ornament.ground);
+    sink(canvas, outline, 5, 0.8);
+    inlay(canvas, between(outline, scoopedPath(plate.adjusted(1.5, 1.5, -1.5, -1.5), 9)),
+          ornament.metal);
+    const QRectF inner = plate.adjusted(5, 5, -5, -5);
+    inlay(canvas,
+          between(scoopedPath(inner, 9), scoopedPath(inner.adjusted(0.5, 0.5, -0.5, -0.5), 9)),
+          ornament.metal);
+}
+
+void paintTitle(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+{
+    const double middle = plate.center().x();
+    const double baseline = plate.top() + 25;
+    inlay(canvas, centredLettering("PAYS FOR FIVE CREDITS", titleLettering, {middle, baseline}),
+          ornament.metal);
+    QPainterPath rule;
+    const double y = baseline + 9;
+    const double left = plate.left() + 20;
+    const double right = plate.right() - 20;
+    rule.addRect(QRectF(left, y - 0.25, middle - 12 - left, 0.75));
+    rule.addRect(QRectF(middle + 12, y - 0.25, right - middle - 12, 0.75));
+    inlay(canvas, rule, ornament.metal);
+    inlay(canvas, suitMark(Suit::diamond, {middle, y}, 7.5), ornament.metal);
+}
+
+} // namespace
+
+void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+{
+    paintGround(canvas, ornament, plate);
+    paintTitle(canvas, ornament, plate);
+    const double left = plate.left() + 20;
+    const double right = plate.right() - 20;
+    double baseline = plate.top() + 56;
+    QPainterPath dots;
+    for (const PayLine& line : payLines) {
+        const bool best = &line == &payLines.front();
+        const InlayMaterial& material = best ? ornament.accent : ornament.metal;
+        const QPainterPath hand = letteringPath(line.hand, lineLettering);
+        const QPainterPath credits = letteringPath(line.credits, lineLettering);
+        const double handRight = left + hand.boundingRect().right();
+        const double creditsLeft = right - credits.boundingRect().width();
+        inlay(canvas, hand.translated(left - hand.boundingRect().left(), baseline), material);
+        inlay(canvas, credits.translated(creditsLeft - credits.boundingRect().left(), baseline),
+              material);
+        // All leaders share one grid, so that the dots stand in columns.
+        for (double x = right - 42; x > left; x -= 5)
+            if (x < creditsLeft - 5 && x > handRight + 5)
+                dots.addEllipse(QPointF(x, baseline - 1), 0.6, 0.6);
+        baseline += 19.5;
+    }
+    Color dim = ornament.metal.dark;
+    dim.a = 0.75F;
+    canvas.fill(dots, dim);
+}
+
+} // namespace quillet

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "assets/make/pictures/emblem.h"
+
+namespace quillet
+{
+
+// The pay table for five credits, on a dark plate let into the table.
+void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate);
+
+} // namespace quillet

@@ -1,0 +1,91 @@
+#include "assets/make/pictures/pictures.h"
+
+#include "assets/make/pictures/frame.h"
+#include "assets/make/pictures/icon.h"
+#include "assets/make/pictures/pointer.h"
+#include "assets/make/pictures/table.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+#include <stdexcept>
+
+namespace quillet
+{
+
+namespace
+{
+
+// 192 dots an inch: tells the program that the picture is kept at twice its size.
+constexpr int dotsPerMetre = 7559;
+constexpr int jpegQuality = 91;
+
+[[noreturn]] void refuse(const QString& path)
+{
+    throw std::runtime_error("cannot write " + path.toStdString());
+}
+
+QString inFolder(const QString& folder, const QString& name)
+{
+    const QDir directory(folder);
+    if (!directory.mkpath("."))
+        refuse(folder);
+    return directory.filePath(name);
+}
+
+void writeTable(const QString& path, const Canvas& canvas)
+{
+    QImage image = canvas.toImage().convertToFormat(QImage::Format_RGB32);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    if (!image.save(path, "jpg", jpegQuality))
+        refuse(path);
+}
+
+void writePng(const QString& path, const QImage& image)
+{
+    if (!image.save(path, "png"))
+        refuse(path);
+}
+
+void writeText(const QString& path, const QByteArray& text)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        refuse(path);
+}
+
+void writeFrame(const QString& folder)
+{
+    const auto write = [&](const char* name, FramePiece piece) {
+        writePng(inFolder(folder, name),
+                 framePiece(piece).toImage().convertToFormat(QImage::Format_RGB888));
+    };
+    write("top.png", FramePiece::top);
+    write("bottom.png", FramePiece::bottom);
+    write("side1.png", FramePiece::left);
+    write("side2.png", FramePiece::right);
+}
+
+void writeIcons(const QString& folder)
+{
+    for (const int size : iconSizes)
+        writePng(inFolder(folder, QString("quillet-%1.png").arg(size)), icon(size).toImage());
+    writeText(inFolder(folder, "quillet.svg"), toSvg(iconDrawing(iconSizes.back())));
+}
+
+} // namespace
+
+void writePictures(const QString& folder)
+{
+    const QString pics = folder + "/pics";
+    writeTable(inFolder(pics, "vpokerwood.jpg"), woodTable());
+    writeTable(inFolder(pics, "vpokerfelt.jpg"), feltTable());
+    writeTable(inFolder(pics, "vpokernight.jpg"), nightTable());
+    writeFrame(folder + "/frame");
+    writeIcons(folder + "/icons");
+    writePng(inFolder(folder + "/pointer", "hand.png"), pointingHand(1).toImage());
+    writePng(inFolder(folder + "/pointer", "hand@2x.png"), pointingHand(2).toImage());
+}
+
+} // namespace quillet

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "assets/make/pictures/canvas.h"
+
+namespace quillet
+{
+
+// A hand that points upwards, 32 units square; the tip of its finger is the hot spot.
+inline constexpr QPoint handHotSpot{12, 9};
+
+[[nodiscard]] Canvas pointingHand(double scale);
+
+} // namespace quillet
