@@ -1,0 +1,52 @@
+#include "engine/deck.h"
+
+#include <numeric>
+#include <utility>
+
+namespace quillet
+{
+
+PokerDeck buildDeck()
+{
+    PokerDeck deck{};
+    std::iota(deck.begin(), deck.end(), std::int16_t{0});
+    return deck;
+}
+
+void shuffleDeck(PokerDeck& deck, RandomSource& random)
+{
+    deck = buildDeck();
+    // The partner is drawn from all 52 places, not only from the rest, so the shuffle is not
+    // uniform. That is how this game shuffles: it must not be repaired.
+    for (std::int16_t& card : deck) {
+        random.reseed();
+        const auto partner = static_cast<std::size_t>(random.next() * 52);
+        std::swap(card, deck[partner]);
+    }
+}
+
+std::array<int, 5> dealOrder(bool& dealReversed)
+{
+    const bool reversed = std::exchange(dealReversed, !dealReversed);
+    return reversed ? std::array{4, 3, 2, 1, 0} : std::array{0, 1, 2, 3, 4};
+}
+
+std::array<Card, 5> dealHand(const PokerDeck& deck)
+{
+    std::array<Card, 5> hand;
+    for (std::size_t slot = 0; slot < hand.size(); ++slot)
+        hand[slot] = makeCard(deck[slot]);
+    return hand;
+}
+
+void drawReplacements(std::array<Card, 5>& hand, const PokerDeck& deck,
+                      const std::array<bool, 5>& holdFlags)
+{
+    // Each slot has a replacement of its own, whatever the other slots do.
+    for (std::size_t slot = 0; slot < hand.size(); ++slot) {
+        if (!holdFlags[slot])
+            hand[slot] = makeCard(deck[slot + 5]);
+    }
+}
+
+} // namespace quillet
