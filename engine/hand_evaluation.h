@@ -1,0 +1,30 @@
+#pragma once
+
+#include "engine/card.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace quillet
+{
+
+// The number, 1..21, of the first row of the strategy chart that the five cards contain. A final
+// hand is classed by what it pays. The cards may come in any order; cards not held are fillers.
+// Only ranks and suits are read; ranks lie in 0..300.
+[[nodiscard]] std::int16_t EvaluatePokerHand(std::span<const Card, 5> cards, bool finalHand);
+
+// How many cards the play keeps; 0 for a code that keeps none, so callers need no special case.
+[[nodiscard]] std::int16_t CardsToHand(std::int16_t playCode);
+
+// The play's name in plain words, for lists and reports; empty outside 1..21.
+[[nodiscard]] std::string_view playName(std::int16_t playCode);
+
+// What stands in place `place`, 0..4, of a hand while no card is held there.
+[[nodiscard]] constexpr Card fillerCard(int place)
+{
+    return {-1, static_cast<std::int16_t>(99 + 2 * place),
+            static_cast<std::int16_t>(152 + 3 * place)};
+}
+
+} // namespace quillet

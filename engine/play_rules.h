@@ -1,0 +1,210 @@
+#pragma once
+
+#include "engine/card.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+// The rows of the strategy chart as rules: what a hand must contain for each. All else that
+// classifies hands is made from them.
+namespace quillet::rules
+{
+
+constexpr bool isHigh(int rank)
+{
+    return rank == 1 || (rank >= 11 && rank <= 13);
+}
+constexpr bool isRoyal(int rank)
+{
+    return isHigh(rank) || rank == 10;
+}
+constexpr bool isFace(int rank)
+{
+    return rank >= 11 && rank <= 13;
+}
+
+struct RankAndSuit {
+    int rank = 0;
+    int suit = 0;
+};
+
+// Five cards in ascending order of rank, cards of equal rank in the order they came in.
+using SortedCards = std::array<RankAndSuit, 5>;
+
+constexpr SortedCards sortedByRank(std::span<const Card, 5> cards)
+{
+    SortedCards sorted;
+    auto end = sorted.begin();
+    for (const Card& card : cards) {
+        auto place = end++;
+        for (; place != sorted.begin() && (place - 1)->rank > card.rank; --place)
+            *place = *(place - 1);
+        *place = {card.rank, card.suit};
+    }
+    return sorted;
+}
+
+// What the ranks of a hand show, whatever its suits.
+struct RankFacts {
+    bool fourAlike = false; // of the thirteen real ranks
+    bool threeAlike = false;
+    int pairs = 0;
+    bool highPair = false;
+    bool lowPair = false;
+    int highCards = 0;
+
+    bool straight = false;
+    bool tenToAce = false;     // the one straight in which the ace is high
+    bool openStraight = false; // four cards in a run with room at both ends
+
+    constexpr explicit RankFacts(const SortedCards& cards)
+    {
+        const RankAndSuit* card = cards.data();
+        const RankAndSuit* const end = card + cards.size();
+        while (card != end) {
+            const int rank = card->rank;
+            int alike = 0;
+            for (; card != end && card->rank == rank; ++card)
+                ++alike;
+            fourAlike |= alike == 4 && rank >= 1 && rank <= 13;
+            threeAlike |= alike == 3;
+            pairs += alike == 2;
+            highPair |= alike == 2 && isHigh(rank);
+            lowPair |= alike == 2 && rank >= 1 && rank <= 10;
+            highCards += isHigh(rank) ? alike : 0;
+        }
+        lookForRuns(cards);
+    }
+
+private:
+    constexpr void lookForRuns(const SortedCards& cards)
+    {
+        const auto& [lowest, second, third, fourth, highest] = cards;
+        const bool middle = third.rank == second.rank + 1 && fourth.rank == third.rank + 1;
+        const bool fourLowest = middle && second.rank == lowest.rank + 1;
+        const bool fourHighest = middle && highest.rank == fourth.rank + 1;
+        tenToAce = fourHighest && lowest.rank == 1 && second.rank == 10;
+        straight = (fourLowest && fourHighest) || tenToAce;
+        openStraight = (fourLowest && lowest.rank != 1) || fourHighest;
+    }
+};
+
+// What the cards of one suit show.
+struct SuitFacts {
+    int cards = 0;
+    int royalCards = 0;
+    int highCards = 0;
+    bool run = true; // they follow each other without a gap, the ace low
+    bool tenWithFace = false;
+
+    constexpr SuitFacts(const SortedCards& hand, int suit)
+    {
+        int below = 0;
+        bool ten = false;
+        for (const RankAndSuit& card : hand) {
+            if (card.suit != suit)
+                continue;
+            run &= cards == 0 || card.rank == below + 1;
+            below = card.rank;
+            ++cards;
+            royalCards += isRoyal(card.rank);
+            highCards += isHigh(card.rank);
+            ten |= card.rank == 10;
+            tenWithFace |= ten && isFace(card.rank);
+        }
+    }
+};
+
+// A hand as the chart looks at it.
+struct HandFacts : RankFacts {
+    bool flush = false;
+    int suitedRun = 0;    // the cards of a suit that is one run, of the longest such suit
+    int suitedRoyals = 0; // the royal cards of the suit that has most of them
+    bool fourSuited = false;
+    bool twoHighSuited = false;
+    bool tenWithFace = false;
+
+    // A hand whose suits show nothing.
+    constexpr explicit HandFacts(const RankFacts& ranks) : RankFacts(ranks) {}
+
+    constexpr explicit HandFacts(const SortedCards& hand) : RankFacts(hand)
+    {
+        const RankAndSuit* previous = nullptr;
+        for (const RankAndSuit& card : hand) {
+            const bool seen = previous != nullptr && previous->suit == card.suit;
+            previous = &card;
+            if (seen)
+                continue;
+            const SuitFacts suit(hand, card.suit);
+            const bool realSuit = card.suit >= 0 && card.suit <= 3;
+            flush |= suit.cards == 5;
+            suitedRun = suit.run ? std::max(suitedRun, suit.cards) : suitedRun;
+            suitedRoyals = std::max(suitedRoyals, suit.royalCards);
+            fourSuited |= suit.cards == 4 && realSuit;
+            twoHighSuited |= suit.highCards >= 2 && realSuit;
+            tenWithFace |= suit.tenWithFace;
+        }
+    }
+};
+
+enum class Tested { always, beforeTheDrawOnly };
+
+struct PlayRule {
+    std::string_view name;
+    std::int16_t cardsKept;
+    bool (*isContainedIn)(const HandFacts&);
+    Tested tested = Tested::always;
+};
+
+// The chart, best play first. A hand's play code is the number of the first row that it
+// contains, counted from 1. The two draws that stand above paying hands are left out once the
+// hand is final, so that it is classed by what it pays.
+inline constexpr std::array<PlayRule, 21> chart{{
+    {"Royal", 5, [](const HandFacts& hand) { return hand.flush && hand.tenToAce; }},
+    {"Straight flush", 5, [](const HandFacts& hand) { return hand.suitedRun == 5; }},
+    {"Four of a kind", 4, [](const HandFacts& hand) { return hand.fourAlike; }},
+    {"Full house", 5, [](const HandFacts& hand) { return hand.threeAlike && hand.pairs == 1; }},
+    {"Four to a royal", 4, [](const HandFacts& hand) { return hand.suitedRoyals >= 4; },
+     Tested::beforeTheDrawOnly},
+    {"Flush", 5, [](const HandFacts& hand) { return hand.flush; }},
+    {"Straight", 5, [](const HandFacts& hand) { return hand.straight; }},
+    {"Three of a kind", 3, [](const HandFacts& hand) { return hand.threeAlike; }},
+    {"Four to a straight flush", 4, [](const HandFacts& hand) { return hand.suitedRun == 4; },
+     Tested::beforeTheDrawOnly},
+    {"Two pair", 4, [](const HandFacts& hand) { return hand.pairs == 2; }},
+    {"High pair", 2, [](const HandFacts& hand) { return hand.highPair; }},
+    {"Three to a royal", 3, [](const HandFacts& hand) { return hand.suitedRoyals >= 3; }},
+    {"Four to a flush", 4, [](const HandFacts& hand) { return hand.fourSuited; }},
+    {"Low pair", 2, [](const HandFacts& hand) { return hand.lowPair; }},
+    {"Four to an outside straight", 4, [](const HandFacts& hand) { return hand.openStraight; }},
+    {"Two high cards, suited", 2, [](const HandFacts& hand) { return hand.twoHighSuited; }},
+    {"Three to a straight flush", 3, [](const HandFacts& hand) { return hand.suitedRun == 3; }},
+    {"Two high cards", 2, [](const HandFacts& hand) { return hand.highCards >= 2; }},
+    {"Ten and a face card, suited", 2, [](const HandFacts& hand) { return hand.tenWithFace; }},
+    {"One high card", 1, [](const HandFacts& hand) { return hand.highCards >= 1; }},
+    {"All trash", 0, [](const HandFacts&) { return true; }},
+}};
+
+constexpr std::int16_t playCode(const HandFacts& hand, bool finalHand)
+{
+    std::int16_t code = 1;
+    for (const PlayRule& row : chart) {
+        const bool tested = row.tested == Tested::always || !finalHand;
+        if (tested && row.isContainedIn(hand))
+            break;
+        ++code;
+    }
+    return code;
+}
+
+// The play code by the rules themselves, right for any ranks and suits.
+constexpr std::int16_t playCode(std::span<const Card, 5> cards, bool finalHand)
+{
+    return playCode(HandFacts(sortedByRank(cards)), finalHand);
+}
+
+} // namespace quillet::rules
