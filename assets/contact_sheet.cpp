@@ -1,0 +1,58 @@
+// Writes every card face and back on one sheet, at scale 1 and 2, to look at the artwork:
+//   cmake --build --preset release --target contact_sheet && build/release/assets/contact_sheet
+//   docs
+
+#include "render/card_art/card_art.h"
+
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr QRgb tableColour = 0xff4d4a2c;
+constexpr int gap = 8;
+constexpr int columns = 13;
+constexpr int rows = 5;
+
+// One row for each suit, aces first, and a last one of backs.
+int cardAt(int row, int column)
+{
+    return row < 4 ? column * 4 + row : 53 + column;
+}
+
+QImage sheetAt(int scale)
+{
+    using namespace quillet;
+    const QSize card(cardArtWidth * scale, cardArtHeight * scale);
+    const QSize step(card.width() + gap * scale, card.height() + gap * scale);
+    QImage sheet(columns * step.width() + gap * scale, rows * step.height() + gap * scale,
+                 QImage::Format_RGB32);
+    sheet.fill(tableColour);
+    QPainter painter(&sheet);
+    for (int row = 0; row < rows; ++row)
+        for (int column = 0; column < columns; ++column)
+            painter.drawImage(gap * scale + column * step.width(),
+                              gap * scale + row * step.height(),
+                              renderCard(cardAt(row, column), card));
+    return sheet;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: contact_sheet FOLDER\n");
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    const bool written = sheetAt(1).save(folder.filePath("cards.png")) &&
+                         sheetAt(2).save(folder.filePath("cards@2x.png"));
+    if (!written)
+        std::fprintf(stderr, "contact_sheet: cannot write to %s\n", argv[1]);
+    return written ? 0 : 1;
+}
