@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+namespace quillet
+{
+
+inline constexpr int chartRows = 21;
+
+// A colour 0x00BBGGRR; with the top bit set, the number of a desktop colour.
+using ChartColor = std::uint32_t;
+inline constexpr ChartColor windowTextColor = 0x80000008;
+
+struct ChartRowColors {
+    ChartColor background;
+    ChartColor text;
+    friend bool operator==(const ChartRowColors&, const ChartRowColors&) = default;
+};
+
+enum class ChartRowState { base, bestPlay, missedPlay, winner };
+
+struct ChartRowPlace {
+    double top;
+    double height;
+};
+
+// The chart beside the table: row r stands for play code r + 1, best play first. At most one row
+// is lit at a time.
+class StrategyChart
+{
+public:
+    // The row's caption as it is shown, trailing blanks included.
+    [[nodiscard]] static std::string_view caption(int row);
+
+    // Where the rows lie in a panel of this inner height, in its own units: stacked from the
+    // bottom edge, with room for two more rows at the top.
+    [[nodiscard]] static std::array<ChartRowPlace, chartRows> layoutChartRows(double panelHeight);
+
+    // Called with the row after each change of its colours.
+    void onRowChanged(std::function<void(int)> listener) { m_rowChanged = std::move(listener); }
+
+    void resetChartColors();
+    // A play code below 1 changes nothing.
+    void highlightBestPlay(std::int16_t playCode);
+    void highlightMissedPlay(std::int16_t playCode);
+    void highlightWinner(std::int16_t playCode);
+
+    [[nodiscard]] ChartRowState state(int row) const;
+    [[nodiscard]] ChartRowColors colors(int row) const;
+
+private:
+    void setState(int row, ChartRowState state);
+    void highlight(std::int16_t playCode, ChartRowState state);
+
+    std::array<ChartRowState, chartRows> m_states{};
+    std::function<void(int)> m_rowChanged;
+};
+
+} // namespace quillet

@@ -1,0 +1,216 @@
+#include "tests/engine/fake_table.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+using testing::ElementsAre;
+
+namespace
+{
+
+constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";      // best play: the pair of jacks
+constexpr auto jacksToTrips = "Jc Jd 4h 7s 9c 2c 3d Jh 6s 8c";
+constexpr auto royal = "As Ks Qs Js Ts 2c 3d 5h 6s 8c";
+constexpr auto fullHouse = "5c 5d 5h 9s 9c 2c 3d 4h 6s 8c";
+
+} // namespace
+
+TEST(HandController, aDealRunsInItsOrder)
+{
+    Game game;
+    game.deal(jacks);
+    EXPECT_EQ(game.table.logged(),
+              "total-5 fly0 deal.wav fly1 deal.wav fly2 deal.wav fly3 deal.wav fly4 deal.wav "
+              "pause650 face0 face1 face2 face3 face4");
+    EXPECT_EQ(game.state.hand, hand("Jc Jd 4h 7s 9c"));
+    EXPECT_EQ(game.state.handCode, 11);
+    EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+    EXPECT_EQ(game.counters.hands, 1);
+    EXPECT_EQ(game.random.reseeds, 52);
+}
+
+TEST(HandController, aDrawRunsInItsOrder)
+{
+    Game game;
+    game.deal(jacksToTrips);
+    game.table.log.clear();
+    game.draw("12");
+    EXPECT_EQ(game.table.logged(),
+              "hide2 hide3 hide4 hatch0 hatch1 pause600 fly2 deal.wav fly3 deal.wav fly4 deal.wav "
+              "pause250 face2 hatch2 face3 hatch3 face4 hatch4 pause200 "
+              "total10 pokerwin1.wav pause500 total10");
+    EXPECT_EQ(game.state.hand, hand("Jc Jd Jh 6s 8c"));
+    EXPECT_EQ(game.counters.won, 1);
+    EXPECT_EQ(game.chart.state(7), ChartRowState::winner);
+    EXPECT_FALSE(game.state.handDealt || game.state.handBusy);
+}
+
+TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
+{
+    Game game;
+    game.deal(jacks);
+    game.draw("12");
+    game.table.log.clear();
+    game.deal(jacks);
+    EXPECT_EQ(game.table.logged().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
+    EXPECT_THAT(game.table.logged(), testing::HasSubstr("fly4 deal.wav fly3"));
+    game.controller.initPokerScreen();
+    EXPECT_TRUE(game.state.dealReversed) << "a new game goes on in turn";
+}
+
+TEST(HandController, cardsAreHeldOnlyWhileTheHandWaits)
+{
+    Game game;
+    game.controller.picPoker_MouseDown(0);
+    game.table.in(300, [&] { game.controller.picPoker_MouseDown(0); });
+    game.deal(jacks);
+    EXPECT_THAT(game.state.holdFlags, testing::Each(false));
+
+    game.controller.picPoker_MouseDown(3);
+    EXPECT_TRUE(game.state.holdFlags[3] && game.table.outlines[3]);
+    game.controller.picPoker_DblClick(3);
+    EXPECT_FALSE(game.state.holdFlags[3] || game.table.outlines[3]);
+
+    game.table.in(100, [&] { game.controller.picPoker_MouseDown(4); });
+    game.draw("12");
+    EXPECT_FALSE(game.table.outlines[4]);
+}
+
+TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
+{
+    Game game;
+    game.deal(jacks);
+    const Counters before = game.counters;
+    for (const auto& [slots, cue] :
+         {std::pair{"", "wrong.wav"}, {"1", "wrong2.wav"}, {"34", "wrong3.wav"},
+          {"123", "wrong.wav"}, {"1234", "wrong.wav"}, {"12345", "wrong.wav"}}) {
+        game.table.log.clear();
+        game.draw(slots);
+        EXPECT_EQ(game.table.logged(), cue) << slots;
+        EXPECT_EQ(game.chart.state(10), ChartRowState::missedPlay);
+        EXPECT_THAT(game.state.holdFlags, testing::Each(false));
+        EXPECT_THAT(game.table.outlines, testing::Each(false));
+        EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+    }
+    game.draw("12");
+    EXPECT_FALSE(game.state.handDealt);
+    EXPECT_EQ(game.chart.state(10), ChartRowState::winner) << "the jacks stayed a pair";
+    EXPECT_EQ(game.counters.total, before.total + 5);
+    EXPECT_EQ(game.counters.hands, before.hands);
+}
+
+TEST(HandController, anUnjudgedHoldIsDrawnTo)
+{
+    Game game;
+    game.deal(jacks);
+    game.state.judgePending = false;
+    game.draw("5");
+    EXPECT_EQ(game.state.hand, hand("2c 3d 5h 6s 9c"));
+}
+
+TEST(HandController, allFiveHeldFliesNothingAndKeepsThePauses)
+{
+    Game game;
+    game.deal(fullHouse);
+    game.table.log.clear();
+    game.draw("12345");
+    EXPECT_EQ(game.table.logged(), "hatch0 hatch1 hatch2 hatch3 hatch4 pause600 pause250 pause200 "
+                                   "total20 pokerwin3.wav pause500 "
+                                   "total40 pokerwin3.wav pause500 total40");
+}
+
+TEST(HandController, everyRowPaysInItsSteps)
+{
+    struct Row {
+        const char* dealt;
+        const char* held;
+        int pays;
+        int steps;
+        const char* cue;
+        int pause;
+    };
+    const Row rows[] = {
+        {royal, "12345", 4000, 160, "pokerwin3.wav", 500},
+        {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav", 500},
+        {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav", 500},
+        {fullHouse, "12345", 45, 2, "pokerwin3.wav", 500},
+        {"2h 5h 8h Jh 4h 2c 3d 5s 6s 8c", "12345", 30, 2, "pokerwin3.wav", 500},
+        {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "pokerwin2.wav", 500},
+        {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "pokerwin1.wav", 500},
+        {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "pokerwin1.wav", 500},
+        {jacks, "12", 5, 1, "pokerwin1.wav", 200},
+        {"Tc Td 4h 7s 9c 2c 3d 5h 6s 8c", "12", 0, 0, "", 0},
+        {"2h 4s 6c 8d Th 3c 5d 7h 9s Jc", "", 0, 0, "", 0},
+    };
+    for (const Row& row : rows) {
+        Game game;
+        game.deal(row.dealt);
+        const int start = game.table.now();
+        game.draw(row.held);
+        EXPECT_EQ(game.counters.total, row.pays - 5) << row.dealt;
+        EXPECT_EQ(game.counters.won, row.pays > 0 ? 1 : 0) << row.dealt;
+        EXPECT_EQ(game.table.count(row.cue), row.steps) << row.dealt;
+        EXPECT_EQ(game.table.now() - start, 600 + 250 + 200 + row.steps * row.pause) << row.dealt;
+    }
+}
+
+TEST(HandController, countersStopAtTheirLimits)
+{
+    Game game;
+    game.counters = {32760, 32767, 32767};
+    game.deal(fullHouse);
+    game.draw("12345");
+    EXPECT_EQ(game.counters.total, 32767);
+    EXPECT_EQ(game.counters.hands, 32767);
+    EXPECT_EQ(game.counters.won, 32767);
+    game.counters.total = -32766;
+    game.deal(jacks);
+    EXPECT_EQ(game.counters.total, -32768);
+}
+
+TEST(HandController, automaticDealingDealsTheNextHand)
+{
+    Game game;
+    game.preferences.prfPokerAutoDeal = true;
+    game.controller.initPokerScreen();
+    EXPECT_EQ(game.counters.hands, 1);
+    game.table.in(600 + 250 + 200 + 2400, [&] {
+        EXPECT_EQ(game.counters.hands, 1);
+        game.click();
+        EXPECT_EQ(game.counters.hands, 1) << "a click is deaf in the long pause";
+    });
+    game.state.judgePending = false;
+    game.draw("");
+    EXPECT_EQ(game.counters.hands, 2);
+    EXPECT_EQ(game.table.count("pause2500"), 1);
+    EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+}
+
+TEST(HandController, aMissingSoundOnlySilences)
+{
+    Game game;
+    game.table.soundsExist = false;
+    game.deal(jacks);
+    game.draw("12");
+    EXPECT_EQ(game.counters.won, 1);
+    EXPECT_EQ(game.table.count("deal.wav"), 0);
+}
+
+TEST(HandController, anErrorEndsTheHandAndTheNextClickDeals)
+{
+    Game game;
+    game.preferences.prfPokerAutoDeal = true;
+    game.table.failAtFlight = 2;
+    game.click();
+    EXPECT_THAT(game.table.errors, ElementsAre("Error  in  showPokerHand (  the wind  )"));
+    EXPECT_FALSE(game.state.handBusy || game.state.handDealt);
+    EXPECT_EQ(game.counters.total, -5) << "credits stay as they are";
+    EXPECT_EQ(game.table.count("recover"), 1);
+    game.deal(jacks);
+    EXPECT_TRUE(game.state.handDealt);
+}
+
+} // namespace quillet::test

@@ -1,0 +1,172 @@
+#include "tests/engine/fake_table.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
+constexpr auto royal = "As Ks Qs Js Ts 2c 3d 5h 6s 8c";
+
+// One hand is on the table and waits, whatever came before.
+void expectOneFreshDeal(const Game& game, int hands)
+{
+    EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+    EXPECT_THAT(game.state.holdFlags, testing::Each(false));
+    EXPECT_EQ(game.counters.hands, hands);
+    EXPECT_TRUE(game.table.errors.empty());
+}
+
+} // namespace
+
+TEST(Reentrancy, newGameWhileDealingLosesTheHandAndDealsOnce)
+{
+    Game game;
+    game.table.in(300, [&] { game.controller.initPokerScreen(); });
+    game.deal(jacks);
+    expectOneFreshDeal(game, 2);
+    EXPECT_EQ(game.counters.total, -10);
+    EXPECT_EQ(game.table.count("layOut"), 1);
+}
+
+TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
+{
+    for (const int moment : {300, 700, 950}) {
+        Game game;
+        game.deal(jacks);
+        game.table.in(moment, [&] { game.controller.initPokerScreen(); });
+        game.draw("12");
+        expectOneFreshDeal(game, 2);
+        EXPECT_EQ(game.counters.total, -10) << moment;
+        EXPECT_EQ(game.counters.won, 0) << moment;
+    }
+}
+
+TEST(Reentrancy, newGameWhileAWinIsCountedCreditsTheRestAtOnce)
+{
+    Game game;
+    game.deal(royal);
+    game.table.in(1050 + 2250, [&] {
+        EXPECT_EQ(game.counters.total, -5 + 5 * 25);
+        game.controller.initPokerScreen();
+        EXPECT_EQ(game.counters.total, 3995);
+        EXPECT_EQ(game.counters.won, 1);
+    });
+    game.draw("12345");
+    expectOneFreshDeal(game, 2);
+    EXPECT_EQ(game.counters.total, 3990);
+    EXPECT_EQ(game.counters.won, 1);
+}
+
+TEST(Reentrancy, newGameInTheFadeOrTheLongPausesDealsOnce)
+{
+    for (const int moment : {100, 800, 1400}) {
+        Game game;
+        game.table.in(moment, [&] { game.controller.initPokerScreen(); });
+        game.controller.initPokerScreen();
+        expectOneFreshDeal(game, 1);
+        EXPECT_EQ(game.table.count("layOut"), 2);
+    }
+    Game game;
+    game.preferences.prfPokerAutoDeal = true;
+    game.controller.initPokerScreen();
+    game.state.judgePending = false;
+    game.table.in(1050 + 1000, [&] { game.controller.initPokerScreen(); });
+    game.draw("");
+    expectOneFreshDeal(game, 2);
+}
+
+TEST(Reentrancy, gamesAskedForOneAfterAnotherDoNotPileUp)
+{
+    Game game;
+    for (int i = 1; i <= 2000; ++i)
+        game.table.in(10 * i, [&] { game.controller.initPokerScreen(); });
+    game.controller.initPokerScreen();
+    EXPECT_TRUE(game.state.handDealt);
+    EXPECT_LE(game.counters.hands, 20);
+}
+
+TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
+{
+    for (const int moment : {100, 900}) {
+        Game game;
+        game.table.in(moment, [&] { game.click(); });
+        game.controller.initPokerScreen();
+        expectOneFreshDeal(game, 1);
+    }
+}
+
+TEST(Reentrancy, aDeckClickBeforeTheFirstDealWaitsForTheAutomaticOne)
+{
+    Game game;
+    game.preferences.prfPokerAutoDeal = true;
+    game.table.in(900, [&] {
+        game.click();
+        EXPECT_EQ(game.counters.hands, 0);
+    });
+    game.controller.initPokerScreen();
+    expectOneFreshDeal(game, 1);
+}
+
+TEST(Reentrancy, theDeckIsNeverDeadAfterAutomaticDealingIsTicked)
+{
+    Game game;
+    game.deal(jacks);
+    game.draw("12");
+    game.preferences.prfPokerAutoDeal = true;
+    game.click();
+    expectOneFreshDeal(game, 2);
+}
+
+TEST(Reentrancy, untickingAutomaticDealingInItsPauseStopsIt)
+{
+    Game game;
+    game.preferences.prfPokerAutoDeal = true;
+    game.controller.initPokerScreen();
+    game.state.judgePending = false;
+    game.table.in(1050 + 1000, [&] { game.preferences.prfPokerAutoDeal = false; });
+    game.draw("");
+    EXPECT_EQ(game.counters.hands, 1);
+    EXPECT_FALSE(game.state.handBusy || game.state.handDealt);
+}
+
+TEST(Reentrancy, nothingGoesOnAfterTheEnd)
+{
+    for (const int moment : {100, 900, 1700}) {
+        Game game;
+        std::size_t entries = 0;
+        game.table.in(moment, [&] {
+            game.controller.endGame();
+            entries = game.table.log.size();
+        });
+        game.controller.initPokerScreen();
+        game.click();
+        game.controller.initPokerScreen();
+        EXPECT_EQ(game.table.log.size(), entries) << moment;
+    }
+}
+
+TEST(Reentrancy, aBackChosenInAPauseIsTheOneThatFlies)
+{
+    Game game;
+    game.deal(jacks);
+    game.table.in(300, [&] { game.preferences.prfPKBackFace = 60; });
+    game.table.in(700, [&] { EXPECT_EQ(game.table.flyingBack, 60); });
+    game.draw("12");
+}
+
+TEST(Reentrancy, clicksDuringADealAreIgnored)
+{
+    Game game;
+    game.table.in(100, [&] { game.click(); });
+    game.table.in(400, [&] { game.controller.picDeal_Click(3); });
+    game.deal(jacks);
+    expectOneFreshDeal(game, 1);
+    EXPECT_EQ(game.table.decksPainted, 3) << "but each repaints the deck";
+}
+
+} // namespace quillet::test
