@@ -1,0 +1,73 @@
+#include "platform/surface.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace quillet
+{
+
+int deviceOrigin(double position, double scale)
+{
+    return static_cast<int>(std::floor(position * scale + 0.5));
+}
+
+int deviceSize(double size, double scale)
+{
+    return static_cast<int>(std::floor(size * scale + 0.5));
+}
+
+QRect deviceRect(const QRectF& logical, double scale)
+{
+    return {deviceOrigin(logical.x(), scale), deviceOrigin(logical.y(), scale),
+            deviceSize(logical.width(), scale), deviceSize(logical.height(), scale)};
+}
+
+Surface::Surface(QSizeF size, double scale)
+    : m_image(std::max(1, deviceSize(size.width(), scale)),
+              std::max(1, deviceSize(size.height(), scale)), QImage::Format_RGB32),
+      m_size(size), m_scale(scale)
+{
+    m_image.fill(Qt::black);
+}
+
+void Surface::fill(const QColor& color) { m_image.fill(color); }
+
+void Surface::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
+{
+    const QRect wanted = deviceRect({from, size}, m_scale);
+    const QPoint target(deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale));
+    const QPoint shift = target - wanted.topLeft();
+    const QRect readable = wanted & source.m_image.rect();
+    const QRect writable = readable.translated(shift) & m_image.rect();
+    if (writable.isEmpty())
+        return;
+
+    const auto bytes = static_cast<std::size_t>(writable.width()) * sizeof(QRgb);
+    for (int y = writable.top(); y <= writable.bottom(); ++y) {
+        const auto* line =
+            reinterpret_cast<const QRgb*>(source.m_image.constScanLine(y - shift.y()));
+        auto* into = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+        std::memmove(into + writable.left(), line + writable.left() - shift.x(), bytes);
+    }
+}
+
+void Surface::drawPixels(const QImage& pixels, QPointF to)
+{
+    QPainter painter(&m_image);
+    painter.drawImage(deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale), pixels);
+}
+
+void Surface::stretch(const QImage& picture, const QRectF& to)
+{
+    const QRect target = deviceRect(to, m_scale);
+    if (picture.isNull() || target.isEmpty())
+        return;
+    QPainter painter(&m_image);
+    painter.drawImage(target.topLeft(), picture.scaled(target.size(), Qt::IgnoreAspectRatio,
+                                                       Qt::SmoothTransformation));
+}
+
+} // namespace quillet

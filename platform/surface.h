@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QRect>
+#include <QRectF>
+
+namespace quillet
+{
+
+// The one place that rounds logical to device pixels. A position is rounded by itself and a size
+// by itself, so that equal cards are equally large wherever they lie.
+[[nodiscard]] int deviceOrigin(double position, double scale);
+[[nodiscard]] int deviceSize(double size, double scale);
+[[nodiscard]] QRect deviceRect(const QRectF& logical, double scale);
+
+// An off-screen picture. Its interface speaks logical pixels, its buffer holds device pixels.
+// Copies are clipped; a rectangle outside the picture is no error.
+class Surface
+{
+public:
+    Surface() = default;
+    // Black. The scale is device pixels per logical pixel.
+    Surface(QSizeF size, double scale);
+
+    [[nodiscard]] bool isNull() const { return m_image.isNull(); }
+    [[nodiscard]] QSizeF size() const { return m_size; }
+    [[nodiscard]] double scale() const { return m_scale; }
+    [[nodiscard]] const QImage& image() const { return m_image; }
+
+    void fill(const QColor& color);
+
+    // Copies a rectangle of this size from the source, pixel by pixel.
+    void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
+    // Paints a picture whose pixels are device pixels, its transparent parts left out.
+    void drawPixels(const QImage& pixels, QPointF to);
+    // Paints a picture stretched to the rectangle.
+    void stretch(const QImage& picture, const QRectF& to);
+
+    // For pixel operations of our own, in device pixels.
+    [[nodiscard]] QImage& pixels() { return m_image; }
+
+private:
+    QImage m_image;
+    QSizeF m_size;
+    double m_scale = 1.0;
+};
+
+} // namespace quillet

@@ -1,0 +1,74 @@
+#include "platform/table_canvas.h"
+
+#include "platform/picture_box.h"
+
+#include <QPainter>
+
+namespace quillet
+{
+
+TableCanvas::TableCanvas(QWidget* parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void TableCanvas::resizePictures(QSizeF innerSize, double scale)
+{
+    m_kept = Surface(innerSize, scale);
+    m_screen = m_kept;
+}
+
+void TableCanvas::setPersistentImage(bool on)
+{
+    m_persistentImage = on;
+    if (on)
+        m_lifted.reset();
+}
+
+void TableCanvas::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
+{
+    if (m_persistentImage) {
+        m_kept.copyFrom(source, from, size, to);
+        return;
+    }
+    m_screen.copyFrom(source, from, size, to);
+    present({to, size});
+}
+
+void TableCanvas::refresh()
+{
+    m_screen.copyFrom(m_kept, {0, 0}, m_kept.size(), {0, 0});
+    repaint();
+}
+
+void TableCanvas::present(const QRectF& rect)
+{
+    // One pixel more all round: device pixels do not end where logical ones do.
+    repaint(rect.toAlignedRect().adjusted(-1, -1, 1, 1));
+}
+
+void TableCanvas::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    // From here on the painter counts device pixels of the pictures.
+    const double scale = m_screen.scale();
+    if (scale != devicePixelRatioF())
+        QMetaObject::invokeMethod(this, &TableCanvas::scaleChanged, Qt::QueuedConnection);
+    painter.scale(1.0 / scale, 1.0 / scale);
+    painter.drawImage(0, 0, m_screen.image());
+    for (const PictureBox* box : m_boxes)
+        if (box->isShowing())
+            painter.drawImage(box->devicePlace().topLeft(), box->picture().image());
+
+    if (m_overlays) {
+        painter.save();
+        m_overlays(painter, scale);
+        painter.restore();
+    }
+    if (m_lifted) {
+        const QRect lifted = deviceRect(*m_lifted, scale);
+        painter.drawImage(lifted.topLeft(), m_screen.image(), lifted);
+    }
+}
+
+} // namespace quillet
