@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace quillet
+{
+
+// What a round of frames costs without any delay, and what one unit of delay adds to a frame.
+struct RoundCost {
+    double seconds = 0.0;
+    double secondsPerUnit = 0.0; // of the whole round
+};
+
+// Runs a round of frames with this delay and tells how long it took, in seconds.
+using MeasureRound = std::function<double(std::int32_t delay)>;
+
+// The smallest multiple of ten for which a round of flight frames takes at least 0.4 s. Rounds
+// whose outcome the cost makes certain are skipped. The delay holds the value reached so far,
+// also when a round throws.
+void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure);
+
+// From its present value, rises by ten a round until a round takes at least 0.3 s; the last round
+// adds another ten if it took less than 0.5 s.
+void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure);
+
+// The position of the speed slider, 0..1000, for a calibrated flight delay.
+[[nodiscard]] std::int16_t scrollValueFor(std::int32_t flightDelay);
+
+} // namespace quillet

@@ -1,0 +1,90 @@
+#include "render/init_anim_delay.h"
+
+#include "platform/table_canvas.h"
+#include "render/counting_loop.h"
+#include "render/delay_calibration.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr int flightFrames = 150;
+constexpr std::int32_t bannerTop = -60;
+constexpr int bannerFrames = 61;
+constexpr std::int32_t beachBack = 64;
+constexpr double trail = 10;
+
+} // namespace
+
+DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
+                       Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
+    : m_pictures(pictures), m_library(library), m_preferences(preferences), m_clock(clock),
+      m_errorBox(errorBox), m_afterRound(std::move(afterRound))
+{
+}
+
+void DelayMeter::InitAnimDelay()
+{
+    guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [this] {
+        m_preferences.prfAnimationDelay = 0;
+        const double unit = secondsPerDelayUnit();
+        calibrateFlight(m_preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
+                        [this](std::int32_t delay) { return flightRound(delay); });
+        m_preferences.prfScrollVal = scrollValueFor(m_preferences.prfAnimationDelay);
+        calibrateBanner(m_preferences.prfBannerDelay, {bannerRound(0), unit * bannerFrames},
+                        [this](std::int32_t delay) { return bannerRound(delay); });
+        m_pictures.picStatusBar = Surface();
+    });
+}
+
+double DelayMeter::flightRound(std::int32_t delay)
+{
+    Surface& board = m_pictures.BoardBuffer;
+    const QSizeF size(std::nearbyint(m_pictures.picReject.place.width()),
+                      std::nearbyint(m_pictures.picReject.place.height()));
+    const double start = m_clock.seconds();
+    for (int frame = 0; frame < flightFrames; ++frame) {
+        m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
+        m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColor);
+        m_pictures.canvas->copyFrom(board, {0, -trail}, size + QSizeF(trail, trail),
+                                    {0, -trail});
+        board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
+        countingLoop(delay);
+    }
+    const double elapsed = m_clock.seconds() - start;
+    m_afterRound();
+    return elapsed;
+}
+
+double DelayMeter::bannerRound(std::int32_t delay)
+{
+    const QImage& banner = m_pictures.picBanner3;
+    const double start = m_clock.seconds();
+    for (std::int32_t k = bannerTop; k <= 0; ++k) {
+        m_pictures.picStatusBar.drawPixels(banner, QPointF(0, k));
+        countingLoop(delay);
+    }
+    const double elapsed = m_clock.seconds() - start;
+    m_afterRound();
+    return elapsed;
+}
+
+double DelayMeter::secondsPerDelayUnit()
+{
+    constexpr std::int32_t sample = 500;
+    double best = 0.0;
+    for (int i = 0; i < 3; ++i) {
+        const double start = m_clock.seconds();
+        countingLoop(sample);
+        const double elapsed = m_clock.seconds() - start;
+        best = i == 0 ? elapsed : std::min(best, elapsed);
+    }
+    return best / sample;
+}
+
+} // namespace quillet

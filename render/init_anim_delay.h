@@ -1,0 +1,40 @@
+#pragma once
+
+#include "engine/preferences.h"
+#include "engine/run_time_error.h"
+#include "platform/clock.h"
+#include "render/card_library.h"
+#include "render/table_pictures.h"
+
+#include <functional>
+
+namespace quillet
+{
+
+// Measures this machine, so that cards fly at the same speed everywhere.
+class DelayMeter
+{
+public:
+    // afterRound is called after every measured round, to let events run and show progress.
+    DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
+               Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound);
+
+    // Sets prfAnimationDelay, prfBannerDelay and prfScrollVal. An error is shown in a box; the
+    // delays keep the values they had reached.
+    void InitAnimDelay();
+
+private:
+    // Seconds taken by a round of frames with this delay.
+    [[nodiscard]] double flightRound(std::int32_t delay);
+    [[nodiscard]] double bannerRound(std::int32_t delay);
+    [[nodiscard]] double secondsPerDelayUnit();
+
+    TablePictures& m_pictures;
+    CardLibrary& m_library;
+    Preferences& m_preferences;
+    Clock& m_clock;
+    ErrorBox& m_errorBox;
+    std::function<void()> m_afterRound;
+};
+
+} // namespace quillet

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/surface.h"
+
+#include <cstdint>
+
+namespace quillet
+{
+
+// In logical pixels of the source; right and bottom lie outside.
+struct PixelRect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+};
+
+// Copies the source rectangle to the destination, but where the source has exactly the
+// transparent colour (0x00BBGGRR) the background picture shows, which may be the destination
+// itself. Clipped to all three pictures. Throws RunTimeError for a width or height beyond 16 bits.
+void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
+                const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor);
+
+} // namespace quillet

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+#include <array>
+#include <vector>
+
+namespace quillet
+{
+
+// What the places on the table follow from, in logical pixels.
+struct TableMeasures {
+    double innerWidth = 0;
+    double innerHeight = 0;
+    double cardWidth = 0;  // cWidth
+    double cardHeight = 0; // cHeight
+    double statusBarHeight = 0;
+    double chartWidth = 0;
+};
+
+// The frame pieces, as designed; a painted piece is stretched in its long direction.
+enum class FramePiece { picTop, picBottom, picSide1, picSide2 };
+inline constexpr double frameEdgeHeight = 14; // picTop, picBottom
+inline constexpr double frameSideWidth = 13;  // picSide1, picSide2
+
+struct FramePlace {
+    FramePiece piece;
+    QRectF rect;
+    friend bool operator==(const FramePlace&, const FramePlace&) = default;
+};
+
+// What the flying card keeps from the deck's top left corner.
+inline constexpr QPointF flyingCardOffset{8, 4};
+
+[[nodiscard]] QSizeF deckSize(const TableMeasures& table);
+[[nodiscard]] QSizeF rejectPileSize(const TableMeasures& table);
+
+// Places before the first game.
+[[nodiscard]] QRectF firstRejectPlace(const TableMeasures& table);
+[[nodiscard]] QRectF firstDeckPlace(const TableMeasures& table);
+[[nodiscard]] std::vector<FramePlace> firstFrame(const TableMeasures& table);
+
+// Places of a table that is played on; the card row hangs from the deck.
+[[nodiscard]] QRectF rejectPlace(const TableMeasures& table);
+[[nodiscard]] QRectF deckPlace(const TableMeasures& table);
+[[nodiscard]] std::array<QRectF, 5> cardPlaces(const TableMeasures& table);
+// In the order of painting: later pieces lie over earlier ones.
+[[nodiscard]] std::vector<FramePlace> tableFrame(const TableMeasures& table);
+// The piece along the chart's left edge.
+[[nodiscard]] FramePlace chartFrame(const TableMeasures& table);
+
+[[nodiscard]] QRectF chartPlace(const TableMeasures& table);
+[[nodiscard]] QPointF statusBarPosition(const TableMeasures& table);
+
+} // namespace quillet

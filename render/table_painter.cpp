@@ -1,0 +1,141 @@
+#include "render/table_painter.h"
+
+#include "platform/picture_box.h"
+#include "platform/table_canvas.h"
+#include "render/masked_blit.h"
+
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+void resize(OffScreenBox& box, QSizeF size, double scale)
+{
+    box.place.setSize(size);
+    box.picture = Surface(size, scale);
+}
+
+} // namespace
+
+void TablePainter::sizePictures(const TableMeasures& table, double scale)
+{
+    const QSizeF card(table.cardWidth, table.cardHeight);
+    m_pictures.canvas->resizePictures({table.innerWidth, table.innerHeight}, scale);
+    m_pictures.BoardBuffer = Surface({table.innerWidth, table.innerHeight}, scale);
+    m_pictures.picBuffer = Surface(card, scale);
+    resize(m_pictures.picAnimate, card, scale);
+    resize(m_pictures.picDealBack, deckSize(table), scale);
+    resize(m_pictures.picReject, rejectPileSize(table), scale);
+    resize(m_pictures.picRejectBack, rejectPileSize(table), scale);
+    for (PictureBox* box : m_pictures.picPoker)
+        box->place({box->place().topLeft(), card}, scale);
+    for (PictureBox* box : m_pictures.picDeal)
+        box->place({box->place().topLeft(), deckSize(table)}, scale);
+}
+
+void TablePainter::paintBackground()
+{
+    Surface& kept = m_pictures.canvas->keptForDrawing();
+    kept.fill(Qt::black);
+    const LoadedPicture& picture = m_pictures.thePic;
+    kept.stretch(picture.image, {{0, 0}, picture.logicalSize});
+}
+
+void TablePainter::paintFirstTable(const TableMeasures& table)
+{
+    paintFrame(firstFrame(table));
+    m_pictures.canvas->refresh();
+    for (PictureBox* box : m_pictures.picPoker)
+        box->copyTableBehind();
+
+    m_pictures.picReject.place = m_pictures.picRejectBack.place = firstRejectPlace(table);
+    copyTableBehind(m_pictures.picReject);
+    copyTableBehind(m_pictures.picRejectBack);
+
+    for (PictureBox* box : m_pictures.picDeal) {
+        box->place(firstDeckPlace(table), m_pictures.canvas->scale());
+        box->copyTableBehind();
+    }
+    m_pictures.picDealBack.place = firstDeckPlace(table);
+    copyTableBehind(m_pictures.picDealBack);
+    m_pictures.BoardBuffer = m_pictures.canvas->kept();
+}
+
+void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
+{
+    TableCanvas& canvas = *m_pictures.canvas;
+    for (PictureBox* box : m_pictures.picDeal)
+        box->setShowing(false);
+    for (PictureBox* box : m_pictures.picPoker)
+        box->setShowing(false);
+
+    paintBackground();
+    m_pictures.picReject.place = m_pictures.picRejectBack.place = rejectPlace(table);
+    placeDeck(table);
+    placeCards(table);
+    paintFrame(tableFrame(table));
+    for (PictureBox* box : m_pictures.picPoker)
+        box->copyTableBehind();
+    m_pictures.BoardBuffer = canvas.kept();
+    paintFrame({chartFrame(table)});
+
+    m_pile.DrawDealDeck(backNumber);
+    layHatches();
+    m_pictures.picReject.picture.copyFrom(m_pictures.picRejectBack.picture, {0, 0},
+                                          m_pictures.picReject.place.size(), {0, 0});
+    canvas.refresh();
+    for (PictureBox* box : m_pictures.picDeal)
+        box->setShowing(true);
+}
+
+void TablePainter::placeDeck(const TableMeasures& table)
+{
+    const QRectF place = deckPlace(table);
+    for (PictureBox* box : m_pictures.picDeal) {
+        box->place(place, m_pictures.canvas->scale());
+        box->copyTableBehind();
+    }
+    m_pictures.picDealBack.place = place;
+    copyTableBehind(m_pictures.picDealBack);
+}
+
+void TablePainter::placeCards(const TableMeasures& table)
+{
+    const auto places = cardPlaces(table);
+    for (std::size_t slot = 0; slot < places.size(); ++slot)
+        m_pictures.picPoker[slot]->place(places[slot], m_pictures.canvas->scale());
+}
+
+void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
+{
+    for (const FramePlace& place : frame) {
+        const QImage& piece = m_pictures.framePieces[static_cast<std::size_t>(place.piece)];
+        m_pictures.canvas->keptForDrawing().stretch(piece, place.rect);
+        m_pictures.BoardBuffer.stretch(piece, place.rect);
+    }
+}
+
+void TablePainter::copyTableBehind(OffScreenBox& box)
+{
+    box.picture.copyFrom(m_pictures.canvas->kept(), box.place.topLeft(), box.place.size(),
+                         {0, 0});
+}
+
+void TablePainter::layHatches()
+{
+    Surface& hatch = m_pictures.picAnimate.picture;
+    m_library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
+    const PixelRect whole{0, 0, static_cast<std::int32_t>(std::nearbyint(hatch.size().width())),
+                          static_cast<std::int32_t>(std::nearbyint(hatch.size().height()))};
+
+    Surface& table = m_pictures.canvas->keptForDrawing();
+    for (const PictureBox* box : m_pictures.picPoker)
+        MaskedBlit(table, table, hatch, whole, box->place().x(), box->place().y(), whiteColor);
+    for (OffScreenBox* back : {&m_pictures.picDealBack, &m_pictures.picRejectBack})
+        MaskedBlit(back->picture, back->picture, hatch, whole, 0, 0, whiteColor);
+}
+
+} // namespace quillet
