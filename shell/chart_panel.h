@@ -1,0 +1,43 @@
+#pragma once
+
+#include "coach/strategy_chart.h"
+#include "engine/counters.h"
+
+#include <QFrame>
+#include <QLabel>
+
+#include <array>
+
+namespace quillet
+{
+
+class ChartRow;
+
+// The strategy chart beside the table, with the three counters above it. It shows the chart's
+// state and has no handling of its own.
+class ChartPanel : public QFrame
+{
+    Q_OBJECT
+
+public:
+    // The chart outlives the panel.
+    ChartPanel(StrategyChart& chart, QWidget* parent);
+
+    // Lays the rows out for the panel's present height.
+    void layoutChartRows();
+    void showCounters(const Counters& counters);
+
+private:
+    void showRow(int row);
+    void fitRowFont();
+    QLabel* addCounter(const QString& captionName, const QString& caption, double captionLeft,
+                       double captionWidth, const QString& valueName);
+
+    StrategyChart& m_chart;
+    std::array<ChartRow*, chartRows> m_rows{}; // children
+    QLabel* m_lblHands;
+    QLabel* m_lblWon;
+    QLabel* m_lblTotal;
+};
+
+} // namespace quillet

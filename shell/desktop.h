@@ -1,0 +1,31 @@
+#pragma once
+
+#include "engine/random.h"
+#include "engine/run_time_error.h"
+#include "platform/clock.h"
+#include "platform/screen_metrics.h"
+#include "platform/settings_store.h"
+#include "platform/shell_open.h"
+#include "platform/sound_output.h"
+
+#include <functional>
+#include <string>
+
+namespace quillet
+{
+
+// All that the window asks of the world around it. main.cpp fills in the real ones, the tests
+// their own; everything outlives the window.
+struct Desktop {
+    SettingsStore& store;
+    ShellOpen& shell;
+    SoundOutput& sound;
+    ErrorBox& errorBox;
+    Clock& clock;
+    RandomSource& random;
+    ScreenMetrics metrics;
+    std::string programFolder;              // pics/, wavs/ and quillet.hlp lie in it
+    std::function<void(int code)> endProcess; // ends at once; returns in tests only
+};
+
+} // namespace quillet

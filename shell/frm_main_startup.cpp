@@ -1,0 +1,110 @@
+#include "platform/picture_box.h"
+#include "platform/picture_file.h"
+#include "platform/table_canvas.h"
+#include "render/init_anim_delay.h"
+#include "shell/calibration_splash.h"
+#include "shell/chart_panel.h"
+#include "shell/frm_main.h"
+#include "shell/preferences_store.h"
+#include "shell/status_bar.h"
+
+#include <QDir>
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace quillet
+{
+
+namespace
+{
+
+QImage framePicture(const QString& name)
+{
+    QImage piece(QStringLiteral(":/frame/%1.png").arg(name));
+    return piece.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+// The strip that the calibration slides into the status bar, for its time alone.
+QImage bannerPicture(QSize size)
+{
+    QImage banner(size, QImage::Format_ARGB32_Premultiplied);
+    QLinearGradient shine(0, 0, size.width(), 0);
+    shine.setColorAt(0.0, Qt::black);
+    shine.setColorAt(0.5, QColor(0xc8, 0x10, 0x2e));
+    shine.setColorAt(1.0, Qt::black);
+    QPainter(&banner).fillRect(banner.rect(), shine);
+    return banner;
+}
+
+} // namespace
+
+bool frmMain::Form_Load()
+{
+    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); });
+}
+
+void frmMain::buildRunningState()
+{
+    QDir::setCurrent(QString::fromStdString(m_desktop.programFolder));
+    m_library.cdtInit(cWidth, cHeight);
+    loadPreferences(m_desktop.store, *this);
+    calibrateDelays = prfAnimationDelay < 0;
+
+    if (loadBackground())
+        AutoSizeToPicture(m_pictures.thePic);
+    else
+        setOuterSize(m_layout.outerTwips(designedInnerSize));
+    m_pictures.framePieces = {framePicture(QStringLiteral("top")),
+                              framePicture(QStringLiteral("bottom")),
+                              framePicture(QStringLiteral("side1")),
+                              framePicture(QStringLiteral("side2"))};
+    m_painter.sizePictures(measures(), devicePixelRatioF());
+    if (calibrateDelays)
+        calibrate();
+    FirstInit();
+}
+
+void frmMain::calibrate()
+{
+    CalibrationSplash splash;
+    splash.show();
+    splash.advance();
+    const QSizeF strip(statusBarWidth, picStatusBar->height());
+    m_pictures.picStatusBar = Surface(strip, devicePixelRatioF());
+    m_pictures.picBanner3 = bannerPicture((strip * devicePixelRatioF()).toSize());
+    DelayMeter(m_pictures, m_library, *this, m_desktop.clock, m_desktop.errorBox,
+               [&splash] { splash.advance(); })
+        .InitAnimDelay();
+}
+
+void frmMain::FirstInit()
+{
+    guarded(m_desktop.errorBox, "FirstInit", [this] {
+        m_painter.paintBackground();
+        m_painter.paintFirstTable(measures());
+        placeChartAndStatusBar();
+        if (m_firstHandStarted)
+            return;
+        m_firstHandStarted = true;
+        shuffleCards();
+        mnuPoker_Click();
+    });
+}
+
+QString frmMain::backgroundPath() const
+{
+    return QString::fromStdString(m_desktop.programFolder + "/pics/" + prfPKBackground);
+}
+
+bool frmMain::loadBackground()
+{
+    const QString path = backgroundPath();
+    if (!FileExists(path.toStdString()))
+        return false;
+    const QImage image = loadPictureFile(path);
+    m_pictures.thePic = {image.convertToFormat(QImage::Format_RGB32),
+                         image.deviceIndependentSize()};
+    return true;
+}
+
+} // namespace quillet

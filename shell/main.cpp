@@ -1,0 +1,64 @@
+#include "engine/random.h"
+#include "platform/desktop_shell.h"
+#include "platform/event_clock.h"
+#include "platform/message_error_box.h"
+#include "platform/sdl_sound_output.h"
+#include "platform/text_file_store.h"
+#include "shell/frm_main.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+void useIcons()
+{
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+        icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size), QSize(size, size));
+    QApplication::setWindowIcon(icon);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    using namespace quillet;
+
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillet"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("quillet"));
+    useIcons();
+
+    TextFileStore store;
+    DesktopShell shell;
+    SdlSoundOutput sound;
+    MessageErrorBox errorBox;
+    EventClock clock;
+    BlendingRandom random(timeOfDay);
+    Desktop desktop{store,
+                    shell,
+                    sound,
+                    errorBox,
+                    clock,
+                    random,
+                    {},
+                    QCoreApplication::applicationDirPath().toStdString(),
+                    // Windows may be waiting in nested event loops, so nothing is unwound.
+                    [&sound](int code) {
+                        sound.stop();
+                        std::fflush(nullptr);
+                        std::_Exit(code);
+                    }};
+
+    frmMain window(desktop);
+    if (!window.Form_Load())
+        desktop.endProcess(EXIT_FAILURE);
+    desktop.endProcess(QApplication::exec());
+}

@@ -1,0 +1,76 @@
+#include "shell/status_bar.h"
+
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPixmap>
+
+namespace quillet
+{
+
+namespace
+{
+
+// Swallows its clicks, which would otherwise reach the bar.
+class SilentLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
+};
+
+} // namespace
+
+StatusBar::StatusBar(QWidget* parent)
+    : QWidget(parent), m_lblstatus(new SilentLabel(tr("Welcome to Quillet"), this))
+{
+    setObjectName(QStringLiteral("picStatusBar"));
+    setAccessibleName(tr("Status bar, opens the web site"));
+    setAutoFillBackground(true);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::black);
+    setPalette(colors);
+    const QPixmap hand(QStringLiteral(":/pointer/hand.png"));
+    setCursor(hand.isNull() ? QCursor(Qt::PointingHandCursor) : QCursor(hand, 12, 9));
+
+    m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
+    m_lblstatus->setTextFormat(Qt::PlainText);
+    m_lblstatus->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    QFont font(QStringLiteral("MS Sans Serif"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(12);
+    font.setBold(true);
+    m_lblstatus->setFont(font);
+    m_lblstatus->setGeometry(117, 21, 215, 18);
+    setTextColor(QColor(0xff, 0xff, 0xc0));
+}
+
+void StatusBar::setTextColor(const QColor& color)
+{
+    QPalette colors = m_lblstatus->palette();
+    colors.setColor(QPalette::WindowText, color);
+    m_lblstatus->setPalette(colors);
+}
+
+void StatusBar::centreText()
+{
+    m_lblstatus->move((width() - m_lblstatus->width()) / 2, m_lblstatus->y());
+}
+
+void StatusBar::mousePressEvent(QMouseEvent* event)
+{
+    m_pressed = event->button() == Qt::LeftButton;
+}
+
+void StatusBar::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool click = m_pressed && event->button() == Qt::LeftButton;
+    m_pressed = false;
+    if (click && rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+} // namespace quillet

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+
+namespace quillet
+{
+
+// The strip under the table. A click on it opens a web page; a click on the text in it does not.
+class StatusBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StatusBar(QWidget* parent);
+
+    void setTextColor(const QColor& color);
+    // Horizontally, in the bar's present width.
+    void centreText();
+
+signals:
+    void clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    QLabel* m_lblstatus; // a child
+    bool m_pressed = false;
+};
+
+} // namespace quillet
