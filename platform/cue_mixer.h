@@ -1,0 +1,53 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <span>
+#include <vector>
+
+namespace quillet
+{
+
+inline constexpr int soundRate = 48000;
+inline constexpr int soundChannels = 2;
+
+// A decoded sound at `soundRate`, its channels interleaved.
+struct SoundCue {
+    [[nodiscard]] std::chrono::milliseconds length() const
+    {
+        return std::chrono::milliseconds(samples.size() * 1000 / (soundRate * soundChannels));
+    }
+
+    std::vector<std::int16_t> samples;
+};
+
+// One cue at a time, turned into the stream that the audio device asks for. A cue that is cut off
+// fades out under its successor, so that the cut does not click. May be used from any thread.
+class CueMixer
+{
+public:
+    // Starts this cue in the next block that is rendered; null only cuts off the one playing.
+    void play(std::shared_ptr<const SoundCue> cue);
+
+    // Fills the block, with silence where nothing plays. Neither allocates nor frees.
+    void render(std::span<std::int16_t> block);
+
+private:
+    struct Voice {
+        std::shared_ptr<const SoundCue> cue;
+        std::size_t next = 0;
+
+        std::int16_t take();
+        [[nodiscard]] bool isRinging() const { return cue && next < cue->samples.size(); }
+    };
+
+    std::mutex m_mutex;
+    Voice m_playing;
+    Voice m_leaving;
+    std::size_t m_fadeLeft = 0;
+};
+
+} // namespace quillet

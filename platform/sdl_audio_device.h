@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/cue_mixer.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace quillet
+{
+
+// The machine's sound output while it is open. Opening and closing take as long as the sound
+// server likes, so only a thread that nobody waits for may do either.
+class SdlAudioDevice
+{
+public:
+    // Plays what the mixer renders; the mixer must outlive the device. Null when there is none.
+    [[nodiscard]] static std::unique_ptr<SdlAudioDevice> open(CueMixer& mixer);
+
+    ~SdlAudioDevice();
+    SdlAudioDevice(const SdlAudioDevice&) = delete;
+    SdlAudioDevice& operator=(const SdlAudioDevice&) = delete;
+
+    // True once the device was unplugged or its server went away.
+    [[nodiscard]] bool isLost() const;
+
+private:
+    explicit SdlAudioDevice(std::uint32_t id) : m_id(id) {}
+
+    std::uint32_t m_id;
+};
+
+} // namespace quillet
