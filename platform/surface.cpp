@@ -33,7 +33,10 @@ Surface::Surface(QSizeF size, double scale)
     m_image.fill(Qt::black);
 }
 
-void Surface::fill(const QColor& color) { m_image.fill(color); }
+void Surface::fill(const QColor& color)
+{
+    m_image.fill(color);
+}
 
 void Surface::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
 {
@@ -65,9 +68,9 @@ void Surface::stretch(const QImage& picture, const QRectF& to)
     const QRect target = deviceRect(to, m_scale);
     if (picture.isNull() || target.isEmpty())
         return;
-    QPainter painter(&m_image);
-    painter.drawImage(target.topLeft(), picture.scaled(target.size(), Qt::IgnoreAspectRatio,
-                                                       Qt::SmoothTransformation));
+    QImage fitting = picture.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    fitting.setDevicePixelRatio(1.0);
+    QPainter(&m_image).drawImage(target.topLeft(), fitting);
 }
 
 } // namespace quillet

@@ -23,9 +23,9 @@ void BackPreview::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     painter.scale(1.0 / m_picture.scale(), 1.0 / m_picture.scale());
-    const QPointF corner = QPointF(width() - m_picture.size().width(),
-                                   height() - m_picture.size().height()) /
-                           2 * m_picture.scale();
+    const QPointF corner =
+        QPointF(width() - m_picture.size().width(), height() - m_picture.size().height()) / 2 *
+        m_picture.scale();
     painter.drawImage(corner.toPoint(), m_picture.image());
 }
 

@@ -10,15 +10,18 @@ namespace quillet
 namespace
 {
 
-QString translated(const char* text) { return QCoreApplication::translate("cards", text); }
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("cards", text);
+}
 
 } // namespace
 
 QString cardName(std::int32_t cardId)
 {
-    static constexpr std::array<const char*, 13> ranks{
-        "Ace", "Two", "Three", "Four", "Five", "Six", "Seven",
-        "Eight", "Nine", "Ten", "Jack", "Queen", "King"};
+    static constexpr std::array<const char*, 13> ranks{"Ace",  "Two",   "Three", "Four", "Five",
+                                                       "Six",  "Seven", "Eight", "Nine", "Ten",
+                                                       "Jack", "Queen", "King"};
     static constexpr std::array<const char*, 4> suits{"clubs", "diamonds", "hearts", "spades"};
     const auto id = static_cast<std::size_t>(cardId);
     return translated("%1 of %2").arg(translated(ranks.at(id / 4)), translated(suits.at(id % 4)));

@@ -57,12 +57,11 @@ ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QFrame(parent), 
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(border);
 
-    m_lblHands = addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600,
-                            QStringLiteral("lblHands"));
-    m_lblWon = addCounter(QStringLiteral("Label3"), tr("Won"), 1080, 420,
-                          QStringLiteral("lblWon"));
-    m_lblTotal = addCounter(QStringLiteral("Label1"), tr("Total"), 1752, 480,
-                            QStringLiteral("lblTotal"));
+    m_lblHands =
+        addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600, QStringLiteral("lblHands"));
+    m_lblWon = addCounter(QStringLiteral("Label3"), tr("Won"), 1080, 420, QStringLiteral("lblWon"));
+    m_lblTotal =
+        addCounter(QStringLiteral("Label1"), tr("Total"), 1752, 480, QStringLiteral("lblTotal"));
 
     for (int row = 0; row < chartRows; ++row) {
         m_rows[static_cast<std::size_t>(row)] = new ChartRow(row, this);

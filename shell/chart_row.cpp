@@ -40,9 +40,18 @@ QPainterPath markFor(ChartRowState state)
         mark.addPolygon(QPolygonF({{-3, -4.5}, {4.5, 0}, {-3, 4.5}}));
         break;
     case ChartRowState::missedPlay:
-        mark.addPolygon(QPolygonF({{-4, -2.6}, {-2.6, -4}, {0, -1.4}, {2.6, -4},
-                                   {4, -2.6}, {1.4, 0}, {4, 2.6}, {2.6, 4},
-                                   {0, 1.4}, {-2.6, 4}, {-4, 2.6}, {-1.4, 0}}));
+        mark.addPolygon(QPolygonF({{-4, -2.6},
+                                   {-2.6, -4},
+                                   {0, -1.4},
+                                   {2.6, -4},
+                                   {4, -2.6},
+                                   {1.4, 0},
+                                   {4, 2.6},
+                                   {2.6, 4},
+                                   {0, 1.4},
+                                   {-2.6, 4},
+                                   {-4, 2.6},
+                                   {-1.4, 0}}));
         break;
     case ChartRowState::winner:
         mark.addPolygon(QPolygonF({{0, -5}, {4.5, 0}, {0, 5}, {-4.5, 0}}));

@@ -24,7 +24,9 @@ struct Desktop {
     Clock& clock;
     RandomSource& random;
     ScreenMetrics metrics;
-    std::string programFolder;              // pics/, wavs/ and quillet.hlp lie in it
+    std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
+    // Waits for so many milliseconds while events run, or until the question is answered with yes.
+    std::function<void(std::int32_t, const std::function<bool()>&)> shortDelay;
     std::function<void(int code)> endProcess; // ends at once; returns in tests only
 };
 

@@ -99,15 +99,30 @@ void frmMain::describeSlot(int slot)
     box(slot).setAccessibleName(spokenCard(slot, m_cards[i], m_outlineShowing[i]));
 }
 
-bool frmMain::FileExists(const std::string& thePath) { return quillet::FileExists(thePath); }
+bool frmMain::FileExists(const std::string& thePath)
+{
+    return quillet::FileExists(thePath);
+}
 
-void frmMain::sndPlaySound(const std::string& path) { m_desktop.sound.play(path); }
+void frmMain::sndPlaySound(const std::string& path)
+{
+    m_desktop.sound.play(path);
+}
 
-void frmMain::picDeal_Click(std::int16_t Index) { m_controller.picDeal_Click(Index); }
+void frmMain::picDeal_Click(std::int16_t Index)
+{
+    m_controller.picDeal_Click(Index);
+}
 
-void frmMain::picPoker_MouseDown(std::int16_t Index) { m_controller.picPoker_MouseDown(Index); }
+void frmMain::picPoker_MouseDown(std::int16_t Index)
+{
+    m_controller.picPoker_MouseDown(Index);
+}
 
-void frmMain::picPoker_DblClick(std::int16_t Index) { m_controller.picPoker_DblClick(Index); }
+void frmMain::picPoker_DblClick(std::int16_t Index)
+{
+    m_controller.picPoker_DblClick(Index);
+}
 
 void frmMain::closeEvent(QCloseEvent* event)
 {

@@ -68,7 +68,7 @@ public:
 
     [[nodiscard]] bool FileExists(const std::string& thePath) override;
 
-    std::int32_t cWidth = 0;  // card size in logical pixels
+    std::int32_t cWidth = 0; // card size in logical pixels
     std::int32_t cHeight = 0;
 
 protected:
@@ -137,8 +137,8 @@ private:
     Counters m_counters;
     StrategyChart m_chart;
     TablePictures m_pictures;
-    std::array<CardOnTable, 5> m_cards;      // what the card places show
-    std::array<bool, 5> m_outlineShowing{};  // Shape1, Shape2 and Shape3 of each place
+    std::array<CardOnTable, 5> m_cards;     // what the card places show
+    std::array<bool, 5> m_outlineShowing{}; // Shape1, Shape2 and Shape3 of each place
 
     CardLibrary m_library;
     DeckPile m_pile;

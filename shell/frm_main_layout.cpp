@@ -28,8 +28,7 @@ void frmMain::AutoSizeToPicture(const LoadedPicture& picture)
         picStatusBar->setFixedSize(
             static_cast<int>(statusBarWidth),
             static_cast<int>(m_layout.statusBarHeight() / metrics.twipsPerPixelY));
-        setOuterSize(
-            m_layout.sizeForPicture(twips, frameEdgeHeight * metrics.twipsPerPixelY));
+        setOuterSize(m_layout.sizeForPicture(twips, frameEdgeHeight * metrics.twipsPerPixelY));
         if (metrics.largeFonts())
             picStatusBar->centreText();
         inLayout = false;
@@ -64,7 +63,10 @@ void frmMain::Form_Resize()
     });
 }
 
-void frmMain::widenToMinimum() { setOuterSize(m_layout.widened(m_outerSize)); }
+void frmMain::widenToMinimum()
+{
+    setOuterSize(m_layout.widened(m_outerSize));
+}
 
 void frmMain::layOutGame()
 {
@@ -105,9 +107,8 @@ void frmMain::showAndWaitUntilExposed()
     QElapsedTimer waiting;
     waiting.start();
     while (!windowHandle()->isExposed() && !waiting.hasExpired(longestExposure))
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
-                                            QEventLoop::ExcludeUserInputEvents,
-                                        longestExposure);
+        QCoreApplication::processEvents(
+            QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents, longestExposure);
 }
 
 TableMeasures frmMain::measures() const
@@ -123,11 +124,20 @@ TableMeasures frmMain::measures() const
     return table;
 }
 
-void frmMain::initPokerScreen() { m_controller.initPokerScreen(); }
+void frmMain::initPokerScreen()
+{
+    m_controller.initPokerScreen();
+}
 
-void frmMain::DrawDealDeck() { m_pile.DrawDealDeck(prfPKBackFace); }
+void frmMain::DrawDealDeck()
+{
+    m_pile.DrawDealDeck(prfPKBackFace);
+}
 
-void frmMain::shuffleCards() { m_pile.shuffleCards(prfPKBackFace); }
+void frmMain::shuffleCards()
+{
+    m_pile.shuffleCards(prfPKBackFace);
+}
 
 void frmMain::resetGraphics()
 {

@@ -43,8 +43,8 @@ void frmMain::makeMenus()
     QMenu& game = *addMenu(bar, QStringLiteral("mnuGame"), tr("&Game"));
     connect(addEntry(game, QStringLiteral("mnuPoker"), tr("Play &Video Poker")),
             &QAction::triggered, this, &frmMain::mnuPoker_Click);
-    connect(addEntry(game, QStringLiteral("mnuPref"), tr("Preferences")), &QAction::triggered,
-            this, &frmMain::mnuPref_Click);
+    connect(addEntry(game, QStringLiteral("mnuPref"), tr("Preferences")), &QAction::triggered, this,
+            &frmMain::mnuPref_Click);
     game.addSeparator()->setObjectName(QStringLiteral("mnuSeparator"));
     connect(addEntry(game, QStringLiteral("mnuExit"), tr("E&xit")), &QAction::triggered, this,
             &frmMain::mnuExit_Click);
@@ -65,7 +65,10 @@ void frmMain::makeMenus()
             this, &frmMain::mnuAbout_Click);
 }
 
-void frmMain::mnuPoker_Click() { initPokerScreen(); }
+void frmMain::mnuPoker_Click()
+{
+    initPokerScreen();
+}
 
 void frmMain::mnuPref_Click()
 {
@@ -76,9 +79,15 @@ void frmMain::mnuPref_Click()
     dialog.exec();
 }
 
-void frmMain::mnuExit_Click() { close(); }
+void frmMain::mnuExit_Click()
+{
+    close();
+}
 
-void frmMain::mnuSites_Click(int) { openWebPage(m_desktop.shell, onlinePokerPage()); }
+void frmMain::mnuSites_Click(int)
+{
+    openWebPage(m_desktop.shell, onlinePokerPage());
+}
 
 void frmMain::mnuContents_Click()
 {
@@ -86,7 +95,10 @@ void frmMain::mnuContents_Click()
                         QString::fromStdString(m_desktop.programFolder + "/quillet.hlp"));
 }
 
-void frmMain::mnuAbout_Click() { frmAbout::present(this, m_desktop.shell); }
+void frmMain::mnuAbout_Click()
+{
+    frmAbout::present(this, m_desktop.shell);
+}
 
 void frmMain::picStatusBar_Click()
 {

@@ -36,8 +36,7 @@ void frmMain::showExitScreen()
 {
     frmExitNoBanner screen(m_desktop.shell);
     connect(&screen, &frmExitNoBanner::unloadMainWindow, this, &QWidget::close);
-    connect(&screen, &frmExitNoBanner::endProgram, this,
-            [this] { m_desktop.endProcess(0); });
+    connect(&screen, &frmExitNoBanner::endProgram, this, [this] { m_desktop.endProcess(0); });
     screen.exec();
 }
 

@@ -54,10 +54,9 @@ void frmMain::buildRunningState()
         AutoSizeToPicture(m_pictures.thePic);
     else
         setOuterSize(m_layout.outerTwips(designedInnerSize));
-    m_pictures.framePieces = {framePicture(QStringLiteral("top")),
-                              framePicture(QStringLiteral("bottom")),
-                              framePicture(QStringLiteral("side1")),
-                              framePicture(QStringLiteral("side2"))};
+    m_pictures.framePieces = {
+        framePicture(QStringLiteral("top")), framePicture(QStringLiteral("bottom")),
+        framePicture(QStringLiteral("side1")), framePicture(QStringLiteral("side2"))};
     m_painter.sizePictures(measures(), devicePixelRatioF());
     if (calibrateDelays)
         calibrate();
@@ -72,9 +71,9 @@ void frmMain::calibrate()
     const QSizeF strip(statusBarWidth, picStatusBar->height());
     m_pictures.picStatusBar = Surface(strip, devicePixelRatioF());
     m_pictures.picBanner3 = bannerPicture((strip * devicePixelRatioF()).toSize());
-    DelayMeter(m_pictures, m_library, *this, m_desktop.clock, m_desktop.errorBox,
-               [&splash] { splash.advance(); })
-        .InitAnimDelay();
+    DelayMeter(m_pictures, m_library, *this, m_desktop.clock, m_desktop.errorBox, [&splash] {
+        splash.advance();
+    }).InitAnimDelay();
 }
 
 void frmMain::FirstInit()

@@ -1,6 +1,5 @@
 #include "engine/hand_controller.h"
 #include "platform/picture_box.h"
-#include "platform/short_delay.h"
 #include "platform/table_canvas.h"
 #include "render/masked_blit.h"
 #include "shell/chart_panel.h"
@@ -52,7 +51,10 @@ void frmMain::flyCardTo(int slot)
     m_flight.AnimateCard(x, y, pixel(to.x()), pixel(to.y()), 1, prfPKBackFace, drawBack);
 }
 
-void frmMain::endFlights() { m_pictures.canvas->refresh(); }
+void frmMain::endFlights()
+{
+    m_pictures.canvas->refresh();
+}
 
 bool frmMain::cardShowing(int slot) const
 {
@@ -86,16 +88,17 @@ void frmMain::layOverlay(int slot)
 {
     m_cards.at(static_cast<std::size_t>(slot)).overlaid = true;
     const Surface& hatch = m_pictures.picAnimate.picture;
-    const auto pixels = [](double size) {
-        return static_cast<std::int32_t>(std::nearbyint(size));
-    };
+    const auto pixels = [](double size) { return static_cast<std::int32_t>(std::nearbyint(size)); };
     Surface& card = box(slot).picture();
-    MaskedBlit(card, card, hatch, {0, 0, pixels(hatch.size().width()),
-                                   pixels(hatch.size().height())},
-               0, 0, whiteColor);
+    MaskedBlit(card, card, hatch,
+               {0, 0, pixels(hatch.size().width()), pixels(hatch.size().height())}, 0, 0,
+               whiteColor);
 }
 
-void frmMain::refreshCard(int slot) { box(slot).refresh(); }
+void frmMain::refreshCard(int slot)
+{
+    box(slot).refresh();
+}
 
 void frmMain::paintCard(int slot)
 {
@@ -104,8 +107,7 @@ void frmMain::paintCard(int slot)
     place.restoreTableBehind();
     if (card.side != CardOnTable::Side::none)
         m_library.cdtDraw(place.picture(), 0, 0, card.number,
-                          card.side == CardOnTable::Side::face ? drawFace : drawBack,
-                          whiteColor);
+                          card.side == CardOnTable::Side::face ? drawFace : drawBack, whiteColor);
 }
 
 void frmMain::showHoldOutline(int slot, bool shown)
@@ -118,7 +120,10 @@ void frmMain::showHoldOutline(int slot, bool shown)
     describeSlot(slot);
 }
 
-void frmMain::showCounters(const Counters& counters) { picPokerLabels->showCounters(counters); }
+void frmMain::showCounters(const Counters& counters)
+{
+    picPokerLabels->showCounters(counters);
+}
 
 void frmMain::recover()
 {
@@ -133,7 +138,7 @@ void frmMain::recover()
 void frmMain::shortDelay(std::int32_t delayTime)
 {
     const std::uint32_t epoch = m_state.epoch;
-    quillet::shortDelay(delayTime, [this, epoch] { return m_state.epoch != epoch; });
+    m_desktop.shortDelay(delayTime, [this, epoch] { return m_state.epoch != epoch; });
 }
 
 } // namespace quillet

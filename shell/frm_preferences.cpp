@@ -236,6 +236,9 @@ void frmPreferences::cmdSave_Click()
     });
 }
 
-void frmPreferences::cmdCancel_Click() { reject(); }
+void frmPreferences::cmdCancel_Click()
+{
+    reject();
+}
 
 } // namespace quillet

@@ -3,6 +3,7 @@
 #include "platform/event_clock.h"
 #include "platform/message_error_box.h"
 #include "platform/sdl_sound_output.h"
+#include "platform/short_delay.h"
 #include "platform/text_file_store.h"
 #include "shell/frm_main.h"
 
@@ -50,6 +51,7 @@ int main(int argc, char* argv[])
                     random,
                     {},
                     QCoreApplication::applicationDirPath().toStdString(),
+                    shortDelay,
                     // Windows may be waiting in nested event loops, so nothing is unwound.
                     [&sound](int code) {
                         sound.stop();

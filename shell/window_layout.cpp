@@ -8,7 +8,7 @@ namespace quillet
 namespace
 {
 
-constexpr double frameSlack = 40;        // twips, each way
+constexpr double frameSlack = 40; // twips, each way
 constexpr double largeFontWidening = 1.055;
 
 } // namespace
