@@ -96,13 +96,13 @@ TEST_P(CardFlightTest, theMinorAxisRoundsDown)
     preferences.prfAnimation = true;
     std::int32_t x = 0;
     std::int32_t y = 100;
-    flight.AnimateCard(x, y, 5, 98, 1, 65, drawBack);
-    EXPECT_EQ(x, 5);
+    flight.AnimateCard(x, y, 8, 98, 1, 65, drawBack);
+    EXPECT_EQ(x, 8);
     EXPECT_EQ(y, 98);
     x = 0, y = 100;
     flight.AnimateCard(x, y, 3, 99, 2, 65, drawBack);
     EXPECT_EQ(x, 4) << "one and a half frames are two";
-    EXPECT_EQ(y, 98) << "a third short of 99, rounded down";
+    EXPECT_EQ(y, 98) << "two thirds and two thirds more, rounded down";
     x = 0, y = 100;
     flight.AnimateCard(x, y, 10, 97, 3, 65, drawBack);
     EXPECT_EQ(x, 9) << "ten pixels in steps of three are three frames";
