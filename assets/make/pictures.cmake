@@ -7,6 +7,7 @@ add_library(quillet_artwork STATIC EXCLUDE_FROM_ALL
     make/pictures/frame.cpp
     make/pictures/icon.cpp
     make/pictures/inlay.cpp
+    make/pictures/needlework.cpp
     make/pictures/noise.cpp
     make/pictures/pay_plate.cpp
     make/pictures/pictures.cpp

@@ -193,11 +193,16 @@ TEST(Pointer, itsHotSpotIsTheTipOfTheFinger)
     }
 }
 
-TEST(Alphabet, hasNoLetterByAccident)
+TEST(Alphabet, hasNoHolesWhereStrokesMeetAndNoLetterByAccident)
 {
-    EXPECT_THROW(letteringPath("quillet", {}), std::out_of_range);
-    // Figures stand in columns, whatever they are.
-    EXPECT_DOUBLE_EQ(letteringWidth("111", {}), letteringWidth("540", {}));
+    const Lettering lettering{.capHeight = 100, .weight = 0.2};
+    const QPainterPath letter = letteringPath("A", lettering);
+    // The apex, where the slanted strokes overlap, and a foot of the crossbar.
+    const double middle = letter.boundingRect().center().x();
+    EXPECT_TRUE(letter.contains(QPointF(middle, -97)));
+    EXPECT_TRUE(letter.contains(QPointF(middle + 24, -34)));
+    EXPECT_FALSE(letter.contains(QPointF(middle, -10)));
+    EXPECT_THROW(letteringPath("quillet", lettering), std::out_of_range);
 }
 
 } // namespace quillet::test

@@ -20,7 +20,7 @@ namespace
 //   M x y  pen down          L x y  line            C x1 y1 x2 y2 x y  curve
 //   A cx cy rx ry from sweep  arc of an ellipse, in degrees, counter-clockwise
 //   O cx cy rx ry             whole ellipse
-//   D x1 y1 x2 y2             slanted stroke, its ends cut level
+//   D x1 y1 x2 y2             slanted stroke downwards, its ends cut level
 const std::map<char, const char*>& strokes()
 {
     static const std::map<char, const char*> table{
@@ -61,15 +61,12 @@ const std::map<char, const char*>& strokes()
     return table;
 }
 
-// Joins the strokes of one letter. Every part must turn the same way round, or the overlaps of
-// two parts would be holes.
+// Joins the strokes of one letter. Every part turns clockwise, as Qt's stroker does; if one turned
+// the other way, its overlaps with the rest would be holes.
 class Pen
 {
 public:
-    Pen(double weight, bool serifs) : m_weight(weight), m_serifs(serifs)
-    {
-        m_outline.setFillRule(Qt::WindingFill);
-    }
+    explicit Pen(double weight) : m_weight(weight) { m_outline.setFillRule(Qt::WindingFill); }
 
     QPainterPath write(const char* code);
 
@@ -81,12 +78,9 @@ private:
     void addArc(std::istringstream& code);
     void addEllipse(std::istringstream& code);
     void addSlant(std::istringstream& code);
-    void addPolygon(const QPolygonF& corners);
-    void addLevelSerif(double x, bool atTop, double reach);
     void finishStroke();
 
     double m_weight;
-    bool m_serifs;
     QPainterPath m_stroke;
     QPainterPath m_outline;
 };
@@ -149,34 +143,9 @@ void Pen::addSlant(std::istringstream& code)
     const double half = m_weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
     const double left1 = x1 + m_weight / 2 - half;
     const double left2 = x2 + m_weight / 2 - half;
-    addPolygon({{left1, y1}, {left1 + 2 * half, y1}, {left2 + 2 * half, y2}, {left2, y2}});
-    if (m_serifs && y1 == 0)
-        addLevelSerif(x1 + m_weight / 2, true, half);
-    if (m_serifs && y2 == 1)
-        addLevelSerif(x2 + m_weight / 2, false, half);
-}
-
-void Pen::addPolygon(const QPolygonF& corners)
-{
-    double turn = 0;
-    for (int i = 0; i < corners.size(); ++i) {
-        const QPointF a = corners[i];
-        const QPointF b = corners[(i + 1) % corners.size()];
-        turn += a.x() * b.y() - b.x() * a.y();
-    }
-    QPolygonF ordered = corners;
-    if (turn < 0)
-        std::reverse(ordered.begin(), ordered.end());
-    m_outline.addPolygon(ordered);
+    m_outline.addPolygon(
+        QPolygonF{{left1, y1}, {left1 + 2 * half, y1}, {left2 + 2 * half, y2}, {left2, y2}});
     m_outline.closeSubpath();
-}
-
-void Pen::addLevelSerif(double x, bool atTop, double reach)
-{
-    const double thick = 0.32 * m_weight;
-    const double y = atTop ? 0 : 1 - thick;
-    const double half = reach + 0.5 * m_weight;
-    addPolygon({{x - half, y}, {x + half, y}, {x + half, y + thick}, {x - half, y + thick}});
 }
 
 void Pen::finishStroke()
@@ -186,14 +155,6 @@ void Pen::finishStroke()
         const QPainterPath large =
             stroked(QTransform::fromScale(100, 100).map(m_stroke), 100 * m_weight);
         m_outline.addPath(QTransform::fromScale(0.01, 0.01).map(large));
-        const auto count = m_stroke.elementCount();
-        for (const int end : {0, count - 1}) {
-            const QPointF here = m_stroke.elementAt(end);
-            const QPointF next = m_stroke.elementAt(end == 0 ? 1 : count - 2);
-            const bool extreme = here.y() < 0.51 * m_weight || here.y() > 1 - 0.51 * m_weight;
-            if (m_serifs && extreme && here.x() == next.x())
-                addLevelSerif(here.x(), here.y() < 0.5, m_weight / 2);
-        }
     }
     m_stroke = QPainterPath();
 }
@@ -223,7 +184,7 @@ double openness(const Mask& mask, bool leftSide)
 Glyph cut(char letter, const Lettering& lettering)
 {
     Glyph glyph;
-    glyph.outline = Pen(lettering.weight, lettering.serifs).write(strokes().at(letter));
+    glyph.outline = Pen(lettering.weight).write(strokes().at(letter));
     const Canvas ruler(QSize(3, 3), 100);
     const QPainterPath moved = glyph.outline.translated(1, 1);
     const Mask mask = ruler.mask(moved);
@@ -241,9 +202,12 @@ Glyph cut(char letter, const Lettering& lettering)
     return glyph;
 }
 
-template <typename Visit>
-double eachLetter(std::string_view text, const Lettering& lettering, Visit&& visit)
+} // namespace
+
+QPainterPath letteringPath(std::string_view text, const Lettering& lettering)
 {
+    QPainterPath line;
+    line.setFillRule(Qt::WindingFill);
     double x = 0;
     for (const char letter : text) {
         if (letter == ' ') {
@@ -251,29 +215,10 @@ double eachLetter(std::string_view text, const Lettering& lettering, Visit&& vis
             continue;
         }
         const Glyph glyph = cut(letter, lettering);
-        visit(glyph, x + glyph.left);
+        line.addPath(glyph.outline.translated(x + glyph.left, -1));
         x += glyph.advance;
     }
-    return x * lettering.capHeight;
-}
-
-} // namespace
-
-double letteringWidth(std::string_view text, const Lettering& lettering)
-{
-    return eachLetter(text, lettering, [](const Glyph&, double) {});
-}
-
-QPainterPath letteringPath(std::string_view text, const Lettering& lettering)
-{
-    QPainterPath line;
-    line.setFillRule(Qt::WindingFill);
-    eachLetter(text, lettering, [&](const Glyph& glyph, double x) {
-        const QTransform place =
-            QTransform::fromScale(lettering.capHeight, lettering.capHeight).translate(x, -1);
-        line.addPath(place.map(glyph.outline));
-    });
-    return line;
+    return QTransform::fromScale(lettering.capHeight, lettering.capHeight).map(line);
 }
 
 QPainterPath centredLettering(std::string_view text, const Lettering& lettering,

@@ -12,14 +12,10 @@ struct Lettering {
     double capHeight = 10;
     double weight = 0.14;
     double tracking = 0;
-    bool serifs = false;
 };
 
-// The alphabet holds the capitals and figures that the pictures need; any other letter throws
-// std::out_of_range.
-[[nodiscard]] double letteringWidth(std::string_view text, const Lettering& lettering);
-
-// The outline of the line, its baseline beginning at the origin.
+// The outline of the line, its baseline beginning at the origin. The alphabet holds the capitals
+// and figures that the pictures need; any other letter throws std::out_of_range.
 [[nodiscard]] QPainterPath letteringPath(std::string_view text, const Lettering& lettering);
 
 [[nodiscard]] QPainterPath centredLettering(std::string_view text, const Lettering& lettering,

@@ -48,12 +48,21 @@ void paintQuill(Canvas& canvas, const Ornament& ornament, const QPointF& point, 
     inlay(canvas, feather.nib, ornament.metal);
 }
 
+void paintName(Canvas& canvas, const Ornament& ornament, const QPointF& middle)
+{
+    const Lettering name{22, 0.125, 0.18};
+    inlay(canvas, centredLettering("QUILLET", name, middle), ornament.accent);
+    const Lettering motto{8, 0.15, 0.2};
+    inlay(canvas, centredLettering("JACKS OR BETTER", motto, middle + QPointF(0, 20)),
+          ornament.accent);
+}
+
 } // namespace
 
 void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area)
 {
-    const double radius = area.width() * 0.405;
-    const QPointF centre(area.center().x(), area.top() + radius + 14);
+    const double radius = area.width() * 0.43;
+    const QPointF centre(area.center().x(), area.top() + radius + 11);
     const QPainterPath field = disc(centre, radius);
     castShadow(canvas, field, 2, 0.5);
     canvas.fill(field, ornament.ground);
@@ -73,13 +82,7 @@ void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area)
 
     paintQuill(canvas, ornament, centre + QPointF(0.83, 0.97) * radius,
                centre + QPointF(-0.88, -1.0) * radius);
-
-    const double middle = area.center().x();
-    const Lettering name{19, 0.125, 0.18, true};
-    inlay(canvas, centredLettering("QUILLET", name, {middle, area.bottom() - 32}), ornament.metal);
-    const Lettering motto{7.5, 0.15, 0.22, false};
-    inlay(canvas, centredLettering("JACKS OR BETTER", motto, {middle, area.bottom() - 13}),
-          ornament.metal);
+    paintName(canvas, ornament, {area.center().x(), area.bottom() - 34});
 }
 
 } // namespace quillet

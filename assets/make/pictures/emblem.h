@@ -8,7 +8,7 @@ namespace quillet
 // What the pictures on a table are made of.
 struct Ornament {
     InlayMaterial metal;   // lines, figures, names
-    InlayMaterial accent;  // the quill and the best line of the pay table
+    InlayMaterial accent;  // the quill, the name, the best line of the pay table
     InlayMaterial redSuit; // hearts and diamonds
     Color ground;          // behind letters and marks
 };

@@ -90,7 +90,12 @@ Canvas framePiece(FramePiece piece)
     const double stretchY = lying ? 1 : windowHeight / size.height();
     const double left = piece == FramePiece::right ? windowWidth - sideWidth : 0;
     const double top = piece == FramePiece::bottom ? windowHeight - railHeight : 0;
-    const Wood wood({rgb(0x8d5330), rgb(0x45220f), 5, 0.5, 0.8, 1e9, 71});
+    const Wood wood({.light = rgb(0x8d5330),
+                     .dark = rgb(0x45220f),
+                     .bandWidth = 5,
+                     .figure = 0.5,
+                     .pores = 0.8,
+                     .seed = 71});
 
     Canvas canvas(size, tableScale);
     QPainterPath whole;

@@ -56,27 +56,38 @@ FlatDrawing fullDrawing()
     addCard(drawing, {20, 9, 35, 49}, 4.2, 7, 1.5, paper);
     const QTransform leaning =
         QTransform::fromTranslate(37.5, 33.5).rotate(7).translate(-37.5, -33.5);
-    drawing.shapes.push_back({leaning.map(suitMark(Suit::heart, {34, 25}, 21)), suitRed});
-    addQuill(drawing, quill({13, 60}, {62, 7}, 1.25), 1.2, true);
+    drawing.shapes.push_back({leaning.map(suitMark(Suit::heart, {37, 23}, 20)), suitRed});
+    addQuill(drawing, quill({9, 61.5}, {61.8, 25}, 1.15), 1.2, true);
     return drawing;
 }
 
-FlatDrawing middleDrawing()
-{
-    FlatDrawing drawing{32, {}};
-    addCard(drawing, {3, 3, 18, 25}, 2.5, -10, 1.2, wine);
-    addCard(drawing, {9, 3, 19, 26}, 2.5, 4, 1.2, paper);
-    drawing.shapes.push_back({suitMark(Suit::heart, {16.5, 11.5}, 11), suitRed});
-    addQuill(drawing, quill({6, 31}, {31, 7}, 1.7), 1, false);
-    return drawing;
-}
+// Small pictures keep their edges on whole pixels and have no room for turned cards.
+struct SmallIcon {
+    int size;
+    QRectF back;
+    QRectF front;
+    double radius;
+    QPointF heart;
+    double heartHeight;
+    QPointF point;
+    QPointF tip;
+};
 
-FlatDrawing smallDrawing()
+const std::array smallIcons{
+    SmallIcon{16, {}, {1, 0, 13, 16}, 2, {6.5, 5.5}, 7, {2.6, 15.6}, {15.6, 5.6}},
+    SmallIcon{22, {1, 0, 14, 19}, {5, 2, 15, 20}, 2.4, {12, 8.5}, 8.5, {4, 21.6}, {21.6, 8.5}},
+    SmallIcon{24, {1, 0, 16, 21}, {5, 2, 17, 22}, 2.4, {13, 9}, 9.5, {4, 23.6}, {23.6, 9.5}},
+    SmallIcon{32, {2, 1, 20, 27}, {8, 3, 21, 28}, 3, {17.5, 12}, 12.5, {5, 31.4}, {31.5, 12.5}},
+};
+
+FlatDrawing smallDrawing(const SmallIcon& small)
 {
-    FlatDrawing drawing{16, {}};
-    addCard(drawing, {1, 0, 13, 16}, 2, 0, 1, paper);
-    drawing.shapes.push_back({suitMark(Suit::heart, {6, 5.5}, 6), suitRed});
-    addQuill(drawing, quill({3, 15.4}, {15.6, 4}, 2), 0.8, false);
+    FlatDrawing drawing{static_cast<double>(small.size), {}};
+    if (!small.back.isEmpty())
+        addCard(drawing, small.back, small.radius, 0, 1, wine);
+    addCard(drawing, small.front, small.radius, 0, 1, paper);
+    drawing.shapes.push_back({suitMark(Suit::heart, small.heart, small.heartHeight), suitRed});
+    addQuill(drawing, quill(small.point, small.tip, 1.7), 0.8, false);
     return drawing;
 }
 
@@ -117,9 +128,10 @@ QByteArray outline(const QPainterPath& path)
 
 FlatDrawing iconDrawing(int size)
 {
-    if (size < 24)
-        return smallDrawing();
-    return size < 48 ? middleDrawing() : fullDrawing();
+    for (const SmallIcon& small : smallIcons)
+        if (small.size == size)
+            return smallDrawing(small);
+    return fullDrawing();
 }
 
 Canvas icon(int size)

@@ -23,10 +23,10 @@ InlayMaterial ivory()
 void inlay(Canvas& canvas, const QPainterPath& shape, const InlayMaterial& material)
 {
     const Mask body = canvas.mask(shape);
-    canvas.fill(body.blurred(2).without(body), rgb(0x120802, 0.75));
+    canvas.fill(body.blurred(2).without(body), rgb(0x120802, 0.9));
     canvas.shade(body, [&](double x, double y) {
         const double sheen =
-            0.5 + 0.34 * std::sin(0.021 * x + 0.043 * y) + 0.16 * std::sin(0.11 * x - 0.05 * y);
+            0.6 + 0.22 * std::sin(0.021 * x + 0.043 * y) + 0.12 * std::sin(0.11 * x - 0.05 * y);
         return mix(material.dark, material.light, 0.35 + 0.65 * sheen);
     });
     canvas.fill(body.without(body.shifted(1, 1)), rgb(0xffffff, 0.30 * material.bevel));

@@ -23,8 +23,8 @@ constexpr std::array payLines{
     PayLine{"3 OF A KIND", "15"}, PayLine{"2 PAIR", "10"},          PayLine{"HIGH PAIR", "5"},
 };
 
-constexpr Lettering lineLettering{10, 0.15, 0.07, false};
-constexpr Lettering titleLettering{8, 0.155, 0.24, false};
+constexpr Lettering lineLettering{10, 0.15, 0.07};
+constexpr Lettering titleLettering{8, 0.155, 0.24};
 
 void paintGround(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
 {

@@ -79,9 +79,13 @@ void writeIcons(const QString& folder)
 void writePictures(const QString& folder)
 {
     const QString pics = folder + "/pics";
-    writeTable(inFolder(pics, "vpokerwood.jpg"), woodTable());
-    writeTable(inFolder(pics, "vpokerfelt.jpg"), feltTable());
-    writeTable(inFolder(pics, "vpokernight.jpg"), nightTable());
+    const auto write = [&pics](const char* name, Canvas (*draw)()) {
+        const QString path = inFolder(pics, name);
+        writeTable(path, draw());
+    };
+    write("vpokerwood.jpg", woodTable);
+    write("vpokerfelt.jpg", feltTable);
+    write("vpokernight.jpg", nightTable);
     writeFrame(folder + "/frame");
     writeIcons(folder + "/icons");
     writePng(inFolder(folder + "/pointer", "hand.png"), pointingHand(1).toImage());

@@ -1,6 +1,7 @@
 #include "assets/make/pictures/table.h"
 
 #include "assets/make/pictures/cloth.h"
+#include "assets/make/pictures/needlework.h"
 #include "assets/make/pictures/pay_plate.h"
 #include "assets/make/pictures/table_geometry.h"
 #include "assets/make/pictures/wood.h"
@@ -66,7 +67,7 @@ void paintLight(Canvas& canvas, double strength)
         const double away = std::min(1.0, dx * dx + dy * dy);
         return rgb(0x080301, strength * away);
     });
-    sink(canvas, rectanglePath(framedArea), 6, 0.75);
+    sink(canvas, rectanglePath(framedArea), 5, 0.7);
 }
 
 void paintWorks(Canvas& canvas, const Ornament& ornament)
@@ -81,9 +82,25 @@ void paintWorks(Canvas& canvas, const Ornament& ornament)
 Canvas woodTable()
 {
     Canvas canvas(tableSize, tableScale);
-    const Wood rim({rgb(0x7a4526), rgb(0x3a1c0d), 9, 0.4, 0.8, 1e9, 11});
-    const Wood field({rgb(0xc08049), rgb(0x6b3a1c), 15, 1, 1, 150, 23});
-    const Wood sunk({rgb(0x8a5230), rgb(0x47240f), 12, 0.7, 1, 1e9, 37});
+    const Wood rim({.light = rgb(0x9a5c36),
+                    .dark = rgb(0x4a2612),
+                    .bandWidth = 9,
+                    .figure = 0.4,
+                    .pores = 0.8,
+                    .seed = 11});
+    const Wood field({.light = rgb(0xc08049),
+                      .dark = rgb(0x6b3a1c),
+                      .bandWidth = 15,
+                      .figure = 1,
+                      .pores = 1,
+                      .heart = 150,
+                      .seed = 23});
+    const Wood sunk({.light = rgb(0x8a5230),
+                     .dark = rgb(0x47240f),
+                     .bandWidth = 12,
+                     .figure = 0.7,
+                     .pores = 1,
+                     .seed = 37});
     paintRim(canvas, rim);
     canvas.shade(rectanglePath(upperField()), [&](double x, double y) { return field.at(x, y); });
     canvas.shade(rectanglePath(tray()), [&](double x, double y) { return sunk.at(x, y); });
@@ -97,12 +114,21 @@ Canvas woodTable()
 Canvas feltTable()
 {
     Canvas canvas(tableSize, tableScale);
-    const Wood rim({rgb(0x8a4f2b), rgb(0x43210f), 9, 0.4, 0.8, 1e9, 41});
+    const Wood rim({.light = rgb(0x9a5c36),
+                    .dark = rgb(0x4a2612),
+                    .bandWidth = 9,
+                    .figure = 0.4,
+                    .pores = 0.8,
+                    .seed = 41});
     const Felt cloth(rgb(0x1f6b45), 43);
     paintRim(canvas, rim);
     canvas.shade(rectanglePath(playField), [&](double x, double y) { return cloth.at(x, y); });
     sink(canvas, rectanglePath(playField), 6, 0.8);
     paintLight(canvas, 0.45);
+    QPainterPath seam = rectanglePath(playField.adjusted(3, 3, -3, -3));
+    seam.moveTo(playField.left() + 3, trayTop);
+    seam.lineTo(playField.right() - 3, trayTop);
+    sew(canvas, seam, rgb(0xc9b98a));
     paintWorks(canvas, {brass(), ivory(), {rgb(0xe0604a), rgb(0xa83526), 0.8}, rgb(0x0b2a1b)});
     return canvas;
 }
@@ -110,13 +136,22 @@ Canvas feltTable()
 Canvas nightTable()
 {
     Canvas canvas(tableSize, tableScale);
-    const Wood rim({rgb(0x6a4630), rgb(0x2e1b10), 9, 0.4, 0.8, 1e9, 53});
+    const Wood rim({.light = rgb(0x7d563b),
+                    .dark = rgb(0x3a2315),
+                    .bandWidth = 9,
+                    .figure = 0.4,
+                    .pores = 0.8,
+                    .seed = 53});
     const Leather hide(rgb(0x23365f), 59);
     paintRim(canvas, rim);
     canvas.shade(rectanglePath(playField), [&](double x, double y) { return hide.at(x, y); });
     sink(canvas, rectanglePath(playField), 6, 0.8);
     paintLight(canvas, 0.45);
-    paintWorks(canvas, {silver(), ivory(), {rgb(0xd8685a), rgb(0xa03a34), 0.8}, rgb(0x0d1526)});
+    const InlayMaterial wornFoil{rgb(0xa9b3c4), rgb(0x6f7a8e), 0.6};
+    tool(canvas, playField.adjusted(1, 1, -1, -0.5), wornFoil);
+    inlay(canvas, rectanglePath({playField.left() + 5.4, trayTop, playField.width() - 10.8, 0.8}),
+          wornFoil);
+    paintWorks(canvas, {silver(), brass(), {rgb(0xd8685a), rgb(0xa03a34), 0.8}, rgb(0x0d1526)});
     return canvas;
 }
 

@@ -12,8 +12,8 @@ Wood::Wood(const WoodLook& look) : m_look(look), m_warp(look.seed), m_fibre(look
 double Wood::rings(double along, double across) const
 {
     double depth = across;
-    if (m_look.heart < 1e8) {
-        const double aside = across - m_look.heart;
+    if (m_look.heart) {
+        const double aside = across - *m_look.heart;
         const double below = 34 + 0.085 * along;
         depth = std::sqrt(aside * aside + below * below);
     }

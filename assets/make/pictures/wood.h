@@ -3,6 +3,8 @@
 #include "assets/make/pictures/canvas.h"
 #include "assets/make/pictures/noise.h"
 
+#include <optional>
+
 namespace quillet
 {
 
@@ -13,7 +15,8 @@ struct WoodLook {
     double bandWidth = 16; // from one broad growth ring to the next
     double figure = 1;     // how far the rings wander, 0 for ruled lines
     double pores = 1;      // how plainly the short dark pores show
-    double heart = 1e9;    // where across the grain the rings close into arches
+    std::optional<double> heart =
+        std::nullopt; // where across the grain the rings close into arches
     std::uint32_t seed = 1;
 };
 
