@@ -4,6 +4,7 @@ add_library(quillet_artwork STATIC EXCLUDE_FROM_ALL
     make/pictures/canvas.cpp
     make/pictures/cloth.cpp
     make/pictures/emblem.cpp
+    make/pictures/flat_drawing.cpp
     make/pictures/frame.cpp
     make/pictures/icon.cpp
     make/pictures/inlay.cpp

@@ -4,11 +4,11 @@
 
 #include <QTransform>
 
+#include <array>
 #include <cmath>
 #include <map>
 #include <sstream>
 #include <stdexcept>
-#include <string>
 
 namespace quillet
 {
@@ -61,6 +61,15 @@ const std::map<char, const char*>& strokes()
     return table;
 }
 
+template <std::size_t count>
+std::array<double, count> numbers(std::istringstream& code)
+{
+    std::array<double, count> values{};
+    for (double& value : values)
+        code >> value;
+    return values;
+}
+
 // Joins the strokes of one letter. Every part turns clockwise, as Qt's stroker does; if one turned
 // the other way, its overlaps with the rest would be holes.
 class Pen
@@ -90,19 +99,15 @@ QPainterPath Pen::write(const char* code)
     std::istringstream input(code);
     char command = 0;
     while (input >> command) {
-        double x = 0;
-        double y = 0;
-        if (command == 'M' || command == 'L') {
-            input >> x >> y;
-            if (command == 'M') {
-                finishStroke();
-                m_stroke.moveTo(inside(x, y));
-            } else {
-                m_stroke.lineTo(inside(x, y));
-            }
+        if (command == 'M') {
+            finishStroke();
+            const auto [x, y] = numbers<2>(input);
+            m_stroke.moveTo(inside(x, y));
+        } else if (command == 'L') {
+            const auto [x, y] = numbers<2>(input);
+            m_stroke.lineTo(inside(x, y));
         } else if (command == 'C') {
-            double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-            input >> x1 >> y1 >> x2 >> y2 >> x >> y;
+            const auto [x1, y1, x2, y2, x, y] = numbers<6>(input);
             m_stroke.cubicTo(inside(x1, y1), inside(x2, y2), inside(x, y));
         } else if (command == 'A') {
             addArc(input);
@@ -118,8 +123,7 @@ QPainterPath Pen::write(const char* code)
 
 void Pen::addArc(std::istringstream& code)
 {
-    double cx = 0, cy = 0, rx = 0, ry = 0, from = 0, sweep = 0;
-    code >> cx >> cy >> rx >> ry >> from >> sweep;
+    const auto [cx, cy, rx, ry, from, sweep] = numbers<6>(code);
     const QRectF box(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry));
     if (m_stroke.elementCount() == 0)
         m_stroke.arcMoveTo(box, from);
@@ -128,8 +132,7 @@ void Pen::addArc(std::istringstream& code)
 
 void Pen::addEllipse(std::istringstream& code)
 {
-    double cx = 0, cy = 0, rx = 0, ry = 0;
-    code >> cx >> cy >> rx >> ry;
+    const auto [cx, cy, rx, ry] = numbers<4>(code);
     finishStroke();
     m_stroke.addEllipse(QRectF(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry)));
     finishStroke();
@@ -137,8 +140,7 @@ void Pen::addEllipse(std::istringstream& code)
 
 void Pen::addSlant(std::istringstream& code)
 {
-    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-    code >> x1 >> y1 >> x2 >> y2;
+    const auto [x1, y1, x2, y2] = numbers<4>(code);
     finishStroke();
     const double half = m_weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
     const double left1 = x1 + m_weight / 2 - half;

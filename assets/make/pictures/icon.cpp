@@ -91,39 +91,6 @@ FlatDrawing smallDrawing(const SmallIcon& small)
     return drawing;
 }
 
-QByteArray number(double value)
-{
-    return QByteArray::number(value, 'f', 3);
-}
-
-QByteArray point(const QPainterPath::Element& element)
-{
-    return number(element.x) + ' ' + number(element.y);
-}
-
-QByteArray outline(const QPainterPath& path)
-{
-    QByteArray code;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        switch (element.type) {
-        case QPainterPath::MoveToElement:
-            code += 'M' + point(element);
-            break;
-        case QPainterPath::LineToElement:
-            code += 'L' + point(element);
-            break;
-        case QPainterPath::CurveToElement:
-            code += 'C' + point(element);
-            break;
-        case QPainterPath::CurveToDataElement:
-            code += ' ' + point(element);
-            break;
-        }
-    }
-    return code + 'Z';
-}
-
 } // namespace
 
 FlatDrawing iconDrawing(int size)
@@ -132,30 +99,6 @@ FlatDrawing iconDrawing(int size)
         if (small.size == size)
             return smallDrawing(small);
     return fullDrawing();
-}
-
-Canvas icon(int size)
-{
-    const FlatDrawing drawing = iconDrawing(size);
-    const int side = static_cast<int>(drawing.side);
-    Canvas canvas(QSize(side, side), size / drawing.side);
-    for (const FlatShape& shape : drawing.shapes)
-        canvas.fill(shape.path, shape.color);
-    return canvas;
-}
-
-QByteArray toSvg(const FlatDrawing& drawing)
-{
-    const QByteArray side = QByteArray::number(drawing.side);
-    QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + side + "\" height=\"" +
-                     side + "\" viewBox=\"0 0 " + side + ' ' + side + "\">\n";
-    for (const FlatShape& shape : drawing.shapes) {
-        const QColor color = QColor::fromRgbF(shape.color.r, shape.color.g, shape.color.b);
-        const bool winding = shape.path.fillRule() == Qt::WindingFill;
-        svg += "<path fill=\"" + color.name().toLatin1() + "\" fill-rule=\"" +
-               (winding ? "nonzero" : "evenodd") + "\" d=\"" + outline(shape.path) + "\"/>\n";
-    }
-    return svg + "</svg>\n";
 }
 
 } // namespace quillet

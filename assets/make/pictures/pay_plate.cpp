@@ -56,12 +56,21 @@ void paintTitle(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
     inlay(canvas, suitMark(Suit::diamond, {middle, y}, 7.5), ornament.metal);
 }
 
-} // namespace
-
-void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+// Dots from the name of a hand to its credits. All lines share one grid, so that their dots stand
+// in columns.
+void addLeader(QPainterPath& dots, double from, double to, double gridRight, double y)
 {
-    paintGround(canvas, ornament, plate);
-    paintTitle(canvas, ornament, plate);
+    constexpr double apart = 5;
+    constexpr int columns = 50;
+    for (int i = 0; i < columns; ++i) {
+        const double x = gridRight - apart * i;
+        if (x > from + apart && x < to - apart)
+            dots.addEllipse(QPointF(x, y), 0.6, 0.6);
+    }
+}
+
+void paintLines(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+{
     const double left = plate.left() + 20;
     const double right = plate.right() - 20;
     double baseline = plate.top() + 56;
@@ -76,15 +85,21 @@ void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate
         inlay(canvas, hand.translated(left - hand.boundingRect().left(), baseline), material);
         inlay(canvas, credits.translated(creditsLeft - credits.boundingRect().left(), baseline),
               material);
-        // All leaders share one grid, so that the dots stand in columns.
-        for (double x = right - 42; x > left; x -= 5)
-            if (x < creditsLeft - 5 && x > handRight + 5)
-                dots.addEllipse(QPointF(x, baseline - 1), 0.6, 0.6);
+        addLeader(dots, handRight, creditsLeft, right - 42, baseline - 1);
         baseline += 19.5;
     }
     Color dim = ornament.metal.dark;
     dim.a = 0.75F;
     canvas.fill(dots, dim);
+}
+
+} // namespace
+
+void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
+{
+    paintGround(canvas, ornament, plate);
+    paintTitle(canvas, ornament, plate);
+    paintLines(canvas, ornament, plate);
 }
 
 } // namespace quillet

@@ -70,7 +70,8 @@ void writeFrame(const QString& folder)
 void writeIcons(const QString& folder)
 {
     for (const int size : iconSizes)
-        writePng(inFolder(folder, QString("quillet-%1.png").arg(size)), icon(size).toImage());
+        writePng(inFolder(folder, QString("quillet-%1.png").arg(size)),
+                 toPixels(iconDrawing(size), size).toImage());
     writeText(inFolder(folder, "quillet.svg"), toSvg(iconDrawing(iconSizes.back())));
 }
 

@@ -33,7 +33,7 @@ double vaneReach(double x, bool trailing)
 double partedReach(double x, bool trailing)
 {
     constexpr std::array trailingGaps{0.47, 0.66};
-    constexpr std::array leadingGaps{0.40, 0.56};
+    constexpr std::array leadingGaps{0.40, 0.563};
     double reach = vaneReach(x, trailing);
     for (const double gap : trailing ? trailingGaps : leadingGaps) {
         const double distance = (x - gap) / 0.022;
@@ -70,11 +70,13 @@ QPainterPath vane(double breadth)
 QPainterPath barbs(double breadth)
 {
     QPainterPath lines;
-    for (double x = vaneBegins + 0.03; x < 0.94; x += 0.026)
+    for (int i = 0; i < 25; ++i) {
+        const double x = vaneBegins + 0.03 + 0.026 * i;
         for (const bool trailing : {false, true}) {
             lines.moveTo(x - 0.012, -spine(x - 0.012));
             lines.lineTo(barbEnd(x, trailing, 0.88, breadth));
         }
+    }
     return stroked(lines, 0.0045);
 }
 

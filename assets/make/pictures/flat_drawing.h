@@ -1,0 +1,26 @@
+#pragma once
+
+#include "assets/make/pictures/canvas.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace quillet
+{
+
+// A drawing in plain colours, its parts from the lowest to the topmost, in a square box.
+struct FlatShape {
+    QPainterPath path;
+    Color color;
+};
+struct FlatDrawing {
+    double side = 64;
+    std::vector<FlatShape> shapes;
+};
+
+// The drawing in a picture of `size` by `size` pixels.
+[[nodiscard]] Canvas toPixels(const FlatDrawing& drawing, int size);
+[[nodiscard]] QByteArray toSvg(const FlatDrawing& drawing);
+
+} // namespace quillet
