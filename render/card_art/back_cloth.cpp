@@ -1,7 +1,6 @@
 #include "render/card_art/back_field.h"
 
-#include <QPainterPath>
-#include <QPen>
+#include <QImage>
 
 #include <array>
 #include <cmath>
@@ -11,99 +10,110 @@ namespace quillet
 namespace
 {
 
-// One stripe of the sett, measured from the middle of its repeat.
+// A stripe of the tartan and how far it reaches from the middle of the repeat to either side.
 struct Stripe {
-    double from;
-    double width;
+    double reach;
     QRgb colour;
 };
 
-constexpr double sett = 28;
-constexpr std::array<Stripe, 7> stripes = {{
-    {-9, 18, 0xff1d2f5c},
-    {-1, 2, 0xffe7c25a},
-    {-7, 1, 0xff0c1730},
-    {6, 1, 0xff0c1730},
-    {-14, 3, 0xffb3202c},
-    {11, 3, 0xffb3202c},
-    {-0.5, 1, 0xfff8e9b8},
+constexpr double halfRepeat = 14;
+constexpr std::array<Stripe, 8> sett = {{
+    {0.75, 0xfff3cf5c},
+    {4.5, 0xff1f6a48},
+    {5.5, 0xff10202c},
+    {7, 0xff1f6a48},
+    {8, 0xff10202c},
+    {12, 0xff23407c},
+    {12.75, 0xff10202c},
+    {halfRepeat, 0xffd02c35},
 }};
 
-// Every stripe lies on whole device pixels: cloth this fine turns to mud otherwise.
-void paintStripes(QPainter& painter, const CardCanvas& canvas, bool upright, double opacity)
+QRgb threadAt(double fromMiddle)
 {
-    painter.setOpacity(opacity);
-    const double middle = upright ? 48 : 65;
-    for (double repeat = middle - 3 * sett; repeat < middle + 3.5 * sett; repeat += sett) {
-        for (const Stripe& stripe : stripes) {
-            const double from = repeat + stripe.from;
-            const double to = from + stripe.width;
-            const QRectF bar =
-                upright
-                    ? QRectF(QPointF(canvas.snappedX(from), 0), QPointF(canvas.snappedX(to), 130))
-                    : QRectF(QPointF(0, canvas.snappedY(from)), QPointF(96, canvas.snappedY(to)));
-            painter.fillRect(bar, QColor::fromRgba(stripe.colour));
-        }
-    }
-    painter.setOpacity(1);
+    const double folded = std::abs(std::remainder(fromMiddle, 2 * halfRepeat));
+    for (const Stripe& stripe : sett)
+        if (folded <= stripe.reach)
+            return stripe.colour;
+    return sett.back().colour;
 }
 
-void paintTwill(QPainter& painter)
+QRgb mixed(QRgb first, QRgb second, int firstShare)
 {
-    QPainterPath lines;
-    for (double x = -124; x < 96; x += 3) {
-        lines.moveTo(x, 126);
-        lines.lineTo(x + 122, 4);
+    const auto channel = [&](int a, int b) {
+        return (a * firstShare + b * (16 - firstShare)) / 16;
+    };
+    return qRgb(channel(qRed(first), qRed(second)), channel(qGreen(first), qGreen(second)),
+                channel(qBlue(first), qBlue(second)));
+}
+
+// Woven thread by thread: every device pixel shows a little more of the thread that lies above
+// there, in the slanted steps of a twill.
+QImage tartan(const CardCanvas& canvas, QSize size)
+{
+    QImage cloth(size, QImage::Format_RGB32);
+    const int step = 2 * canvas.lineWidth(1);
+    for (int y = 0; y < size.height(); ++y) {
+        auto* const row = reinterpret_cast<QRgb*>(cloth.scanLine(y));
+        const QRgb weft = threadAt((y + 0.5) / canvas.scaleY() - 65);
+        for (int x = 0; x < size.width(); ++x) {
+            const QRgb warp = threadAt((x + 0.5) / canvas.scaleX() - 48);
+            const bool warpAbove = (x + y) / step % 2 == 0;
+            row[x] = mixed(warp, weft, warpAbove ? 11 : 5);
+        }
     }
-    painter.strokePath(lines, QPen(QColor(0, 0, 0, 38), 1));
+    return cloth;
 }
 
 constexpr double pitch = 11;
-constexpr double ribbon = 9.4;
+constexpr double ribbon = 9.6;
 
-void paintRibbon(QPainter& painter, QRectF piece, QRgb colour, QRgb shade, bool upright)
+// A ribbon's piece that lies on top, upright at the origin. Its ends dip under the neighbours.
+void paintRibbon(QPainter& painter, QRgb colour, QRgb shade)
 {
-    painter.fillRect(piece, QColor::fromRgba(colour));
-    const QColor edge = QColor::fromRgba(shade);
-    if (upright) {
-        painter.fillRect(QRectF(piece.left(), piece.top(), 1, piece.height()), edge);
-        painter.fillRect(QRectF(piece.right() - 1, piece.top(), 1, piece.height()), edge);
-        painter.fillRect(QRectF(piece.center().x() - 0.5, piece.top(), 1, piece.height()), edge);
-    } else {
-        painter.fillRect(QRectF(piece.left(), piece.top(), piece.width(), 1), edge);
-        painter.fillRect(QRectF(piece.left(), piece.bottom() - 1, piece.width(), 1), edge);
-        painter.fillRect(QRectF(piece.left(), piece.center().y() - 0.5, piece.width(), 1), edge);
-    }
+    constexpr double reach = pitch - ribbon / 2;
+    constexpr double edge = ribbon / 2;
+    const auto bar = [&](double x, double width, QRgb paint) {
+        painter.fillRect(QRectF(x, -reach, width, 2 * reach), QColor::fromRgba(paint));
+    };
+    bar(-edge, ribbon, colour);
+    bar(-edge, 1, shade);
+    bar(edge - 1, 1, shade);
+    bar(-0.6, 1.2, shade);
+    for (const double end : {-reach, reach - 1.8})
+        painter.fillRect(QRectF(-edge, end, ribbon, 1.8), QColor(30, 0, 10, 90));
 }
 
 } // namespace
 
 void paintPlaid(CardCanvas& canvas)
 {
-    paintField(canvas, 0xff1f5a41, 0xff0c1730, [&](QPainter& painter) {
-        paintStripes(painter, canvas, true, 1);
-        painter.fillRect(QRectF(0, 0, 96, 130), QColor(31, 90, 65, 70));
-        paintStripes(painter, canvas, false, 0.55);
-        paintTwill(painter);
+    const QImage cloth = tartan(canvas, canvas.image().size());
+    paintField(canvas, 0xff1f6a48, 0xff10202c, [&](QPainter& painter) {
+        painter.resetTransform();
+        painter.drawImage(0, 0, cloth);
     });
 }
 
 void paintWeave(CardCanvas& canvas)
 {
-    paintField(canvas, 0xff3a1420, 0xff7b1f33, [](QPainter& painter) {
+    paintField(canvas, 0xff3a1420, 0xff6e1a2e, [](QPainter& painter) {
         painter.translate(48, 65);
         painter.rotate(45);
         constexpr int reach = 8;
         for (int row = -reach; row <= reach; ++row) {
             for (int column = -reach; column <= reach; ++column) {
-                const double x = column * pitch - ribbon / 2;
-                const double y = row * pitch - ribbon / 2;
-                const QRectF across(x - (pitch - ribbon), y, 2 * pitch - ribbon, ribbon);
-                const QRectF down(x, y - (pitch - ribbon), ribbon, 2 * pitch - ribbon);
-                if ((row + column) % 2 == 0)
-                    paintRibbon(painter, across, 0xfff3e6c8, 0xffcdb27f, false);
-                else
-                    paintRibbon(painter, down, 0xffb3273f, 0xff84152b, true);
+                // The corners of the turned square lie outside the card.
+                if (std::abs(row + column) > 13 || std::abs(row - column) > 10)
+                    continue;
+                painter.save();
+                painter.translate(column * pitch, row * pitch);
+                if ((row + column) % 2 == 0) {
+                    painter.rotate(90);
+                    paintRibbon(painter, 0xfff5e9cd, 0xffcfb583);
+                } else {
+                    paintRibbon(painter, 0xffb92a43, 0xff85162c);
+                }
+                painter.restore();
             }
         }
     });

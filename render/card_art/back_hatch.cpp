@@ -13,8 +13,7 @@ namespace
 constexpr QRgb ink = 0xffb98a2e;
 constexpr QRgb paper = 0xffffffff;
 
-// How far a pixel lies inside the card with rounded corners; negative outside. Coordinates are
-// doubled, so that the middle of a pixel and the middle of the card are whole numbers.
+// How far the middle of a pixel lies inside the card with rounded corners; negative outside.
 double depthInside(int x, int y, QSize size, double radius)
 {
     const double fromSide = std::min(x, size.width() - 1 - x) + 0.5;
@@ -32,9 +31,10 @@ QImage hatchPicture(QSize deviceSize)
     picture.fill(paper);
     const double scale = deviceSize.width() / double(cardArtWidth);
     const int line = std::max(1, static_cast<int>(std::lround(scale)));
-    const int period = std::max(4, static_cast<int>(std::lround(12 * scale)) / 2 * 2);
+    // Where a line is rounded up, the lattice is wider, so that the ink stays below a quarter.
+    const int period = static_cast<int>(std::lround(8 * std::max(scale, double(line)))) * 2;
     const double radius = 6 * scale;
-    const int innerFrom = static_cast<int>(std::lround(4 * scale));
+    const int innerFrom = static_cast<int>(std::lround(3 * scale));
 
     // Measured from the middle outwards, the lattice is its own mirror image both ways.
     const auto onLattice = [&](int x, int y) {

@@ -9,8 +9,8 @@ void paintCastle(CardCanvas& canvas)
     const Palette palette{{'a', 0xff6d4a8c}, {'b', 0xffb0608a}, {'c', 0xfff0956a},
                           {'y', 0xfffff0c0}, {'s', 0xff4a4462}, {'t', 0xff655e80},
                           {'d', 0xff231d38}, {'r', 0xffc8342e}, {'w', 0xffffd76a},
-                          {'g', 0xff3c5a3a}, {'h', 0xff2a4230}, {'m', 0xff7e6fa8},
-                          {'p', 0xffd9b98a}};
+                          {'g', 0xff3c5a3a}, {'h', 0xff2a4230}, {'k', 0xff4a3324},
+                          {'m', 0xff7e6fa8}, {'p', 0xffd9b98a}};
     paintField(canvas, 0xff3a2f66, 0xff231d38, [&](QPainter& painter) {
         paintPicture(painter, R"(
             a- R0 34 96 96; b- R0 56 96 74; c- R0 74 96 60; y- O70 40 13;
@@ -32,7 +32,8 @@ void paintCastle(CardCanvas& canvas)
             :wd.5 R35.6 72 3.4 5;
             g- M0 106 C20 96 70 92 96 104 L96 130 L0 130 Z;
             pd.6 M45 94 L51 94 C52 104 66 106 62 126 L38 126 C44 110 46 104 45 94 Z;
-            :hd.6 M12 112 C8 110 8 104 12 102 C11 97 18 96 19 101 C24 101 24 108 20 110 C18 113 14 113 12 112 Z;
+            :kd.5 R13.8 112 2.4 5; :hd.6 M15 92 L20 101 L17.6 101 L22 108 L18.6 108 L24 115 L6 115 L11.4 108 L8 108 L12.4 101 L10 101 Z;
+            :kd.5 R24 114 1.6 3.4; :gd.6 M24.8 103 L29.6 115 L20 115 Z;
         )",
                      palette, 48);
     });

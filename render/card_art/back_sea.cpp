@@ -30,8 +30,42 @@ constexpr std::string_view scallop = R"(
     :l- M-3 24.4 L-26.6 -8.4 C-28.2 -6.4 -28.4 -4 -27.4 -1.8 Z;
     l- M0 24 L-3 -23.6 C-1.6 -24.4 1.6 -24.4 3 -23.6 Z;
     :-d.7 M0 25 L-8.4 -24.6; :-d.7 M-1 25 L-16.2 -22; :-d.7 M-2 25 L-23 -17; :-d.7 M-3 25 L-28 -10;
-    |-p1 M0 -14 C-8 -14 -16 -10 -20 -3; |-p1 M0 -4 C-6 -4 -12 -1 -15 4; |-p1 M0 5 C-4 5 -8 7 -10 10;
 )";
+
+// Bands of growth, along the edge of the scallop.
+constexpr std::string_view growth = R"(
+    :-p1 M0 -25 C-3 -27.4 -6.6 -27 -8.4 -24.6 C-11.6 -26.4 -15 -25 -16.2 -22 C-19.8 -22.6 -22.6 -20.4 -23 -17
+        C-26.6 -16.4 -28.6 -13.4 -28 -10 C-31 -8 -31.4 -4 -29.4 -1.4;
+)";
+
+void paintScallop(QPainter& painter, QPointF middle, double size, const Palette& palette)
+{
+    painter.save();
+    painter.translate(middle);
+    painter.scale(size, size);
+    paintPicture(painter, scallop, palette);
+    for (const double share : {0.84, 0.66, 0.46}) {
+        painter.save();
+        painter.translate(0, 25 * (1 - share));
+        painter.scale(share, share);
+        paintPicture(painter, growth, palette);
+        painter.restore();
+    }
+    painter.restore();
+}
+
+// Rows of overlapping scales, the lower ones in front.
+void paintWaves(QPainter& painter, QRgb ground, QRgb line)
+{
+    painter.setPen(QPen(QColor::fromRgba(line), 1));
+    painter.setBrush(QColor::fromRgba(ground));
+    for (int row = 0; row < 18; ++row)
+        for (int column = -1; column < 7; ++column) {
+            const QPointF middle(column * 16 + (row % 2 == 0 ? 0 : 8), 8 + row * 8);
+            for (const double radius : {9.0, 6.0, 3.0})
+                painter.drawEllipse(middle, radius, radius);
+        }
+}
 
 } // namespace
 
@@ -73,21 +107,19 @@ void paintShell(CardCanvas& canvas)
     const Palette palette{{'b', 0xfff3a48c}, {'l', 0xfffbd9c4}, {'d', 0xff6b2437},
                           {'n', 0xffe58b76}, {'p', 0xffd9765f}, {'g', 0xffe8c46a},
                           {'w', 0xfffff8ee}, {'t', 0xff2b7f86}};
-    paintField(canvas, 0xff12565f, 0xff0a3338, [&](QPainter& painter) {
-        for (int row = 0; row < 9; ++row) {
-            for (int column = -1; column < 7; ++column) {
-                const QPointF middle(column * 16 + (row % 2 == 0 ? 6 : 14), row * 16);
-                painter.setPen(QPen(QColor::fromRgba(palette['t']), 1.2));
-                painter.setBrush(Qt::NoBrush);
-                for (const double radius : {8.0, 5.0, 2.0})
-                    painter.drawArc(QRectF(middle.x() - radius, middle.y() + 6 - radius, 2 * radius,
-                                           2 * radius),
-                                    0, 180 * 16);
-            }
+    const QRgb ground = 0xff12565f;
+    paintField(canvas, ground, 0xff0a3338, [&](QPainter& painter) {
+        paintWaves(painter, ground, palette['t']);
+        for (int corner = 0; corner < 4; ++corner) {
+            const double x = corner % 2 == 0 ? 21 : 75;
+            const double y = corner < 2 ? 22 : 110;
+            paintScallop(painter, {x, y}, corner < 2 ? 0.36 : -0.36,
+                         palette.with({{'b', palette['g']},
+                                       {'l', palette['w']},
+                                       {'n', palette['g']},
+                                       {'p', palette['g']}}));
         }
-        painter.translate(48, 65);
-        painter.scale(1.12, 1.12);
-        paintPicture(painter, scallop, palette);
+        paintScallop(painter, {48, 64}, 1.14, palette);
     });
 }
 

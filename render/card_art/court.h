@@ -6,7 +6,7 @@ namespace quillet
 {
 
 // The colours of a court. Six in all: w white, k black, r red, g gold, b blue, s skin; the roles
-// R robe, L lining, P pattern, H hair and C cap stand for some of them.
+// R robe, L lining, P pattern, H hair, C cap and S sash stand for some of them.
 [[nodiscard]] Palette courtPalette(int rank, int suit);
 
 // Upper half figures on the grid, looking out of the court's frame. What lies below the slanted

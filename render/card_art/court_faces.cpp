@@ -32,7 +32,7 @@ struct Roles {
 // Jacks, queens, kings; clubs, diamonds, hearts, spades.
 constexpr std::array<std::array<Roles, 4>, 3> rolesOf = {{
     {{{blue, red, gold, gold, red},
-      {red, blue, gold, black, blue},
+      {red, blue, gold, black, red},
       {red, gold, white, gold, red},
       {blue, black, gold, black, black}}},
     {{{blue, gold, gold, black, blue},
@@ -51,7 +51,7 @@ void paintSash(QPainter& painter, const Palette& palette)
     painter.translate(48, 65);
     painter.shear(0, slope);
     paintPicture(painter,
-                 "kk0 R-28 -4 56 8; g- R-28 -3.2 56 6.4; k- R-28 -2 56 4; L- R-28 -1.4 56 2.8;",
+                 "kk0 R-28 -4 56 8; g- R-28 -3.2 56 6.4; k- R-28 -2 56 4; S- R-28 -1.4 56 2.8;",
                  palette);
     for (double x = -24; x <= 24; x += 6) {
         painter.save();
@@ -88,7 +88,11 @@ void paintFigure(CardCanvas& canvas, int rank, int suit)
     constexpr std::array painters = {&paintJack, &paintQueen, &paintKing};
     painters[static_cast<std::size_t>(rank - 11)](painter, suit, palette);
     paintSash(painter, palette);
-    paintPip(painter, suit, {canvas.snappedX(31.5), canvas.snappedY(19.5)}, 16, suitColour(suit));
+
+    // A white rim keeps the mark apart from the hat or veil that it touches.
+    const QPointF mark(canvas.snappedX(31), canvas.snappedY(18.5));
+    paintPip(painter, suit, mark, 17.5, white);
+    paintPip(painter, suit, mark, 15, suitColour(suit));
 }
 
 } // namespace
@@ -97,9 +101,11 @@ Palette courtPalette(int rank, int suit)
 {
     const Roles& roles =
         rolesOf[static_cast<std::size_t>(rank - 11)][static_cast<std::size_t>(suit)];
-    return {{'w', white},         {'k', black},      {'r', red},        {'g', gold},
-            {'b', blue},          {'s', skin},       {'R', roles.robe}, {'L', roles.lining},
-            {'P', roles.pattern}, {'H', roles.hair}, {'C', roles.cap}};
+    return {
+        {'w', white},      {'k', black},        {'r', red},
+        {'g', gold},       {'b', blue},         {'s', skin},
+        {'R', roles.robe}, {'L', roles.lining}, {'P', roles.pattern},
+        {'H', roles.hair}, {'C', roles.cap},    {'S', roles.lining == gold ? red : roles.lining}};
 }
 
 void paintCourtFace(CardCanvas& canvas, int rank, int suit)

@@ -15,7 +15,7 @@ namespace
 
 constexpr double indexCentre = 12;
 constexpr double indexTop = 7;
-constexpr double indexPipHeight = 14.5;
+constexpr double indexPipHeight = 15;
 constexpr double bodyPipHeight = 18;
 
 // Body pips on the grid. Those of the upper half have a turned partner in the lower one, those
@@ -57,24 +57,27 @@ const PipLayout& layoutOf(int rank)
     return layouts[static_cast<std::size_t>(rank)];
 }
 
-// The right column mirrors the left one exactly, also where the width is odd.
-QPointF snapped(const CardCanvas& canvas, QPointF place)
+// Paints a pip with its top and bottom on whole device pixels. The right column mirrors the left
+// one exactly, also where the width is odd.
+void paintCrispPip(CardCanvas& canvas, int suit, QPointF place, double height)
 {
-    const double y = canvas.snappedY(place.y());
-    if (place.x() < middle)
-        return {canvas.snappedX(place.x()), y};
-    return {place.x() > middle ? 2 * middle - canvas.snappedX(2 * middle - place.x()) : middle, y};
+    const double x = place.x() < middle   ? canvas.snappedX(place.x())
+                     : place.x() > middle ? 2 * middle - canvas.snappedX(2 * middle - place.x())
+                                          : middle;
+    const double crispHeight = canvas.snappedY(height);
+    const double y = canvas.snappedY(place.y() - crispHeight / 2) + crispHeight / 2;
+    QPainter painter;
+    canvas.begin(painter);
+    paintPip(painter, suit, {x, y}, crispHeight, suitColour(suit));
 }
 
 void paintAce(CardCanvas& canvas, int suit)
 {
     canvas.turnUpperHalf();
+    if (suit != Spades)
+        return paintCrispPip(canvas, suit, {middle, centre}, 44);
     QPainter painter;
     canvas.begin(painter);
-    if (suit != Spades) {
-        paintPip(painter, suit, {middle, centre}, 38, suitColour(suit));
-        return;
-    }
     paintPip(painter, suit, {middle, centre}, 62, cardBlack);
     paintPip(painter, suit, {middle, centre - 0.5}, 54, 0xffffffff);
     paintPip(painter, suit, {middle, centre - 0.5}, 51, cardBlack);
@@ -98,10 +101,8 @@ void paintIndex(CardCanvas& canvas, int rank, int suit)
     painter.fillPath(rankOutline(rank, indexCentre, indexTop, canvas.scaleX(), canvas.scaleY()),
                      QColor::fromRgba(suitColour(suit)));
     painter.end();
-    canvas.begin(painter);
-    const double y = indexTop + rankHeight + 3 + indexPipHeight / 2;
-    paintPip(painter, suit, {canvas.snappedX(indexCentre), canvas.snappedY(y)}, indexPipHeight,
-             suitColour(suit));
+    paintCrispPip(canvas, suit, {indexCentre, indexTop + rankHeight + 3 + indexPipHeight / 2},
+                  indexPipHeight);
 }
 
 void paintNumberFace(CardCanvas& canvas, int rank, int suit)
@@ -113,10 +114,8 @@ void paintNumberFace(CardCanvas& canvas, int rank, int suit)
     }
     const PipLayout& layout = layoutOf(rank);
     const auto paint = [&](const std::vector<QPointF>& places) {
-        QPainter painter;
-        canvas.begin(painter);
         for (const QPointF place : places)
-            paintPip(painter, suit, snapped(canvas, place), bodyPipHeight, suitColour(suit));
+            paintCrispPip(canvas, suit, place, bodyPipHeight);
     };
     paint(layout.upper);
     canvas.turnUpperHalf();
