@@ -1,0 +1,182 @@
+#include "tests/render/card_pixels.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+namespace quillet::test
+{
+namespace
+{
+
+bool isInk(QRgb pixel)
+{
+    return qGray(pixel) < 230;
+}
+
+bool isMarked(const QImage& marks, int x, int y)
+{
+    return marks.constScanLine(y)[x] != 0;
+}
+
+// The inked pixels of a face that hang together with its upper left index. The card's edge, two
+// pixels, is left out.
+QImage indexOf(const QImage& card)
+{
+    QImage found(card.size(), QImage::Format_Grayscale8);
+    found.fill(0);
+    std::vector<QPoint> open;
+    for (int y = 6; y < 50; ++y)
+        for (int x = 4; x < 12; ++x)
+            if (isInk(card.pixel(x, y)))
+                open.emplace_back(x, y);
+    while (!open.empty()) {
+        const QPoint at = open.back();
+        open.pop_back();
+        const bool inside = QRect(2, 2, card.width() - 4, card.height() - 4).contains(at);
+        if (!inside || isMarked(found, at.x(), at.y()) || !isInk(card.pixel(at)))
+            continue;
+        found.scanLine(at.y())[at.x()] = 1;
+        for (int dy = -1; dy <= 1; ++dy)
+            for (int dx = -1; dx <= 1; ++dx)
+                open.emplace_back(at.x() + dx, at.y() + dy);
+    }
+    return found;
+}
+
+// The vertical runs of inked rows in an index: the rank, then the suit mark.
+std::vector<int> runsOf(const QImage& index)
+{
+    std::vector<int> runs;
+    bool inRun = false;
+    for (int y = 0; y < index.height(); ++y) {
+        const uchar* row = index.constScanLine(y);
+        const bool inked = std::any_of(row, row + index.width(), [](uchar p) { return p != 0; });
+        if (inked && !inRun)
+            runs.push_back(0);
+        if (inked)
+            ++runs.back();
+        inRun = inked;
+    }
+    return runs;
+}
+
+// How many clear pixels lie between the index and the nearest other ink.
+int clearance(const QImage& card, const QImage& index)
+{
+    int nearest = card.width();
+    for (int y = 2; y < 60; ++y)
+        for (int x = 2; x < 60; ++x) {
+            if (isMarked(index, x, y) || !isInk(card.pixel(x, y)))
+                continue;
+            for (int iy = 2; iy < 50; ++iy)
+                for (int ix = 2; ix < 22; ++ix)
+                    if (isMarked(index, ix, iy))
+                        nearest =
+                            std::min(nearest, std::max(std::abs(ix - x), std::abs(iy - y)) - 1);
+        }
+    return nearest;
+}
+
+bool isItsOwnTurn(const QImage& card)
+{
+    const int width = card.width();
+    const int height = card.height();
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            if (card.pixel(x, y) != card.pixel(width - 1 - x, height - 1 - y))
+                return false;
+    return true;
+}
+
+} // namespace
+
+TEST(CardFaces, differInGreyAtThumbnailSize)
+{
+    for (int first = 0; first < 52; ++first)
+        for (int second = first + 1; second < 52; ++second)
+            EXPECT_GE(greyDifference(first, second), 20) << first << " and " << second;
+}
+
+TEST(CardFaces, indexIsLargeAndClearOfTheBody)
+{
+    for (const int number : allFaces()) {
+        const QImage card = cardAt(number, 1);
+        const QImage index = indexOf(card);
+        const std::vector<int> runs = runsOf(index);
+        ASSERT_EQ(runs.size(), 2U) << number;
+        EXPECT_GE(runs[0], 22) << number;
+        EXPECT_GE(runs[1], 14) << number;
+        EXPECT_GE(clearance(card, index), 2) << number;
+    }
+}
+
+TEST(CardFaces, stemsAreSharpAtEveryFactor)
+{
+    constexpr int kingOfSpades = 51;
+    for (const double factor : {0.74, 1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+        const QImage card = cardAt(kingOfSpades, factor);
+        const int row = static_cast<int>(11.5 * factor);
+        const int from = static_cast<int>(3 * factor);
+        int x = from;
+        while (card.pixel(x, row) == 0xffffffff)
+            ++x;
+        const int stem = x;
+        while (qGray(card.pixel(x, row)) < 40)
+            ++x;
+        EXPECT_GT(stem, from) << factor;
+        EXPECT_GE(x - stem, std::lround(2.5 * factor)) << factor;
+        EXPECT_EQ(card.pixel(x, row), 0xffffffff) << factor;
+    }
+}
+
+TEST(CardFaces, courtsAndEvenNumbersReadTheSameTurned)
+{
+    for (const int rank : {2, 4, 10, 11, 12, 13})
+        for (int suit = 0; suit < 4; ++suit)
+            for (const double factor : {0.74, 1.0, 1.25, 1.5})
+                EXPECT_TRUE(isItsOwnTurn(cardAt((rank - 1) * 4 + suit, factor)))
+                    << rank << " of suit " << suit << " at " << factor;
+}
+
+TEST(CardFaces, sevenHasItsExtraPipInTheUpperHalfOnly)
+{
+    constexpr int sevenOfDiamonds = 25;
+    const QImage card = cardAt(sevenOfDiamonds, 1);
+    EXPECT_TRUE(isInk(card.pixel(48, 43)));
+    EXPECT_FALSE(isInk(card.pixel(48, 86)));
+}
+
+TEST(CardFaces, courtsHaveAFewFlatColours)
+{
+    for (int number = 40; number < 52; ++number) {
+        const QImage card = cardAt(number, 4);
+        std::map<QRgb, int> areas;
+        for (int y = 16; y < card.height() - 16; ++y)
+            for (int x = 16; x < card.width() - 16; ++x)
+                ++areas[card.pixel(x, y)];
+        const auto large = std::count_if(areas.begin(), areas.end(), [&](const auto& area) {
+            return area.second > card.width() * card.height() / 100;
+        });
+        EXPECT_GE(large, 4) << number;
+        EXPECT_LE(large, 6) << number;
+    }
+}
+
+TEST(CardFaces, redAndBlackFollowTheSuit)
+{
+    for (const int number : allFaces()) {
+        const QImage card = cardAt(number, 1);
+        const QImage index = indexOf(card);
+        const bool red = number % 4 == 1 || number % 4 == 2;
+        QRgb darkest = 0xffffffff;
+        for (int y = 0; y < 50; ++y)
+            for (int x = 0; x < 22; ++x)
+                if (isMarked(index, x, y) && qGray(card.pixel(x, y)) < qGray(darkest))
+                    darkest = card.pixel(x, y);
+        EXPECT_EQ(qRed(darkest) > 150, red) << number;
+    }
+}
+
+} // namespace quillet::test
