@@ -30,10 +30,10 @@ void paintCloth(QPainter& painter, std::string_view outline, int suit, const Pal
     painter.save();
     painter.setClipPath(area, Qt::IntersectClip);
     const QRectF bounds = area.boundingRect();
-    const bool staggered = suit != Spades && suit != Diamonds;
-    for (int row = 0; 40 + row * pitch * 0.72 < bounds.bottom() + pitch; ++row) {
+    const bool staggered = suit == Clubs || suit == Hearts;
+    const double rowHeight = suit == Diamonds ? pitch : pitch * 0.72;
+    for (int row = 0; 40 + row * rowHeight < bounds.bottom() + pitch; ++row) {
         const double shift = staggered && row % 2 == 1 ? pitch / 2 : 0;
-        const double rowHeight = suit == Diamonds ? pitch : pitch * 0.72;
         for (double x = 15.5 + shift; x < bounds.right() + pitch; x += pitch) {
             if (x < bounds.left() - pitch)
                 continue;
@@ -52,8 +52,10 @@ void paintHand(QPainter& painter, const Palette& palette)
     paintPicture(painter, R"(
         Lk.8 M60 66 L62 57 L72.5 57 L76 66 L76 74 L58 74 Z;
         wk.8 M61 54 C64 52.6 70 52.6 73 54 L73.4 58 C70 56.8 64 56.8 60.8 58 Z;
-        sk.8 M62.4 48.4 C62.4 46.2 63.6 45.2 65.4 45.2 L70 45.2 C71.4 45.2 72 46 71.8 47 C72.6 47.4 72.6 48.8 72 49.2
-            C72.6 49.8 72.4 51 71.8 51.4 C72 52.6 71.6 53.8 70.4 54 L64.4 54.2 C62.8 53 62.4 51 62.4 48.4 Z;
+        sk.8 M62.4 48.4 C62.4 46.2 63.6 45.2 65.4 45.2 L70 45.2 C71.4 45.2 72 46 71.8 47
+            C72.6 47.4 72.6 48.8 72 49.2
+            C72.6 49.8 72.4 51 71.8 51.4 C72 52.6 71.6 53.8 70.4 54 L64.4 54.2
+            C62.8 53 62.4 51 62.4 48.4 Z;
         -k.6 M66.6 47.2 L71.6 47.2; -k.6 M66.8 49.4 L71.8 49.4; -k.6 M66.8 51.6 L71.6 51.6;
     )",
                  palette);

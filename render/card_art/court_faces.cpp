@@ -1,10 +1,10 @@
+#include "render/card_art/card_art.h"
 #include "render/card_art/court.h"
 #include "render/card_art/faces.h"
 #include "render/card_art/pips.h"
 
 #include <array>
 #include <cstddef>
-#include <string>
 
 namespace quillet
 {
@@ -51,7 +51,7 @@ void paintSash(QPainter& painter, const Palette& palette)
     painter.translate(48, 65);
     painter.shear(0, slope);
     paintPicture(painter,
-                 "kk0 R-28 -4 56 8; g- R-28 -3.2 56 6.4; k- R-28 -2 56 4; S- R-28 -1.4 56 2.8;",
+                 "k- R-28 -4.2 56 8.4; g- R-28 -3.2 56 6.4; k- R-28 -2 56 4; S- R-28 -1.4 56 2.8;",
                  palette);
     for (double x = -24; x <= 24; x += 6) {
         painter.save();
@@ -82,9 +82,9 @@ void paintFigure(CardCanvas& canvas, int rank, int suit)
     const Palette palette = courtPalette(rank, suit);
     QPainter painter;
     canvas.begin(painter);
-    painter.setClipRect(
-        QRectF(QPointF(canvas.snappedX(courtLeft), canvas.snappedY(courtTop)),
-               QPointF(96 - canvas.snappedX(courtLeft), 130 - canvas.snappedY(courtTop))));
+    painter.setClipRect(QRectF(QPointF(canvas.snappedX(courtLeft), canvas.snappedY(courtTop)),
+                               QPointF(cardArtWidth - canvas.snappedX(courtLeft),
+                                       cardArtHeight - canvas.snappedY(courtTop))));
     constexpr std::array painters = {&paintJack, &paintQueen, &paintKing};
     painters[static_cast<std::size_t>(rank - 11)](painter, suit, palette);
     paintSash(painter, palette);

@@ -5,11 +5,9 @@
 namespace quillet
 {
 
-// The frame around a court, on the grid.
+// The upper left corner of the frame around a court, on the grid.
 inline constexpr double courtLeft = 22;
 inline constexpr double courtTop = 8;
-inline constexpr double courtWidth = 52;
-inline constexpr double courtHeight = 114;
 
 // Rank and suit mark in the upper left corner.
 void paintIndex(CardCanvas& canvas, int rank, int suit);

@@ -82,7 +82,8 @@ const std::array<Glyph, 13>& glyphs()
                 "C3.6 20.45 1.6 18.4 1.6 15.3 C1.6 12.3 3.6 10.2 6.6 10.2 Z"}},
          {0, 3.1, 10.1, 13.2},
          {0, 3.1, 8.65, 11.75, 18.9, 22}},
-        {13, nullptr, {}, {.2, 3.4, 9.6, 12.8}, {0, 3.2, 11.1, 14.3, 18.8, 22}},
+        // The nine is the six, turned.
+        {13, "", {}, {.2, 3.4, 9.6, 12.8}, {0, 3.2, 11.1, 14.3, 18.8, 22}},
         {14.6,
          "R2 0 3.2 22 M2 0 L3.4 0 L2.6 4.6 L0 5.4 L0 3.2 Z",
          {{2.9, "M10.55 1.45 C12.5 1.45 13.15 4 13.15 11 C13.15 18 12.5 20.55 10.55 20.55"
@@ -128,7 +129,8 @@ QPainterPath assembled(const Glyph& glyph)
 QPainterPath makeOutline(std::size_t index)
 {
     const Glyph& glyph = glyphs()[index];
-    if (index != 8)
+    constexpr std::size_t nine = 8;
+    if (index != nine)
         return assembled(glyph);
     const Glyph& six = glyphs()[5];
     return QTransform(-1, 0, 0, -1, six.width, rankHeight).map(assembled(six));
