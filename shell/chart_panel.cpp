@@ -45,17 +45,14 @@ QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bo
 
 } // namespace
 
-ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QFrame(parent), m_chart(chart)
+ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QWidget(parent), m_chart(chart)
 {
     setObjectName(QStringLiteral("picPokerLabels"));
     setAccessibleName(tr("Strategy chart"));
     setAutoFillBackground(true);
     QPalette colors = palette();
     colors.setColor(QPalette::Window, Qt::black);
-    colors.setColor(QPalette::WindowText, QColor(0x4a, 0x4a, 0x4a));
     setPalette(colors);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
-    setLineWidth(border);
 
     m_lblHands =
         addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600, QStringLiteral("lblHands"));

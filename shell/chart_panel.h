@@ -3,8 +3,8 @@
 #include "coach/strategy_chart.h"
 #include "engine/counters.h"
 
-#include <QFrame>
 #include <QLabel>
+#include <QWidget>
 
 #include <array>
 
@@ -15,7 +15,7 @@ class ChartRow;
 
 // The strategy chart beside the table, with the three counters above it. It shows the chart's
 // state and has no handling of its own.
-class ChartPanel : public QFrame
+class ChartPanel : public QWidget
 {
     Q_OBJECT
 

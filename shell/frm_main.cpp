@@ -24,6 +24,9 @@ frmMain::frmMain(Desktop& desktop)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowCloseButtonHint);
     setContextMenuPolicy(Qt::NoContextMenu);
     m_pictures.canvas = new TableCanvas(this);
     m_pictures.canvas->setObjectName(QStringLiteral("table"));
@@ -53,13 +56,13 @@ void frmMain::makeBoxes()
         connect(deck, &PictureBox::clicked, this,
                 [this, i] { picDeal_Click(static_cast<std::int16_t>(i)); });
     }
-    m_pictures.picDeal[0]->setFocusPolicy(Qt::StrongFocus);
+    m_pictures.picDeal[0]->setFocusPolicy(Qt::TabFocus);
     m_pictures.picDeal[0]->setAccessibleName(tr("Deck"));
     for (std::size_t i = 0; i < m_pictures.picPoker.size(); ++i) {
         auto* place = new PictureBox(canvas);
         m_pictures.picPoker[i] = place;
         place->setObjectName(QStringLiteral("picPoker%1").arg(i));
-        place->setFocusPolicy(Qt::StrongFocus);
+        place->setFocusPolicy(Qt::TabFocus);
         const auto index = static_cast<std::int16_t>(i);
         connect(place, &PictureBox::mouseDown, this, [this, index] { picPoker_MouseDown(index); });
         connect(place, &PictureBox::doubleClicked, this,

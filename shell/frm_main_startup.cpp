@@ -40,7 +40,9 @@ QImage bannerPicture(QSize size)
 
 bool frmMain::Form_Load()
 {
-    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); });
+    // An error further in may have been reported there, before the window was shown.
+    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); }) &&
+           isVisible();
 }
 
 void frmMain::buildRunningState()

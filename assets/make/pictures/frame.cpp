@@ -28,14 +28,15 @@ struct Facet {
     Matter matter;
 };
 
+// The status bar covers the inmost two pixels of the lower rail, so the brass keeps clear of them.
 constexpr std::array<Facet, 8> moulding{{
     {0.05, 0, 0, Matter::joint},
-    {0.24, 0.9, 0.6, Matter::wood},
-    {0.28, -0.9, -0.9, Matter::wood},
-    {0.60, 0.30, -0.25, Matter::wood},
-    {0.76, -0.5, -1.0, Matter::wood},
-    {0.80, 0, 0, Matter::joint},
-    {0.94, 1.0, -1.0, Matter::brass},
+    {0.22, 0.9, 0.6, Matter::wood},
+    {0.26, -0.9, -0.9, Matter::wood},
+    {0.52, 0.30, -0.25, Matter::wood},
+    {0.66, -0.5, -1.0, Matter::wood},
+    {0.70, 0, 0, Matter::joint},
+    {0.84, 1.0, -1.0, Matter::brass},
     {1.01, 0, 0, Matter::joint},
 }};
 
