@@ -2,6 +2,7 @@
 
 #include "platform/table_canvas.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -23,7 +24,10 @@ void PictureBox::place(const QRectF& place, double scale)
     setGeometry(place.toAlignedRect());
 }
 
-QRect PictureBox::devicePlace() const { return deviceRect(m_place, m_picture.scale()); }
+QRect PictureBox::devicePlace() const
+{
+    return deviceRect(m_place, m_picture.scale());
+}
 
 void PictureBox::copyTableBehind()
 {
@@ -48,6 +52,27 @@ void PictureBox::setShowing(bool showing)
         return;
     m_showing = showing;
     m_canvas.present(m_place);
+}
+
+void PictureBox::setChecked(bool checked)
+{
+    if (checked == m_checked)
+        return;
+    m_checked = checked;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void PictureBox::activate()
+{
+    if (!m_showing)
+        return;
+    if (m_checkable)
+        emit mouseDown();
+    else
+        emit clicked();
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event)

@@ -42,6 +42,14 @@ public:
     void setShowing(bool showing);
     [[nodiscard]] bool isShowing() const { return m_showing; }
 
+    // What a screen reader is told: a checkable picture is a check box, any other a button.
+    void setCheckable(bool checkable) { m_checkable = checkable; }
+    [[nodiscard]] bool isCheckable() const { return m_checkable; }
+    void setChecked(bool checked);
+    [[nodiscard]] bool isChecked() const { return m_checked; }
+    // The same as a click, from a screen reader.
+    void activate();
+
 signals:
     // Any button.
     void mouseDown();
@@ -62,6 +70,8 @@ private:
     Surface m_behind;
     bool m_showing = false;
     bool m_pressed = false;
+    bool m_checkable = false;
+    bool m_checked = false;
 };
 
 } // namespace quillet

@@ -115,7 +115,10 @@ void ChartPanel::fitRowFont()
 
 void ChartPanel::showRow(int row)
 {
-    m_rows[static_cast<std::size_t>(row)]->show(m_chart.colors(row), m_chart.state(row));
+    ChartRow& label = *m_rows[static_cast<std::size_t>(row)];
+    label.show(m_chart.colors(row), m_chart.state(row));
+    if (m_chart.state(row) != ChartRowState::base)
+        setAccessibleDescription(label.accessibleName());
 }
 
 void ChartPanel::showCounters(const Counters& counters)

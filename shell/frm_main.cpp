@@ -1,5 +1,6 @@
 #include "shell/frm_main.h"
 
+#include "platform/accessible_picture.h"
 #include "platform/file_exists.h"
 #include "platform/picture_box.h"
 #include "platform/table_canvas.h"
@@ -22,6 +23,7 @@ frmMain::frmMain(Desktop& desktop)
       m_coach(m_state, *this, m_chart, *this, desktop.programFolder),
       m_controller(m_state, m_counters, *this, *this, m_coach, desktop.random, desktop.errorBox)
 {
+    installAccessiblePictures();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -63,6 +65,7 @@ void frmMain::makeBoxes()
         m_pictures.picPoker[i] = place;
         place->setObjectName(QStringLiteral("picPoker%1").arg(i));
         place->setFocusPolicy(Qt::TabFocus);
+        place->setCheckable(true);
         const auto index = static_cast<std::int16_t>(i);
         connect(place, &PictureBox::mouseDown, this, [this, index] { picPoker_MouseDown(index); });
         connect(place, &PictureBox::doubleClicked, this,
@@ -99,6 +102,7 @@ void frmMain::paintOutlines(QPainter& painter, double scale) const
 void frmMain::describeSlot(int slot)
 {
     const auto i = static_cast<std::size_t>(slot);
+    box(slot).setChecked(m_outlineShowing[i]);
     box(slot).setAccessibleName(spokenCard(slot, m_cards[i], m_outlineShowing[i]));
 }
 

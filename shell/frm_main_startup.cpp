@@ -41,8 +41,7 @@ QImage bannerPicture(QSize size)
 bool frmMain::Form_Load()
 {
     // An error further in may have been reported there, before the window was shown.
-    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); }) &&
-           isVisible();
+    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); }) && isVisible();
 }
 
 void frmMain::buildRunningState()

@@ -1,0 +1,66 @@
+#include "platform/accessible_picture.h"
+
+#include "platform/picture_box.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace quillet
+{
+
+namespace
+{
+
+class AccessiblePicture : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePicture(PictureBox& box)
+        : QAccessibleWidget(&box, box.isCheckable() ? QAccessible::CheckBox : QAccessible::Button),
+          m_box(box)
+    {
+    }
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = m_box.isCheckable();
+        state.checked = m_box.isChecked();
+        return state;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList(action()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override
+    {
+        if (name == action())
+            m_box.activate();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    [[nodiscard]] QString action() const
+    {
+        return m_box.isCheckable() ? toggleAction() : pressAction();
+    }
+
+    PictureBox& m_box;
+};
+
+QAccessibleInterface* makeAccessiblePicture(const QString&, QObject* object)
+{
+    auto* box = qobject_cast<PictureBox*>(object);
+    return box == nullptr ? nullptr : new AccessiblePicture(*box);
+}
+
+} // namespace
+
+void installAccessiblePictures()
+{
+    QAccessible::installFactory(makeAccessiblePicture);
+}
+
+} // namespace quillet
