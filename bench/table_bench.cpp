@@ -1,0 +1,117 @@
+// What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
+#include "platform/event_clock.h"
+#include "platform/picture_box.h"
+#include "platform/picture_file.h"
+#include "platform/table_canvas.h"
+#include "render/card_flight.h"
+#include "render/counting_loop.h"
+#include "render/init_anim_delay.h"
+#include "render/table_painter.h"
+
+#include <QApplication>
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+using namespace quillet;
+
+constexpr TableMeasures table{800, 514, 96, 130, 60, 169};
+
+class SilentBox : public ErrorBox
+{
+public:
+    void showError(const std::string&) override {}
+};
+
+struct Painted {
+    explicit Painted(double scale)
+    {
+        std::int32_t width = 0;
+        std::int32_t height = 0;
+        library.cdtInit(width, height);
+        pictures.canvas = &canvas;
+        for (PictureBox*& box : pictures.picDeal)
+            box = new PictureBox(canvas);
+        for (PictureBox*& box : pictures.picPoker)
+            box = new PictureBox(canvas);
+        canvas.setFixedSize(800, 514);
+        const QImage wood = loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"));
+        pictures.thePic = {wood.convertToFormat(QImage::Format_RGB32),
+                           wood.deviceIndependentSize()};
+        painter.sizePictures(table, scale);
+        painter.repaint(table, 65);
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
+        canvas.show();
+        QApplication::processEvents();
+    }
+
+    Preferences preferences;
+    SilentBox errorBox;
+    EventClock clock;
+    TableCanvas canvas;
+    TablePictures pictures;
+    CardLibrary library;
+    DeckPile pile{pictures, library};
+    TablePainter painter{pictures, library, pile};
+    CardFlight flight{pictures, library, preferences, errorBox};
+};
+
+// Without any delay; the time of one frame is told beside that of the flight.
+void flight(benchmark::State& state)
+{
+    Painted painted(static_cast<double>(state.range(0)));
+    painted.preferences.prfAnimation = true;
+    for (auto step : state) {
+        std::int32_t x = 209;
+        std::int32_t y = 95;
+        painted.flight.AnimateCard(x, y, 482, 284, 1, 65, drawBack);
+    }
+    state.counters["frame"] = benchmark::Counter(
+        273, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void repaintOfTheTable(benchmark::State& state)
+{
+    Painted painted(static_cast<double>(state.range(0)));
+    for (auto step : state)
+        painted.painter.repaint(table, 65);
+}
+
+void oneDelayUnit(benchmark::State& state)
+{
+    for (auto step : state)
+        countingLoop(1);
+}
+
+void firstStartCalibration(benchmark::State& state)
+{
+    Painted painted(1.0);
+    painted.pictures.picStatusBar = Surface({468, 60}, 1.0);
+    painted.pictures.picBanner3 = QImage(468, 60, QImage::Format_ARGB32_Premultiplied);
+    painted.pictures.picBanner3.fill(Qt::red);
+    for (auto step : state) {
+        painted.preferences.prfBannerDelay = 0;
+        DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock,
+                   painted.errorBox, [] {})
+            .InitAnimDelay();
+    }
+    state.counters["flight delay"] = painted.preferences.prfAnimationDelay;
+    state.counters["banner delay"] = painted.preferences.prfBannerDelay;
+}
+
+BENCHMARK(flight)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+BENCHMARK(repaintOfTheTable)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+BENCHMARK(oneDelayUnit)->Unit(benchmark::kMicrosecond);
+BENCHMARK(firstStartCalibration)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
