@@ -1,0 +1,37 @@
+#include "odds/fair_odds.h"
+
+#include <benchmark/benchmark.h>
+
+namespace quillet
+{
+
+namespace
+{
+
+// What quillet-odds works out before it prints: every deal, every hold, every draw.
+void theWholeGame(benchmark::State& state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(fairOdds());
+}
+BENCHMARK(theWholeGame)->Unit(benchmark::kMillisecond);
+
+void countsOfHeldCards(benchmark::State& state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(HeldCards());
+}
+BENCHMARK(countsOfHeldCards)->Unit(benchmark::kMillisecond);
+
+void oneDeal(benchmark::State& state)
+{
+    const HeldCards heldCards;
+    const std::array<DeckPlace, 5> places{8, 9, 10, 12, 13};
+    for (auto _ : state)
+        benchmark::DoNotOptimize(DealtHand(heldCards, places));
+}
+BENCHMARK(oneDeal);
+
+} // namespace
+
+} // namespace quillet

@@ -1,0 +1,84 @@
+#include "odds/dealt_hand.h"
+
+#include "engine/hand_evaluation.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace quillet
+{
+
+DealtHand::DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending)
+    : places(ascending)
+{
+    std::array<Card, 5> cards;
+    std::ranges::transform(places, cards.begin(), cardAt);
+    chartCode = EvaluatePokerHand(cards, false);
+    dealtOutcome = outcomeOf(EvaluatePokerHand(cards, true));
+    findClasses(heldCards);
+    findWorth(heldCards);
+    findAccepted(heldCards);
+}
+
+Fraction DealtHand::expectedCredits(Hold hold) const
+{
+    return {worth[hold], worthUnit};
+}
+
+OutcomeCounts DealtHand::drawOutcomes(const HeldCards& heldCards, Hold hold) const
+{
+    OutcomeCounts counts{};
+    forEachLargerHold(hold, [&](Hold larger, int sign) {
+        if (larger == holdAll) {
+            counts[dealtOutcome] += sign;
+            return;
+        }
+        const OutcomeCounts& hands = heldCards.counts(classOfHold[larger]);
+        for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+            counts[outcome] += sign * hands[outcome];
+    });
+    return counts;
+}
+
+void DealtHand::findClasses(const HeldCards& heldCards)
+{
+    std::array<std::uint32_t, holds> combination{};
+    classOfHold[0] = heldCards.classOf(0, 0);
+    for (Hold hold = 1; hold < holdAll; ++hold) {
+        const std::size_t size = cardsIn[hold];
+        const auto highest = static_cast<std::size_t>(std::bit_width(hold)) - 1;
+        combination[hold] = combination[hold ^ (1U << highest)] + choose[size][places[highest]];
+        classOfHold[hold] = heldCards.classOf(size, combination[hold]);
+    }
+}
+
+void DealtHand::findWorth(const HeldCards& heldCards)
+{
+    std::array<std::int32_t, holds> pay{};
+    for (Hold hold = 0; hold < holdAll; ++hold)
+        pay[hold] = heldCards.pay(classOfHold[hold]);
+    pay[holdAll] = payOf(dealtOutcome);
+    // The same sums as forEachLargerHold makes, for all holds at once.
+    for (Hold card = 1; card < holds; card *= 2) {
+        for (Hold block = 0; block < holds; block += 2 * card) {
+            for (Hold hold = block; hold < block + card; ++hold)
+                pay[hold] -= pay[hold + card];
+        }
+    }
+    for (Hold hold = 0; hold < holds; ++hold)
+        worth[hold] = pay[hold] * unitsPerDraw[cardsIn[hold]];
+    bestHold = static_cast<Hold>(std::ranges::max_element(worth) - worth.begin());
+}
+
+void DealtHand::findAccepted(const HeldCards& heldCards)
+{
+    const auto cardsKept = static_cast<std::size_t>(CardsToHand(chartCode));
+    if (cardsKept == 5)
+        accepted = 1U << holdAll;
+    for (Hold hold = 0; hold < holdAll; ++hold) {
+        if (cardsIn[hold] == cardsKept && heldCards.playCode(classOfHold[hold]) == chartCode)
+            accepted |= 1U << hold;
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "odds/fraction.h"
+#include "odds/held_cards.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace quillet
+{
+
+// A hold as a set of bits, bit i for the i-th card of the hand.
+using Hold = unsigned;
+inline constexpr Hold holdAll = 31;
+inline constexpr std::size_t holds = 32;
+
+// The number of cards in each hold: std::popcount without its call.
+inline constexpr std::array<std::size_t, holds> cardsIn = [] {
+    std::array<std::size_t, holds> count{};
+    for (Hold hold = 0; hold < holds; ++hold)
+        count[hold] = static_cast<std::size_t>(std::popcount(hold));
+    return count;
+}();
+
+// One deal and the worth of its 32 holds when the other cards come from a fairly shuffled deck.
+struct DealtHand {
+    // The least number that every count of possible draws divides: 47 cards taken 0 to 5 at a time.
+    static constexpr std::int64_t worthUnit = 7669695;
+
+    // How many worth units one draw of these holds is worth, by the number of cards held.
+    static constexpr std::array<std::int64_t, 6> unitsPerDraw{
+        worthUnit / choose[5][47], worthUnit / choose[4][47], worthUnit / choose[3][47],
+        worthUnit / choose[2][47], worthUnit / choose[1][47], worthUnit};
+
+    DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending);
+
+    [[nodiscard]] Fraction expectedCredits(Hold hold) const;
+
+    // How often each outcome comes up among all draws to this hold.
+    [[nodiscard]] OutcomeCounts drawOutcomes(const HeldCards& heldCards, Hold hold) const;
+
+    [[nodiscard]] bool isAccepted(Hold hold) const { return (accepted >> hold & 1U) != 0; }
+
+    std::array<DeckPlace, 5> places{};
+    std::int16_t chartCode = 0;
+    std::size_t dealtOutcome = 0;
+    std::array<HeldCards::ClassId, holds - 1> classOfHold{};
+    std::array<std::int64_t, holds> worth{}; // expected credits times worthUnit
+    Hold bestHold = 0;                       // of holds worth the same, the first
+    std::uint32_t accepted = 0;              // bit h is set when the coach accepts hold h
+
+private:
+    void findClasses(const HeldCards& heldCards);
+    void findWorth(const HeldCards& heldCards);
+    void findAccepted(const HeldCards& heldCards);
+};
+
+// Calls visit for the hold and for each larger one, with the sign of inclusion and exclusion:
+// draws that keep exactly the hold are the hands with the hold in it, less those that contain a
+// discarded card too.
+template <typename Visit>
+void forEachLargerHold(Hold hold, const Visit& visit)
+{
+    const Hold discarded = holdAll & ~hold;
+    for (Hold taken = discarded;; taken = (taken - 1) & discarded) {
+        visit(hold | taken, cardsIn[taken] % 2 == 0 ? 1 : -1);
+        if (taken == 0)
+            break;
+    }
+}
+
+} // namespace quillet

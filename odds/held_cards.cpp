@@ -1,0 +1,141 @@
+#include "odds/held_cards.h"
+
+#include "engine/hand_evaluation.h"
+#include "engine/pay_table.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr std::size_t classesUpToFour = 1 + 13 + 169 + 1755 + 16432;
+
+std::array<std::uint8_t, 22> outcomesByCode()
+{
+    std::array<std::uint8_t, 22> table{};
+    std::uint8_t outcome = 0;
+    for (const Payout& payout : payTable())
+        table.at(static_cast<std::size_t>(payout.playCode)) = ++outcome;
+    return table;
+}
+
+std::array<Card, 5> overFillers(std::span<const DeckPlace> held)
+{
+    std::array<Card, 5> cards;
+    for (std::size_t place = 0; place < cards.size(); ++place)
+        cards[place] =
+            place < held.size() ? cardAt(held[place]) : fillerCard(static_cast<int>(place));
+    return cards;
+}
+
+std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
+{
+    std::uint32_t combination = 0;
+    std::size_t nth = 0;
+    for (const DeckPlace place : ascending)
+        combination += choose[++nth][place];
+    return combination;
+}
+
+} // namespace
+
+std::size_t outcomeOf(std::int16_t finalCode)
+{
+    const auto table = payTable();
+    const auto found = std::ranges::find(table, finalCode, &Payout::playCode);
+    return found == table.end() ? 0 : static_cast<std::size_t>(found - table.begin()) + 1;
+}
+
+std::int16_t payOf(std::size_t outcome)
+{
+    return outcome == 0 ? std::int16_t{0} : payTable()[outcome - 1].pays;
+}
+
+HeldCards::HeldCards() : m_classOf(firstOfSize[5])
+{
+    m_counts.resize(classesUpToFour);
+    m_playCode.reserve(classesUpToFour);
+    for (int size = 0; size <= 4; ++size)
+        numberClasses(size);
+    countHandsOfFours();
+    countHandsOf<3>();
+    countHandsOf<2>();
+    countHandsOf<1>();
+    countHandsOf<0>();
+    m_pay.reserve(classesUpToFour);
+    for (const OutcomeCounts& counts : m_counts) {
+        std::int32_t pay = 0;
+        for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+            pay += counts[outcome] * payOf(outcome);
+        m_pay.push_back(pay);
+    }
+}
+
+HeldCards::ClassId HeldCards::classOf(std::span<const DeckPlace> ascending) const
+{
+    return classOf(ascending.size(), combinationOf(ascending));
+}
+
+void HeldCards::numberClasses(int size)
+{
+    const auto cards = static_cast<std::size_t>(size);
+    forEachClass(size, [&](const SuitSets& sets) {
+        const auto id = static_cast<ClassId>(m_playCode.size());
+        const auto places = placesOf<5>(sets);
+        m_playCode.push_back(EvaluatePokerHand(overFillers(std::span(places).first(cards)), false));
+        forEachMember(sets, [&](const SuitSets& member) {
+            const auto memberPlaces = placesOf<5>(member);
+            m_classOf[firstOfSize[cards] + combinationOf(std::span(memberPlaces).first(cards))] =
+                id;
+        });
+    });
+}
+
+void HeldCards::countHandsOfFours()
+{
+    const std::array<std::uint8_t, 22> outcomeOfCode = outcomesByCode();
+    forEachClass(5, [&](const SuitSets& sets) {
+        const auto hand = placesOf<5>(sets);
+        const auto code = static_cast<std::size_t>(EvaluatePokerHand(overFillers(hand), true));
+        const std::int32_t hands = classSize(sets);
+        std::array<DeckPlace, 4> four{hand[1], hand[2], hand[3], hand[4]};
+        for (std::size_t without = 0; without < hand.size(); ++without) {
+            m_counts[classOf(four)][outcomeOfCode[code]] += hands;
+            if (without < four.size())
+                four[without] = hand[without];
+        }
+    });
+    // So far each class has the hands of all its members, and these have equally many.
+    forEachClass(4, [this](const SuitSets& sets) {
+        for (std::int32_t& count : m_counts[classOf(placesOf<4>(sets))])
+            count /= classSize(sets);
+    });
+}
+
+// From the sets with one card more: each hand is met once for every card that it holds beside the
+// set.
+template <std::size_t Size>
+void HeldCards::countHandsOf()
+{
+    forEachClass(static_cast<int>(Size), [this](const SuitSets& sets) {
+        const auto places = placesOf<Size>(sets);
+        OutcomeCounts& counts = m_counts[classOf(places)];
+        for (DeckPlace other = 0; other < 52; ++other) {
+            if (std::ranges::find(places, other) != places.end())
+                continue;
+            std::array<DeckPlace, Size + 1> larger{};
+            *std::ranges::copy(places, larger.begin()).out = other;
+            std::ranges::sort(larger);
+            const OutcomeCounts& more = m_counts[classOf(larger)];
+            std::ranges::transform(counts, more, counts.begin(), std::plus());
+        }
+        for (std::int32_t& count : counts)
+            count /= static_cast<std::int32_t>(5 - Size);
+    });
+}
+
+} // namespace quillet

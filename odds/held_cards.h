@@ -1,0 +1,78 @@
+#pragma once
+
+#include "odds/suit_classes.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace quillet
+{
+
+// What a final hand can come to: outcome 0 pays nothing, the others are the rows of the pay
+// table, best first.
+inline constexpr std::size_t outcomes = 10;
+using OutcomeCounts = std::array<std::int32_t, outcomes>;
+
+[[nodiscard]] std::size_t outcomeOf(std::int16_t finalCode);
+[[nodiscard]] std::int16_t payOf(std::size_t outcome);
+
+// Row n, column m: the ways to choose n of m cards.
+using ChooseTable = std::array<std::array<std::uint32_t, 53>, 6>;
+
+constexpr ChooseTable chooseTable()
+{
+    ChooseTable table{};
+    table[0].fill(1);
+    for (std::size_t n = 1; n < table.size(); ++n) {
+        for (std::size_t m = 1; m < table[n].size(); ++m)
+            table[n][m] = table[n][m - 1] + table[n - 1][m - 1];
+    }
+    return table;
+}
+
+inline constexpr ChooseTable choose = chooseTable();
+
+// For every set of up to four cards: which hands of five contain it. What a draw brings follows
+// from these counts by inclusion and exclusion, without going through the draws.
+class HeldCards
+{
+public:
+    using ClassId = std::uint16_t;
+
+    HeldCards();
+
+    [[nodiscard]] std::size_t classes() const { return m_pay.size(); }
+
+    // The class of a set by its size and the sum of choose[n][place] over its n-th places,
+    // ascending and counted from 1: the usual numbering of combinations.
+    [[nodiscard]] ClassId classOf(std::size_t size, std::uint32_t combination) const
+    {
+        return m_classOf[firstOfSize[size] + combination];
+    }
+    [[nodiscard]] ClassId classOf(std::span<const DeckPlace> ascending) const;
+
+    // Over all hands that contain the set.
+    [[nodiscard]] const OutcomeCounts& counts(ClassId id) const { return m_counts[id]; }
+    [[nodiscard]] std::int32_t pay(ClassId id) const { return m_pay[id]; }
+
+    // The play that the cards amount to when they are held, with fillers for the rest.
+    [[nodiscard]] std::int16_t playCode(ClassId id) const { return m_playCode[id]; }
+
+private:
+    static constexpr std::array<std::uint32_t, 6> firstOfSize{0, 1, 53, 1379, 23479, 294204};
+
+    void numberClasses(int size);
+    void countHandsOfFours();
+    template <std::size_t Size>
+    void countHandsOf();
+
+    std::vector<ClassId> m_classOf;
+    std::vector<OutcomeCounts> m_counts;
+    std::vector<std::int32_t> m_pay;
+    std::vector<std::int16_t> m_playCode;
+};
+
+} // namespace quillet

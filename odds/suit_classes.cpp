@@ -1,0 +1,76 @@
+#include "odds/suit_classes.h"
+
+namespace quillet
+{
+
+namespace
+{
+
+// The sets of ranks by how many ranks they hold, 0..5.
+std::array<std::vector<unsigned>, 6> setsBySize()
+{
+    std::array<std::vector<unsigned>, 6> sets;
+    for (unsigned set = 0; set < 1U << 13; ++set) {
+        const auto size = static_cast<std::size_t>(std::popcount(set));
+        if (size < sets.size())
+            sets[size].push_back(set);
+    }
+    return sets;
+}
+
+// Of the orders of the suits that make the same class it takes the one in which no suit holds
+// more cards than the suit before it and, of suits with as many, none a set that comes earlier.
+class ClassVisitor
+{
+public:
+    explicit ClassVisitor(const std::function<void(SuitSets)>& visit) : m_visit(visit) {}
+
+    void fill(std::size_t suit, std::size_t left, std::size_t largest, std::size_t first)
+    {
+        if (suit == m_sets.size()) {
+            if (left == 0)
+                m_visit(m_sets);
+            return;
+        }
+        for (std::size_t size = std::min(left, largest) + 1; size-- > 0;) {
+            const std::vector<unsigned>& choices = m_choices[size];
+            for (std::size_t i = size == largest ? first : 0; i < choices.size(); ++i) {
+                m_sets[suit] = choices[i];
+                fill(suit + 1, left - size, size, i);
+            }
+        }
+    }
+
+private:
+    const std::function<void(SuitSets)>& m_visit;
+    std::array<std::vector<unsigned>, 6> m_choices = setsBySize();
+    SuitSets m_sets{};
+};
+
+} // namespace
+
+DeckPlace placeOf(const Card& card)
+{
+    return static_cast<DeckPlace>(card.suit * 13 + card.rank - 1);
+}
+
+void forEachClass(int size, const std::function<void(SuitSets)>& visit)
+{
+    const auto cards = static_cast<std::size_t>(size);
+    ClassVisitor(visit).fill(0, cards, cards, 0);
+}
+
+int classSize(const SuitSets& sets)
+{
+    // Of the 24 orders of four suits fewer differ when suits hold the same ranks: by pairs of equal
+    // suits none, one, two pairs, three alike, all four.
+    constexpr std::array<int, 7> ordersByEqualPairs{24, 12, 6, 4, 0, 0, 1};
+    std::size_t equalPairs = 0;
+    for (std::size_t i = 0; i < sets.size(); ++i) {
+        for (std::size_t j = i + 1; j < sets.size(); ++j)
+            equalPairs += sets[i] == sets[j] ? 1 : 0;
+    }
+    return ordersByEqualPairs[equalPairs];
+}
+
+} // namespace quillet
