@@ -1,4 +1,6 @@
+#include "engine/random.h"
 #include "odds/fair_odds.h"
+#include "odds/simulation.h"
 
 #include <benchmark/benchmark.h>
 
@@ -31,6 +33,17 @@ void oneDeal(benchmark::State& state)
         benchmark::DoNotOptimize(DealtHand(heldCards, places));
 }
 BENCHMARK(oneDeal);
+
+void simulatedHands(benchmark::State& state)
+{
+    const HeldCards heldCards;
+    BlendingRandom random([] { return std::uint64_t{0}; }, 1);
+    constexpr std::int64_t hands = 10000;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(simulate(heldCards, random, hands, [](std::int64_t) {}));
+    state.SetItemsProcessed(state.iterations() * hands);
+}
+BENCHMARK(simulatedHands)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -1,0 +1,133 @@
+#include "engine/random.h"
+#include "odds/command_line.h"
+#include "odds/hand_text.h"
+#include "odds/reports.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <sstream>
+#include <vector>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+using testing::HasSubstr;
+
+std::string complaintAbout(std::string_view text)
+{
+    try {
+        (void)parseHand(text);
+    } catch (const BadHand& error) {
+        return error.what();
+    }
+    return {};
+}
+
+Request parsed(std::vector<std::string_view> arguments)
+{
+    return parseArguments(arguments);
+}
+
+// Exchanges every card with itself.
+class IdleRandom : public RandomSource
+{
+public:
+    void reseed() override {}
+    double next() override { return (m_next++ % 52 + 0.5) / 52; }
+
+private:
+    int m_next = 0;
+};
+
+} // namespace
+
+TEST(Fraction, isRoundedExactlyAtTheHalf)
+{
+    EXPECT_EQ(Fraction(6, 4).text(), "3/2");
+    EXPECT_EQ(Fraction(1, 200).decimals(2), "0.01");
+    EXPECT_EQ(Fraction(-1, 200).decimals(2), "-0.01");
+    EXPECT_EQ(Fraction(-1, 201).decimals(2), "0.00");
+    EXPECT_EQ(Fraction(1999, 1000).decimals(2), "2.00");
+    EXPECT_EQ(Fraction(7, 2).decimals(0), "4");
+    EXPECT_EQ(Fraction(1, 6) + Fraction(1, 10) - Fraction(4, 15), Fraction());
+}
+
+TEST(HandText, readsTheUsualWaysToWriteCards)
+{
+    const auto places = parseHand("9c Tc Jc Kc Ad");
+    EXPECT_EQ(holdText(places, holdAll), "9c Tc Jc Kc Ad");
+    EXPECT_EQ(holdText(places, 0b10010), "Tc Ad");
+    EXPECT_EQ(holdText(places, 0), "nothing");
+    EXPECT_EQ(parseHand("9C10cjcKCaD "), places);
+    EXPECT_EQ(parseHand("  9c,tc, jc\tkc ad"), places);
+}
+
+TEST(HandText, saysWhatIsWrong)
+{
+    EXPECT_THAT(complaintAbout("9c Tc Jc Kc"), HasSubstr("5 cards, not 4"));
+    EXPECT_THAT(complaintAbout("9c Tc Jc Kc Ad 2d"), HasSubstr("5 cards, not 6"));
+    EXPECT_THAT(complaintAbout("9c Tc Jc Kc 9c"), HasSubstr("9c twice"));
+    for (const char* text : {"9c Tc Jc Kc A", "9c Tc Jc Kc 1d", "9c Tc Jc Kc Ax", "9c Tc Jc Kc 10",
+                             "\xc3\xa9\xc3\xa9"})
+        EXPECT_THAT(complaintAbout(text), HasSubstr("is not a card")) << text;
+    EXPECT_THAT(complaintAbout(""), HasSubstr("not 0"));
+}
+
+TEST(CommandLine, refusesWhatMakesNoSense)
+{
+    EXPECT_EQ(parsed({"9c", "Tc", "--csv"}).hand, "9c Tc ");
+    EXPECT_EQ(parsed({"--simulate", "20", "--seed", "3"}).simulation, 20);
+    const std::vector<std::vector<std::string_view>> nonsense{
+        {"--simulate"},       {"--simulate", "0"},          {"--simulate", "1e6"},
+        {"--what"},           {"--simulate", "9", "As"},    {"--seed", "3"},
+        {"--simulate", "-5"}, {"--simulate", "9", "--seed"}};
+    for (const auto& arguments : nonsense)
+        EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments.front();
+}
+
+TEST(HandReport, ranksTheHoldsAndMarksTheCharts)
+{
+    const HeldCards heldCards;
+    auto places = parseHand("Ad Kc Jc Tc 9c");
+    std::ranges::sort(places);
+    std::ostringstream out;
+    reportHand(out, heldCards, DealtHand(heldCards, places), Format::csv);
+    std::istringstream lines(out.str());
+    std::string line;
+    std::getline(lines, line);
+    std::getline(lines, line);
+    // 47 cards to draw: the queen of clubs, eight other clubs, three other queens, and three
+    // each of the jacks and kings.
+    EXPECT_EQ(line, "9c Tc Jc Kc,12.34042553,580/47,0.00000000,0,1,0,0,47,0,1,0,0,8,3,0,0,6");
+    std::getline(lines, line);
+    EXPECT_THAT(line,
+                testing::StartsWith("Tc Jc Kc,6.56799260,7100/1081,5.77243293,6240/1081,0,1,1"));
+}
+
+TEST(Simulation, playsTheEnginesOwnDecks)
+{
+    const HeldCards heldCards;
+    IdleRandom idle;
+    // An unshuffled deck deals four aces and a two, and replaces the two.
+    const Simulation aces = simulate(heldCards, idle, 3, [](std::int64_t) {});
+    EXPECT_EQ(aces.perfect.count[3], 3);
+    EXPECT_EQ(aces.chart.count[3], 3);
+    EXPECT_EQ(aces.chart.returned(), 25.0);
+    EXPECT_EQ(aces.chart.margin(), 0.0);
+
+    const auto played = [&](std::uint64_t seed) {
+        BlendingRandom random([] { return std::uint64_t{0}; }, seed);
+        return simulate(heldCards, random, 20000, [](std::int64_t) {}).perfect;
+    };
+    EXPECT_EQ(played(1).count, played(1).count);
+    EXPECT_NE(played(1).count, played(2).count);
+    EXPECT_EQ(played(1).hands(), 20000);
+    // A royal now and then is worth more than all else: stay clear of it.
+    EXPECT_NEAR(played(1).returned(), 0.975, 0.2);
+}
+
+} // namespace quillet::test
