@@ -78,7 +78,8 @@ void HandController::clickDeck(std::int16_t index)
     m_table.placeFlyingCard();
     m_table.paintFlyingCard(m_preferences.prfPKBackFace);
     m_table.paintDeckIntoTable();
-    if (m_state.handBusy)
+    // A game that has been asked for deals by itself, as soon as the interrupted sequence is over.
+    if (m_state.handBusy || m_newGameWanted)
         return;
 
     const bool handComesByItself = m_preferences.prfPokerAutoDeal && m_firstDealComing;

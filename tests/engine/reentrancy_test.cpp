@@ -80,6 +80,20 @@ TEST(Reentrancy, newGameInTheFadeOrTheLongPausesDealsOnce)
     expectOneFreshDeal(game, 2);
 }
 
+TEST(Reentrancy, aClickRightAfterAskingForANewGameDealsNoHandInBetween)
+{
+    for (const bool automatic : {false, true}) {
+        Game game;
+        game.preferences.prfPokerAutoDeal = automatic;
+        game.table.in(300, [&] {
+            game.controller.initPokerScreen();
+            game.click();
+        });
+        game.deal(jacks);
+        expectOneFreshDeal(game, 2);
+    }
+}
+
 TEST(Reentrancy, gamesAskedForOneAfterAnotherDoNotPileUp)
 {
     Game game;
