@@ -4,6 +4,7 @@
 
 #include <QImageReader>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillet
@@ -13,6 +14,7 @@ namespace
 {
 
 constexpr qint64 mostPixels = 16'000'000;
+constexpr int longestSide = 8192; // a window cannot be longer than a few screens
 constexpr double normalDensity = 96.0;
 constexpr double metresPerInch = 0.0254;
 
@@ -30,10 +32,11 @@ QImage loadPictureFile(const QString& path)
 {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.isValid() && qint64{size.width()} * size.height() > mostPixels)
+    const QSize size = reader.size(); // of the file's head; nothing is decoded yet
+    if (qint64{size.width()} * size.height() > mostPixels ||
+        std::max(size.width(), size.height()) > longestSide)
         throw RunTimeError("Picture too large: " + path.toStdString());
-    QImage image = reader.read();
+    QImage image = size.isEmpty() ? QImage() : reader.read();
     if (image.isNull())
         throw RunTimeError("Invalid picture: " + path.toStdString());
     image.setDevicePixelRatio(pixelRatio(image));
