@@ -1,5 +1,7 @@
 #include "render/delay_calibration.h"
 
+#include "render/counting_loop.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -48,6 +50,12 @@ void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRo
 
 void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure)
 {
+    // It starts from a stored value, which may be any: without a pass to count, or with far more
+    // than a round can take, the outcome is as certain.
+    if (delay < 0 && cost.seconds < bannerRound * certainShare)
+        delay %= step;
+    if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= longestDelay)
+        return;
     delay += certainSteps(cost, bannerRound, delay) * step;
     double elapsed = 0.0;
     do {
