@@ -4,6 +4,7 @@
 #include "platform/table_canvas.h"
 #include "render/counting_loop.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -13,6 +14,10 @@ namespace quillet
 
 namespace
 {
+
+// The slowest delay that the slider can set. A larger one can only come out of an edited settings
+// file, where it would stop the game for hours: no event is handled during a flight.
+constexpr std::int32_t slowestDelay = 6000;
 
 // How far a frame's copy reaches past the card, over the place that the card has left.
 constexpr int trail = 10;
@@ -27,6 +32,12 @@ std::int16_t pixelsToTravel(std::int64_t distance)
     if (distance > std::numeric_limits<std::int16_t>::max())
         throw overflowError();
     return static_cast<std::int16_t>(distance);
+}
+
+void waitAfterFrame(std::int32_t delay)
+{
+    const bool counts = delay <= longestDelay;
+    countingLoop(counts ? std::min(delay, slowestDelay) : delay);
 }
 
 int frameCount(std::int16_t pixels, std::int16_t stepSize)
@@ -95,7 +106,7 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
             exactMinor += minorStep;
             minor = static_cast<std::int32_t>(std::floor(exactMinor));
             drawFrame(fromX, fromY, path, cardNumber, drawMode);
-            countingLoop(m_preferences.prfAnimationDelay);
+            waitAfterFrame(m_preferences.prfAnimationDelay);
         }
         land(toX, toY);
     });
