@@ -40,8 +40,9 @@ QImage bannerPicture(QSize size)
 
 bool frmMain::Form_Load()
 {
-    // An error further in may have been reported there, before the window was shown.
-    return guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); }) && isVisible();
+    const bool built = guarded(m_desktop.errorBox, "Form_Load", [this] { buildRunningState(); });
+    // A step may have shown its own error. Without a window nobody could play on, or end it.
+    return built && (isVisible() || m_unloading);
 }
 
 void frmMain::buildRunningState()
