@@ -159,7 +159,8 @@ void frmMain::resetGraphics()
 // hand goes on.
 void frmMain::followScale()
 {
-    if (m_pictures.canvas->scale() == devicePixelRatioF())
+    // The card library closes before the exit screen is shown.
+    if (m_unloading || m_pictures.canvas->scale() == devicePixelRatioF())
         return;
     const TableMeasures table = measures();
     m_painter.sizePictures(table, devicePixelRatioF());
