@@ -20,6 +20,8 @@
 #include <QString>
 
 #include <array>
+#include <cstdint>
+#include <optional>
 
 namespace quillet
 {
@@ -101,6 +103,8 @@ private:
     void followScale();
 
     // frm_main_shutdown.cpp
+    void saveForSession();
+    [[nodiscard]] bool sessionIsEnding();
     void showExitScreen();
 
     // frm_main_menus.cpp
@@ -155,7 +159,7 @@ private:
     bool calibrateDelays = false;
     bool m_firstHandStarted = false;
     bool m_unloading = false;
-    bool m_sessionEnding = false;
+    std::optional<std::int64_t> m_sessionEndAnnounced; // in milliseconds of the clock
 };
 
 } // namespace quillet

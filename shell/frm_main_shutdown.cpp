@@ -18,7 +18,7 @@ void frmMain::Form_Unload()
         savePreferences(*this, m_desktop.store);
         hide();
         // A desktop session that is ending does not wait for a farewell.
-        if (!m_sessionEnding)
+        if (!sessionIsEnding())
             showExitScreen();
     });
     hide();
@@ -27,9 +27,30 @@ void frmMain::Form_Unload()
 
 void frmMain::watchSession()
 {
-    connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_sessionEnding = true; },
-        Qt::DirectConnection);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &frmMain::saveForSession,
+            Qt::DirectConnection);
+}
+
+// The session may end the process without closing its windows.
+void frmMain::saveForSession()
+{
+    m_sessionEndAnnounced = m_desktop.clock.milliseconds();
+    // Before the first game the delays may be half measured.
+    if (!m_firstHandStarted || m_unloading)
+        return;
+    // No box may hold up the session. If it does close the window, that reports the error.
+    struct : ErrorBox {
+        void showError(const std::string&) override {}
+    } nobody;
+    guarded(nobody, "Form_Unload", [this] { savePreferences(*this, m_desktop.store); });
+}
+
+// An announced end that does not come has been called off.
+bool frmMain::sessionIsEnding()
+{
+    constexpr std::int64_t patience = 60'000;
+    return m_sessionEndAnnounced &&
+           m_desktop.clock.milliseconds() - *m_sessionEndAnnounced < patience;
 }
 
 void frmMain::showExitScreen()
