@@ -53,6 +53,9 @@ void frmMain::flyCardTo(int slot)
 
 void frmMain::endFlights()
 {
+    // A flight that broke off has left the table to be drawn on directly, and the deck hidden.
+    m_pictures.canvas->setPersistentImage(true);
+    m_pictures.picDeal[0]->setShowing(true);
     m_pictures.canvas->refresh();
 }
 
