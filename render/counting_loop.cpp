@@ -17,11 +17,11 @@ void countingLoop(std::int32_t delay)
     // A bare counter takes so little time, and so differently from one processor to the next,
     // that no setting of the speed slider would fit. Eight multiply-adds that wait for one another
     // take about the same time everywhere.
-    static volatile double sink = 0.0;
-    double value = sink;
+    static volatile std::uint64_t sink = 1;
+    std::uint64_t value = sink;
     for (std::int64_t pass = 1; pass <= passes; ++pass) {
         for (int i = 0; i < 8; ++i)
-            value = value * 0.5 + 1.0;
+            value = value * 6364136223846793005U + 1442695040888963407U;
     }
     sink = value;
 }
