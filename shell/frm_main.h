@@ -70,6 +70,10 @@ public:
 
     [[nodiscard]] bool FileExists(const std::string& thePath) override;
 
+    [[nodiscard]] const HandState& handState() const { return m_state; }
+    [[nodiscard]] const Counters& counters() const { return m_counters; }
+    [[nodiscard]] const StrategyChart& chart() const { return m_chart; }
+
     std::int32_t cWidth = 0; // card size in logical pixels
     std::int32_t cHeight = 0;
 
