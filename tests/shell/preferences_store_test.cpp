@@ -1,9 +1,8 @@
-#include "engine/run_time_error.h"
 #include "shell/preferences_store.h"
+#include "tests/shell/memory_store.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <vector>
 
 namespace quillet::test
@@ -11,32 +10,6 @@ namespace quillet::test
 
 namespace
 {
-
-// Keeps the texts in memory and notes every call.
-class MemoryStore : public SettingsStore
-{
-public:
-    std::string readSetting(const std::string& application, const std::string& section,
-                            const std::string& key, const std::string& defaultText) override
-    {
-        EXPECT_EQ(application + "/" + section, "Quillet/Preferences");
-        log += key + " ";
-        return texts.contains(key) ? texts[key] : defaultText;
-    }
-
-    void writeSetting(const std::string& application, const std::string& section,
-                      const std::string& key, const std::string& text) override
-    {
-        EXPECT_EQ(application + "/" + section, "Quillet/Preferences");
-        if (key == failingKey)
-            throw RunTimeError("Disk full");
-        log += key + "=" + text + " ";
-        texts[key] = text;
-    }
-
-    std::map<std::string, std::string> texts;
-    std::string log, failingKey;
-};
 
 // What one run of the program makes of this stored text, or what loading it raised.
 std::string afterOneRun(const std::string& key, const std::string& text)

@@ -1,0 +1,141 @@
+#include "platform/picture_box.h"
+#include "shell/frm_preferences.h"
+#include "tests/shell/played_window.h"
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+void inPreferences(PlayedWindow& game, const std::function<void(frmPreferences&)>& act)
+{
+    whileOpen<frmPreferences>([&] { game.choose("mnuPref"); }, act);
+}
+
+// The dialog's controls, "sounds animation speed delay autoDeal always onError back colour".
+std::string shown(frmPreferences& dialog)
+{
+    const auto button = [&dialog](const char* name) {
+        return control<QAbstractButton>(dialog, name).isChecked() ? "1 " : "0 ";
+    };
+    const QColor color = control(dialog, "lblColor").palette().color(QPalette::Window);
+    return (QString(button("ckSounds")) + button("ckAnimation") +
+            QString::number(control<QScrollBar>(dialog, "HScroll1").value()) + ' ' +
+            control<QLabel>(dialog, "Label4").text() + ' ' + button("ckprfAutoDeal") +
+            button("opAlwaysShow") + button("opShowOnError") +
+            control<QComboBox>(dialog, "Combo1").currentText() + ' ' + color.name())
+        .toStdString();
+}
+
+void chooseColor(frmPreferences& dialog, const QColor& color, bool accepted)
+{
+    whileOpen<QColorDialog>([&dialog] { dialog.cmdChangeColor_Click(); },
+                            [&](QColorDialog& chooser) {
+                                chooser.setCurrentColor(color);
+                                accepted ? chooser.accept() : chooser.reject();
+                            });
+}
+
+} // namespace
+
+TEST(PreferencesDialog, showsTheFieldsAndCancelChangesNone)
+{
+    PlayedWindow game;
+    game.store.texts["prfCardOutlineColor"] = "&H0080FF&";
+    game.store.texts["prfPKBackFace"] = "57";
+    ASSERT_TRUE(game.start());
+    const Preferences before = *game.window;
+    inPreferences(game, [](frmPreferences& dialog) {
+        EXPECT_EQ(shown(dialog), "1 0 700 300 0 0 1 Roses #ff8000");
+        click(control(dialog, "cmdCancel"));
+    });
+    EXPECT_EQ(game.window->prfAnimationDelay, before.prfAnimationDelay) << "opening moves nothing";
+    EXPECT_EQ(game.window->prfPKBackFace, before.prfPKBackFace);
+    EXPECT_EQ(game.window->prfCardOutlineColor, before.prfCardOutlineColor);
+}
+
+TEST(PreferencesDialog, saveTakesEveryFieldAndThePileItsBack)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    const QImage pile = game.picture().copy(game.placeOf("picDeal0"));
+    inPreferences(game, [&game](frmPreferences& dialog) {
+        for (const char* name : {"ckSounds", "ckAnimation", "ckprfAutoDeal", "opAlwaysShow"})
+            control<QAbstractButton>(dialog, name).click();
+        control<QScrollBar>(dialog, "HScroll1").setValue(499);
+        QWidget& preview = control(dialog, "picBacks");
+        const QImage before = preview.grab().toImage();
+        control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
+        EXPECT_NE(preview.grab().toImage(), before);
+        EXPECT_EQ(preview.size(), QSize(96 + 2, 130 + 2));
+        EXPECT_EQ(shown(dialog), "0 1 499 511 1 1 0 Castle #00ff00");
+        EXPECT_EQ(game.window->prfPKBackFace, 65) << "not before Save";
+        EXPECT_EQ(game.window->prfAnimationDelay, 511) << "at once";
+        click(control(dialog, "cmdSave"));
+    });
+    const frmMain& now = *game.window;
+    EXPECT_TRUE(!now.prfSound && now.prfAnimation && now.prfPokerAutoDeal && now.prfShowPokerPlay);
+    EXPECT_EQ(now.prfScrollVal, 499);
+    EXPECT_EQ(now.prfPKBackFace, 63);
+    EXPECT_NE(game.picture().copy(game.placeOf("picDeal0")), pile);
+    EXPECT_EQ(game.store.log.find('='), std::string::npos) << "the store is none of its business";
+}
+
+TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.clickCard(0);
+    const QPoint edge = game.placeOf("picPoker0").topLeft() + QPoint(-2, 60);
+    ASSERT_EQ(game.picture().pixelColor(edge), QColor(Qt::green));
+    inPreferences(game, [&](frmPreferences& dialog) {
+        control<QAbstractButton>(dialog, "ckSounds").click();
+        control<QScrollBar>(dialog, "HScroll1").setValue(1000);
+        chooseColor(dialog, Qt::red, false);
+        EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #00ff00");
+        chooseColor(dialog, Qt::blue, true);
+        EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #0000ff") << "pending changes stay";
+        EXPECT_EQ(game.picture().pixelColor(edge), QColor(Qt::blue));
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+    });
+    EXPECT_EQ(game.window->prfCardOutlineColor, 0xff0000);
+    EXPECT_TRUE(game.window->prfSound);
+    inPreferences(game, [](frmPreferences& dialog) {
+        EXPECT_EQ(shown(dialog), "1 0 700 0 0 0 1 Sleeve #0000ff");
+    });
+}
+
+TEST(PreferencesDialog, savingTheSameBackLeavesThePileAlone)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    auto& pile = control<PictureBox>(*game.window, "picDeal0");
+    pile.picture().fill(Qt::magenta);
+    inPreferences(game, [](frmPreferences& dialog) { click(control(dialog, "cmdSave")); });
+    EXPECT_EQ(pile.picture().image().pixelColor(20, 20), QColor(Qt::magenta));
+}
+
+TEST(PreferencesDialog, aBackThatDoesNotExistIsReportedAfterTheOtherFields)
+{
+    for (const char* back : {"52", "66"}) {
+        PlayedWindow game;
+        game.store.texts["prfPKBackFace"] = back;
+        ASSERT_TRUE(game.start());
+        inPreferences(game, [](frmPreferences& dialog) {
+            EXPECT_EQ(shown(dialog), "1 0 700 300 0 0 1  #00ff00");
+            click(control(dialog, "cmdSave"));
+        });
+        EXPECT_EQ(game.errors, std::vector<std::string>{
+                                   "Error  in  Form_Activate (  Invalid property value  )"});
+        EXPECT_EQ(std::to_string(game.window->prfPKBackFace), back);
+    }
+}
+
+} // namespace quillet::test

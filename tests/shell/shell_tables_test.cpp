@@ -1,0 +1,87 @@
+#include "coach/hold_judgement.h"
+#include "engine/hand_evaluation.h"
+#include "shell/animation_speed.h"
+#include "shell/card_names.h"
+#include "shell/window_layout.h"
+#include "tests/engine/card_text.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+namespace quillet::test
+{
+
+TEST(AnimationSpeed, theLowerHalfOfTheSliderIsSteep)
+{
+    const std::pair<int, std::int32_t> rows[] = {{0, 6000},  {1, 5989},  {250, 3250}, {499, 511},
+                                                 {500, 500}, {501, 499}, {1000, 0}};
+    for (const auto& [position, delay] : rows)
+        EXPECT_EQ(animationDelayFor(position), delay) << position;
+}
+
+TEST(WindowLayout, theWindowIsThePictureWithBarAndFrame)
+{
+    const ScreenMetrics normal;
+    const WindowLayout layout(normal, true);
+    // 4 x 1 pixel of border and 40 twips; the caption and the menu bar 19 pixels each.
+    EXPECT_EQ(layout.frameAllowance(), QSizeF(100, 670));
+    EXPECT_EQ(WindowLayout(normal, false).frameAllowance(), QSizeF(100, 385));
+    const QSizeF outer = layout.sizeForPicture({12000, 6600}, 210);
+    EXPECT_EQ(outer, QSizeF(12100, 6600 + 900 + 210 + 670));
+    EXPECT_EQ(layout.innerPixels(outer), QSizeF(800, 514));
+    EXPECT_FALSE(layout.isTooNarrow({640, 1}));
+    EXPECT_TRUE(layout.isTooNarrow({639, 1}));
+    EXPECT_EQ(layout.innerPixels(layout.widened({8000, 7000})), QSizeF(633, 422));
+}
+
+TEST(WindowLayout, aLargeFontWindowIsWiderAndHasTheLowBar)
+{
+    ScreenMetrics large;
+    large.twipsPerPixelX = large.twipsPerPixelY = 12;
+    const WindowLayout layout(large, true);
+    EXPECT_EQ(layout.statusBarHeight(), 720);
+    EXPECT_EQ(layout.frameAllowance(), QSizeF(88, 544));
+    const QSizeF outer = layout.sizeForPicture({9600, 5280}, 168);
+    EXPECT_DOUBLE_EQ(outer.width(), 1.055 * 9688);
+    EXPECT_DOUBLE_EQ(outer.height(), 5280 + 544 + 720) << "the top piece is not added";
+}
+
+TEST(CardNames, areSpokenWithTheirState)
+{
+    using Side = CardOnTable::Side;
+    EXPECT_EQ(spokenCard(0, {}, false), "Card 1: empty");
+    EXPECT_EQ(spokenCard(4, {Side::back, 65}, false), "Card 5: face down");
+    EXPECT_EQ(spokenCard(1, {Side::face, card("Qh").cardId}, true),
+              "Card 2: Queen of hearts, held");
+    EXPECT_EQ(cardName(card("Ac").cardId), "Ace of clubs");
+    EXPECT_EQ(cardName(card("Ks").cardId), "King of spades");
+    EXPECT_EQ(cardName(card("Td").cardId), "Ten of diamonds");
+}
+
+TEST(HelpText, itsExampleHandsAreWhatItSays)
+{
+    std::ifstream file(QUILLET_HELP_FILE);
+    std::stringstream text;
+    text << file.rdbuf();
+    const std::string help = text.str();
+    const std::regex example("<tr id=\"row([0-9]+)\">[\\s\\S]*?<span class=\"hand\">([^<]*)</span>"
+                             "[\\s\\S]*?<span class=\"hold\">([^<]*)</span>");
+    int rows = 0;
+    for (std::sregex_iterator at(help.begin(), help.end(), example), end; at != end; ++at) {
+        const auto cards = hand((*at)[2].str());
+        const auto play = static_cast<std::int16_t>(std::stoi((*at)[1]));
+        std::array<bool, 5> held{};
+        for (std::size_t slot = 0; slot < 5; ++slot)
+            held[slot] =
+                (*at)[3].str().find((*at)[2].str().substr(3 * slot, 2)) != std::string::npos;
+        EXPECT_EQ(play, ++rows);
+        EXPECT_EQ(EvaluatePokerHand(cards, false), play) << (*at)[2];
+        EXPECT_TRUE(judgeHold(cards, held, play).correct) << (*at)[2] << ": " << (*at)[3];
+    }
+    EXPECT_EQ(rows, 21);
+}
+
+} // namespace quillet::test

@@ -1,0 +1,131 @@
+#include "platform/picture_box.h"
+#include "platform/table_canvas.h"
+#include "tests/shell/played_window.h"
+
+#include <QFile>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+// A clock that moves on by half a second whenever it is read, as on a very slow machine.
+class SlowClock : public Clock
+{
+public:
+    std::int64_t milliseconds() override { return static_cast<std::int64_t>(seconds() * 1000); }
+    double seconds() override { return m_now += 0.5; }
+
+private:
+    double m_now = 0;
+};
+
+} // namespace
+
+TEST(StartUp, theFirstHandIsDealt)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    EXPECT_TRUE(game.window->isVisible());
+    EXPECT_EQ(game.window->windowTitle(), "Jacks or Better Quillet");
+    EXPECT_EQ(game.counters(), "-5/1/0");
+    EXPECT_EQ(game.cards(), "Jack of clubs; Jack of diamonds; Four of hearts; Seven of spades; "
+                            "Nine of clubs");
+    EXPECT_TRUE(game.waitsForDraw());
+    EXPECT_EQ(game.store.log, "prfCardOutlineColor prfPKBackFace prfShowPokerPlay "
+                              "prfPokerAutoDeal isPoker prfShowHide prfAnimation prfSound "
+                              "prfAnimationDelay prfBannerDelay prfPKBackground prfScrollVal ");
+    EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
+    EXPECT_EQ(game.sounds, std::vector<std::string>(5, "deal.wav"));
+    EXPECT_EQ(QDir::currentPath().toStdString(), game.programFolder);
+    EXPECT_TRUE(game.errors.empty());
+    EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
+}
+
+TEST(StartUp, theFirstStartMeasuresTheDelays)
+{
+    PlayedWindow game;
+    game.store.texts = {{"prfSound", "False"}, {"prfAnimation", "False"}};
+    SlowClock slow;
+    PlayedWindow other;
+    ASSERT_TRUE(other.start());
+    game.desktop = std::make_unique<Desktop>(Desktop{game.store,
+                                                     game.shell,
+                                                     game,
+                                                     game,
+                                                     slow,
+                                                     game.random,
+                                                     {},
+                                                     game.programFolder,
+                                                     other.desktop->shortDelay,
+                                                     [](int) {}});
+    game.window = std::make_unique<frmMain>(*game.desktop);
+    ASSERT_TRUE(game.window->Form_Load());
+    EXPECT_EQ(game.window->prfAnimationDelay, 0);
+    EXPECT_EQ(game.window->prfScrollVal, 1000);
+    EXPECT_EQ(game.counters(), "-5/1/0");
+}
+
+TEST(StartUp, anErrorBeforeTheWindowShowsEndsIt)
+{
+    const std::vector<std::array<std::string, 3>> rows = {
+        {"prfPKBackFace", "abc", "prfPKBackFace: Type mismatch"},
+        {"prfAnimationDelay", "9999999999", "prfAnimationDelay: Overflow"},
+        {"prfPKBackground", "broken.jpg", ""}};
+    for (const auto& [key, text, cause] : rows) {
+        PlayedWindow game;
+        QFile broken(game.useOwnFolder() + "/pics/broken.jpg");
+        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+        broken.write("no picture");
+        broken.close();
+        game.store.texts[key] = text;
+        EXPECT_FALSE(game.start()) << key;
+        EXPECT_FALSE(game.window->isVisible());
+        ASSERT_EQ(game.errors.size(), 1u) << key;
+        const std::string before = "Error  in  Form_Load (  " + cause;
+        EXPECT_EQ(game.errors[0].substr(0, before.size()), before);
+        EXPECT_TRUE(game.errors[0].ends_with("  )"));
+        EXPECT_EQ(game.store.log.find('='), std::string::npos) << "nothing is saved";
+    }
+}
+
+TEST(StartUp, aMissingOrEmptyPictureLeavesADarkTable)
+{
+    for (const bool empty : {false, true}) {
+        PlayedWindow game;
+        QFile file(game.useOwnFolder() + "/pics/vpokerwood.jpg");
+        ASSERT_TRUE(!empty || file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(game.start());
+        EXPECT_TRUE(game.errors.empty());
+        EXPECT_TRUE(game.sounds.empty()) << "cues are missing, too";
+        EXPECT_EQ(game.part("table").size(), QSize(660, 440));
+        EXPECT_EQ(game.picture().pixelColor(game.placeOf("picDeal0").topLeft() - QPoint(40, 0)),
+                  QColor(Qt::black));
+        game.draw("12");
+        EXPECT_EQ(game.counters(), "0/1/1");
+    }
+}
+
+TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
+{
+    const std::vector<std::pair<QSize, int>> rows = {{{674, 354}, 674}, {{400, 500}, 633}};
+    for (const auto& [picture, innerWidth] : rows) {
+        PlayedWindow game;
+        QImage image(picture, QImage::Format_RGB32);
+        image.fill(0x204020);
+        ASSERT_TRUE(image.save(game.useOwnFolder() + "/pics/vpokerwood.jpg"));
+        ASSERT_TRUE(game.start());
+        EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
+        EXPECT_EQ(game.placeOf("picPokerLabels").right(), game.placeOf("table").right() - 12);
+        // The window insists on its size, but only until it has it.
+        game.window->setWindowState(Qt::WindowMaximized);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(game.window->isMaximized());
+        EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
+        EXPECT_TRUE(game.window->isVisible());
+        EXPECT_TRUE(game.errors.empty());
+    }
+}
+
+} // namespace quillet::test

@@ -1,0 +1,190 @@
+#include "screens/frm_about.h"
+#include "screens/frm_exit_no_banner.h"
+#include "screens/web_pages.h"
+#include "shell/frm_preferences.h"
+#include "tests/shell/played_window.h"
+
+#include <QPushButton>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+constexpr int fade = 100; // moments of a start, in milliseconds
+constexpr int longPause = 1000;
+constexpr int faceDown = 1700;
+
+void closeWindow(PlayedWindow& game)
+{
+    whileOpen<frmExitNoBanner>([&] { game.window->close(); }, [](frmExitNoBanner&) {});
+}
+
+} // namespace
+
+TEST(WindowEvents, aNewGameInAnyPauseDealsOneFreshHand)
+{
+    for (const int moment : {fade, longPause, faceDown}) {
+        PlayedWindow game;
+        game.in(moment, [&] { game.choose("mnuPoker"); });
+        ASSERT_TRUE(game.start());
+        EXPECT_EQ(game.counters(), moment == faceDown ? "-10/2/0" : "-5/1/0") << moment;
+        EXPECT_TRUE(game.waitsForDraw());
+    }
+    // While a win is counted up: a full house pays 25 and 20.
+    PlayedWindow game;
+    ASSERT_TRUE(game.start("5c 5d 5h 9s 9c 2c 3d 6h 6s 8c"));
+    game.in(600 + 250 + 200 + 100, [&] {
+        EXPECT_EQ(game.counters(), "20/1/0");
+        game.choose("mnuPoker");
+        EXPECT_EQ(game.counters(), "40/1/1");
+    });
+    game.draw("12345");
+    EXPECT_EQ(game.counters(), "35/2/1");
+    EXPECT_TRUE(game.waitsForDraw());
+}
+
+TEST(WindowEvents, clicksInPausesDealOnceAtMost)
+{
+    for (const int moment : {fade, longPause, faceDown}) {
+        PlayedWindow game;
+        game.in(moment, [&] {
+            game.clickDeck();
+            game.clickCard(0);
+            doubleClick(game.part("picDeal0"));
+        });
+        ASSERT_TRUE(game.start());
+        EXPECT_EQ(game.counters(), "-5/1/0") << moment;
+        EXPECT_TRUE(game.cards().starts_with("Jack of clubs; "));
+        EXPECT_TRUE(game.waitsForDraw());
+    }
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.draw("12");
+    doubleClick(game.part("picDeal0"));
+    EXPECT_EQ(game.counters(), "-5/2/1") << "a double click on the deck is one click";
+    EXPECT_TRUE(game.waitsForDraw());
+}
+
+TEST(WindowEvents, automaticDealingFollowsItsTick)
+{
+    const auto tick = [](PlayedWindow& game, bool on) {
+        whileOpen<frmPreferences>(
+            [&] { game.choose("mnuPref"); },
+            [on](frmPreferences& dialog) {
+                control<QAbstractButton>(dialog, "ckprfAutoDeal").setChecked(on);
+                click(control(dialog, "cmdSave"));
+            });
+    };
+    PlayedWindow game;
+    game.store.texts["prfPokerAutoDeal"] = "True";
+    ASSERT_TRUE(game.start());
+    // The second hand is dealt by itself; in the pause after it, dealing by hand is chosen.
+    game.in(1250 + 2000, [&] { EXPECT_EQ(game.counters(), "0/1/1"); });
+    game.draw("12");
+    EXPECT_EQ(game.counters(), "-5/2/1");
+
+    game.random.stack(PlayedWindow::jacks);
+    game.choose("mnuPoker");
+    game.in(1250 + 2000, [&] { tick(game, false); });
+    game.draw("12");
+    EXPECT_EQ(game.counters(), "-5/3/2") << "no further hand";
+    tick(game, true);
+    game.clickDeck();
+    EXPECT_EQ(game.counters(), "-10/4/2") << "the deck is never dead";
+}
+
+TEST(WindowEvents, nothingIsDealtUnderTheOpenPreferences)
+{
+    PlayedWindow game;
+    game.in(longPause, [&] {
+        whileOpen<frmPreferences>([&] { game.choose("mnuPref"); },
+                                  [&](frmPreferences&) {
+                                      game.clickDeck();
+                                      QTest::keyClick(game.window->windowHandle(), Qt::Key_Space);
+                                      EXPECT_EQ(game.counters(), "0/0/0");
+                                  });
+    });
+    ASSERT_TRUE(game.start());
+    EXPECT_EQ(game.counters(), "-5/1/0");
+}
+
+TEST(WindowEvents, closingInAnyPauseEndsEverything)
+{
+    for (const int moment : {fade, longPause, faceDown}) {
+        PlayedWindow game;
+        std::string counters;
+        game.in(moment, [&] {
+            closeWindow(game);
+            counters = game.counters();
+        });
+        EXPECT_TRUE(game.start());
+        EXPECT_EQ(game.ended, std::vector<int>{0}) << moment;
+        EXPECT_EQ(game.counters(), counters) << "the interrupted sequence goes nowhere";
+        EXPECT_FALSE(game.window->isVisible());
+        game.choose("mnuPoker");
+        EXPECT_EQ(game.counters(), counters);
+    }
+}
+
+TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
+{
+    for (const char* way : {"mnuExit", "close box"}) {
+        PlayedWindow game;
+        ASSERT_TRUE(game.start());
+        game.store.log.clear();
+        const auto leave = [&] {
+            way == std::string("mnuExit") ? game.choose(way) : void(game.window->close());
+        };
+        const std::string saved = "prfCardOutlineColor=65280 prfScrollVal=700 prfPKBackFace=65 "
+                                  "prfShowPokerPlay=False prfPokerAutoDeal=False "
+                                  "prfAnimation=False prfShowHide=True prfSound=True isPoker=True "
+                                  "prfAnimationDelay=300 prfBannerDelay=0 "
+                                  "prfPKBackground=vpokerwood.jpg ";
+        whileOpen<frmExitNoBanner>(leave, [&](frmExitNoBanner& screen) {
+            EXPECT_EQ(game.store.log, saved);
+            EXPECT_FALSE(game.window->isVisible());
+            EXPECT_TRUE(game.ended.empty());
+            click(control(screen, "Command1"));
+        });
+        ASSERT_FALSE(game.ended.empty());
+        EXPECT_EQ(game.ended[0], 0);
+        EXPECT_EQ(game.store.log, saved) << "once";
+        EXPECT_TRUE(game.shell.opened.empty());
+    }
+}
+
+TEST(WindowEvents, aStoreThatFailsIsReportedAndNoExitScreenFollows)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.store.failingKey = "prfAnimation";
+    game.window->close();
+    EXPECT_EQ(game.errors, std::vector<std::string>{"Error  in  Form_Unload (  Disk full  )"});
+    EXPECT_EQ(game.ended, std::vector<int>{1});
+    EXPECT_FALSE(game.window->isVisible());
+    EXPECT_FALSE(game.store.texts.contains("prfShowHide"));
+}
+
+TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    for (const char* entry : {"mnuSites0", "mnuSites1", "mnuSites2", "mnuSites3", "mnuSites4"})
+        game.choose(entry);
+    QTest::mouseClick(game.window->windowHandle(), Qt::LeftButton, {},
+                      game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
+    EXPECT_EQ(game.shell.opened, std::vector<std::string>(6, onlinePokerPage()));
+    click(game.part("lblstatus"));
+    doubleClick(game.part("lblstatus"));
+    EXPECT_EQ(game.shell.opened.size(), 6u) << "the text in the bar is no link";
+
+    game.choose("mnuAbout");
+    game.choose("mnuAbout");
+    EXPECT_EQ(game.window->findChildren<frmAbout*>().size(), 1);
+    game.draw("12");
+    EXPECT_EQ(game.counters(), "0/1/1") << "the game goes on beside the box";
+}
+
+} // namespace quillet::test
