@@ -1,6 +1,7 @@
 #include "shell/chart_row.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -104,7 +105,8 @@ QColor ChartRow::textColor() const
 {
     if (m_colors.text != windowTextColor)
         return colorOf(m_colors.text);
-    const QColor fromDesktop = palette().color(QPalette::WindowText);
+    // Not the row's own palette, which follows the black panel.
+    const QColor fromDesktop = QGuiApplication::palette().color(QPalette::WindowText);
     const bool readable = contrast(fromDesktop, colorOf(m_colors.background)) >= leastContrast;
     return readable ? fromDesktop : QColor(Qt::black);
 }

@@ -33,7 +33,7 @@ frmMain::frmMain(Desktop& desktop)
     m_pictures.canvas = new TableCanvas(this);
     m_pictures.canvas->setObjectName(QStringLiteral("table"));
     m_pictures.canvas->setAccessibleName(tr("Card table"));
-    m_pictures.canvas->setFocusPolicy(Qt::StrongFocus);
+    m_pictures.canvas->setFocusPolicy(Qt::ClickFocus);
     setCentralWidget(m_pictures.canvas);
     makeMenus();
     makeBoxes();
