@@ -74,6 +74,8 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     HScroll1->setSingleStep(1);
     HScroll1->setPageStep(50);
     HScroll1->setFocusPolicy(Qt::StrongFocus);
+    // As the toolkit makes them, the left arrow key moves a scroll bar to the right.
+    HScroll1->setInvertedControls(false);
     HScroll1->setAccessibleName(tr("Animation Delay"));
     caption->setBuddy(HScroll1);
     page.layout()->addWidget(HScroll1);
@@ -170,7 +172,11 @@ void frmPreferences::Form_Activate()
         Label4->setText(QString::number(now.prfAnimationDelay));
         ckprfAutoDeal->setChecked(now.prfPokerAutoDeal);
         showOutlineColor();
-        (now.prfShowPokerPlay ? opAlwaysShow : opShowOnError)->setChecked(true);
+        QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
+        chosen.setChecked(true);
+        // The tab key is to find the chosen one; the toolkit sees to it from the first focus on.
+        for (QRadioButton* option : {opAlwaysShow, opShowOnError})
+            option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
         ckAnimation->setChecked(now.prfAnimation);
         ckSounds->setChecked(now.prfSound);
         const std::int32_t entry = now.prfPKBackFace - firstBack;
