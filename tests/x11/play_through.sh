@@ -1,0 +1,214 @@
+#!/bin/bash
+# Plays the real program under an X server and a window manager of its own: a first start with an
+# empty home, hands by mouse and keyboard, every preference, both ways out, a second start, and a
+# death in the middle. Usage: play_through.sh PROGRAM
+set -u
+
+program=$1
+scratch=$(mktemp -d)
+pids=()
+cleanup() {
+    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
+    wait 2>/dev/null
+    rm -rf "$scratch"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    import -silent -window root "${PLAY_THROUGH_PICTURE:-$scratch/failed.png}" 2>/dev/null
+    exit 1
+}
+
+# wait_for SECONDS WHAT COMMAND...: until the command succeeds.
+wait_for() {
+    local deadline=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@"; do
+        ((SECONDS < deadline)) || fail "waited in vain for $what"
+        sleep 0.05
+    done
+}
+
+export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch
+export SDL_AUDIODRIVER=dummy QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
+mkdir -p "$HOME"
+settings=$XDG_CONFIG_HOME/Quillet/settings.ini
+
+exec {server}<> <(:)
+Xvfb -displayfd "$server" -screen 0 1100x800x24 -nolisten tcp 2>"$scratch/xvfb.log" &
+pids+=($!)
+read -r -t 20 -u "$server" display || fail "no X server"
+export DISPLAY=:$display
+openbox >"$scratch/openbox.log" 2>&1 &
+pids+=($!)
+managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q '#'; }
+wait_for 20 "the window manager" managed
+
+window_named() { xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -q .; }
+gone() { ! kill -0 "$game" 2>/dev/null; }
+active_is() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1" ]]; }
+
+title="Jacks or Better Quillet"
+exit_title="More Texas Hold'em Resources.."
+
+start() {
+    "$program" >"$scratch/program.log" 2>&1 &
+    game=$!
+    pids+=("$game")
+    wait_for 20 "the main window" window_named "$title"
+    wait_for 10 "the keyboard" active_is "$title"
+    window=$(xdotool search --onlyvisible --name "$title" | tail -1)
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    left=$X top=$((Y + HEIGHT - 514)) menu=$((HEIGHT - 514))
+    ((WIDTH == 800)) || fail "the window is $WIDTH wide"
+}
+
+# Mouse, in pixels of the table.
+click() { xdotool mousemove $((left + $1)) $((top + $2)) click 1; }
+click_deck() { click 250 160; }
+card_x() { echo $((40 + 110 * $1 + 48)); }
+click_card() { click "$(card_x "$1")" 350; }
+
+pixel() {
+    import -silent -window "$window" -crop "1x1+$1+$(($2 + menu))" -depth 8 txt:- |
+        grep -o '#[0-9A-F]\{6\}' | tail -1
+}
+# The chart row, 0 to 20, that has this colour; nothing when there is none.
+row_coloured() {
+    import -silent -window "$window" -crop "1x514+623+$menu" -depth 8 txt:- |
+        awk -v colour="$1" -F '[,:]' 'index($0, colour) && $2 > 56 && $2 < 500 {
+            print int(($2 - 12.4) / (488 / 23)) - 2; exit }'
+}
+row_is() { [[ $(row_coloured "$2") == "$1" ]]; }
+any_row_is() { [[ -n $(row_coloured "$1") ]]; }
+
+outline='#00FF00'
+held() { [[ $(pixel $(($(card_x "$1") - 48 - 2 + $1 * 4 / 10)) 350) == "$outline" ]]; }
+not_held() { ! held "$1"; }
+# A card takes a hold only while a hand waits for the draw.
+hand_waits() {
+    click_card 4
+    for _ in 1 2 3 4; do
+        held 4 && { click_card 4; wait_for 5 "the hold to go" not_held 4; return 0; }
+        sleep 0.05
+    done
+    return 1
+}
+
+keys() { xdotool key --clearmodifiers --delay 30 "$@"; }
+
+# How many cards the play of each row keeps.
+keeps=(5 5 4 5 4 5 5 3 4 4 2 3 4 2 4 2 3 2 2 1 0)
+
+# Asks to draw with the holds named; succeeds when the draw is accepted.
+draw_with() {
+    local slot
+    for slot in $1; do click_card "$slot"; done
+    for slot in $1; do wait_for 5 "the hold of card $slot" held "$slot"; done
+    click_deck
+    for slot in $1; do wait_for 5 "the end of the holds" not_held "$slot"; done
+    sleep 0.2 # the answer follows at once
+    ! any_row_is '#FF0000'
+}
+
+# First a hold of the wrong number of cards, then those of the right number.
+play_hand() {
+    local row size wrong mask slot chosen
+    draw_with "${1:-0 1 2 3 4}" && return
+    row=$(row_coloured '#FF0000')
+    size=${keeps[$row]}
+    for mask in {0..31}; do
+        chosen=
+        for slot in 0 1 2 3 4; do ((mask >> slot & 1)) && chosen+="$slot "; done
+        (($(wc -w <<<"$chosen") == size)) || continue
+        draw_with "$chosen" && return
+        row_is "$row" '#FF0000' || fail "the refused play moved from row $row"
+    done
+    fail "no hold of $size cards was accepted for row $row"
+}
+
+setting_is() { grep -qx "$1=$2" "$settings" || fail "$1 is not $2: $(cat "$settings")"; }
+
+open_preferences() {
+    keys alt+g Down Return
+    wait_for 10 "the preferences" active_is Preferences
+}
+
+save_preferences() {
+    keys Return
+    wait_for 10 "the main window again" active_is "$title"
+}
+
+# --- A first start
+start
+[[ -e $settings ]] && fail "settings before the first end"
+wait_for 25 "the first hand" hand_waits
+any_row_is '#FFC0C0' || fail "the best play is not shown"
+best=$(row_coloured '#FFC0C0')
+((keeps[best] == 1)) && wrong="0 1" || wrong="0"
+draw_with "$wrong" && fail "a hold of the wrong size was accepted"
+row_is "$best" '#FF0000' || fail "the missed row is not row $best"
+wait_for 5 "the hand again" hand_waits
+play_hand
+wait_for 25 "the hand dealt by itself" hand_waits
+
+# --- Every preference, by keyboard
+open_preferences
+keys Tab space Tab space Tab End Left Left Left
+keys shift+Tab shift+Tab shift+Tab Right
+keys Tab space Tab Down
+keys shift+Tab shift+Tab Right
+keys Tab Home Down Down Tab space
+wait_for 10 "the colour chooser" active_is "Select Color"
+keys alt+h ctrl+a
+xdotool type --delay 30 '#0080ff'
+keys Return
+wait_for 10 "the preferences again" active_is Preferences
+save_preferences
+outline='#0080FF'
+wait_for 5 "the hand after the dialog" hand_waits
+[[ -e $settings ]] && fail "settings were written before the end"
+
+keys alt+g x
+wait_for 10 "the exit screen" active_is "$exit_title"
+setting_is prfSound False
+setting_is prfAnimation False
+setting_is prfScrollVal 997
+setting_is prfAnimationDelay 3
+setting_is prfPokerAutoDeal False
+setting_is prfShowPokerPlay False
+setting_is prfPKBackFace 55
+setting_is prfCardOutlineColor 16744448
+setting_is prfPKBackground vpokerwood.jpg
+keys Return
+wait_for 10 "the end" gone
+wait "$game" || fail "the program ended with $?"
+cp "$settings" "$scratch/first.ini"
+
+# --- A second start keeps them; the close box
+start
+wait_for 10 "the first hand" hand_waits
+any_row_is '#FFC0C0' && fail "the best play is shown against the setting"
+play_hand
+keys alt+F4
+wait_for 10 "the exit screen" active_is "$exit_title"
+keys alt+F4
+wait_for 10 "the end" gone
+wait "$game" || fail "the program ended with $?"
+cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
+
+# --- A death at a random moment
+start
+wait_for 10 "the first hand" hand_waits
+open_preferences
+keys Tab space
+save_preferences
+sleep "0.$((RANDOM % 9))"
+kill -9 "$game"
+wait "$game" 2>/dev/null
+cmp "$settings" "$scratch/first.ini" || fail "a killed program changed the settings"
+
+[[ -s $scratch/program.log ]] && fail "the program spoke: $(cat "$scratch/program.log")"
+echo "passed in $SECONDS s"
