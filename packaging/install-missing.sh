@@ -1,0 +1,39 @@
+#!/bin/bash
+# Installs those packages of debian-packages.txt that this machine lacks. A machine that has them
+# all is left alone and needs no network.
+set -euo pipefail
+
+list=$(dirname -- "$(readlink -f -- "$0")")/../debian-packages.txt
+
+if ! command -v dpkg-query >/dev/null; then
+    echo "This is no Debian machine. Please see to these yourself:" >&2
+    grep -v "^#" "$list" >&2
+    exit 0
+fi
+
+# dpkg-query complains about names that it has never heard of; those are missing like the others.
+installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' 2>/dev/null |
+    sed -n 's/ installed$//p')
+missing=()
+while read -r package; do
+    grep -qxF -- "$package" <<<"$installed" || missing+=("$package")
+done < <(grep -v -e '^#' -e '^$' "$list")
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "These packages are missing: ${missing[*]}" >&2
+        echo "Please install them as root, or install sudo." >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+
+echo "Installing ${missing[*]}"
+as_root+=(env DEBIAN_FRONTEND=noninteractive)
+if ! "${as_root[@]}" apt-get -qq update ||
+    ! "${as_root[@]}" apt-get -qq -y --no-install-recommends install "${missing[@]}"; then
+    echo "The packages could not be installed; apt-get says above why." >&2
+    exit 1
+fi
