@@ -63,14 +63,4 @@ void Surface::drawPixels(const QImage& pixels, QPointF to)
     painter.drawImage(deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale), pixels);
 }
 
-void Surface::stretch(const QImage& picture, const QRectF& to)
-{
-    const QRect target = deviceRect(to, m_scale);
-    if (picture.isNull() || target.isEmpty())
-        return;
-    QImage fitting = picture.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    fitting.setDevicePixelRatio(1.0);
-    QPainter(&m_image).drawImage(target.topLeft(), fitting);
-}
-
 } // namespace quillet

@@ -34,9 +34,6 @@ public:
     void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
     // Paints a picture whose pixels are device pixels, its transparent parts left out.
     void drawPixels(const QImage& pixels, QPointF to);
-    // Paints a picture stretched to the rectangle.
-    void stretch(const QImage& picture, const QRectF& to);
-
     // For pixel operations of our own, in device pixels.
     [[nodiscard]] QImage& pixels() { return m_image; }
 

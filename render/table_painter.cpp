@@ -23,6 +23,7 @@ void resize(OffScreenBox& box, QSizeF size, double scale)
 void TablePainter::sizePictures(const TableMeasures& table, double scale)
 {
     const QSizeF card(table.cardWidth, table.cardHeight);
+    m_stretched.clear();
     m_pictures.canvas->resizePictures({table.innerWidth, table.innerHeight}, scale);
     m_pictures.BoardBuffer = Surface({table.innerWidth, table.innerHeight}, scale);
     m_pictures.picBuffer = Surface(card, scale);
@@ -41,7 +42,7 @@ void TablePainter::paintBackground()
     Surface& kept = m_pictures.canvas->keptForDrawing();
     kept.fill(Qt::black);
     const LoadedPicture& picture = m_pictures.thePic;
-    kept.stretch(picture.image, {{0, 0}, picture.logicalSize});
+    stretch(kept, picture.image, {{0, 0}, picture.logicalSize});
 }
 
 void TablePainter::paintFirstTable(const TableMeasures& table)
@@ -113,15 +114,27 @@ void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
 {
     for (const FramePlace& place : frame) {
         const QImage& piece = m_pictures.framePieces[static_cast<std::size_t>(place.piece)];
-        m_pictures.canvas->keptForDrawing().stretch(piece, place.rect);
-        m_pictures.BoardBuffer.stretch(piece, place.rect);
+        stretch(m_pictures.canvas->keptForDrawing(), piece, place.rect);
+        stretch(m_pictures.BoardBuffer, piece, place.rect);
     }
+}
+
+void TablePainter::stretch(Surface& surface, const QImage& picture, const QRectF& to)
+{
+    const QRect target = deviceRect(to, surface.scale());
+    if (picture.isNull() || target.isEmpty())
+        return;
+    QImage& fitting = m_stretched[{picture.cacheKey(), target.width(), target.height()}];
+    if (fitting.isNull()) {
+        fitting = picture.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        fitting.setDevicePixelRatio(1.0);
+    }
+    surface.drawPixels(fitting, to.topLeft());
 }
 
 void TablePainter::copyTableBehind(OffScreenBox& box)
 {
-    box.picture.copyFrom(m_pictures.canvas->kept(), box.place.topLeft(), box.place.size(),
-                         {0, 0});
+    box.picture.copyFrom(m_pictures.canvas->kept(), box.place.topLeft(), box.place.size(), {0, 0});
 }
 
 void TablePainter::layHatches()

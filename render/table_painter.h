@@ -4,6 +4,9 @@
 #include "render/deck_pile.h"
 #include "render/table_pictures.h"
 
+#include <map>
+#include <tuple>
+
 namespace quillet
 {
 
@@ -31,12 +34,17 @@ private:
     void placeDeck(const TableMeasures& table);
     void placeCards(const TableMeasures& table);
     void paintFrame(const std::vector<FramePlace>& frame);
+    void stretch(Surface& surface, const QImage& picture, const QRectF& to);
     void copyTableBehind(OffScreenBox& box);
     void layHatches();
 
     TablePictures& m_pictures;
     CardLibrary& m_library;
     DeckPile& m_pile;
+
+    // Pictures stretched to device pixels, which costs more than all else, by picture and size.
+    using StretchKey = std::tuple<qint64, int, int>;
+    std::map<StretchKey, QImage> m_stretched;
 };
 
 } // namespace quillet

@@ -158,7 +158,8 @@ private:
     ChartPanel* picPokerLabels = nullptr; // children of the window
     StatusBar* picStatusBar = nullptr;
 
-    QSizeF m_outerSize; // twips
+    QSizeF m_outerSize;          // twips
+    QString m_backgroundVersion; // of the file that thePic was read from
     bool inLayout = false;
     bool calibrateDelays = false;
     bool m_firstHandStarted = false;

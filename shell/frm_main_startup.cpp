@@ -8,7 +8,9 @@
 #include "shell/preferences_store.h"
 #include "shell/status_bar.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -102,7 +104,15 @@ bool frmMain::loadBackground()
     const QString path = backgroundPath();
     if (!FileExists(path.toStdString()))
         return false;
+    const QFileInfo file(path);
+    const QString version = QStringLiteral("%1 %2 %3")
+                                .arg(path)
+                                .arg(file.size())
+                                .arg(file.lastModified().toMSecsSinceEpoch());
+    if (version == m_backgroundVersion)
+        return true;
     const QImage image = loadPictureFile(path);
+    m_backgroundVersion = version;
     m_pictures.thePic = {image.convertToFormat(QImage::Format_RGB32),
                          image.deviceIndependentSize()};
     return true;
