@@ -18,6 +18,7 @@ constexpr int rowWidth = 167;
 constexpr int captionPixels = 11;
 constexpr int rowPixels = 13; // 9.75 points
 constexpr int leastRowPixels = 9;
+constexpr int markRoom = 9; // for the mark of a lit row, left of its caption
 constexpr int counterWidth = 52;
 
 QFont panelFont(int pixels, bool bold)
@@ -104,7 +105,7 @@ void ChartPanel::fitRowFont()
         const QFontMetricsF metrics(font);
         bool fits = metrics.height() <= rowHeight;
         for (const ChartRow* row : m_rows)
-            fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - 4;
+            fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - 2 * markRoom;
         if (!fits && pixels > leastRowPixels)
             continue;
         for (ChartRow* row : m_rows)

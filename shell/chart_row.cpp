@@ -119,7 +119,7 @@ void ChartRow::paintEvent(QPaintEvent*)
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(8, height() / 2.0);
+    painter.translate(5, height() / 2.0);
     painter.fillPath(markFor(m_state), textColor());
 }
 
