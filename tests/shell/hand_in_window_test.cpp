@@ -148,6 +148,33 @@ TEST(HandInWindow, oddRowsTakeTheDesktopsTextUnlessItCannotBeRead)
     QApplication::setPalette(usual);
 }
 
+TEST(HandInWindow, aDisplayWithOtherPixelsLeavesTheTableAsItWas)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    auto& canvas = control<TableCanvas>(*game.window, "table");
+    // As if the pictures had been made for another display than the one that shows them now.
+    const auto comeFromAnotherDisplay = [&] {
+        canvas.resizePictures(canvas.innerSize(), 2.0);
+        for (auto* box : canvas.findChildren<PictureBox*>())
+            box->place(box->place(), 2.0);
+        canvas.repaint();
+        QCoreApplication::processEvents();
+    };
+    game.clickCard(1);
+    for (const bool finished : {false, true}) {
+        if (finished)
+            game.draw("1");
+        const QImage before = game.picture();
+        const std::string cards = game.cards();
+        comeFromAnotherDisplay();
+        EXPECT_EQ(canvas.scale(), 1.0);
+        EXPECT_EQ(game.picture(), before) << "finished: " << finished;
+        EXPECT_EQ(game.cards(), cards);
+    }
+    EXPECT_EQ(game.counters(), "0/1/1") << "the hand went on";
+}
+
 TEST(HandInWindow, theKeyboardPlaysAWholeHand)
 {
     PlayedWindow game;
