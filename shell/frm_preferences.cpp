@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFormLayout>
@@ -153,6 +154,8 @@ bool frmPreferences::event(QEvent* event)
     if (event->type() == QEvent::Show && !m_activated) {
         m_activated = true;
         Form_Activate();
+        // The window takes its size for the card before it is seen.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     }
     return QDialog::event(event);
 }

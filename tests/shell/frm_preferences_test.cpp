@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollBar>
+#include <QTabWidget>
 
 namespace quillet::test
 {
@@ -70,11 +71,13 @@ TEST(PreferencesDialog, saveTakesEveryFieldAndThePileItsBack)
         for (const char* name : {"ckSounds", "ckAnimation", "ckprfAutoDeal", "opAlwaysShow"})
             control<QAbstractButton>(dialog, name).click();
         control<QScrollBar>(dialog, "HScroll1").setValue(499);
+        control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
         QWidget& preview = control(dialog, "picBacks");
         const QImage before = preview.grab().toImage();
         control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
         EXPECT_NE(preview.grab().toImage(), before);
         EXPECT_EQ(preview.size(), QSize(96 + 2, 130 + 2));
+        EXPECT_LT(preview.geometry().bottom(), control(dialog, "lblColor").y());
         EXPECT_EQ(shown(dialog), "0 1 499 511 1 1 0 Castle #00ff00");
         EXPECT_EQ(game.window->prfPKBackFace, 65) << "not before Save";
         EXPECT_EQ(game.window->prfAnimationDelay, 511) << "at once";
