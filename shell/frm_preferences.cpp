@@ -13,6 +13,7 @@
 #include <QFormLayout>
 #include <QFrame>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -27,6 +28,24 @@ namespace
 {
 
 constexpr int backs = 13;
+
+// Styles draw no focus on scroll bars, which elsewhere do not take it.
+class SpeedBar : public QScrollBar
+{
+public:
+    using QScrollBar::QScrollBar;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QScrollBar::paintEvent(event);
+        if (!hasFocus())
+            return;
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
 
 QFrame* makePage(const QString& name, QTabWidget& tabs, const QString& caption)
 {
@@ -69,7 +88,7 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     ckSounds = add<QCheckBox>(page, QStringLiteral("ckSounds"), tr("Enable sounds"));
     ckAnimation = add<QCheckBox>(page, QStringLiteral("ckAnimation"), tr("Enable animation"));
     auto* caption = add<QLabel>(page, QStringLiteral("Label1"), tr("Animation Delay"));
-    HScroll1 = new QScrollBar(Qt::Horizontal, &page);
+    HScroll1 = new SpeedBar(Qt::Horizontal, &page);
     HScroll1->setObjectName(QStringLiteral("HScroll1"));
     HScroll1->setRange(slowest, fastest);
     HScroll1->setSingleStep(1);
