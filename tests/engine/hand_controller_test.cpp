@@ -48,13 +48,23 @@ TEST(HandController, aDrawRunsInItsOrder)
     EXPECT_FALSE(game.state.handDealt || game.state.handBusy);
 }
 
+TEST(HandController, aNewGameFadesItsTextInAndDeals)
+{
+    Game game;
+    game.controller.initPokerScreen();
+    EXPECT_EQ(game.table.logged().substr(0, 32), "layOut pause1000 total-5 fly0 de");
+    EXPECT_EQ(game.table.now(), 25 * 20 + 1000 + 650);
+}
+
 TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
 {
     Game game;
     game.deal(jacks);
     game.draw("12");
     game.table.log.clear();
+    EXPECT_EQ(game.chart.state(10), ChartRowState::winner);
     game.deal(jacks);
+    EXPECT_EQ(game.chart.state(10), ChartRowState::base);
     EXPECT_EQ(game.table.logged().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
     EXPECT_THAT(game.table.logged(), testing::HasSubstr("fly4 deal.wav fly3"));
     game.controller.initPokerScreen();
@@ -77,6 +87,18 @@ TEST(HandController, cardsAreHeldOnlyWhileTheHandWaits)
     game.table.in(100, [&] { game.controller.picPoker_MouseDown(4); });
     game.draw("12");
     EXPECT_FALSE(game.table.outlines[4]);
+}
+
+TEST(HandController, theFourRoyalsOfAFlushAreKeptWhenDealtAndPaidAsAFlushWhenFinal)
+{
+    Game game;
+    game.preferences.prfShowPokerPlay = true;
+    game.deal("As Ks Qs Js 9s 2c 3d 5h 6s 2s");
+    EXPECT_EQ(game.state.handCode, 5);
+    EXPECT_EQ(game.chart.state(4), ChartRowState::bestPlay);
+    game.draw("1234");
+    EXPECT_EQ(game.counters.total, 25);
+    EXPECT_EQ(game.chart.state(4), ChartRowState::base);
 }
 
 TEST(HandController, wrongHoldsAreRefusedWithTheirCues)

@@ -19,6 +19,7 @@ void expectOneFreshDeal(const Game& game, int hands)
     EXPECT_THAT(game.state.holdFlags, testing::Each(false));
     EXPECT_EQ(game.counters.hands, hands);
     EXPECT_TRUE(game.table.errors.empty());
+    EXPECT_EQ(game.table.count("wrong.wav"), 0) << "nobody asked to draw";
 }
 
 } // namespace
@@ -108,7 +109,10 @@ TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
 {
     for (const int moment : {100, 900}) {
         Game game;
-        game.table.in(moment, [&] { game.click(); });
+        game.table.in(moment, [&] {
+            game.click();
+            EXPECT_TRUE(game.state.handDealt) << "the click is heard";
+        });
         game.controller.initPokerScreen();
         expectOneFreshDeal(game, 1);
     }
