@@ -101,6 +101,30 @@ TEST(HandController, theFourRoyalsOfAFlushAreKeptWhenDealtAndPaidAsAFlushWhenFin
     EXPECT_EQ(game.chart.state(4), ChartRowState::base);
 }
 
+TEST(HandController, thePlayersWishesForSoundAndHintsAreKept)
+{
+    for (const bool wished : {true, false}) {
+        Game game;
+        game.preferences.prfSound = game.preferences.prfShowPokerPlay = wished;
+        game.deal("2h 4s 6c 8d Th 3c 5d 7h 9s Kc");
+        EXPECT_EQ(game.chart.state(20) == ChartRowState::bestPlay, wished);
+        EXPECT_EQ(game.table.count("deal.wav"), wished ? 5 : 0);
+        game.draw("");
+        EXPECT_EQ(game.chart.state(20), ChartRowState::base) << "a lost hand lights nothing";
+    }
+}
+
+TEST(HandController, aPaidWinIsNotCreditedAgainByANewGame)
+{
+    Game game;
+    game.deal(jacks);
+    game.draw("12");
+    game.deal(jacks);
+    game.controller.initPokerScreen();
+    EXPECT_EQ(game.counters.total, -10);
+    EXPECT_EQ(game.counters.won, 1);
+}
+
 TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
 {
     Game game;
