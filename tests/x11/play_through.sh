@@ -1,7 +1,7 @@
 #!/bin/bash
 # Plays the real program under an X server and a window manager of its own: a first start with an
-# empty home, hands by mouse and keyboard, every preference, both ways out, a second start, and a
-# death in the middle. Usage: play_through.sh PROGRAM
+# empty home, a hand by mouse, every preference by keyboard, both ways out, a second start, and a
+# death at a random moment. Usage: play_through.sh PROGRAM
 set -u
 
 program=$1
