@@ -259,4 +259,16 @@ TEST(HandController, anErrorEndsTheHandAndTheNextClickDeals)
     EXPECT_TRUE(game.state.handDealt);
 }
 
+TEST(HandController, anErrorWhileAWinIsCountedUpLeavesTheCreditsAsTheyStand)
+{
+    Game game;
+    game.deal(royal);
+    game.table.in(1050 + 2250, [] { throw std::runtime_error("the wind"); });
+    game.draw("12345");
+    EXPECT_EQ(game.counters.total, -5 + 5 * 25);
+    EXPECT_EQ(game.counters.won, 0);
+    game.controller.initPokerScreen();
+    EXPECT_EQ(game.counters.total, -5 + 5 * 25 - 5);
+}
+
 } // namespace quillet::test
