@@ -32,9 +32,15 @@ HoldCoach::HoldCoach(HandState& state, const Preferences& preferences, StrategyC
 {
 }
 
-void HoldCoach::resetChartColors() { m_chart.resetChartColors(); }
+void HoldCoach::resetChartColors()
+{
+    m_chart.resetChartColors();
+}
 
-void HoldCoach::highlightWinner(std::int16_t playCode) { m_chart.highlightWinner(playCode); }
+void HoldCoach::highlightWinner(std::int16_t playCode)
+{
+    m_chart.highlightWinner(playCode);
+}
 
 void HoldCoach::showBestPlay()
 {

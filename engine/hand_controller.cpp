@@ -15,15 +15,16 @@ constexpr int fadeSteps = 25;
 
 } // namespace
 
-HandController::HandController(HandState& state, Counters& counters,
-                               const Preferences& preferences, HandTable& table,
-                               HandCoach& coach, RandomSource& random, ErrorBox& errorBox)
+HandController::HandController(HandState& state, Counters& counters, const Preferences& preferences,
+                               HandTable& table, HandCoach& coach, RandomSource& random,
+                               ErrorBox& errorBox)
     : m_state(state), m_counters(counters), m_preferences(preferences), m_table(table),
       m_coach(coach), m_random(random), m_errorBox(errorBox)
 {
 }
 
-template <typename Body> void HandController::runSequence(Body body)
+template <typename Body>
+void HandController::runSequence(Body body)
 {
     if (m_ended)
         return;
@@ -87,9 +88,15 @@ void HandController::clickDeck(std::int16_t index)
         showPokerHand();
 }
 
-void HandController::picPoker_MouseDown(std::int16_t Index) { toggleHold(Index); }
+void HandController::picPoker_MouseDown(std::int16_t Index)
+{
+    toggleHold(Index);
+}
 
-void HandController::picPoker_DblClick(std::int16_t Index) { toggleHold(Index); }
+void HandController::picPoker_DblClick(std::int16_t Index)
+{
+    toggleHold(Index);
+}
 
 void HandController::toggleHold(std::int16_t index)
 {
@@ -261,8 +268,9 @@ void HandController::dealNextHandByItself(std::uint32_t epoch)
 
 void HandController::charge()
 {
+    m_counters.total = addStopping(m_counters.total, -wager);
     m_counters.hands = addStopping(m_counters.hands, 1);
-    addCredits(-wager);
+    m_table.showCounters(m_counters);
 }
 
 void HandController::addCredits(std::int16_t credits)

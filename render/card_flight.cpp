@@ -122,6 +122,7 @@ void CardFlight::prepareTable()
     m_pictures.BoardBuffer.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
     for (auto box = m_pictures.picDeal.rbegin(); box != m_pictures.picDeal.rend(); ++box)
         (*box)->setShowing(false);
+    canvas.refresh();
 }
 
 void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,

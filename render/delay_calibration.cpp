@@ -11,9 +11,9 @@ namespace quillet
 namespace
 {
 
-constexpr double flightRound = 0.4;  // seconds that a round is to take at least
-constexpr double bannerRound = 0.3;  // below this, the banner is measured again
-constexpr double bannerSlow = 0.5;   // below this, the banner's delay still rises
+constexpr double flightRound = 0.4; // seconds that a round is to take at least
+constexpr double bannerRound = 0.3; // below this, the banner is measured again
+constexpr double bannerSlow = 0.5;  // below this, the banner's delay still rises
 constexpr std::int32_t step = 10;
 
 // A round below this share of its limit will not reach it, whatever the measurement's error.

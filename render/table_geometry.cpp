@@ -7,7 +7,7 @@ namespace
 {
 
 constexpr double margin = 12; // around chart and status bar
-constexpr double computerHandLeft = 92;
+constexpr double picComputerHandLeft = 92;
 
 QRectF deckBeside(const QRectF& reject, const TableMeasures& table, double lower)
 {
@@ -51,7 +51,7 @@ QSizeF rejectPileSize(const TableMeasures& table)
 QRectF firstRejectPlace(const TableMeasures& table)
 {
     const QSizeF size = rejectPileSize(table);
-    return {{1.5 * computerHandLeft, table.innerHeight / 2 - size.height() / 2}, size};
+    return {{1.5 * picComputerHandLeft, table.innerHeight / 2 - size.height() / 2}, size};
 }
 
 QRectF firstDeckPlace(const TableMeasures& table)
@@ -65,7 +65,10 @@ std::vector<FramePlace> firstFrame(const TableMeasures& table)
             rightPiece(table, table.innerWidth)};
 }
 
-QRectF rejectPlace(const TableMeasures& table) { return {{107, 97}, rejectPileSize(table)}; }
+QRectF rejectPlace(const TableMeasures& table)
+{
+    return {{107, 97}, rejectPileSize(table)};
+}
 
 QRectF deckPlace(const TableMeasures& table)
 {
@@ -86,8 +89,8 @@ std::array<QRectF, 5> cardPlaces(const TableMeasures& table)
 
 std::vector<FramePlace> tableFrame(const TableMeasures& table)
 {
-    return {topPiece(table), bottomPiece(table, table.statusBarHeight + margin),
-            leftPiece(table), rightPiece(table, table.innerWidth), bottomPiece(table, 0)};
+    return {topPiece(table), bottomPiece(table, table.statusBarHeight + margin), leftPiece(table),
+            rightPiece(table, table.innerWidth), bottomPiece(table, 0)};
 }
 
 FramePlace chartFrame(const TableMeasures& table)

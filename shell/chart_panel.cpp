@@ -74,9 +74,9 @@ QLabel* ChartPanel::addCounter(const QString& captionName, const QString& captio
 {
     const int centre = static_cast<int>(std::lround((captionLeft + captionWidth / 2) / twips));
     QLabel* captionLabel = whiteLabel(this, captionName, caption, false);
-    captionLabel->setGeometry(border + centre - counterWidth / 2, border + 2, counterWidth, 16);
+    captionLabel->setGeometry(border + centre - counterWidth / 2, -2, counterWidth, 16);
     QLabel* value = whiteLabel(this, valueName, QStringLiteral("0"), true);
-    value->setGeometry(border + centre - counterWidth / 2, border + 18, counterWidth, 18);
+    value->setGeometry(border + centre - counterWidth / 2, 14, counterWidth, 16);
     captionLabel->setBuddy(value);
     return value;
 }
@@ -118,8 +118,8 @@ void ChartPanel::showRow(int row)
 {
     ChartRow& label = *m_rows[static_cast<std::size_t>(row)];
     label.show(m_chart.colors(row), m_chart.state(row));
-    if (m_chart.state(row) != ChartRowState::base)
-        setAccessibleDescription(label.accessibleName());
+    const bool lit = m_chart.state(row) != ChartRowState::base;
+    setAccessibleDescription(lit ? label.accessibleName() : QString());
 }
 
 void ChartPanel::showCounters(const Counters& counters)

@@ -28,6 +28,7 @@ struct Desktop {
     // Waits for so many milliseconds while events run, or until the question is answered with yes.
     std::function<void(std::int32_t, const std::function<bool()>&)> shortDelay;
     std::function<void(int code)> endProcess; // ends at once; returns in tests only
+    std::string helpFile = {};                // set at the start
 };
 
 } // namespace quillet

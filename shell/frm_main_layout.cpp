@@ -78,6 +78,7 @@ void frmMain::layOutGame()
         AutoSizeToPicture(m_pictures.thePic);
     isPoker = true;
     m_chart.resetChartColors();
+    placeChartAndStatusBar();
     inLayout = true;
     showAndWaitUntilExposed();
     inLayout = false;
@@ -85,8 +86,8 @@ void frmMain::layOutGame()
         inLayout = true;
         widenToMinimum();
         inLayout = false;
+        placeChartAndStatusBar();
     }
-    placeChartAndStatusBar();
     shuffleCards();
     resetGraphics();
 }
@@ -146,6 +147,8 @@ void frmMain::resetGraphics()
         if (m_pictures.canvas->innerSize() != QSizeF(table.innerWidth, table.innerHeight) ||
             m_pictures.canvas->scale() != devicePixelRatioF())
             m_painter.sizePictures(table, devicePixelRatioF());
+        for (PictureBox* deck : m_pictures.picDeal)
+            deck->setShowing(false);
         for (int slot = 0; slot < 5; ++slot)
             hideCard(slot);
         picPokerLabels->hide();

@@ -91,8 +91,7 @@ void frmMain::mnuSites_Click(int)
 
 void frmMain::mnuContents_Click()
 {
-    HelpViewer::present(this, m_desktop.shell,
-                        QString::fromStdString(m_desktop.programFolder + "/quillet.hlp"));
+    HelpViewer::present(this, m_desktop.shell, QString::fromStdString(m_desktop.helpFile));
 }
 
 void frmMain::mnuAbout_Click()

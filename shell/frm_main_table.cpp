@@ -46,6 +46,10 @@ void frmMain::flyCardTo(int slot)
     };
     const QPointF from = m_pictures.picAnimate.place.topLeft();
     const QPointF to = box(slot).place().topLeft();
+    // Where the card lands, its rounded corners show the table of that place.
+    OffScreenBox& card = m_pictures.picAnimate;
+    card.picture.copyFrom(m_pictures.canvas->kept(), to, card.place.size(), {0, 0});
+    paintFlyingCard(prfPKBackFace);
     std::int32_t x = pixel(from.x());
     std::int32_t y = pixel(from.y());
     m_flight.AnimateCard(x, y, pixel(to.x()), pixel(to.y()), 1, prfPKBackFace, drawBack);

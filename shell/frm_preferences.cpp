@@ -4,6 +4,7 @@
 #include "shell/back_preview.h"
 #include "shell/chart_row.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -185,7 +186,8 @@ void frmPreferences::Form_Activate()
         const Preferences& now = m_host.preferences;
         const int margin = static_cast<int>(30 / m_host.twipsPerPixel);
         picBacks->setFixedSize(m_host.cardSize + QSize(margin, margin));
-        Combo1->setFixedWidth(std::max(picBacks->width(), Combo1->sizeHint().width()));
+        Combo1->setFixedWidth(picBacks->width());
+        Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));
         {
             // Showing the stored position changes no delay.
             const QSignalBlocker quiet(HScroll1);
@@ -221,11 +223,13 @@ void frmPreferences::Combo1_Click()
 
 void frmPreferences::cmdChangeColor_Click()
 {
-    const QColor chosen = QColorDialog::getColor(
+    QColorDialog chooser(
         colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
-    if (!chosen.isValid())
+    chooser.setObjectName(QStringLiteral("CommonDialog1"));
+    if (chooser.exec() != QDialog::Accepted)
         return;
-    m_host.preferences.prfCardOutlineColor = static_cast<std::int32_t>(bgrOf(chosen));
+    m_host.preferences.prfCardOutlineColor =
+        static_cast<std::int32_t>(bgrOf(chooser.selectedColor()));
     showOutlineColor();
     m_host.outlineColorChanged();
 }

@@ -24,6 +24,16 @@ void useIcons()
     QApplication::setWindowIcon(icon);
 }
 
+// Names the help file, loads the main window and runs the program to its end.
+int Main(quillet::Desktop& desktop)
+{
+    desktop.helpFile = desktop.programFolder + "/quillet.hlp";
+    quillet::frmMain window(desktop);
+    const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
+    desktop.endProcess(code);
+    return code;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -59,8 +69,5 @@ int main(int argc, char* argv[])
                         std::_Exit(code);
                     }};
 
-    frmMain window(desktop);
-    if (!window.Form_Load())
-        desktop.endProcess(EXIT_FAILURE);
-    desktop.endProcess(QApplication::exec());
+    return Main(desktop);
 }

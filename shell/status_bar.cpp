@@ -1,5 +1,7 @@
 #include "shell/status_bar.h"
 
+#include "shell/window_layout.h"
+
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -29,6 +31,7 @@ StatusBar::StatusBar(QWidget* parent)
 {
     setObjectName(QStringLiteral("picStatusBar"));
     setAccessibleName(tr("Status bar, opens the web site"));
+    setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
     setAutoFillBackground(true);
     QPalette colors = palette();
     colors.setColor(QPalette::Window, Qt::black);
@@ -44,7 +47,7 @@ StatusBar::StatusBar(QWidget* parent)
     font.setPixelSize(12);
     font.setBold(true);
     m_lblstatus->setFont(font);
-    m_lblstatus->setGeometry(117, 21, 215, 18);
+    m_lblstatus->setGeometry(117, 21, 215, 16);
     setTextColor(QColor(0xff, 0xff, 0xc0));
 }
 

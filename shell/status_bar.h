@@ -24,6 +24,8 @@ signals:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    // A double click opens the page once.
+    void mouseDoubleClickEvent(QMouseEvent*) override {}
 
 private:
     QLabel* m_lblstatus; // a child

@@ -41,6 +41,10 @@ TEST(StartUp, theFirstHandIsDealt)
     EXPECT_EQ(QDir::currentPath().toStdString(), game.programFolder);
     EXPECT_TRUE(game.errors.empty());
     EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
+    EXPECT_LE(game.part("picPoker4").geometry().right(),
+              game.part("picPokerLabels").geometry().left());
+    EXPECT_LE(game.part("picPoker0").geometry().bottom(),
+              game.part("picStatusBar").geometry().top());
 }
 
 TEST(StartUp, theFirstStartMeasuresTheDelays)
@@ -99,7 +103,7 @@ TEST(StartUp, aMissingOrEmptyPictureLeavesADarkTable)
         ASSERT_TRUE(game.start());
         EXPECT_TRUE(game.errors.empty());
         EXPECT_TRUE(game.sounds.empty()) << "cues are missing, too";
-        EXPECT_EQ(game.part("table").size(), QSize(660, 440));
+        EXPECT_EQ(game.part("table").size(), QSize(800, 514));
         EXPECT_EQ(game.picture().pixelColor(game.placeOf("picDeal0").topLeft() - QPoint(40, 0)),
                   QColor(Qt::black));
         game.draw("12");

@@ -179,6 +179,9 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     click(game.part("lblstatus"));
     doubleClick(game.part("lblstatus"));
     EXPECT_EQ(game.shell.opened.size(), 6u) << "the text in the bar is no link";
+    QTest::mouseDClick(game.window->windowHandle(), Qt::LeftButton, {},
+                       game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
+    EXPECT_LE(game.shell.opened.size(), 7u) << "a double click is one click";
 
     game.choose("mnuAbout");
     game.choose("mnuAbout");
