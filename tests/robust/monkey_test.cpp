@@ -155,6 +155,7 @@ private:
                                 Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_Alt};
         const Qt::Key key = keys[below(8)];
         tell("key " + std::to_string(key));
+        closeMenu();
         ++m_deckClicks;
         QWidget* focus = window.focusWidget();
         QTest::keyClick(focus != nullptr ? focus : &window, key);
@@ -165,10 +166,18 @@ private:
         const QPoint at(below(window.width() + 20) - 10, below(window.height() + 20) - 10);
         tell("mouse " + std::to_string(at.x()) + ' ' + std::to_string(at.y()));
         ++m_deckClicks;
+        closeMenu();
         if (chanceOf(70))
             QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
         else
             QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, at);
+    }
+
+    // A dialog that a click in an open menu brings up would wait for somebody to close it.
+    static void closeMenu()
+    {
+        if (QWidget* open = QApplication::activePopupWidget())
+            open->close();
     }
 
     void menu()
