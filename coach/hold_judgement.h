@@ -17,7 +17,6 @@ struct HoldJudgement {
 // What a hold amounts to, against the play code that the five cards call for. Any hold of that
 // play with as many cards as it keeps is correct, whichever cards they are.
 [[nodiscard]] HoldJudgement judgeHold(const std::array<Card, 5>& hand,
-                                      const std::array<bool, 5>& holdFlags,
-                                      std::int16_t bestPlay);
+                                      const std::array<bool, 5>& holdFlags, std::int16_t bestPlay);
 
 } // namespace quillet

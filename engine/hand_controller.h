@@ -43,7 +43,8 @@ public:
 private:
     // Runs a sequence, and after the outermost one the new game that was asked for in one of its
     // pauses: games thus never pile up on the stack. The body throws nothing.
-    template <typename Body> void runSequence(Body body);
+    template <typename Body>
+    void runSequence(Body body);
     void runNewGame();
     void clickDeck(std::int16_t index);
     void toggleHold(std::int16_t index);

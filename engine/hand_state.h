@@ -17,13 +17,13 @@ namespace quillet
 // Hold flags are set only while a hand waits for the draw; a draw leaves them as they were.
 struct HandState {
     PokerDeck pokerDeck{};
-    std::array<Card, 5> hand{};         // slots 0..4, left to right
+    std::array<Card, 5> hand{}; // slots 0..4, left to right
     std::array<bool, 5> holdFlags{};
-    std::int16_t handCode = 0;          // best play after the deal, final hand after the draw
+    std::int16_t handCode = 0; // best play after the deal, final hand after the draw
     bool handDealt = false;
     bool handBusy = false;
-    bool judgePending = false;          // the coach judges the next draw attempt
-    bool dealReversed = false;          // the next deal fills the slots right to left
+    bool judgePending = false; // the coach judges the next draw attempt
+    bool dealReversed = false; // the next deal fills the slots right to left
 
     // Raised when a deal or a game starts, at unload and after an error. A sequence that finds
     // another value after a pause has been overtaken and ends there.

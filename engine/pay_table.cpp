@@ -27,7 +27,10 @@ constexpr std::array<Payout, 9> payouts{{
 
 } // namespace
 
-std::span<const Payout> payTable() { return payouts; }
+std::span<const Payout> payTable()
+{
+    return payouts;
+}
 
 const Payout* payoutFor(std::int16_t playCode)
 {

@@ -13,10 +13,10 @@ inline constexpr std::int16_t wager = 5;
 // What a final hand earns and how the win is counted up.
 struct Payout {
     std::int16_t playCode;
-    std::int16_t pays;     // credits
-    std::int16_t step;     // credits added at a time; the last step may be shorter
-    std::string_view cue;  // sound at each step
-    std::int32_t pause;    // milliseconds after each step
+    std::int16_t pays;    // credits
+    std::int16_t step;    // credits added at a time; the last step may be shorter
+    std::string_view cue; // sound at each step
+    std::int32_t pause;   // milliseconds after each step
 };
 
 // The paying hands, best first.

@@ -17,10 +17,11 @@ struct Preferences {
     bool prfShowHide = false; // carried from load to unload, otherwise unused
     bool prfAnimation = false;
     bool prfSound = false;
-    std::int32_t prfAnimationDelay = 0; // thousands of loop passes per frame; negative: not measured
-    std::int32_t prfBannerDelay = 0;    // the same unit
-    std::string prfPKBackground;        // file name below pics/
-    std::int16_t prfScrollVal = 0;      // 0..1000, position of the speed slider
+    std::int32_t prfAnimationDelay =
+        0;                           // thousands of loop passes per frame; negative: not measured
+    std::int32_t prfBannerDelay = 0; // the same unit
+    std::string prfPKBackground;     // file name below pics/
+    std::int16_t prfScrollVal = 0;   // 0..1000, position of the speed slider
 };
 
 } // namespace quillet

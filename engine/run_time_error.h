@@ -13,8 +13,14 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-[[nodiscard]] inline RunTimeError overflowError() { return RunTimeError("Overflow"); }
-[[nodiscard]] inline RunTimeError typeMismatchError() { return RunTimeError("Type mismatch"); }
+[[nodiscard]] inline RunTimeError overflowError()
+{
+    return RunTimeError("Overflow");
+}
+[[nodiscard]] inline RunTimeError typeMismatchError()
+{
+    return RunTimeError("Type mismatch");
+}
 [[nodiscard]] inline RunTimeError divisionByZeroError()
 {
     return RunTimeError("Division by zero");
@@ -45,7 +51,8 @@ bool guardedWithText(ErrorBox& box, const std::string& before, const std::string
     return false;
 }
 
-template <typename Body> bool guarded(ErrorBox& box, const std::string& procedure, Body&& body)
+template <typename Body>
+bool guarded(ErrorBox& box, const std::string& procedure, Body&& body)
 {
     return guardedWithText(box, "Error  in  " + procedure + " (  ", "  )",
                            std::forward<Body>(body));

@@ -17,8 +17,7 @@ class CardFlight
 public:
     CardFlight(TablePictures& pictures, CardLibrary& library, const Preferences& preferences,
                ErrorBox& errorBox)
-        : m_pictures(pictures), m_library(library), m_preferences(preferences),
-          m_errorBox(errorBox)
+        : m_pictures(pictures), m_library(library), m_preferences(preferences), m_errorBox(errorBox)
     {
     }
 

@@ -15,19 +15,19 @@ TEST(HoldJudgement, holdsAreJudgedByPlayAndNumberOfCards)
         bool correct;
     };
     const Row rows[] = {
-        {"2h 4s 6c 8d Th", "", true},       // all trash keeps nothing
+        {"2h 4s 6c 8d Th", "", true}, // all trash keeps nothing
         {"2h 4s 6c 8d Th", "1", false},
-        {"7c 7d 7h 7s 2c", "1234", true},   // the kicker changes nothing, yet is refused
+        {"7c 7d 7h 7s 2c", "1234", true}, // the kicker changes nothing, yet is refused
         {"7c 7d 7h 7s 2c", "12345", false},
         {"Jc Jd 4h 7s 9c", "12", true},
         {"Jc Jd 4h 7s 9c", "123", false},
         {"Jc Jd 4h 7s 9c", "1", false},
-        {"Td Jd Qd Kd 3d", "1234", true},   // four to a royal before the made flush
+        {"Td Jd Qd Kd 3d", "1234", true}, // four to a royal before the made flush
         {"Td Jd Qd Kd 3d", "12345", false},
-        {"Jc Qd Kh 4s 3c", "12", true},     // any two of three unsuited high cards
+        {"Jc Qd Kh 4s 3c", "12", true}, // any two of three unsuited high cards
         {"Jc Qd Kh 4s 3c", "23", true},
         {"Jc Qd Kh 4s 3c", "123", false},
-        {"Ac Kc Qd Jd 2s", "12", true},     // either of two suited pairs
+        {"Ac Kc Qd Jd 2s", "12", true}, // either of two suited pairs
         {"Ac Kc Qd Jd 2s", "34", true},
         {"Ac Kc Qd Jd 2s", "13", false},
     };

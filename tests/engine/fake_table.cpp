@@ -73,7 +73,10 @@ void FakeTable::hideCard(int slot)
     showing.at(std::size_t(slot)) = false;
 }
 
-void FakeTable::paintFace(int slot, std::int16_t) { log.push_back("face" + std::to_string(slot)); }
+void FakeTable::paintFace(int slot, std::int16_t)
+{
+    log.push_back("face" + std::to_string(slot));
+}
 
 void FakeTable::layOverlay(int slot)
 {

@@ -11,7 +11,7 @@ using testing::ElementsAre;
 namespace
 {
 
-constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";      // best play: the pair of jacks
+constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c"; // best play: the pair of jacks
 constexpr auto jacksToTrips = "Jc Jd 4h 7s 9c 2c 3d Jh 6s 8c";
 constexpr auto royal = "As Ks Qs Js Ts 2c 3d 5h 6s 8c";
 constexpr auto fullHouse = "5c 5d 5h 9s 9c 2c 3d 4h 6s 8c";
@@ -130,9 +130,12 @@ TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
     Game game;
     game.deal(jacks);
     const Counters before = game.counters;
-    for (const auto& [slots, cue] :
-         {std::pair{"", "wrong.wav"}, {"1", "wrong2.wav"}, {"34", "wrong3.wav"},
-          {"123", "wrong.wav"}, {"1234", "wrong.wav"}, {"12345", "wrong.wav"}}) {
+    for (const auto& [slots, cue] : {std::pair{"", "wrong.wav"},
+                                     {"1", "wrong2.wav"},
+                                     {"34", "wrong3.wav"},
+                                     {"123", "wrong.wav"},
+                                     {"1234", "wrong.wav"},
+                                     {"12345", "wrong.wav"}}) {
         game.table.log.clear();
         game.draw(slots);
         EXPECT_EQ(game.table.logged(), cue) << slots;
