@@ -151,15 +151,6 @@ TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
     EXPECT_EQ(game.counters.hands, before.hands);
 }
 
-TEST(HandController, anUnjudgedHoldIsDrawnTo)
-{
-    Game game;
-    game.deal(jacks);
-    game.state.judgePending = false;
-    game.draw("5");
-    EXPECT_EQ(game.state.hand, hand("2c 3d 5h 6s 9c"));
-}
-
 TEST(HandController, allFiveHeldFliesNothingAndKeepsThePauses)
 {
     Game game;
@@ -179,17 +170,17 @@ TEST(HandController, everyRowPaysInItsSteps)
         int pays;
         int steps;
         const char* cue;
-        int pause;
+        int pause = 500;
     };
     const Row rows[] = {
-        {royal, "12345", 4000, 160, "pokerwin3.wav", 500},
-        {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav", 500},
-        {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav", 500},
-        {fullHouse, "12345", 45, 2, "pokerwin3.wav", 500},
-        {"2h 5h 8h Jh 4h 2c 3d 5s 6s 8c", "12345", 30, 2, "pokerwin3.wav", 500},
-        {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "pokerwin2.wav", 500},
-        {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "pokerwin1.wav", 500},
-        {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "pokerwin1.wav", 500},
+        {royal, "12345", 4000, 160, "pokerwin3.wav"},
+        {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav"},
+        {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav"},
+        {fullHouse, "12345", 45, 2, "pokerwin3.wav"},
+        {"2h 5h 8h Jh 4h 2c 3d 5s 6s 8c", "12345", 30, 2, "pokerwin3.wav"},
+        {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "pokerwin2.wav"},
+        {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "pokerwin1.wav"},
+        {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "pokerwin1.wav"},
         {jacks, "12", 5, 1, "pokerwin1.wav", 200},
         {"Tc Td 4h 7s 9c 2c 3d 5h 6s 8c", "12", 0, 0, "", 0},
         {"2h 4s 6c 8d Th 3c 5d 7h 9s Jc", "", 0, 0, "", 0},
