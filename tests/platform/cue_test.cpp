@@ -47,18 +47,6 @@ TEST(CueMixer, cutCueFadesWithoutAStepUnderTheNewOne)
     EXPECT_THAT(std::span(cut).subspan(2 * 1000), Each(0));
 }
 
-TEST(CueMixer, cueReplacedBeforeItWasHeardLeavesNoTrace)
-{
-    CueMixer mixer;
-    mixer.play(cueOf(30000, 48000));
-    (void)rendered(mixer, 100);
-    mixer.play(cueOf(-30000, 48000));
-    mixer.play(cueOf(1000, 48000));
-    const auto block = rendered(mixer, 500);
-    EXPECT_GT(block[0], 29000);
-    EXPECT_GE(*std::min_element(block.begin(), block.end()), 1000);
-}
-
 TEST(CueLibrary, everyPlainFormatIsBroughtToTheDevicesOwn)
 {
     const TemporaryFolder folder;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
 namespace quillet::test
@@ -12,28 +13,11 @@ namespace
 
 std::string madeUp(std::mt19937& random, std::size_t length)
 {
-    static const std::vector<std::string> pieces = {" ",
-                                                    "\t",
-                                                    "\n",
-                                                    "\r",
-                                                    "=",
-                                                    "=",
-                                                    "#",
-                                                    ";",
-                                                    "[",
-                                                    "]",
-                                                    "\\",
-                                                    "\\n",
-                                                    "\\x41",
-                                                    "x",
-                                                    "\"",
-                                                    "é",
-                                                    "\x7F",
-                                                    "\x01",
-                                                    "\xFF",
-                                                    "\xC3",
-                                                    "\xEF\xBB\xBF",
-                                                    std::string(1, '\0')};
+    using namespace std::literals;
+    static constexpr auto pieces = std::to_array<std::string_view>(
+        {" ",    "\t",   "\n",           "\r",    "=", "=",  "#", ";",    "[",
+         "]",    "\\",   "\\n",          "\\x41", "x", "\"", "é", "\x7F", "\x01",
+         "\xFF", "\xC3", "\xEF\xBB\xBF", "\0"sv});
     std::string text;
     for (auto left = random() % length; left > 0; --left)
         text += pieces[random() % pieces.size()];

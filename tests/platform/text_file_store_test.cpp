@@ -113,18 +113,6 @@ TEST_F(TextFileStoreTest, textsLastAndAnEmptyOneIsNotMissing)
     EXPECT_EQ(leftovers(), QStringList());
 }
 
-TEST_F(TextFileStoreTest, aRelativeConfigurationFolderIsNotFollowed)
-{
-    const QByteArray home = qgetenv("HOME");
-    qputenv("HOME", m_home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", "relative");
-    TextFileStore().writeSetting("Quillet", "Preferences", "k", "w");
-    qunsetenv("XDG_CONFIG_HOME");
-    EXPECT_EQ(TextFileStore().readSetting("Quillet", "Preferences", "k", ""), "w");
-    qputenv("HOME", home);
-    EXPECT_TRUE(QFile::exists(m_home.filePath(".config/Quillet/settings.ini")));
-}
-
 TEST_F(TextFileStoreTest, filesThatAreNoSettingsAreKeptAside)
 {
     const QByteArray large = "[Preferences]\nk=" + QByteArray(1024 * 1024, 'x');
@@ -160,7 +148,6 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
     EXPECT_EQ(leftovers(), QStringList());
 
     EXPECT_THAT(write("k", std::string(1024 * 1024, 'x')), testing::EndsWith("too long"));
-
     writeFile("settings.ini", "what");
     const FullDisk full(1000);
     EXPECT_NE(write("k", std::string(5000, 'x')), "");
