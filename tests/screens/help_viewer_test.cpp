@@ -105,7 +105,6 @@ TEST_F(HelpViewerTest, webLinksGoToTheDesktopAndOtherTargetsNowhere)
     }
     EXPECT_THAT(shell.opened,
                 ElementsAre("http://www.quillet.example/?a=1&b=%20", "https://two.example"));
-    EXPECT_THAT(shownFor(viewer), HasSubstr("a b c d"));
 }
 
 TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
@@ -136,18 +135,6 @@ TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
     QTest::keyClicks(&control(viewer, "helpSearch"), "<b>");
     EXPECT_EQ(message.text(), "\"needle<b>\" does not occur in the help.");
     EXPECT_EQ(found(), first);
-}
-
-TEST_F(HelpViewerTest, theTextGrowsAndComesBackToItsSize)
-{
-    HelpViewer& viewer = present(helpWithTwoSections());
-    const auto height = [&] { return pageOf(viewer).document()->size().height(); };
-    const qreal normal = height();
-    press(viewer, Qt::Key_Plus, Qt::ControlModifier);
-    press(viewer, Qt::Key_Equal, Qt::ControlModifier);
-    EXPECT_GT(height(), normal);
-    press(viewer, Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(height(), normal);
 }
 
 TEST_F(HelpViewerTest, thereIsOneModelessWindowWhichOpensAtItsContentsEachTime)
