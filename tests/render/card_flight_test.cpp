@@ -94,19 +94,15 @@ TEST_P(CardFlightTest, leavesNoTrailWhateverItsDirection)
 TEST_P(CardFlightTest, theMinorAxisRoundsDown)
 {
     preferences.prfAnimation = true;
-    std::int32_t x = 0;
-    std::int32_t y = 100;
-    flight.AnimateCard(x, y, 8, 98, 1, 65, drawBack);
-    EXPECT_EQ(x, 8);
-    EXPECT_EQ(y, 98);
-    x = 0, y = 100;
-    flight.AnimateCard(x, y, 3, 99, 2, 65, drawBack);
-    EXPECT_EQ(x, 4) << "one and a half frames are two";
-    EXPECT_EQ(y, 98) << "two thirds and two thirds more, rounded down";
-    x = 0, y = 100;
-    flight.AnimateCard(x, y, 10, 97, 3, 65, drawBack);
-    EXPECT_EQ(x, 9) << "ten pixels in steps of three are three frames";
-    EXPECT_EQ(y, 97);
+    const auto lastFrame = [this](QPoint to, std::int16_t step) {
+        std::int32_t x = 0;
+        std::int32_t y = 100;
+        flight.AnimateCard(x, y, to.x(), to.y(), step, 65, drawBack);
+        return QPoint(x, y);
+    };
+    EXPECT_EQ(lastFrame({8, 98}, 1), QPoint(8, 98));
+    EXPECT_EQ(lastFrame({3, 99}, 2), QPoint(4, 98)) << "one and a half frames are two";
+    EXPECT_EQ(lastFrame({10, 97}, 3), QPoint(9, 97)) << "and three and a third are three";
 }
 
 TEST_P(CardFlightTest, withoutAnimationTheCardIsThereAtOnce)

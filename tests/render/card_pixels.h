@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
 #include <vector>
 
 namespace quillet::test
@@ -19,35 +20,20 @@ inline QImage cardAt(int cardNumber, double factor)
                             static_cast<int>(std::floor(cardArtHeight * factor + 0.5))));
 }
 
-inline std::vector<int> allFaces()
+inline std::vector<int> cardNumbers(int first, int last)
 {
-    std::vector<int> numbers;
-    for (int number = 0; number < 52; ++number)
-        numbers.push_back(number);
+    std::vector<int> numbers(static_cast<std::size_t>(last - first + 1));
+    std::iota(numbers.begin(), numbers.end(), first);
     return numbers;
 }
 
-inline std::vector<int> allPicturedBacks()
+// How many pixels differ by more than so many of 255 steps when both cards are looked at in grey.
+inline int greyDifference(const QImage& first, const QImage& second, int steps)
 {
-    std::vector<int> numbers;
-    for (int number = 54; number <= 65; ++number)
-        numbers.push_back(number);
-    return numbers;
-}
-
-// How many pixels differ by more than a quarter of the way from black to white, when two cards
-// are looked at in grey and 48 pixels high.
-inline int greyDifference(int first, int second)
-{
-    const auto grey = [](int number) {
-        return renderCard(number, QSize(35, 48)).convertToFormat(QImage::Format_Grayscale8);
-    };
-    const QImage a = grey(first);
-    const QImage b = grey(second);
     int different = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x)
-            different += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > 64 ? 1 : 0;
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x)
+            different += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y))) > steps;
     return different;
 }
 

@@ -78,11 +78,9 @@ TEST(DelayCalibration, aStrangeStoredBannerDelayTakesNoTime)
 
 TEST(DelayCalibration, theSliderFollowsTheDelay)
 {
-    EXPECT_EQ(scrollValueFor(0), 1000);
-    EXPECT_EQ(scrollValueFor(500), 500);
-    EXPECT_EQ(scrollValueFor(510), 400);
-    EXPECT_EQ(scrollValueFor(750), 400);
-    EXPECT_EQ(scrollValueFor(760), 250);
+    for (const auto& [delay, value] :
+         {std::pair{0, 1000}, {500, 500}, {510, 400}, {750, 400}, {760, 250}})
+        EXPECT_EQ(scrollValueFor(delay), value) << delay;
 }
 
 } // namespace quillet::test
