@@ -62,8 +62,8 @@ TEST(HandText, readsTheUsualWaysToWriteCards)
     EXPECT_EQ(holdText(places, holdAll), "9c Tc Jc Kc Ad");
     EXPECT_EQ(holdText(places, 0b10010), "Tc Ad");
     EXPECT_EQ(holdText(places, 0), "nothing");
-    EXPECT_EQ(parseHand("9C10cjcKCaD "), places);
-    EXPECT_EQ(parseHand("  9c,tc, jc\tkc ad"), places);
+    for (const char* text : {"9C10cjcKCaD ", "  9c,tc, jc\tkc ad"})
+        EXPECT_EQ(parseHand(text), places) << text;
 }
 
 TEST(HandText, saysWhatIsWrong)
