@@ -3,12 +3,26 @@
 #include "platform/picture_box.h"
 
 #include <QAction>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 
 namespace quillet::test
 {
 
 PlayedWindow::PlayedWindow()
+    : desktop{store,
+              *this,
+              *this,
+              *this,
+              *this,
+              *this,
+              {},
+              QUILLET_PROGRAM_FOLDER,
+              [this](std::int32_t delayTime, const std::function<bool()>& cutShort) {
+                  pause(delayTime, cutShort);
+              },
+              [this](int code) { ended.push_back(code); }}
 {
     store.texts = {{"prfAnimation", "False"},
                    {"prfPokerAutoDeal", "False"},
@@ -19,48 +33,40 @@ PlayedWindow::PlayedWindow()
 
 bool PlayedWindow::start(std::string_view tenCards)
 {
-    desktop = std::make_unique<Desktop>(
-        Desktop{store,
-                shell,
-                *this,
-                *this,
-                clock,
-                random,
-                {},
-                programFolder,
-                [this](std::int32_t delayTime, const std::function<bool()>& cutShort) {
-                    pause(delayTime, cutShort);
-                },
-                [this](int code) { ended.push_back(code); }});
     random.stack(tenCards);
-    window = std::make_unique<frmMain>(*desktop);
+    window = std::make_unique<frmMain>(desktop);
     return window->Form_Load();
-}
-
-void PlayedWindow::in(int milliseconds, std::function<void()> act)
-{
-    m_due.emplace(m_now + milliseconds, std::move(act));
 }
 
 void PlayedWindow::pause(std::int32_t delayTime, const std::function<bool()>& cutShort)
 {
     QCoreApplication::processEvents();
-    const int until = m_now + delayTime;
+    const std::int64_t until = now + delayTime;
     while (!m_due.empty() && m_due.begin()->first <= until && !cutShort()) {
         auto next = m_due.extract(m_due.begin());
-        m_now = std::max(m_now, next.key());
+        now = std::max(now, next.key());
         next.mapped()();
         QCoreApplication::processEvents();
     }
     if (!cutShort())
-        m_now = std::max(m_now, until);
+        now = std::max(now, until);
 }
 
 QString PlayedWindow::useOwnFolder()
 {
-    programFolder = m_ownFolder.path().toStdString();
+    desktop.programFolder = m_ownFolder.path().toStdString();
     QDir(m_ownFolder.path()).mkdir("pics");
     return m_ownFolder.path();
+}
+
+void PlayedWindow::usePicture(QSize size)
+{
+    store.texts["prfPKBackground"] = "table.bmp";
+    QFile file(useOwnFolder() + "/pics/table.bmp");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(0x204020);
+    size.isEmpty() ? void(file.write("no picture")) : void(image.save(&file, "BMP"));
 }
 
 void PlayedWindow::choose(const char* menuEntry)
@@ -96,16 +102,6 @@ std::string PlayedWindow::cards()
     return all.join("; ").toStdString();
 }
 
-bool PlayedWindow::waitsForDraw()
-{
-    // Only then a card takes a hold.
-    const std::string before = cards();
-    clickCard(4);
-    const bool waits = cards() != before;
-    clickCard(4);
-    return waits;
-}
-
 QRect PlayedWindow::placeOf(const std::string& name)
 {
     QWidget& widget = part(name);
@@ -121,6 +117,25 @@ std::string PlayedWindow::rowColor(int playCode)
 void PlayedWindow::play(const std::string& path)
 {
     sounds.push_back(path.substr(path.find_last_of('/') + 1));
+}
+
+void PlayedWindow::open(const std::string&, const std::string& file, const std::string&,
+                        const std::string&, int)
+{
+    failIf("open");
+    opened.push_back(file);
+}
+
+double PlayedWindow::seconds()
+{
+    failIf("clock");
+    return static_cast<double>(now += 500) / 1000;
+}
+
+void PlayedWindow::failIf(const std::string& port) const
+{
+    if (port == failing)
+        throw RunTimeError("the wind");
 }
 
 } // namespace quillet::test

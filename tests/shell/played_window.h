@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/event_clock.h"
 #include "shell/frm_main.h"
 #include "tests/engine/fake_table.h"
 #include "tests/screens/window_driving.h"
@@ -22,7 +21,11 @@ namespace quillet::test
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,
 // fire the input that falls due meanwhile and let the toolkit's events run. Unless a test stores
 // something else, dealing is by hand, cards do not fly and the delays are known.
-class PlayedWindow : public ErrorBox, public SoundOutput
+class PlayedWindow : public ErrorBox,
+                     public SoundOutput,
+                     public ShellOpen,
+                     public Clock,
+                     public RandomSource
 {
 public:
     PlayedWindow();
@@ -30,9 +33,11 @@ public:
     // Loads the window, whose first hand has these ten cards (see StackedDeck).
     bool start(std::string_view tenCards = jacks);
     // Runs the act when the virtual clock has come so many milliseconds further.
-    void in(int milliseconds, std::function<void()> act);
+    void in(int milliseconds, std::function<void()> act) { m_due.emplace(now + milliseconds, act); }
     // A folder of its own, empty but for what the test puts there, in place of the program's.
     QString useOwnFolder();
+    // There, a plain background of this size; without a size, one that cannot be read.
+    void usePicture(QSize size = {});
 
     void clickDeck() { click(part("picDeal0")); }
     void clickCard(int slot) { click(part("picPoker" + std::to_string(slot))); }
@@ -45,7 +50,7 @@ public:
     [[nodiscard]] std::string counters();
     // What a screen reader says of the card places, their numbers left out.
     [[nodiscard]] std::string cards();
-    [[nodiscard]] bool waitsForDraw();
+    [[nodiscard]] bool waitsForDraw() const { return window->handState().handDealt; }
     [[nodiscard]] QImage picture() { return window->grab().toImage(); }
     // Where a part lies in the window's picture.
     [[nodiscard]] QRect placeOf(const std::string& name);
@@ -54,25 +59,32 @@ public:
 
     void showError(const std::string& text) override { errors.push_back(text); }
     void play(const std::string& path) override;
+    void open(const std::string& verb, const std::string& file, const std::string& parameters,
+              const std::string& directory, int showCommand) override;
+    std::int64_t milliseconds() override { return now; }
+    double seconds() override; // moves on with every look, as on a very slow machine
+    void reseed() override { failIf("random"); }
+    double next() override { return random.next(); }
 
     static constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
 
     MemoryStore store;
-    RecordingShell shell;
     StackedDeck random;
-    std::vector<std::string> errors, sounds;
+    std::string failing; // the port that throws
+    std::vector<std::string> errors, sounds, opened;
     std::vector<int> ended; // the codes with which the process was to end
-    EventClock clock;
-    std::string programFolder = QUILLET_PROGRAM_FOLDER;
+    std::int64_t now = 0;
+    Desktop desktop;
     std::unique_ptr<frmMain> window;
-    std::unique_ptr<Desktop> desktop;
+
+protected:
+    virtual void pause(std::int32_t delayTime, const std::function<bool()>& cutShort);
 
 private:
-    void pause(std::int32_t delayTime, const std::function<bool()>& cutShort);
+    void failIf(const std::string& port) const;
 
     QTemporaryDir m_ownFolder;
-    int m_now = 0;
-    std::multimap<int, std::function<void()>> m_due;
+    std::multimap<std::int64_t, std::function<void()>> m_due;
 };
 
 // Opens a modal window and lets the act work in it. One that the act leaves open is closed.

@@ -7,22 +7,6 @@
 namespace quillet::test
 {
 
-namespace
-{
-
-// A clock that moves on by half a second whenever it is read, as on a very slow machine.
-class SlowClock : public Clock
-{
-public:
-    std::int64_t milliseconds() override { return static_cast<std::int64_t>(seconds() * 1000); }
-    double seconds() override { return m_now += 0.5; }
-
-private:
-    double m_now = 0;
-};
-
-} // namespace
-
 TEST(StartUp, theFirstHandIsDealt)
 {
     PlayedWindow game;
@@ -38,7 +22,7 @@ TEST(StartUp, theFirstHandIsDealt)
                               "prfAnimationDelay prfBannerDelay prfPKBackground prfScrollVal ");
     EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
     EXPECT_EQ(game.sounds, std::vector<std::string>(5, "deal.wav"));
-    EXPECT_EQ(QDir::currentPath().toStdString(), game.programFolder);
+    EXPECT_EQ(QDir::currentPath().toStdString(), game.desktop.programFolder);
     EXPECT_TRUE(game.errors.empty());
     EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
     EXPECT_LE(game.part("picPoker4").geometry().right(),
@@ -51,21 +35,7 @@ TEST(StartUp, theFirstStartMeasuresTheDelays)
 {
     PlayedWindow game;
     game.store.texts = {{"prfSound", "False"}, {"prfAnimation", "False"}};
-    SlowClock slow;
-    PlayedWindow other;
-    ASSERT_TRUE(other.start());
-    game.desktop = std::make_unique<Desktop>(Desktop{game.store,
-                                                     game.shell,
-                                                     game,
-                                                     game,
-                                                     slow,
-                                                     game.random,
-                                                     {},
-                                                     game.programFolder,
-                                                     other.desktop->shortDelay,
-                                                     [](int) {}});
-    game.window = std::make_unique<frmMain>(*game.desktop);
-    ASSERT_TRUE(game.window->Form_Load());
+    ASSERT_TRUE(game.start());
     EXPECT_EQ(game.window->prfAnimationDelay, 0);
     EXPECT_EQ(game.window->prfScrollVal, 1000);
     EXPECT_EQ(game.counters(), "-5/1/0");

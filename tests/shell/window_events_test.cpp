@@ -151,7 +151,7 @@ TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
         ASSERT_FALSE(game.ended.empty());
         EXPECT_EQ(game.ended[0], 0);
         EXPECT_EQ(game.store.log, saved) << "once";
-        EXPECT_TRUE(game.shell.opened.empty());
+        EXPECT_TRUE(game.opened.empty());
     }
 }
 
@@ -175,13 +175,13 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
         game.choose(entry);
     QTest::mouseClick(game.window->windowHandle(), Qt::LeftButton, {},
                       game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
-    EXPECT_EQ(game.shell.opened, std::vector<std::string>(6, onlinePokerPage()));
+    EXPECT_EQ(game.opened, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
     doubleClick(game.part("lblstatus"));
-    EXPECT_EQ(game.shell.opened.size(), 6u) << "the text in the bar is no link";
+    EXPECT_EQ(game.opened.size(), 6u) << "the text in the bar is no link";
     QTest::mouseDClick(game.window->windowHandle(), Qt::LeftButton, {},
                        game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
-    EXPECT_LE(game.shell.opened.size(), 7u) << "a double click is one click";
+    EXPECT_LE(game.opened.size(), 7u) << "a double click is one click";
 
     game.choose("mnuAbout");
     game.choose("mnuAbout");
