@@ -5,11 +5,12 @@
 #include "shell/window_layout.h"
 #include "tests/engine/card_text.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <regex>
-#include <sstream>
+#include <array>
+#include <string>
 
 namespace quillet::test
 {
@@ -60,23 +61,24 @@ TEST(CardNames, areSpokenWithTheirState)
 
 TEST(HelpText, itsExampleHandsAreWhatItSays)
 {
-    std::ifstream file(QUILLET_HELP_FILE);
-    std::stringstream text;
-    text << file.rdbuf();
-    const std::string help = text.str();
-    const std::regex example("<tr id=\"row([0-9]+)\">[\\s\\S]*?<span class=\"hand\">([^<]*)</span>"
-                             "[\\s\\S]*?<span class=\"hold\">([^<]*)</span>");
+    QFile file(QStringLiteral(QUILLET_HELP_FILE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QRegularExpression example("<tr id=\"row(\\d+)\">.*?<span class=\"hand\">([^<]*)</span>"
+                                     ".*?<span class=\"hold\">([^<]*)</span>",
+                                     QRegularExpression::DotMatchesEverythingOption);
     int rows = 0;
-    for (std::sregex_iterator at(help.begin(), help.end(), example), end; at != end; ++at) {
-        const auto cards = hand((*at)[2].str());
-        const auto play = static_cast<std::int16_t>(std::stoi((*at)[1]));
+    for (auto found = example.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();) {
+        const QRegularExpressionMatch row = found.next();
+        const std::string dealt = row.captured(2).toStdString();
+        const std::string kept = row.captured(3).toStdString();
+        const auto cards = hand(dealt);
+        const auto play = static_cast<std::int16_t>(row.captured(1).toInt());
         std::array<bool, 5> held{};
         for (std::size_t slot = 0; slot < 5; ++slot)
-            held[slot] =
-                (*at)[3].str().find((*at)[2].str().substr(3 * slot, 2)) != std::string::npos;
+            held[slot] = kept.find(dealt.substr(3 * slot, 2)) != std::string::npos;
         EXPECT_EQ(play, ++rows);
-        EXPECT_EQ(EvaluatePokerHand(cards, false), play) << (*at)[2];
-        EXPECT_TRUE(judgeHold(cards, held, play).correct) << (*at)[2] << ": " << (*at)[3];
+        EXPECT_EQ(EvaluatePokerHand(cards, false), play) << dealt;
+        EXPECT_TRUE(judgeHold(cards, held, play).correct) << dealt << ": " << kept;
     }
     EXPECT_EQ(rows, 21);
 }
