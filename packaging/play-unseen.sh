@@ -115,6 +115,10 @@ table_has_changed() {
     ! cmp -s "$folder/table.png" "$folder/before.png"
 }
 
+table_is_still() {
+    ! table_has_changed
+}
+
 click() {
     xdotool mousemove --window "$window" "$1" "$2" click 1
 }
@@ -136,7 +140,8 @@ game_menu_is_open() {
 end_with_exit() {
     local code=0
     xdotool key alt+F4
-    wait_for 15 "The exit screen" find_window "More Texas Hold'em Resources\.\."
+    # The settings are brought to the disk first, which may be busy with what was just built.
+    wait_for 60 "The exit screen" find_window "More Texas Hold'em Resources\.\."
     xdotool windowfocus "$window" key Return # its button "Exit"
     wait_for 15 "The end of the trainer" trainer_has_ended
     wait "$trainer" || code=$?
@@ -159,6 +164,7 @@ wait_for 60 "The first deal" hand_lies_open
 first_hand=$hand
 choose_play_video_poker
 wait_for 60 "The deal of another hand" another_hand_lies_open
+wait_for 30 "The end of the deal" table_is_still
 mkdir -p -- "$(dirname -- "$picture")"
 cp "$folder/table.png" "$picture"
 # The coach either refuses the draw and lights a row, or cards are drawn.
