@@ -2,6 +2,7 @@
 
 #include "engine/run_time_error.h"
 
+#include <cmath>
 #include <limits>
 
 namespace quillet
@@ -25,6 +26,12 @@ constexpr QRgb opaqueRgb(std::uint32_t color)
 }
 
 } // namespace
+
+PixelRect wholeOf(const Surface& picture)
+{
+    return {0, 0, static_cast<std::int32_t>(std::nearbyint(picture.size().width())),
+            static_cast<std::int32_t>(std::nearbyint(picture.size().height()))};
+}
 
 void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
                 const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor)

@@ -15,6 +15,9 @@ struct PixelRect {
     std::int32_t bottom = 0;
 };
 
+// The whole of a picture, its sides rounded to whole pixels.
+[[nodiscard]] PixelRect wholeOf(const Surface& picture);
+
 // Copies the source rectangle to the destination, but where the source has exactly the
 // transparent colour (0x00BBGGRR) the background picture shows, which may be the destination
 // itself. Clipped to all three pictures. Throws RunTimeError for a width or height beyond 16 bits.

@@ -4,8 +4,6 @@
 #include "platform/table_canvas.h"
 #include "render/masked_blit.h"
 
-#include <cmath>
-
 namespace quillet
 {
 
@@ -141,8 +139,7 @@ void TablePainter::layHatches()
 {
     Surface& hatch = m_pictures.picAnimate.picture;
     m_library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
-    const PixelRect whole{0, 0, static_cast<std::int32_t>(std::nearbyint(hatch.size().width())),
-                          static_cast<std::int32_t>(std::nearbyint(hatch.size().height()))};
+    const PixelRect whole = wholeOf(hatch);
 
     Surface& table = m_pictures.canvas->keptForDrawing();
     for (const PictureBox* box : m_pictures.picPoker)

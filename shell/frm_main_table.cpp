@@ -95,11 +95,8 @@ void frmMain::layOverlay(int slot)
 {
     m_cards.at(static_cast<std::size_t>(slot)).overlaid = true;
     const Surface& hatch = m_pictures.picAnimate.picture;
-    const auto pixels = [](double size) { return static_cast<std::int32_t>(std::nearbyint(size)); };
     Surface& card = box(slot).picture();
-    MaskedBlit(card, card, hatch,
-               {0, 0, pixels(hatch.size().width()), pixels(hatch.size().height())}, 0, 0,
-               whiteColor);
+    MaskedBlit(card, card, hatch, wholeOf(hatch), 0, 0, whiteColor);
 }
 
 void frmMain::refreshCard(int slot)
