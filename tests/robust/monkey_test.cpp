@@ -92,6 +92,7 @@ private:
             preferences();
         else if (kind < 940 && QApplication::activeModalWidget() == nullptr) {
             m_gameAsked = true;
+            m_hands = window->counters().hands;
             choose("mnuPoker");
         } else if (kind < 990)
             usePicture({300 + below(600), 300 + below(300)});
