@@ -36,9 +36,8 @@ struct Painted {
         for (PictureBox*& box : pictures.picPoker)
             box = new PictureBox(canvas);
         canvas.setFixedSize(800, 514);
-        const QImage wood = loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"));
-        pictures.thePic = {wood.convertToFormat(QImage::Format_RGB32),
-                           wood.deviceIndependentSize()};
+        pictures.thePic =
+            loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"), scale);
         painter.sizePictures(table, scale);
         painter.repaint(table, 65);
         library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);

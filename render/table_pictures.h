@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/picture_file.h"
 #include "platform/surface.h"
 #include "render/table_geometry.h"
 
@@ -12,14 +13,6 @@ namespace quillet
 
 class PictureBox;
 class TableCanvas;
-
-// A picture kept at its own resolution, with the size it stands for in logical pixels.
-struct LoadedPicture {
-    QImage image;
-    QSizeF logicalSize;
-
-    [[nodiscard]] bool isNull() const { return image.isNull(); }
-};
 
 // An off-screen picture with a place on the table.
 struct OffScreenBox {

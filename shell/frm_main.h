@@ -159,7 +159,7 @@ private:
     StatusBar* picStatusBar = nullptr;
 
     QSizeF m_outerSize;          // twips
-    QString m_backgroundVersion; // of the file that thePic was read from
+    QString m_backgroundVersion; // of the file and the scale that thePic was read for
     bool inLayout = false;
     bool calibrateDelays = false;
     bool m_firstHandStarted = false;

@@ -165,6 +165,8 @@ void frmMain::followScale()
     // The card library closes before the exit screen is shown.
     if (m_unloading || m_pictures.canvas->scale() == devicePixelRatioF())
         return;
+    // A picture that has been spoiled meanwhile stays as it was read.
+    guarded(m_desktop.errorBox, "followScale", [this] { loadBackground(); });
     const TableMeasures table = measures();
     m_painter.sizePictures(table, devicePixelRatioF());
     std::array<bool, 5> showing{};

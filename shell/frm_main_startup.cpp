@@ -105,16 +105,16 @@ bool frmMain::loadBackground()
     if (!FileExists(path.toStdString()))
         return false;
     const QFileInfo file(path);
-    const QString version = QStringLiteral("%1 %2 %3")
+    const double scale = devicePixelRatioF();
+    const QString version = QStringLiteral("%1 %2 %3 %4")
                                 .arg(path)
                                 .arg(file.size())
-                                .arg(file.lastModified().toMSecsSinceEpoch());
+                                .arg(file.lastModified().toMSecsSinceEpoch())
+                                .arg(scale);
     if (version == m_backgroundVersion)
         return true;
-    const QImage image = loadPictureFile(path);
+    m_pictures.thePic = loadPictureFile(path, scale);
     m_backgroundVersion = version;
-    m_pictures.thePic = {image.convertToFormat(QImage::Format_RGB32),
-                         image.deviceIndependentSize()};
     return true;
 }
 

@@ -111,7 +111,7 @@ TEST(Fault, aPictureTakesNoMoreMemoryThanATableNeeds)
         file.close();
         std::string told;
         try {
-            static_cast<void>(loadPictureFile(file.fileName()));
+            static_cast<void>(loadPictureFile(file.fileName(), 1.0));
         } catch (const RunTimeError& error) {
             told = error.what();
         }
