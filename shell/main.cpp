@@ -16,10 +16,12 @@
 namespace
 {
 
+// The larger icons would take a good part of the time until the window shows, and no window
+// manager asks a window for them.
 void useIcons()
 {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+    for (const int size : {16, 22, 24, 32, 48, 64, 128})
         icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size), QSize(size, size));
     QApplication::setWindowIcon(icon);
 }
