@@ -1,3 +1,4 @@
+#include "coach/hold_judgement.h"
 #include "engine/deck.h"
 #include "engine/hand_evaluation.h"
 #include "engine/random.h"
@@ -73,6 +74,22 @@ void heldCardsOverFillers(benchmark::State& state)
     classify(state, randomHolds(), false);
 }
 BENCHMARK(heldCardsOverFillers);
+
+void judgements(benchmark::State& state)
+{
+    const auto hands = randomHands();
+    std::vector<std::int16_t> plays;
+    for (const auto& hand : hands)
+        plays.push_back(EvaluatePokerHand(hand, false));
+    std::size_t next = 0;
+    for (auto _ : state) {
+        const std::array<bool, 5> held{(next & 1) != 0, (next & 2) != 0, (next & 4) != 0,
+                                       (next & 8) != 0, (next & 16) != 0};
+        benchmark::DoNotOptimize(judgeHold(hands[next], held, plays[next]));
+        next = (next + 1) % handCount;
+    }
+}
+BENCHMARK(judgements);
 
 void shuffles(benchmark::State& state)
 {

@@ -1,0 +1,109 @@
+// What a hand costs the processor: the real window with its real pauses, at the flight delay that
+// is named (0 leaves the counting loops out, so the difference is theirs). A real display shows
+// the real cost; without one it is played off screen.
+#include "coach/hold_judgement.h"
+#include "platform/event_clock.h"
+#include "platform/short_delay.h"
+#include "shell/frm_main.h"
+
+#include <QApplication>
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <map>
+
+namespace
+{
+
+using namespace quillet;
+
+struct KnownSettings : SettingsStore {
+    std::string readSetting(const std::string&, const std::string&, const std::string& key,
+                            const std::string& defaultText) override
+    {
+        const auto found = texts.find(key);
+        return found == texts.end() ? defaultText : found->second;
+    }
+    void writeSetting(const std::string&, const std::string&, const std::string&,
+                      const std::string&) override
+    {
+    }
+
+    std::map<std::string, std::string> texts;
+};
+
+struct Silence : SoundOutput, ShellOpen, ErrorBox {
+    void play(const std::string&) override {}
+    void open(const std::string&, const std::string&, const std::string&, const std::string&,
+              int) override
+    {
+    }
+    void showError(const std::string& text) override { std::fputs(text.c_str(), stderr); }
+};
+
+// Holds what the coach accepts.
+void holdBestPlay(frmMain& window)
+{
+    const HandState& hand = window.handState();
+    for (unsigned choice = 0; choice < 32; ++choice) {
+        std::array<bool, 5> held{};
+        for (std::size_t slot = 0; slot < held.size(); ++slot)
+            held[slot] = (choice >> slot & 1U) != 0;
+        if (!judgeHold(hand.hand, held, hand.handCode).correct)
+            continue;
+        for (std::int16_t slot = 0; slot < 5; ++slot)
+            if (held[static_cast<std::size_t>(slot)])
+                window.picPoker_MouseDown(slot);
+        return;
+    }
+}
+
+void hand(benchmark::State& state)
+{
+    KnownSettings settings;
+    settings.texts = {{"prfAnimationDelay", std::to_string(state.range(0))},
+                      {"prfPokerAutoDeal", "False"}};
+    Silence silence;
+    EventClock clock;
+    BlendingRandom random([] { return std::uint64_t{0}; }, 1);
+    Desktop desktop{settings,   silence,
+                    silence,    silence,
+                    clock,      random,
+                    {},         QUILLET_PROGRAM_FOLDER,
+                    shortDelay, [](int code) { std::_Exit(code); }};
+    frmMain window(desktop);
+    if (!window.Form_Load()) {
+        state.SkipWithError("the window did not load");
+        return;
+    }
+    const auto draw = [&window] {
+        holdBestPlay(window);
+        window.picDeal_Click(0);
+    };
+    draw(); // the first hand has been dealt with the start
+    for (auto step : state) {
+        window.picDeal_Click(0);
+        draw();
+    }
+}
+
+BENCHMARK(hand)
+    ->Arg(0)
+    ->Arg(300)
+    ->ArgName("delay")
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->Iterations(5);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    std::fflush(nullptr);
+    std::_Exit(EXIT_SUCCESS); // closing the window would show the exit screen
+}

@@ -1,0 +1,124 @@
+// Starts the trainer itself on the display, as often as a second start happens, and tells how long
+// the player waits for the table; then leaves it alone for a minute. Needs an X display.
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QThread>
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+// A trainer that has been started before: its flights are calibrated.
+class Trainer
+{
+public:
+    Trainer()
+    {
+        QDir(m_config.path()).mkdir("Quillet");
+        QFile settings(m_config.path() + "/Quillet/settings.ini");
+        if (settings.open(QIODevice::WriteOnly))
+            settings.write("[Preferences]\nprfAnimationDelay=300\nprfBannerDelay=300\n"
+                           "prfPokerAutoDeal=False\n");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", m_config.path());
+        m_process.setProcessEnvironment(environment);
+        m_process.setStandardErrorFile(QProcess::nullDevice());
+        m_process.start(QUILLET_PROGRAM, QStringList());
+    }
+
+    ~Trainer()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    // Milliseconds on the processor so far, in all threads.
+    [[nodiscard]] double processorTime() const
+    {
+        double nanoseconds = 0;
+        const QDir tasks(QStringLiteral("/proc/%1/task").arg(m_process.processId()));
+        for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            nanoseconds +=
+                firstLine(tasks.filePath(task + "/schedstat")).section(' ', 0, 0).toDouble();
+        return nanoseconds / 1e6;
+    }
+
+    // Resident megabytes.
+    [[nodiscard]] double memory() const
+    {
+        constexpr double pageSize = 4096;
+        const QString pages = firstLine(QStringLiteral("/proc/%1/statm").arg(m_process.processId()))
+                                  .section(' ', 1, 1);
+        return pages.toDouble() * pageSize / 1e6;
+    }
+
+private:
+    static QString firstLine(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readLine()) : QString();
+    }
+
+    QTemporaryDir m_config;
+    QProcess m_process;
+};
+
+// Whether wood shows across the middle of the screen, where the table's window comes up.
+bool tableIsVisible()
+{
+    QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect all = screen->geometry();
+    const QImage row = screen->grabWindow(0, 0, all.height() / 2, all.width(), 1).toImage();
+    int warm = 0;
+    for (int x = 0; x < row.width(); ++x)
+        warm += qRed(row.pixel(x, 0)) > qBlue(row.pixel(x, 0)) + 15;
+    return warm > 300;
+}
+
+void startToVisibleTable(benchmark::State& state)
+{
+    double processor = 0;
+    for (auto step : state) {
+        QElapsedTimer waited;
+        waited.start();
+        const Trainer trainer;
+        while (!tableIsVisible() && !waited.hasExpired(10'000))
+            QThread::usleep(500);
+        state.SetIterationTime(static_cast<double>(waited.nsecsElapsed()) / 1e9);
+        processor += trainer.processorTime();
+    }
+    state.counters["processor ms"] =
+        benchmark::Counter(processor, benchmark::Counter::kAvgIterations);
+}
+
+// From the moment when the first hand lies on the table.
+void aMinuteOfWaiting(benchmark::State& state)
+{
+    for (auto step : state) {
+        const Trainer trainer;
+        QThread::sleep(8);
+        const double before = trainer.processorTime();
+        QThread::sleep(60);
+        state.counters["processor ms"] = trainer.processorTime() - before;
+        state.counters["resident MB"] = trainer.memory();
+    }
+}
+
+BENCHMARK(startToVisibleTable)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(aMinuteOfWaiting)->Unit(benchmark::kSecond)->UseRealTime()->Iterations(1);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
