@@ -2,44 +2,25 @@
 // is named (0 leaves the counting loops out, so the difference is theirs). A real display shows
 // the real cost; without one it is played off screen.
 #include "coach/hold_judgement.h"
+#include "platform/desktop_shell.h"
 #include "platform/event_clock.h"
+#include "platform/message_error_box.h"
+#include "platform/sdl_sound_output.h"
 #include "platform/short_delay.h"
+#include "platform/text_file_store.h"
 #include "shell/frm_main.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <cstdlib>
-#include <map>
 
 namespace
 {
 
 using namespace quillet;
-
-struct KnownSettings : SettingsStore {
-    std::string readSetting(const std::string&, const std::string&, const std::string& key,
-                            const std::string& defaultText) override
-    {
-        const auto found = texts.find(key);
-        return found == texts.end() ? defaultText : found->second;
-    }
-    void writeSetting(const std::string&, const std::string&, const std::string&,
-                      const std::string&) override
-    {
-    }
-
-    std::map<std::string, std::string> texts;
-};
-
-struct Silence : SoundOutput, ShellOpen, ErrorBox {
-    void play(const std::string&) override {}
-    void open(const std::string&, const std::string&, const std::string&, const std::string&,
-              int) override
-    {
-    }
-    void showError(const std::string& text) override { std::fputs(text.c_str(), stderr); }
-};
 
 // Holds what the coach accepts.
 void holdBestPlay(frmMain& window)
@@ -60,14 +41,19 @@ void holdBestPlay(frmMain& window)
 
 void hand(benchmark::State& state)
 {
-    KnownSettings settings;
-    settings.texts = {{"prfAnimationDelay", std::to_string(state.range(0))},
-                      {"prfPokerAutoDeal", "False"}};
-    Silence silence;
+    const QTemporaryDir config;
+    TextFileStore store(config.path());
+    for (const auto& [key, text] : {std::pair{"prfAnimationDelay", std::to_string(state.range(0))},
+                                    {"prfPokerAutoDeal", "False"},
+                                    {"prfSound", "False"}})
+        store.writeSetting("Quillet", "Preferences", key, text);
+    DesktopShell shell;
+    SdlSoundOutput sound;
+    MessageErrorBox errorBox;
     EventClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
-    Desktop desktop{settings,   silence,
-                    silence,    silence,
+    Desktop desktop{store,      shell,
+                    sound,      errorBox,
                     clock,      random,
                     {},         QUILLET_PROGRAM_FOLDER,
                     shortDelay, [](int code) { std::_Exit(code); }};
