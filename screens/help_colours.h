@@ -7,9 +7,6 @@
 namespace quillet
 {
 
-// From 1 for equal colours to 21 for black and white; running text wants 4.5.
-[[nodiscard]] double contrast(const QColor& one, const QColor& other);
-
 // The desktop's own link colour, or a blue that can be read where it has forgotten that its
 // background is dark.
 [[nodiscard]] QColor readableLinkColour(const QPalette& palette);

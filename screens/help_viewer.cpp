@@ -106,10 +106,12 @@ void HelpViewer::addZoom(QToolBar& bar)
 void HelpViewer::addSearch(QToolBar& bar)
 {
     m_searchText->setObjectName("helpSearch");
-    m_searchText->setPlaceholderText("Find (Ctrl+F)");
     m_searchText->setAccessibleName("Find in the help text");
     m_searchText->setClearButtonEnabled(true);
     m_searchText->setMaximumWidth(220);
+    auto* caption = new QLabel("Find (Ctrl+F)");
+    caption->setContentsMargins(8, 0, 8, 0);
+    bar.addWidget(caption);
     bar.addWidget(m_searchText);
     addCommand(bar, "Previous", {QKeySequence(Qt::SHIFT | Qt::Key_F3)},
                [this] { searchNext(QTextDocument::FindBackward); });

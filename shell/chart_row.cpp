@@ -1,5 +1,7 @@
 #include "shell/chart_row.h"
 
+#include "platform/colour_contrast.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
@@ -15,22 +17,6 @@ namespace
 {
 
 constexpr double leastContrast = 3.0;
-
-double luminance(const QColor& color)
-{
-    const auto part = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
-           0.0722 * part(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
 
 // An arrow for the best play, a cross for the missed one, a diamond for a win.
 QPainterPath markFor(ChartRowState state)

@@ -1,4 +1,4 @@
-#include "screens/help_colours.h"
+#include "platform/colour_contrast.h"
 #include "screens/help_viewer.h"
 #include "screens/single_window.h"
 #include "tests/screens/window_driving.h"
