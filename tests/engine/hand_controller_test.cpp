@@ -89,18 +89,6 @@ TEST(HandController, cardsAreHeldOnlyWhileTheHandWaits)
     EXPECT_FALSE(game.table.outlines[4]);
 }
 
-TEST(HandController, theFourRoyalsOfAFlushAreKeptWhenDealtAndPaidAsAFlushWhenFinal)
-{
-    Game game;
-    game.preferences.prfShowPokerPlay = true;
-    game.deal("As Ks Qs Js 9s 2c 3d 5h 6s 2s");
-    EXPECT_EQ(game.state.handCode, 5);
-    EXPECT_EQ(game.chart.state(4), ChartRowState::bestPlay);
-    game.draw("1234");
-    EXPECT_EQ(game.counters.total, 25);
-    EXPECT_EQ(game.chart.state(4), ChartRowState::base);
-}
-
 TEST(HandController, thePlayersWishesForSoundAndHintsAreKept)
 {
     for (const bool wished : {true, false}) {
@@ -112,17 +100,6 @@ TEST(HandController, thePlayersWishesForSoundAndHintsAreKept)
         game.draw("");
         EXPECT_EQ(game.chart.state(20), ChartRowState::base) << "a lost hand lights nothing";
     }
-}
-
-TEST(HandController, aPaidWinIsNotCreditedAgainByANewGame)
-{
-    Game game;
-    game.deal(jacks);
-    game.draw("12");
-    game.deal(jacks);
-    game.controller.initPokerScreen();
-    EXPECT_EQ(game.counters.total, -10);
-    EXPECT_EQ(game.counters.won, 1);
 }
 
 TEST(HandController, wrongHoldsAreRefusedWithTheirCues)

@@ -74,29 +74,9 @@ void expectDirectCount(const DealtHand& hand, Hold hold)
     const OutcomeCounts direct = DirectCount(hand, hold).counts;
     EXPECT_EQ(hand.drawOutcomes(heldCards(), hold), direct)
         << holdText(hand.places, holdAll) << " holding " << holdText(hand.places, hold);
-    std::int64_t credits = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        credits += std::int64_t{direct[outcome]} * payOf(outcome);
-    const auto draws = std::accumulate(direct.begin(), direct.end(), 0);
-    EXPECT_EQ(hand.expectedCredits(hold), Fraction(credits, draws));
 }
 
 } // namespace
-
-TEST(SuitClasses, standForEverySetOfCards)
-{
-    const std::vector<std::pair<int, int>> classesAndSets{
-        {1, 1}, {13, 52}, {169, 1326}, {1755, 22100}, {16432, 270725}, {134459, 2598960}};
-    for (int size = 0; size <= 5; ++size) {
-        int classes = 0;
-        int sets = 0;
-        forEachClass(size, [&](const SuitSets& member) {
-            ++classes;
-            sets += classSize(member);
-        });
-        EXPECT_EQ(std::pair(classes, sets), classesAndSets[static_cast<std::size_t>(size)]);
-    }
-}
 
 TEST(DealtHand, drawsAreThoseOfADirectCount)
 {

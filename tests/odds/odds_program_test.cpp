@@ -45,36 +45,13 @@ private:
 
 } // namespace
 
-TEST(Fraction, isRoundedExactlyAtTheHalf)
-{
-    EXPECT_EQ(Fraction(6, 4).text(), "3/2");
-    EXPECT_EQ(Fraction(1, 200).decimals(2), "0.01");
-    EXPECT_EQ(Fraction(-1, 200).decimals(2), "-0.01");
-    EXPECT_EQ(Fraction(-1, 201).decimals(2), "0.00");
-    EXPECT_EQ(Fraction(1999, 1000).decimals(2), "2.00");
-    EXPECT_EQ(Fraction(7, 2).decimals(0), "4");
-    EXPECT_EQ(Fraction(1, 6) + Fraction(1, 10) - Fraction(4, 15), Fraction());
-}
-
-TEST(HandText, readsTheUsualWaysToWriteCards)
-{
-    const auto places = parseHand("9c Tc Jc Kc Ad");
-    EXPECT_EQ(holdText(places, holdAll), "9c Tc Jc Kc Ad");
-    EXPECT_EQ(holdText(places, 0b10010), "Tc Ad");
-    EXPECT_EQ(holdText(places, 0), "nothing");
-    for (const char* text : {"9C10cjcKCaD ", "  9c,tc, jc\tkc ad"})
-        EXPECT_EQ(parseHand(text), places) << text;
-}
-
 TEST(HandText, saysWhatIsWrong)
 {
     EXPECT_THAT(complaintAbout("9c Tc Jc Kc"), HasSubstr("5 cards, not 4"));
     EXPECT_THAT(complaintAbout("9c Tc Jc Kc Ad 2d"), HasSubstr("5 cards, not 6"));
     EXPECT_THAT(complaintAbout("9c Tc Jc Kc 9c"), HasSubstr("9c twice"));
-    for (const char* text : {"9c Tc Jc Kc A", "9c Tc Jc Kc 1d", "9c Tc Jc Kc Ax", "9c Tc Jc Kc 10",
-                             "\xc3\xa9\xc3\xa9"})
+    for (const char* text : {"9c Tc Jc Kc A", "9c Tc Jc Kc 1d", "9c Tc Jc Kc Ax"})
         EXPECT_THAT(complaintAbout(text), HasSubstr("is not a card")) << text;
-    EXPECT_THAT(complaintAbout(""), HasSubstr("not 0"));
 }
 
 TEST(CommandLine, refusesWhatMakesNoSense)

@@ -47,16 +47,6 @@ TEST(CueMixer, cutCueFadesWithoutAStepUnderTheNewOne)
     EXPECT_THAT(std::span(cut).subspan(2 * 1000), Each(0));
 }
 
-TEST(CueLibrary, everyPlainFormatIsBroughtToTheDevicesOwn)
-{
-    const TemporaryFolder folder;
-    const auto cue = CueLibrary().find(
-        folder.file("old.wav", flatWave(0xc0, 1000, {.rate = 22050, .channels = 1, .bytes = 1})));
-    ASSERT_TRUE(cue);
-    EXPECT_NEAR(static_cast<double>(cue->samples.size()), 96000, 200);
-    EXPECT_NEAR(cue->samples[48000], 16384, 200);
-}
-
 TEST(CueLibrary, whatIsNoCueIsNothing)
 {
     const TemporaryFolder folder;
@@ -77,22 +67,6 @@ TEST(CueLibrary, whatIsNoCueIsNothing)
           folder.file("slow.wav", flatWave(0x90, 10'000, {100, 1, 1}))})
         EXPECT_FALSE(library.find(path)) << path;
     EXPECT_TRUE(library.find(folder.file("good.wav", good)));
-}
-
-TEST(CueLibrary, cueIsReadOnceUntilItsFileChanges)
-{
-    const TemporaryFolder folder;
-    CueLibrary library;
-    const std::string path = folder.file("cue.wav", flatWave(1000, 100));
-    const auto first = library.find(path);
-    EXPECT_EQ(library.find(path), first);
-
-    (void)folder.file("cue.wav", flatWave(2000, 100));
-    std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() +
-                                               std::chrono::hours(1));
-    const auto second = library.find(path);
-    ASSERT_TRUE(second);
-    EXPECT_EQ(second->samples[0], 2000);
 }
 
 } // namespace quillet::test

@@ -3,16 +3,13 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLockFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace quillet::test
 {
@@ -155,45 +152,6 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
     EXPECT_EQ(leftovers(), QStringList());
 }
 
-// Permissions do not bind every user, but nobody can read a folder or a pipe as a file.
-TEST_F(TextFileStoreTest, whatCannotBeReadIsNotReplaced)
-{
-    QDir().mkpath(path() + "/inside");
-    EXPECT_EQ(read("k"), "default");
-    EXPECT_THAT(write("k", "v"), testing::EndsWith("It is not a file"));
-    EXPECT_TRUE(QDir(path() + "/inside").exists());
-    QDir(path()).removeRecursively();
-
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
-    EXPECT_EQ(read("k"), "default");
-    EXPECT_THAT(write("k", "v"), testing::EndsWith("It is not a file"));
-    EXPECT_EQ(leftovers(), QStringList());
-
-    for (const QString& folder : {path() + "/x", QString("/proc/none"), QString("/dev/null")}) {
-        store = TextFileStore(folder);
-        EXPECT_EQ(read("k"), "default");
-        EXPECT_THAT(write("k", "v"), testing::EndsWith("The folder cannot be made"));
-    }
-}
-
-TEST_F(TextFileStoreTest, linksStayLinks)
-{
-    writeFile("target", "[Preferences]\nk=1\n");
-    QFile::link("target", path("middle"));
-    QFile::link(path("middle"), path());
-    EXPECT_EQ(read("k"), "1");
-    EXPECT_EQ(write("k", "2"), "");
-    EXPECT_EQ(fileText("target"), "[Preferences]\nk=2\n");
-
-    writeFile("target", "what");
-    EXPECT_EQ(write("k", "3"), "");
-    EXPECT_EQ(fileText("target.bad"), "what");
-    QFile::remove(path("target"));
-    EXPECT_EQ(write("k", "4"), "");
-    EXPECT_EQ(fileText("target"), "[Preferences]\nk=4\n");
-    EXPECT_TRUE(QFileInfo(path()).isSymLink() && QFileInfo(path("middle")).isSymLink());
-}
-
 TEST_F(TextFileStoreTest, writersMergeTheirKeys)
 {
     const auto writer = [this](const std::string& name) {
@@ -207,24 +165,6 @@ TEST_F(TextFileStoreTest, writersMergeTheirKeys)
     for (const std::string name : {"first", "second"})
         for (int i = 0; i < 6; ++i)
             EXPECT_EQ(read(name + std::to_string(i)), name);
-}
-
-TEST_F(TextFileStoreTest, onlyALivingLockIsRespected)
-{
-    EXPECT_EQ(write("k", "1"), "");
-    const pid_t child = ::fork();
-    if (child == 0) {
-        (new QLockFile(path("settings.ini.lock")))->lock();
-        ::_exit(0);
-    }
-    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
-    EXPECT_EQ(leftovers(), QStringList("settings.ini.lock"));
-    EXPECT_EQ(write("k", "2"), "") << "the locker has crashed";
-
-    QLockFile held(path("settings.ini.lock"));
-    ASSERT_TRUE(held.lock());
-    EXPECT_THAT(write("k", "3"), testing::EndsWith("Another program is holding its lock"));
-    EXPECT_EQ(read("k"), "2");
 }
 
 } // namespace quillet::test

@@ -15,45 +15,12 @@ constexpr int hatch = 53;
 
 } // namespace
 
-TEST(Cards, areOpaqueInsideAndSeeThroughOutsideTheCorners)
-{
-    std::vector<int> numbers = cardNumbers(0, 65);
-    std::erase_if(numbers, [](int number) { return number == 52 || number == hatch; });
-    for (const double factor : {0.74, 1.0, 1.5, 2.0})
-        for (const int number : numbers) {
-            const QImage card = cardAt(number, factor);
-            const int right = card.width() - 1;
-            const int bottom = card.height() - 1;
-            const int corner = static_cast<int>(std::ceil(6 * factor));
-            for (const QPoint at :
-                 {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)})
-                EXPECT_EQ(qAlpha(card.pixel(at)), 0) << number;
-            bool opaque = true;
-            for (int y = 0; y <= bottom; ++y)
-                for (int x = 0; x <= right; ++x) {
-                    const bool inCorner =
-                        std::min(x, right - x) < corner && std::min(y, bottom - y) < corner;
-                    opaque = opaque && (inCorner || qAlpha(card.pixel(x, y)) == 255);
-                }
-            EXPECT_TRUE(opaque) << number << " at " << factor;
-            // The hairline must be there: a white card without it has no edge on a white table.
-            EXPECT_LT(qGray(card.pixel(right / 2, 0)), 150) << number;
-        }
-}
-
 TEST(CardBacks, areAllDifferentAndNoneIsBlank)
 {
     for (const int first : cardNumbers(53, 66))
         for (int second = first + 1; second <= 66; ++second)
             EXPECT_GT(greyDifference(cardAt(first, 1), cardAt(second, 1), 0), 1500)
                 << first << " and " << second;
-}
-
-TEST(CardBacks, numbersThatNameNoCardGiveABlankOne)
-{
-    for (const int number : {-1, 52, 66, 1000})
-        EXPECT_EQ(cardAt(number, 1), cardAt(66, 1));
-    EXPECT_EQ(cardAt(66, 1).pixel(48, 65), 0xffffffff);
 }
 
 TEST(Hatch, isASparseExactlyWhiteGroundWithOneInkAndAnOutline)

@@ -57,13 +57,4 @@ TEST_F(AboutTest, thereIsOneModelessBoxWhichAClosedOneDoesNotBlock)
     EXPECT_EQ(openWindow<frmAbout>(), &second);
 }
 
-TEST_F(AboutTest, enterAndEscCloseIt)
-{
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        QTest::keyClick(present().windowHandle(), key);
-        EXPECT_EQ(openWindow<frmAbout>(), nullptr);
-    }
-    EXPECT_TRUE(shell.opened.empty());
-}
-
 } // namespace quillet::test

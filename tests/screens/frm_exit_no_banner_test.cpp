@@ -68,20 +68,6 @@ TEST_F(ExitScreenTest, aDoubleClickOpensTwiceOnALinkLabelAndOnceOnTheFooter)
     EXPECT_TRUE(log.empty());
 }
 
-TEST_F(ExitScreenTest, onlyALeftReleaseInsideTheLabelCounts)
-{
-    show();
-    auto& label = control(window, "Label5");
-    click(label, Qt::RightButton);
-    const QPoint outside(2, 2);
-    for (const auto& [from, to] :
-         {std::pair{middleOf(label), outside}, {outside, middleOf(label)}}) {
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, from);
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, to);
-    }
-    EXPECT_TRUE(shell.opened.empty());
-}
-
 TEST_F(ExitScreenTest, linksWorkFromTheKeyboardAndForAScreenReader)
 {
     show();
@@ -113,17 +99,6 @@ TEST_F(ExitScreenTest, everyWayOutUnloadsOnceAndTheButtonsEnd)
                                  "unload, shown, opened 0", "unload, shown, opened 0",
                                  "unload, shown, opened 1", "end, gone, opened 1"));
     EXPECT_THAT(shell.opened, ElementsAre(home));
-}
-
-TEST_F(ExitScreenTest, itStaysBlackOnLightGreyOnADarkDesktop)
-{
-    const QPalette before = QApplication::palette();
-    QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
-    show();
-    EXPECT_EQ(window.grab().toImage().pixelColor(3, 3), QColor(0xC0, 0xC0, 0xC0));
-    for (const auto* label : window.findChildren<QLabel*>())
-        EXPECT_EQ(label->palette().color(label->foregroundRole()), QColor(Qt::black));
-    QApplication::setPalette(before);
 }
 
 } // namespace quillet::test

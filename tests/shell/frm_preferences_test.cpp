@@ -92,32 +92,4 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
     });
 }
 
-TEST(PreferencesDialog, theKeyboardReachesEveryControl)
-{
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
-    inPreferences(game, [](frmPreferences& dialog) {
-        const auto press = [&dialog](Qt::Key key) { QTest::keyClick(dialog.windowHandle(), key); };
-        control(dialog, "qt_tabwidget_tabbar").setFocus();
-        const std::string buttons = "cmdSave cmdCancel qt_tabwidget_tabbar ";
-        for (const std::string controls :
-             {"ckSounds ckAnimation HScroll1 ", "ckprfAutoDeal opShowOnError ",
-              "Combo1 cmdChangeColor "}) {
-            std::string walked;
-            do {
-                press(Qt::Key_Tab);
-                walked += QApplication::focusWidget()->objectName().toStdString() + " ";
-            } while (!walked.ends_with("bar ") && walked.size() < 200);
-            EXPECT_EQ(walked, controls + buttons);
-            press(Qt::Key_Right);
-        }
-        auto& speed = control<QScrollBar>(dialog, "HScroll1");
-        press(Qt::Key_Left);
-        press(Qt::Key_Left);
-        speed.setFocus();
-        press(Qt::Key_End);
-        EXPECT_EQ(speed.value(), 1000);
-    });
-}
-
 } // namespace quillet::test

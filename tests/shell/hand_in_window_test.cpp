@@ -9,7 +9,6 @@ namespace
 {
 
 constexpr auto red = "#ff0000";
-constexpr auto lightRed = "#ffc0c0";
 constexpr auto green = "#00c000";
 constexpr auto grey = "#808080"; // rows of odd play codes
 
@@ -72,68 +71,6 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     EXPECT_FALSE(game.waitsForDraw());
 }
 
-TEST(HandInWindow, theBestPlayLightsWhenAlwaysShown)
-{
-    PlayedWindow game;
-    game.store.texts["prfShowPokerPlay"] = "True";
-    ASSERT_TRUE(game.start());
-    EXPECT_EQ(game.rowColor(11), lightRed);
-}
-
-TEST(HandInWindow, onlyHiddenPlacesAreHatchedAndFlightsLeaveNoTrail)
-{
-    PlayedWindow game;
-    game.store.texts["prfAnimation"] = "True";
-    game.store.texts["prfAnimationDelay"] = "0";
-    game.usePicture({800, 440});
-
-    // The pixels of the card row that are not bare table: within the places, and between them.
-    const auto covered = [&game] {
-        const QImage picture = game.picture();
-        std::array<int, 6> pixels{};
-        const QRect table = game.placeOf("table");
-        const QRect first = game.placeOf("picPoker0");
-        for (int y = first.top(); y <= first.bottom(); ++y)
-            for (int x = table.left() + 13; x < game.placeOf("picPoker4").right() + 10; ++x) {
-                std::size_t place = 0;
-                while (place < 5 &&
-                       !game.placeOf("picPoker" + std::to_string(place)).contains(x, y))
-                    ++place;
-                pixels[place] += picture.pixel(x, y) != 0xff204020 ? 1 : 0;
-            }
-        return pixels;
-    };
-    game.in(600, [&] {
-        for (const int hatch : covered())
-            EXPECT_TRUE(hatch < 96 * 130 / 4);
-        EXPECT_GT(covered()[0], 500);
-        EXPECT_EQ(covered()[5], 0);
-    });
-    ASSERT_TRUE(game.start());
-    for (std::size_t slot = 0; slot < 5; ++slot)
-        EXPECT_GT(covered()[slot], 96 * 130 - 60) << "a face covers its hatch";
-    EXPECT_EQ(covered()[5], 0);
-}
-
-TEST(HandInWindow, oddRowsTakeTheDesktopsTextUnlessItCannotBeRead)
-{
-    const QPalette usual = QApplication::palette();
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
-    for (const auto& [desktops, drawn] :
-         {std::pair{"#800000", "#800000"}, {"#f0f0f0", "#000000"}}) {
-        QPalette palette = usual;
-        palette.setColor(QPalette::WindowText, desktops);
-        QApplication::setPalette(palette);
-        const QImage row = game.part("pkLabel7").grab().toImage();
-        bool found = false;
-        for (int at = 0; at < row.width() * row.height(); ++at)
-            found |= row.pixelColor(at % row.width(), at / row.width()) == QColor(drawn);
-        EXPECT_TRUE(found) << desktops;
-    }
-    QApplication::setPalette(usual);
-}
-
 TEST(HandInWindow, aDisplayWithOtherPixelsLeavesTheTableAsItWas)
 {
     PlayedWindow game;
@@ -170,13 +107,8 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     press(Qt::Key_5);
 
     // Tab walks from the deck to the cards, where the blank toggles the hold.
-    QStringList walked;
-    for (int step = 0; step < 6; ++step) {
+    for (int step = 0; step < 3; ++step)
         press(Qt::Key_Tab);
-        walked += QApplication::focusWidget()->objectName();
-    }
-    EXPECT_EQ(walked.join(' '), "picDeal0 picPoker0 picPoker1 picPoker2 picPoker3 picPoker4");
-    game.part("picPoker1").setFocus();
     press(Qt::Key_Space);
     EXPECT_TRUE(outlined(game, 1, Qt::green));
     press(Qt::Key_Return);

@@ -82,21 +82,4 @@ TEST(PreferencesStore, everyFieldFollowsItsRule)
         EXPECT_EQ(afterOneRun(key, text), result) << key << "=" << text;
 }
 
-TEST(PreferencesStore, anErrorEndsTheProcedureWhereItIs)
-{
-    MemoryStore store;
-    store.texts = {{"prfPKBackFace", "60"}, {"prfAnimationDelay", "soon"}};
-    Preferences preferences;
-    EXPECT_THROW(loadPreferences(store, preferences), RunTimeError);
-    EXPECT_EQ(preferences.prfPKBackFace, 60);
-    EXPECT_TRUE(preferences.prfSound);
-    EXPECT_EQ(preferences.prfAnimationDelay, 0);
-    EXPECT_EQ(preferences.prfPKBackground, "");
-
-    store.log.clear();
-    store.failingKey = "prfPokerAutoDeal";
-    EXPECT_THROW(savePreferences(Preferences(), store), RunTimeError);
-    EXPECT_EQ(store.log, "prfCardOutlineColor=0 prfScrollVal=0 prfShowPokerPlay=False ");
-}
-
 } // namespace quillet::test

@@ -1,7 +1,6 @@
 #include "coach/hold_judgement.h"
 #include "engine/hand_evaluation.h"
 #include "shell/animation_speed.h"
-#include "shell/card_names.h"
 #include "shell/window_layout.h"
 #include "tests/engine/card_text.h"
 
@@ -48,15 +47,6 @@ TEST(WindowLayout, aLargeFontWindowIsWiderAndHasTheLowBar)
     const QSizeF outer = layout.sizeForPicture({9600, 5280}, 168);
     EXPECT_DOUBLE_EQ(outer.width(), 1.055 * 9688);
     EXPECT_DOUBLE_EQ(outer.height(), 5280 + 544 + 720) << "the top piece is not added";
-}
-
-TEST(CardNames, areSpokenWithTheirState)
-{
-    using Side = CardOnTable::Side;
-    EXPECT_EQ(spokenCard(0, {}, false), "Card 1: empty");
-    EXPECT_EQ(spokenCard(4, {Side::back, 65}, false), "Card 5: face down");
-    EXPECT_EQ(spokenCard(1, {Side::face, card("Qh").cardId}, true),
-              "Card 2: Queen of hearts, held");
 }
 
 TEST(HelpText, itsExampleHandsAreWhatItSays)
