@@ -75,12 +75,4 @@ TEST(SettingsText, whatAPersonWroteIsUnderstoodAndKept)
     EXPECT_EQ(text.bytes(), "\xEF\xBB\xBF[A]\r\nk=1\r\nl=2\r\n\r\n");
 }
 
-TEST(SettingsText, otherFilesAreRefused)
-{
-    for (const std::string text :
-         {"word", "[open", "[A]\nk=1\nword\n", "[A] # comment", "k=\xFF", "k=\x01", "k=a\rb"})
-        EXPECT_FALSE(SettingsText::parse(text).has_value()) << text;
-    EXPECT_FALSE(SettingsText::parse(std::string_view("k=\0", 3)).has_value());
-}
-
 } // namespace quillet::test

@@ -14,68 +14,21 @@ bool isInk(QRgb pixel)
     return qGray(pixel) < 230;
 }
 
-bool isMarked(const QImage& marks, int x, int y)
+// The lengths of the runs of inked lines.
+template <typename IsInked>
+std::vector<int> runs(int first, int last, const IsInked& isInked)
 {
-    return marks.constScanLine(y)[x] != 0;
-}
-
-// The inked pixels of a face that hang together with its upper left index. The card's edge, two
-// pixels, is left out.
-QImage indexOf(const QImage& card)
-{
-    QImage found(card.size(), QImage::Format_Grayscale8);
-    found.fill(0);
-    std::vector<QPoint> open;
-    for (int y = 6; y < 50; ++y)
-        for (int x = 4; x < 12; ++x)
-            if (isInk(card.pixel(x, y)))
-                open.emplace_back(x, y);
-    while (!open.empty()) {
-        const QPoint at = open.back();
-        open.pop_back();
-        const bool inside = QRect(2, 2, card.width() - 4, card.height() - 4).contains(at);
-        if (!inside || isMarked(found, at.x(), at.y()) || !isInk(card.pixel(at)))
-            continue;
-        found.scanLine(at.y())[at.x()] = 1;
-        for (int dy = -1; dy <= 1; ++dy)
-            for (int dx = -1; dx <= 1; ++dx)
-                open.emplace_back(at.x() + dx, at.y() + dy);
-    }
-    return found;
-}
-
-// The vertical runs of inked rows in an index: the rank, then the suit mark.
-std::vector<int> runsOf(const QImage& index)
-{
-    std::vector<int> runs;
+    std::vector<int> found;
     bool inRun = false;
-    for (int y = 0; y < index.height(); ++y) {
-        const uchar* row = index.constScanLine(y);
-        const bool inked = std::any_of(row, row + index.width(), [](uchar p) { return p != 0; });
+    for (int line = first; line <= last; ++line) {
+        const bool inked = isInked(line);
         if (inked && !inRun)
-            runs.push_back(0);
+            found.push_back(0);
         if (inked)
-            ++runs.back();
+            ++found.back();
         inRun = inked;
     }
-    return runs;
-}
-
-// How many clear pixels lie between the index and the nearest other ink.
-int clearance(const QImage& card, const QImage& index)
-{
-    int nearest = card.width();
-    for (int y = 2; y < 60; ++y)
-        for (int x = 2; x < 60; ++x) {
-            if (isMarked(index, x, y) || !isInk(card.pixel(x, y)))
-                continue;
-            for (int iy = 2; iy < 50; ++iy)
-                for (int ix = 2; ix < 22; ++ix)
-                    if (isMarked(index, ix, iy))
-                        nearest =
-                            std::min(nearest, std::max(std::abs(ix - x), std::abs(iy - y)) - 1);
-        }
-    return nearest;
+    return found;
 }
 
 } // namespace
@@ -93,22 +46,33 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
 
 TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
 {
+    constexpr QRect index(3, 4, 18, 50);
     for (const int number : cardNumbers(0, 51)) {
         const QImage card = cardAt(number, 1);
-        const QImage index = indexOf(card);
-        const std::vector<int> runs = runsOf(index);
-        ASSERT_EQ(runs.size(), 2U) << number;
-        EXPECT_GE(runs[0], 22) << number;
-        EXPECT_GE(runs[1], 14) << number;
-        EXPECT_GE(clearance(card, index), 2) << number;
-
-        const bool red = number % 4 == 1 || number % 4 == 2;
         QRgb darkest = 0xffffffff;
-        for (int y = 0; y < 50; ++y)
-            for (int x = 0; x < 22; ++x)
-                if (isMarked(index, x, y) && qGray(card.pixel(x, y)) < qGray(darkest))
+        const std::vector<int> heights = runs(index.top(), index.bottom(), [&](int y) {
+            bool inked = false;
+            for (int x = index.left(); x <= index.right(); ++x) {
+                inked = inked || isInk(card.pixel(x, y));
+                if (qGray(card.pixel(x, y)) < qGray(darkest))
                     darkest = card.pixel(x, y);
+            }
+            return inked;
+        });
+        ASSERT_EQ(heights.size(), 2U) << number << ": a rank and a suit";
+        EXPECT_GE(heights[0], 22) << number;
+        EXPECT_GE(heights[1], 14) << number;
+        const bool red = number % 4 == 1 || number % 4 == 2;
         EXPECT_EQ(qRed(darkest) > 150, red) << number;
+
+        // Two columns side by side without ink part the index from the body.
+        int clear = 0;
+        for (int x = index.center().x(); clear < 2 && x <= index.right() + 3; ++x) {
+            ++clear;
+            for (int y = index.top(); y <= index.bottom(); ++y)
+                clear = isInk(card.pixel(x, y)) ? 0 : clear;
+        }
+        EXPECT_EQ(clear, 2) << number;
     }
 }
 

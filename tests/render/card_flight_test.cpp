@@ -105,15 +105,6 @@ TEST_P(CardFlightTest, theMinorAxisRoundsDown)
     EXPECT_EQ(lastFrame({10, 97}, 3), QPoint(9, 97)) << "and three and a third are three";
 }
 
-TEST_P(CardFlightTest, withoutAnimationTheCardIsThereAtOnce)
-{
-    std::int32_t x = 10;
-    std::int32_t y = 20;
-    flight.AnimateCard(x, y, 400, 200, 1, 65, drawBack);
-    EXPECT_EQ(x, 10);
-    expectOnlyTheCard({400, 200});
-}
-
 TEST_P(CardFlightTest, errorsHaveTheirOwnWords)
 {
     preferences.prfAnimation = true;

@@ -60,24 +60,6 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
     }
 }
 
-TEST(Fault, theDialogTellsItsErrorsAndStaysUsable)
-{
-    PlayedWindow world;
-    CardLibrary closedLibrary;
-    Preferences preferences;
-    preferences.prfPKBackFace = 99;
-    frmPreferences dialog({preferences, closedLibrary, world, QSize(96, 130), 15,
-                           [] { throw RunTimeError("the wind"); }, [] {}},
-                          nullptr);
-    dialog.show();
-    control<QComboBox>(dialog, "Combo1").setCurrentIndex(2);
-    dialog.cmdSave_Click();
-    EXPECT_THAT(world.errors, testing::ElementsAre(HasSubstr("Error  in  Form_Activate (  "),
-                                                   HasSubstr("Error  in  Combo1_Click (  "),
-                                                   "Error  in  cmdSave_Click (  the wind  )"));
-    EXPECT_EQ(preferences.prfPKBackFace, 55);
-}
-
 TEST(Fault, anEndingSessionStoresTheSettingsAndShowsNoFarewellUnlessItGoesOn)
 {
     for (const bool goesOn : {false, true}) {

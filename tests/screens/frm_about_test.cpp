@@ -3,7 +3,6 @@
 #include "tests/screens/window_driving.h"
 
 #include <QLabel>
-#include <QPointer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -38,23 +37,6 @@ TEST_F(AboutTest, theLinkOpensTheAddressThatItShows)
                 testing::ElementsAre("http://downloads.quillet.example/free/videopoker",
                                      "http://elsewhere.example/x"));
     EXPECT_TRUE(shell.allPlain);
-}
-
-TEST_F(AboutTest, thereIsOneModelessBoxWhichAClosedOneDoesNotBlock)
-{
-    QPointer<frmAbout> first = &present();
-    EXPECT_FALSE(first->isModal());
-    EXPECT_EQ(&present(), first);
-
-    // A closed box is deleted only once the event loop turns again.
-    first->close();
-    EXPECT_FALSE(first.isNull());
-    EXPECT_EQ(openWindow<frmAbout>(), nullptr);
-    frmAbout& second = present();
-    EXPECT_TRUE(second.isVisible());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(first.isNull());
-    EXPECT_EQ(openWindow<frmAbout>(), &second);
 }
 
 } // namespace quillet::test

@@ -68,25 +68,6 @@ TEST_F(ExitScreenTest, aDoubleClickOpensTwiceOnALinkLabelAndOnceOnTheFooter)
     EXPECT_TRUE(log.empty());
 }
 
-TEST_F(ExitScreenTest, linksWorkFromTheKeyboardAndForAScreenReader)
-{
-    show();
-    auto& label = control<LinkLabel>(window, "Label9");
-    for (int tabs = 0; tabs < 20 && !label.hasFocus(); ++tabs)
-        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
-    ASSERT_TRUE(label.hasFocus());
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter})
-        QTest::keyClick(window.windowHandle(), key);
-    EXPECT_EQ(shell.opened.size(), 3U);
-    EXPECT_TRUE(window.isVisible());
-
-    auto* access = QAccessible::queryAccessibleInterface(&label);
-    EXPECT_EQ(access->role(), QAccessible::Link);
-    EXPECT_EQ(access->text(QAccessible::Name), label.text());
-    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(shell.opened.size(), 4U);
-}
-
 TEST_F(ExitScreenTest, everyWayOutUnloadsOnceAndTheButtonsEnd)
 {
     runWith([this] { click(control(window, "Command1")); });

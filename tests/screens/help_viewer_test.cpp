@@ -92,20 +92,6 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(HelpViewerTest, webLinksGoToTheDesktopAndOtherTargetsNowhere)
-{
-    HelpViewer& viewer = present(
-        fileWith("<a href='http://www.quillet.example/?a=1&b=%20'>a</a> "
-                 "<a href='file:///etc/passwd'>b</a> <a href='other.html'>c</a> "
-                 "<a href='https://two.example'>d</a> <img src='http://three.example/x.png'>"));
-    for (int links = 0; links < 4; ++links) {
-        press(viewer, Qt::Key_Tab);
-        press(viewer, Qt::Key_Return);
-    }
-    EXPECT_THAT(shell.opened,
-                ElementsAre("http://www.quillet.example/?a=1&b=%20", "https://two.example"));
-}
-
 TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
 {
     HelpViewer& viewer = present(helpWithTwoSections());

@@ -17,9 +17,6 @@ TEST(StartUp, theFirstHandIsDealt)
     EXPECT_EQ(game.cards(), "Jack of clubs; Jack of diamonds; Four of hearts; Seven of spades; "
                             "Nine of clubs");
     EXPECT_TRUE(game.waitsForDraw());
-    EXPECT_EQ(game.store.log, "prfCardOutlineColor prfPKBackFace prfShowPokerPlay "
-                              "prfPokerAutoDeal isPoker prfShowHide prfAnimation prfSound "
-                              "prfAnimationDelay prfBannerDelay prfPKBackground prfScrollVal ");
     EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
     EXPECT_EQ(game.sounds, std::vector<std::string>(5, "deal.wav"));
     EXPECT_EQ(QDir::currentPath().toStdString(), game.desktop.programFolder);
