@@ -25,6 +25,8 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         state.checkable = m_box.isCheckable();
         state.checked = m_box.isChecked();
+        // What the keyboard cannot reach lies beneath another picture.
+        state.invisible = state.invisible || m_box.focusPolicy() == Qt::NoFocus;
         return state;
     }
 
@@ -35,8 +37,9 @@ public:
 
     void doAction(const QString& name) override
     {
+        // A hand takes seconds, and the reader that asked waits for its answer.
         if (name == action())
-            m_box.activate();
+            QMetaObject::invokeMethod(&m_box, &PictureBox::activate, Qt::QueuedConnection);
         else
             QAccessibleWidget::doAction(name);
     }

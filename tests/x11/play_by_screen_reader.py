@@ -1,0 +1,202 @@
+#!/usr/bin/python3
+"""Plays the real program as a blind player does: by what the accessibility bus tells, through the
+actions that it offers, and by keys. Usage: play_by_screen_reader.sh PROGRAM"""
+
+import itertools
+import os
+import re
+import subprocess
+import sys
+import time
+
+import pyatspi
+from gi.repository import GLib
+
+PATIENCE = 20  # seconds
+CARD = re.compile(r"Card (\d): (Ace|Two|Three|Four|Five|Six|Seven|Eight|Nine|Ten|Jack|Queen|King) "
+                  r"of (clubs|diamonds|hearts|spades)(, held)?$")
+heard = []  # (kind, name) of every event of the program
+
+
+def listen(event):
+    try:
+        heard.append((event.type, event.source.name))
+    except GLib.Error:
+        pass  # the widget has gone
+
+
+def turn():
+    while GLib.MainContext.default().iteration(False):
+        pass
+
+
+def wait_for(what, question):
+    deadline = time.monotonic() + PATIENCE
+    while time.monotonic() < deadline:
+        turn()
+        try:
+            answer = question()
+        except GLib.Error:
+            answer = None
+        if answer:
+            return answer
+        time.sleep(0.05)
+    sys.exit(f"FAILED: waited in vain for {what}; last heard {heard[-12:]}")
+
+
+def check(condition, what):
+    if not condition:
+        sys.exit(f"FAILED: {what}; last heard {heard[-12:]}")
+
+
+def descendants(node):
+    for child in node:
+        if child is not None:
+            yield child
+            yield from descendants(child)
+
+
+def program():
+    return next((app for app in pyatspi.Registry.getDesktop(0) if app.name == "Quillet"), None)
+
+
+def window(title):
+    return wait_for(title, lambda: next((w for w in program() if w.name == title), None))
+
+
+def find(root, role, name):
+    """The one with this role and a name that matches."""
+    return next((node for node in descendants(root)
+                 if node.getRoleName() == role and re.fullmatch(name, node.name)), None)
+
+
+def act(node, action):
+    actions = node.queryAction()
+    names = [actions.getName(i) for i in range(actions.nActions)]
+    check(action in names, f"{node.name} offers {names}, not {action}")
+    actions.doAction(names.index(action))
+
+
+def key(*names):
+    subprocess.run(["xdotool", "key", "--delay", "60", *names], check=True)
+
+
+def is_checked(node):
+    return node.getState().contains(pyatspi.STATE_CHECKED)
+
+
+class Table:
+    def __init__(self):
+        self.frame = window("Jacks or Better Quillet")
+        wait_for("five cards", lambda: len(self.cards()) == 5)
+        self.deck = find(self.frame, "push button", "Deck")
+        self.chart = find(self.frame, "filler", "Strategy chart")
+
+    def cards(self):
+        return [node for node in descendants(self.frame)
+                if node.getRoleName() == "check box" and CARD.match(node.name)]
+
+    def names(self):
+        return [card.name for card in self.cards()]
+
+    # While a card flies the program answers nobody.
+    def counter(self, caption):
+        label = find(self.chart, "label", caption + r" -?\d+")
+        return label and int(label.name.split()[-1])
+
+    def hold_only(self, slots):
+        for slot, card in enumerate(self.cards()):
+            if is_checked(card) != (slot in slots):
+                act(card, "Toggle")
+                wait_for("the hold", lambda: is_checked(card) == (slot in slots))
+
+    def draw(self, slots):
+        """Whether the coach lets the hold pass."""
+        before = self.names()
+        self.hold_only(slots)
+        act(self.deck, "Press")
+        wait_for("the coach", lambda: not any(map(is_checked, self.cards())))
+        turn()
+        return self.chart.description.split(", ")[-1] != "missed best play" or self.names() != before
+
+
+def everything_is_named(root):
+    for node in descendants(root):
+        state = node.getState()
+        if state.contains(pyatspi.STATE_FOCUSABLE) and state.contains(pyatspi.STATE_SHOWING):
+            check(node.name or node.getRoleName() in ("filler", "panel", "page tab list", "document web",
+                                                      "text", "scroll bar", "tool bar", "menu bar"),
+                  f"a {node.getRoleName()} of {root.name} has no name")
+        check(node.getRoleName() != "push button" or node.name
+              or not state.contains(pyatspi.STATE_SHOWING), f"{root.name} has a button without a name")
+
+
+def holding_is_told(table):
+    first = table.cards()[0]
+    act(first, "Toggle")
+    wait_for("a held card", lambda: is_checked(first) and first.name.endswith(", held"))
+    wait_for("the news of it", lambda: ("object:state-changed:checked", first.name) in heard)
+    key("1")
+    wait_for("a card let go by its key", lambda: not is_checked(first))
+
+
+def a_hand_is_played(table):
+    check(table.counter("Hands") == 1 and table.counter("Total") == -5, "the counters are wrong")
+    check(table.chart.description.endswith(", best play"), "the best play is not told")
+    holding_is_told(table)
+
+    dealt = table.names()
+    refused = 0
+    holds = itertools.chain.from_iterable(
+        itertools.combinations(range(5), size) for size in (5, 4, 3, 2, 1, 0))
+    while not table.draw(next(holds)):
+        refused += 1
+        lit = table.chart.description
+        check(find(table.chart, "label", re.escape(lit)), "the refused row is not told")
+        check(table.names() == dealt, "a refused hold changes no card")
+    if refused:
+        check(any(kind.startswith("object:property-change:accessible-name")
+                  and name.endswith("missed best play") for kind, name in heard),
+              "nobody was told of the refusal")
+    wait_for("the next hand", lambda: table.counter("Hands") == 2 and len(table.cards()) == 5)
+    wait_for("its best play", lambda: table.chart.description.endswith(", best play"))
+
+
+def tab_reaches(table):
+    for wanted in ["Deck"] + table.names():
+        key("Tab")
+        wait_for("the focus on " + wanted,
+                 lambda: ("object:state-changed:focused", wanted) in heard)
+
+
+def dialogs_are_named(table):
+    for keys, title in ((("alt+g", "Down", "Return"), "Preferences"),
+                        (("alt+h", "Up", "Return"), "About Quillet"), (("F1",), "Quillet Help")):
+        key(*keys)
+        shown = window(title)
+        wait_for("its controls", lambda: sum(1 for _ in descendants(shown)) > 4)
+        everything_is_named(shown)
+        key("Escape")
+        wait_for(title + " to close", lambda: all(w.name != title for w in program()))
+    everything_is_named(table.frame)
+
+
+def main():
+    pyatspi.Registry.registerEventListener(
+        listen, "object:state-changed:checked", "object:state-changed:focused",
+        "object:property-change:accessible-name")
+    game = subprocess.Popen([sys.argv[1]], stderr=subprocess.DEVNULL)
+    wait_for("the program", program)
+    table = Table()
+    a_hand_is_played(table)
+    tab_reaches(table)
+    dialogs_are_named(table)
+    key("alt+g", "x")
+    farewell = window("More Texas Hold'em Resources..")
+    everything_is_named(farewell)
+    act(find(farewell, "push button", "Exit"), "Press")
+    check(game.wait(PATIENCE) == 0, "the program ends badly")
+
+
+if __name__ == "__main__":
+    main()
