@@ -3,15 +3,23 @@
 #include <QFont>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace quillet
 {
+
+// So many points where the desktop's own font has 9, and more where that is larger.
+[[nodiscard]] inline double besideDesktopFont(int points)
+{
+    return points * std::max(1.0, QFont().pointSizeF() / 9);
+}
 
 // The fonts of the designed windows, with what a Linux desktop has in their place.
 [[nodiscard]] inline QFont boldComicSans(int points)
 {
     QFont font;
     font.setFamilies({"Comic Sans MS", "Comic Neue", "sans-serif"});
-    font.setPointSize(points);
+    font.setPointSizeF(besideDesktopFont(points));
     font.setBold(true);
     return font;
 }
@@ -20,7 +28,7 @@ namespace quillet
 {
     QFont font;
     font.setFamilies({"Small Fonts", "sans-serif"});
-    font.setPointSize(8);
+    font.setPointSizeF(besideDesktopFont(8));
     return font;
 }
 

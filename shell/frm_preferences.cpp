@@ -66,6 +66,17 @@ Control* add(QFrame& page, const QString& name, const QString& caption)
     return control;
 }
 
+// The list is as wide as the card, whatever the size of the desktop's font.
+void fitFont(QComboBox& list)
+{
+    constexpr double smallest = 6.0;
+    QFont font = list.font();
+    while (list.sizeHint().width() > list.width() && font.pointSizeF() > smallest) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        list.setFont(font);
+    }
+}
+
 } // namespace
 
 frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
@@ -187,6 +198,7 @@ void frmPreferences::Form_Activate()
         const int margin = static_cast<int>(30 / m_host.twipsPerPixel);
         picBacks->setFixedSize(m_host.cardSize + QSize(margin, margin));
         Combo1->setFixedWidth(picBacks->width());
+        fitFont(*Combo1);
         Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));
         {
             // Showing the stored position changes no delay.
