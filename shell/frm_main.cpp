@@ -11,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace quillet
@@ -148,6 +149,12 @@ void frmMain::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         Form_Resize();
+}
+
+// Seen only where a tiling window manager gives the window more room than the table has.
+void frmMain::paintEvent(QPaintEvent* event)
+{
+    QPainter(this).fillRect(event->rect(), Qt::black);
 }
 
 void frmMain::keyPressEvent(QKeyEvent* event)
