@@ -6,8 +6,6 @@
 namespace quillet::test
 {
 
-using testing::ElementsAre;
-
 namespace
 {
 
@@ -204,20 +202,6 @@ TEST(HandController, automaticDealingDealsTheNextHand)
     EXPECT_EQ(game.counters.hands, 2);
     EXPECT_EQ(game.table.count("pause2500"), 1);
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
-}
-
-TEST(HandController, anErrorEndsTheHandAndTheNextClickDeals)
-{
-    Game game;
-    game.preferences.prfPokerAutoDeal = true;
-    game.table.failAtFlight = 2;
-    game.click();
-    EXPECT_THAT(game.table.errors, ElementsAre("Error  in  showPokerHand (  the wind  )"));
-    EXPECT_FALSE(game.state.handBusy || game.state.handDealt);
-    EXPECT_EQ(game.counters.total, -5) << "credits stay as they are";
-    EXPECT_EQ(game.table.count("recover"), 1);
-    game.deal(jacks);
-    EXPECT_TRUE(game.state.handDealt);
 }
 
 } // namespace quillet::test

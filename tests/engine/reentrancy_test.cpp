@@ -130,44 +130,6 @@ TEST(Reentrancy, aDeckClickBeforeTheFirstDealWaitsForTheAutomaticOne)
     expectOneFreshDeal(game, 1);
 }
 
-TEST(Reentrancy, theDeckIsNeverDeadAfterAutomaticDealingIsTicked)
-{
-    Game game;
-    game.deal(jacks);
-    game.draw("12");
-    game.preferences.prfPokerAutoDeal = true;
-    game.click();
-    expectOneFreshDeal(game, 2);
-}
-
-TEST(Reentrancy, untickingAutomaticDealingInItsPauseStopsIt)
-{
-    Game game;
-    game.preferences.prfPokerAutoDeal = true;
-    game.controller.initPokerScreen();
-    game.state.judgePending = false;
-    game.table.in(1050 + 1000, [&] { game.preferences.prfPokerAutoDeal = false; });
-    game.draw("");
-    EXPECT_EQ(game.counters.hands, 1);
-    EXPECT_FALSE(game.state.handBusy || game.state.handDealt);
-}
-
-TEST(Reentrancy, nothingGoesOnAfterTheEnd)
-{
-    for (const int moment : {100, 900, 1700}) {
-        Game game;
-        std::size_t entries = 0;
-        game.table.in(moment, [&] {
-            game.controller.endGame();
-            entries = game.table.log.size();
-        });
-        game.controller.initPokerScreen();
-        game.click();
-        game.controller.initPokerScreen();
-        EXPECT_EQ(game.table.log.size(), entries) << moment;
-    }
-}
-
 TEST(Reentrancy, aBackChosenInAPauseIsTheOneThatFlies)
 {
     Game game;
@@ -175,16 +137,6 @@ TEST(Reentrancy, aBackChosenInAPauseIsTheOneThatFlies)
     game.table.in(300, [&] { game.preferences.prfPKBackFace = 60; });
     game.table.in(700, [&] { EXPECT_EQ(game.table.flyingBack, 60); });
     game.draw("12");
-}
-
-TEST(Reentrancy, clicksDuringADealAreIgnored)
-{
-    Game game;
-    game.table.in(100, [&] { game.click(); });
-    game.table.in(400, [&] { game.controller.picDeal_Click(3); });
-    game.deal(jacks);
-    expectOneFreshDeal(game, 1);
-    EXPECT_EQ(game.table.decksPainted, 3) << "but each repaints the deck";
 }
 
 } // namespace quillet::test

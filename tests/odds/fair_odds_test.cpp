@@ -42,19 +42,4 @@ TEST(FairOdds, chancesAddUpToTheReturn)
     }
 }
 
-// The losses come from the worth of holds, the returns from counted outcomes.
-TEST(FairOdds, rowsAddUpToTheWholeLoss)
-{
-    std::int64_t deals = 0;
-    for (const RowOdds& row : odds().rows)
-        deals += row.deals;
-    EXPECT_EQ(deals, FairOdds::deals);
-    for (const Strategy strategy : allStrategies) {
-        Fraction loss;
-        for (const RowOdds& row : odds().rows)
-            loss = loss + row.loss[static_cast<std::size_t>(strategy)];
-        EXPECT_EQ(loss, odds().returnOf(Strategy::perfect) - odds().returnOf(strategy));
-    }
-}
-
 } // namespace quillet::test

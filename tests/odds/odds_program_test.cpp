@@ -1,12 +1,11 @@
 #include "engine/random.h"
 #include "odds/command_line.h"
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds/simulation.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
 #include <vector>
 
 namespace quillet::test
@@ -47,25 +46,6 @@ TEST(CommandLine, refusesWhatMakesNoSense)
         {"--simulate", "-5"}, {"--simulate", "9", "--seed"}};
     for (const auto& arguments : nonsense)
         EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments.front();
-}
-
-TEST(HandReport, ranksTheHoldsAndMarksTheCharts)
-{
-    const HeldCards heldCards;
-    auto places = parseHand("Ad Kc Jc Tc 9c");
-    std::ranges::sort(places);
-    std::ostringstream out;
-    reportHand(out, heldCards, DealtHand(heldCards, places), Format::csv);
-    std::istringstream lines(out.str());
-    std::string line;
-    std::getline(lines, line);
-    std::getline(lines, line);
-    // 47 cards to draw: the queen of clubs, eight other clubs, three other queens, and three
-    // each of the jacks and kings.
-    EXPECT_EQ(line, "9c Tc Jc Kc,12.34042553,580/47,0.00000000,0,1,0,0,47,0,1,0,0,8,3,0,0,6");
-    std::getline(lines, line);
-    EXPECT_THAT(line,
-                testing::StartsWith("Tc Jc Kc,6.56799260,7100/1081,5.77243293,6240/1081,0,1,1"));
 }
 
 TEST(Simulation, playsTheEnginesOwnDecks)

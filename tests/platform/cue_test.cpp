@@ -1,51 +1,13 @@
 #include "platform/cue_library.h"
-#include "platform/cue_mixer.h"
 #include "tests/platform/sound_files.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
 #include <filesystem>
 #include <sys/stat.h>
 
 namespace quillet::test
 {
-
-namespace
-{
-
-std::shared_ptr<const SoundCue> cueOf(std::int16_t value, std::size_t frames)
-{
-    return std::make_shared<SoundCue>(
-        SoundCue{std::vector<std::int16_t>(frames * soundChannels, value)});
-}
-
-std::vector<std::int16_t> rendered(CueMixer& mixer, std::size_t frames)
-{
-    std::vector<std::int16_t> block(frames * soundChannels, 1);
-    mixer.render(block);
-    return block;
-}
-
-} // namespace
-
-using testing::Each;
-
-TEST(CueMixer, cutCueFadesWithoutAStepUnderTheNewOne)
-{
-    CueMixer mixer;
-    mixer.play(cueOf(30000, 48000));
-    EXPECT_THAT(rendered(mixer, 100), Each(30000));
-
-    mixer.play(cueOf(5000, 1000));
-    const auto cut = rendered(mixer, 2000);
-    EXPECT_EQ(cut[0], 32767);
-    for (std::size_t i = 2; i < 2 * 999; ++i)
-        ASSERT_LE(std::abs(cut[i] - cut[i - 2]), 250) << i;
-    EXPECT_THAT(std::span(cut).subspan(2 * 240, 2 * 760), Each(5000));
-    EXPECT_THAT(std::span(cut).subspan(2 * 1000), Each(0));
-}
 
 TEST(CueLibrary, whatIsNoCueIsNothing)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QTemporaryDir>
+
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -13,16 +13,10 @@ namespace quillet::test
 class TemporaryFolder
 {
 public:
-    TemporaryFolder()
+    [[nodiscard]] std::string file(const std::string& name) const
     {
-        std::string pattern = std::filesystem::temp_directory_path() / "quillet-sound-XXXXXX";
-        m_path = mkdtemp(pattern.data());
+        return m_folder.filePath(QString::fromStdString(name)).toStdString();
     }
-    ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] std::string file(const std::string& name) const { return m_path / name; }
 
     // The path of a new file with these contents.
     [[nodiscard]] std::string file(const std::string& name, const std::string& contents) const
@@ -32,7 +26,7 @@ public:
     }
 
 private:
-    std::filesystem::path m_path;
+    QTemporaryDir m_folder;
 };
 
 inline std::string littleEndian(std::uint32_t value, int bytes)
