@@ -123,7 +123,7 @@ std::optional<SettingsText> SettingsText::parse(std::string_view bytes)
         result.m_lines.push_back(std::move(*line));
     }
     if (!result.m_lines.empty() && result.m_lines.front().raw.ends_with('\r'))
-        result.m_carriageReturn = "\r";
+        result.m_carriageReturn += '\r';
     return result;
 }
 
@@ -189,7 +189,7 @@ void SettingsText::insertEntry(Line entry)
     }
     if (!m_lines.empty())
         m_lines.push_back({m_carriageReturn, m_lines.back().section, false, std::nullopt, {}});
-    m_lines.push_back({"[" + escaped(entry.section, misreadInNames) + "]" + m_carriageReturn,
+    m_lines.push_back({'[' + escaped(entry.section, misreadInNames) + ']' + m_carriageReturn,
                        entry.section,
                        true,
                        std::nullopt,
