@@ -5,6 +5,7 @@
 #include "platform/sdl_sound_output.h"
 #include "platform/short_delay.h"
 #include "platform/text_file_store.h"
+#include "platform/window_loss.h"
 #include "shell/frm_main.h"
 
 #include <QApplication>
@@ -31,6 +32,8 @@ int Main(quillet::Desktop& desktop)
 {
     desktop.helpFile = desktop.programFolder + "/quillet.hlp";
     quillet::frmMain window(desktop);
+    const quillet::WindowLoss loss(window);
+    QObject::connect(&loss, &quillet::WindowLoss::windowLost, &window, &QWidget::close);
     const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
     desktop.endProcess(code);
     return code;

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Plays the real program under an X server and a window manager of its own: a first start with an
-# empty home, a hand by mouse, every preference by keyboard, both ways out, a second start, and a
-# death at a random moment. Usage: play_through.sh PROGRAM
+# empty home, a hand by mouse, every preference by keyboard, every way out, later starts, and a death
+# at a random moment. Usage: play_through.sh PROGRAM
 set -u
 
 program=$1
@@ -196,6 +196,14 @@ keys alt+F4
 wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
 cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
+
+# The window destroyed by another program.
+start
+xdotool windowclose "$window"
+wait_for 10 "the exit screen" active_is "$exit_title"
+keys Return
+wait_for 10 "the end" gone
+wait "$game" || fail "the program ended with $?"
 
 # A death at a random moment.
 start
