@@ -1,3 +1,4 @@
+#include "platform/colour_contrast.h"
 #include "tests/render/card_pixels.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,26 @@ bool isInk(QRgb pixel)
 {
     return qGray(pixel) < 230;
 }
+
+// The mean colour of many pixels.
+class Mean
+{
+public:
+    void add(QRgb pixel)
+    {
+        m_red += qRed(pixel);
+        m_green += qGreen(pixel);
+        m_blue += qBlue(pixel);
+        ++m_pixels;
+    }
+    [[nodiscard]] QColor color() const
+    {
+        return {m_red / m_pixels, m_green / m_pixels, m_blue / m_pixels};
+    }
+
+private:
+    int m_red = 0, m_green = 0, m_blue = 0, m_pixels = 0;
+};
 
 // The lengths of the runs of inked lines.
 template <typename IsInked>
@@ -42,6 +63,22 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
         for (std::size_t second = first + 1; second < 52; ++second)
             EXPECT_GE(greyDifference(thumbnails[first], thumbnails[second], 64), 20)
                 << first << " and " << second;
+}
+
+TEST(CardFaces, indexStaysReadableUnderTheHatch)
+{
+    constexpr QRect index(3, 4, 18, 50);
+    const QImage hatch = cardAt(53, 1);
+    for (const int number : cardNumbers(0, 51)) {
+        const QImage card = cardAt(number, 1);
+        Mean ink, paper;
+        for (int y = index.top(); y <= index.bottom(); ++y)
+            for (int x = index.left(); x <= index.right(); ++x) {
+                const bool covered = hatch.pixel(x, y) != qRgb(255, 255, 255);
+                (isInk(card.pixel(x, y)) ? ink : paper).add((covered ? hatch : card).pixel(x, y));
+            }
+        EXPECT_GE(contrast(ink.color(), paper.color()), 3) << number;
+    }
 }
 
 TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
