@@ -4,6 +4,7 @@
 #include "shell/back_preview.h"
 #include "shell/chart_row.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QColorDialog>
@@ -91,6 +92,9 @@ frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
     makeGeneralPage(*makePage(QStringLiteral("frameGeneral"), *tabs, tr("General")));
     makeVideoPokerPage(*makePage(QStringLiteral("frameVideoPoker"), *tabs, tr("Video Poker")));
     makeCardBacksPage(*makePage(QStringLiteral("frameCardBacks"), *tabs, tr("Card Backs")));
+    for (QAbstractButton* indicator : findChildren<QAbstractButton*>())
+        indicator->setStyle(&m_indicatorStyle);
+    HScroll1->setStyle(&m_indicatorStyle);
     makeButtons(*layout);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -4,6 +4,7 @@
 #include "engine/run_time_error.h"
 #include "platform/surface.h"
 #include "render/card_library.h"
+#include "shell/indicator_style.h"
 
 #include <QDialog>
 
@@ -63,6 +64,7 @@ private:
 
     PreferencesHost m_host;
     bool m_activated = false;
+    IndicatorStyle m_indicatorStyle;
 
     // Children.
     QCheckBox* ckSounds = nullptr;

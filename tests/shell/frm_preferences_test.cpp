@@ -1,3 +1,4 @@
+#include "platform/colour_contrast.h"
 #include "shell/frm_preferences.h"
 #include "tests/shell/played_window.h"
 
@@ -6,6 +7,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyleOptionButton>
+#include <QTabWidget>
 
 namespace quillet::test
 {
@@ -89,6 +92,28 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
     EXPECT_TRUE(game.window->prfSound);
     inPreferences(game, [](frmPreferences& dialog) {
         EXPECT_EQ(shown(dialog), "1 0 700 0 0 0 1 Sleeve #0000ff");
+    });
+}
+
+TEST(PreferencesDialog, emptyBoxesAreSeenOnABlackDesktop)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    inPreferences(game, [](frmPreferences& dialog) {
+        dialog.setPalette(QPalette(Qt::black, Qt::black));
+        for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
+            control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(page);
+            QWidget& box = control(dialog, name);
+            const QImage picture = box.grab().toImage();
+            QStyleOptionButton option;
+            option.initFrom(&box);
+            const auto indicator = box.inherits("QRadioButton") ? QStyle::SE_RadioButtonIndicator
+                                                                : QStyle::SE_CheckBoxIndicator;
+            const QRect place = box.style()->subElementRect(indicator, &option, &box);
+            const QColor edge = picture.pixelColor(place.left(), place.center().y());
+            EXPECT_GE(contrast(edge, Qt::black), 3) << name;
+        }
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
     });
 }
 

@@ -1,0 +1,55 @@
+#include "shell/indicator_style.h"
+
+#include "platform/colour_contrast.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace quillet
+{
+
+namespace
+{
+
+bool isDark(const QStyleOption& option)
+{
+    constexpr double tooDark = 2;
+    return contrast(option.palette.color(QPalette::Window), Qt::black) < tooDark;
+}
+
+} // namespace
+
+void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool round = element == PE_IndicatorRadioButton;
+    if ((!round && element != PE_IndicatorCheckBox) || !isDark(*option))
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, round);
+    painter->setPen(option->palette.color(QPalette::WindowText));
+    painter->setBrush(Qt::NoBrush);
+    const QRect frame = option->rect.adjusted(0, 0, -1, -1);
+    if (round)
+        painter->drawEllipse(frame);
+    else
+        painter->drawRect(frame);
+    painter->restore();
+}
+
+void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                        QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_ScrollBar || !isDark(*option))
+        return;
+    const QRect slider = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
+    painter->save();
+    painter->setPen(option->palette.color(QPalette::WindowText));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(slider.adjusted(1, 1, -2, -2));
+    painter->restore();
+}
+
+} // namespace quillet

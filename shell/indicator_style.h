@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace quillet
+{
+
+// Frames check boxes, option buttons and the scroll bar's slider in the colour of the text where
+// the window is dark. The toolkit's own style frames them in a shade of the window's colour, which
+// on black is nothing.
+class IndicatorStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+};
+
+} // namespace quillet
