@@ -70,6 +70,24 @@ void paintLight(Canvas& canvas, double strength)
     sink(canvas, rectanglePath(framedArea), 5, 0.7);
 }
 
+Wood rimWood(Color light, Color dark, std::uint32_t seed)
+{
+    return Wood(
+        {.light = light, .dark = dark, .bandWidth = 9, .figure = 0.4, .pores = 0.8, .seed = seed});
+}
+
+// A table whose field is covered all over.
+template <typename Cover>
+Canvas coveredTable(const Wood& rim, const Cover& cover)
+{
+    Canvas canvas(tableSize, tableScale);
+    paintRim(canvas, rim);
+    canvas.shade(rectanglePath(playField), [&](double x, double y) { return cover.at(x, y); });
+    sink(canvas, rectanglePath(playField), 6, 0.8);
+    paintLight(canvas, 0.45);
+    return canvas;
+}
+
 void paintWorks(Canvas& canvas, const Ornament& ornament)
 {
     paintDeckFrame(canvas, ornament.metal);
@@ -82,12 +100,7 @@ void paintWorks(Canvas& canvas, const Ornament& ornament)
 Canvas woodTable()
 {
     Canvas canvas(tableSize, tableScale);
-    const Wood rim({.light = rgb(0x9a5c36),
-                    .dark = rgb(0x4a2612),
-                    .bandWidth = 9,
-                    .figure = 0.4,
-                    .pores = 0.8,
-                    .seed = 11});
+    const Wood rim = rimWood(rgb(0x9a5c36), rgb(0x4a2612), 11);
     const Wood field({.light = rgb(0xc08049),
                       .dark = rgb(0x6b3a1c),
                       .bandWidth = 15,
@@ -113,18 +126,8 @@ Canvas woodTable()
 
 Canvas feltTable()
 {
-    Canvas canvas(tableSize, tableScale);
-    const Wood rim({.light = rgb(0x9a5c36),
-                    .dark = rgb(0x4a2612),
-                    .bandWidth = 9,
-                    .figure = 0.4,
-                    .pores = 0.8,
-                    .seed = 41});
-    const Felt cloth(rgb(0x1f6b45), 43);
-    paintRim(canvas, rim);
-    canvas.shade(rectanglePath(playField), [&](double x, double y) { return cloth.at(x, y); });
-    sink(canvas, rectanglePath(playField), 6, 0.8);
-    paintLight(canvas, 0.45);
+    Canvas canvas =
+        coveredTable(rimWood(rgb(0x9a5c36), rgb(0x4a2612), 41), Felt(rgb(0x1f6b45), 43));
     QPainterPath seam = rectanglePath(playField.adjusted(3, 3, -3, -3));
     seam.moveTo(playField.left() + 3, trayTop);
     seam.lineTo(playField.right() - 3, trayTop);
@@ -135,18 +138,8 @@ Canvas feltTable()
 
 Canvas nightTable()
 {
-    Canvas canvas(tableSize, tableScale);
-    const Wood rim({.light = rgb(0x7d563b),
-                    .dark = rgb(0x3a2315),
-                    .bandWidth = 9,
-                    .figure = 0.4,
-                    .pores = 0.8,
-                    .seed = 53});
-    const Leather hide(rgb(0x23365f), 59);
-    paintRim(canvas, rim);
-    canvas.shade(rectanglePath(playField), [&](double x, double y) { return hide.at(x, y); });
-    sink(canvas, rectanglePath(playField), 6, 0.8);
-    paintLight(canvas, 0.45);
+    Canvas canvas =
+        coveredTable(rimWood(rgb(0x7d563b), rgb(0x3a2315), 53), Leather(rgb(0x23365f), 59));
     const InlayMaterial wornFoil{rgb(0xa9b3c4), rgb(0x6f7a8e), 0.6};
     tool(canvas, playField.adjusted(1, 1, -1, -0.5), wornFoil);
     inlay(canvas, rectanglePath({playField.left() + 5.4, trayTop, playField.width() - 10.8, 0.8}),
