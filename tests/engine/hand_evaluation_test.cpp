@@ -136,6 +136,10 @@ TEST(EvaluatePokerHand, everyHoldIsClassedOverFillers)
 TEST(EvaluatePokerHand, cardsOfNoDeckAreClassedByTheLetter)
 {
     const auto code = [](const Hand& cards) { return EvaluatePokerHand(cards, false); };
+    EXPECT_EQ(code(hand("9c 9c 2d 4h 7s")), 14) << "twins are a pair";
+    Hand nearlyFiller = hand("9c 4d 2h 7s 3c");
+    nearlyFiller[4] = {-1, 9, fillerCard(4).suit};
+    EXPECT_EQ(code(nearlyFiller), 14);
     const Card low{-1, 0, 0};
     EXPECT_EQ(code({low, {-1, 1, 1}, {-1, 2, 2}, {-1, 3, 3}, {-1, 300, 0}}), 15);
     EXPECT_EQ(code({{{-1, 14, 9}, {-1, 15, 9}, {-1, 16, 9}, {-1, 17, 9}, {-1, 18, 9}}}), 2);
