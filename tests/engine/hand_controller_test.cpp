@@ -63,6 +63,7 @@ TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
     EXPECT_EQ(game.chart.state(10), ChartRowState::winner);
     game.deal(jacks);
     EXPECT_EQ(game.chart.state(10), ChartRowState::base);
+    EXPECT_THAT(game.state.holdFlags, testing::Each(false));
     EXPECT_EQ(game.table.logged().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
     EXPECT_THAT(game.table.logged(), testing::HasSubstr("fly4 deal.wav fly3"));
     game.controller.initPokerScreen();
@@ -152,7 +153,7 @@ TEST(HandController, everyRowPaysInItsSteps)
         {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav"},
         {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav"},
         {fullHouse, "12345", 45, 2, "pokerwin3.wav"},
-        {"2h 5h 8h Jh 4h 2c 3d 5s 6s 8c", "12345", 30, 2, "pokerwin3.wav"},
+        {"Jc Qc Kc Ac 9d 2d 3d 5h 6s 8c", "1234", 30, 2, "pokerwin3.wav"},
         {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "pokerwin2.wav"},
         {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "pokerwin1.wav"},
         {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "pokerwin1.wav"},

@@ -32,6 +32,7 @@ TEST(Reentrancy, newGameWhileDealingLosesTheHandAndDealsOnce)
     expectOneFreshDeal(game, 2);
     EXPECT_EQ(game.counters.total, -10);
     EXPECT_EQ(game.table.count("layOut"), 1);
+    EXPECT_EQ(game.table.count("face0"), 1) << "the lost hand stays face down";
 }
 
 TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
@@ -44,6 +45,7 @@ TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
         expectOneFreshDeal(game, 2);
         EXPECT_EQ(game.counters.total, -10) << moment;
         EXPECT_EQ(game.counters.won, 0) << moment;
+        EXPECT_EQ(game.table.count("face2"), moment < 950 ? 2 : 3) << moment;
     }
 }
 

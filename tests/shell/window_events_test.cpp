@@ -79,6 +79,7 @@ TEST(WindowEvents, closingInAnyPauseEndsEverything)
         EXPECT_FALSE(game.window->isVisible());
         game.choose("mnuPoker");
         EXPECT_EQ(game.counters(), counters);
+        EXPECT_TRUE(game.errors.empty());
     }
 }
 
