@@ -163,7 +163,13 @@ void frmMain::resetGraphics()
 void frmMain::followScale()
 {
     // The card library closes before the exit screen is shown.
-    if (m_unloading || m_pictures.canvas->scale() == devicePixelRatioF())
+    if (m_unloading)
+        return;
+    // A flight may have been the first to paint in the new pixels, and of them only its own. The
+    // toolkit takes opaque widgets for painted unless each is asked.
+    for (QWidget* widget : findChildren<QWidget*>())
+        widget->update();
+    if (m_pictures.canvas->scale() == devicePixelRatioF())
         return;
     // A picture that has been spoiled meanwhile stays as it was read.
     guarded(m_desktop.errorBox, "followScale", [this] { loadBackground(); });
