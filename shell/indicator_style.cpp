@@ -17,6 +17,19 @@ bool isDark(const QStyleOption& option)
     return contrast(option.palette.color(QPalette::Window), Qt::black) < tooDark;
 }
 
+void paintFrame(QPainter& painter, const QStyleOption& option, const QRect& frame, bool round)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, round);
+    painter.setPen(option.palette.color(QPalette::WindowText));
+    painter.setBrush(Qt::NoBrush);
+    if (round)
+        painter.drawEllipse(frame);
+    else
+        painter.drawRect(frame);
+    painter.restore();
+}
+
 } // namespace
 
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
@@ -24,18 +37,8 @@ void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption*
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool round = element == PE_IndicatorRadioButton;
-    if ((!round && element != PE_IndicatorCheckBox) || !isDark(*option))
-        return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, round);
-    painter->setPen(option->palette.color(QPalette::WindowText));
-    painter->setBrush(Qt::NoBrush);
-    const QRect frame = option->rect.adjusted(0, 0, -1, -1);
-    if (round)
-        painter->drawEllipse(frame);
-    else
-        painter->drawRect(frame);
-    painter->restore();
+    if ((round || element == PE_IndicatorCheckBox) && isDark(*option))
+        paintFrame(*painter, *option, option->rect.adjusted(0, 0, -1, -1), round);
 }
 
 void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -45,11 +48,7 @@ void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOpti
     if (control != CC_ScrollBar || !isDark(*option))
         return;
     const QRect slider = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
-    painter->save();
-    painter->setPen(option->palette.color(QPalette::WindowText));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(slider.adjusted(1, 1, -2, -2));
-    painter->restore();
+    paintFrame(*painter, *option, slider.adjusted(1, 1, -2, -2), false);
 }
 
 } // namespace quillet

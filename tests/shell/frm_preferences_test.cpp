@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QStyleOptionButton>
+#include <QTabWidget>
 
 namespace quillet::test
 {
@@ -100,13 +101,18 @@ TEST(PreferencesDialog, emptyBoxesAreSeenOnABlackDesktop)
     ASSERT_TRUE(game.start());
     inPreferences(game, [](frmPreferences& dialog) {
         dialog.setPalette(QPalette(Qt::black, Qt::black));
-        auto& box = control(dialog, "ckAnimation");
-        QStyleOptionButton option;
-        option.initFrom(&box);
-        const QRect place =
-            box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
-        const QImage picture = box.grab().toImage();
-        EXPECT_GE(contrast(picture.pixelColor(place.topLeft()), Qt::black), 3);
+        for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
+            control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(page);
+            auto& box = control(dialog, name);
+            QStyleOptionButton option;
+            option.initFrom(&box);
+            const auto part =
+                page == 0 ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
+            const QRect place = box.style()->subElementRect(part, &option, &box);
+            const QImage picture = box.grab().toImage();
+            const QColor edge = picture.pixelColor(place.left(), place.center().y());
+            EXPECT_GE(contrast(edge, Qt::black), 3) << name;
+        }
         QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
     });
 }
