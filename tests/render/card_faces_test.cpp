@@ -10,6 +10,8 @@ namespace quillet::test
 namespace
 {
 
+constexpr QRect index(3, 4, 18, 50); // upper left, at the cards' own size
+
 bool isInk(QRgb pixel)
 {
     return qGray(pixel) < 230;
@@ -47,7 +49,6 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
 
 TEST(CardFaces, indexStaysReadableUnderTheHatch)
 {
-    constexpr QRect index(3, 4, 18, 50);
     const QImage hatch = cardAt(53, 1);
     for (const int number : cardNumbers(0, 51)) {
         const QImage card = cardAt(number, 1);
@@ -66,7 +67,6 @@ TEST(CardFaces, indexStaysReadableUnderTheHatch)
 
 TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
 {
-    constexpr QRect index(3, 4, 18, 50);
     for (const int number : cardNumbers(0, 51)) {
         const QImage card = cardAt(number, 1);
         QRgb darkest = 0xffffffff;

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Plays the real program under an X server and a window manager of its own: a first start with an
-# empty home, a hand by mouse, every preference by keyboard, every way out, later starts, and a death
-# at a random moment. Usage: play_through.sh PROGRAM
+# empty home, a hand by mouse, every preference by keyboard, every way out, later starts, and a
+# death at a random moment. Usage: play_through.sh PROGRAM
 set -u
 
 program=$1
