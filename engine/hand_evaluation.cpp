@@ -27,14 +27,14 @@ std::optional<SuitLanes> lanesOf(std::span<const Card> cards)
     for (const Card& card : cards) {
         const auto rank = static_cast<unsigned>(card.rank - 1);
         const auto suit = static_cast<unsigned>(card.suit);
-        const SuitLanes bit = SuitLanes{1} << ((suit * 16 + rank) % 64);
+        const SuitLanes bit = tables::laneBit(rank, suit);
         ranks |= rank;
         suits |= suit;
         lanes |= bit;
         sum += bit;
     }
     // Ranks 14 to 16 lie between the lanes; a card that is there twice makes the sum differ.
-    const bool realCards = ranks < 16 && suits < 4 && (lanes & 0xe000e000e000e000U) == 0;
+    const bool realCards = ranks < tables::laneBits && suits < 4 && (lanes & tables::noRanks) == 0;
     return realCards && sum == lanes ? std::optional(lanes) : std::nullopt;
 }
 
@@ -66,7 +66,7 @@ unsigned codeOf(SuitLanes lanes, bool finalHand)
     const tables::CodeOfRankSet& oneSuit = finalHand ? tables::oneSuitFinal : tables::oneSuitDealt;
     return std::min<unsigned>({oneSuit[clubs], oneSuit[diamonds], oneSuit[hearts], oneSuit[spades],
                                tables::ranksOnce[black | red],
-                               tables::repeatedRanks[repeats.shape()]});
+                               tables::repeatedRanks[repeats.shapeOf()]});
 }
 
 } // namespace

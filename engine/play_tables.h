@@ -3,11 +3,11 @@
 #include "engine/hand_evaluation.h"
 #include "engine/play_rules.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <utility>
 
 // The chart's rules worked out beforehand for every set of ranks. A row looks either at the ranks
 // alone or at the cards of one suit alone, so a hand's play code is the least of five: the code
@@ -22,10 +22,21 @@ using CodeOfRankSet = std::array<std::uint8_t, rankSets>;
 
 // The ranks of a hand, by suit: bits 0..12 clubs, 16..28 diamonds, and so on.
 using SuitLanes = std::uint64_t;
+inline constexpr unsigned laneBits = 16;
 
-constexpr unsigned lane(SuitLanes lanes, int suit)
+// The bits between the lanes, where no rank of the deck lies.
+inline constexpr SuitLanes noRanks = 0xffff'ffff'ffff'ffffU / 0xffffU * (0xffffU ^ (rankSets - 1));
+static_assert(noRanks == 0xe000'e000'e000'e000U);
+
+constexpr unsigned lane(SuitLanes lanes, unsigned suit)
 {
-    return static_cast<std::uint16_t>(lanes >> (16 * suit));
+    return static_cast<std::uint16_t>(lanes >> (laneBits * suit));
+}
+
+// The bit of a card. Any rank and suit may be asked; those of no deck give some bit or other.
+constexpr SuitLanes laneBit(unsigned rank, unsigned suit)
+{
+    return SuitLanes{1} << ((suit * laneBits + rank) % 64);
 }
 
 // The cards of a set, in one suit and over the fillers.
@@ -69,56 +80,103 @@ constexpr CodeOfRankSet codesOfOneSuit(bool finalHand)
     return codes;
 }
 
+// What the rows ask of ranks that stand more than once, one bit for each question.
+namespace shape
+{
+inline constexpr unsigned pair = 1;
+inline constexpr unsigned highPair = 2;
+inline constexpr unsigned twoPairs = 4;
+inline constexpr unsigned threeAlike = 8;
+inline constexpr unsigned fourAlike = 16;
+inline constexpr std::size_t count = 32;
+} // namespace shape
+
+// The aces, jacks, queens and kings of a set of ranks.
+inline constexpr unsigned highRanks = [] {
+    unsigned set = 0;
+    for (int rank = 1; rank <= 13; ++rank)
+        set |= rules::isHigh(rank) ? 1U << (rank - 1) : 0U;
+    return set;
+}();
+
 // Which ranks stand at least twice, thrice, four times.
 struct Repeats {
     unsigned twice = 0;
     unsigned thrice = 0;
     unsigned fourTimes = 0;
 
-    // Of repeated ranks the rows ask no more than this.
-    [[nodiscard]] constexpr std::size_t shape() const
+    // How `shape` answers. Any three of a kind is a pair as well, and of a full house both ranks
+    // are.
+    [[nodiscard]] constexpr std::size_t shapeOf() const
     {
-        constexpr unsigned high = 0x1c01; // ace, jack, queen, king
-        return (fourTimes != 0 ? 16U : 0U) + (thrice != 0 ? 8U : 0U) +
-               ((twice & (twice - 1)) != 0 ? 4U : 0U) + ((twice & high) != 0 ? 2U : 0U) +
-               (twice != 0 ? 1U : 0U);
+        const bool twoRanks = (twice & (twice - 1)) != 0;
+        return (twice != 0 ? shape::pair : 0U) | ((twice & highRanks) != 0 ? shape::highPair : 0U) |
+               (twoRanks ? shape::twoPairs : 0U) | (thrice != 0 ? shape::threeAlike : 0U) |
+               (fourTimes != 0 ? shape::fourAlike : 0U);
     }
 };
 
-using CodeOfShape = std::array<std::uint8_t, 32>;
+// One rank so many times, another one once or twice or not at all, over fillers.
+struct RepeatedRanks {
+    int rank;
+    int times; // 2..4
+    int otherRank;
+    int otherTimes; // 0..2
 
-// Shapes of no hand, and that of a hand without repeats, have the last row's code.
-constexpr CodeOfShape codesOfRepeats()
-{
-    CodeOfShape codes{};
-    codes.fill(static_cast<std::uint8_t>(rules::chart.size()));
-    const auto enter = [&codes](int rank, int times, int otherRank, int otherTimes) {
+    [[nodiscard]] constexpr std::size_t shapeOf() const
+    {
+        const unsigned bit = 1U << (rank - 1);
+        const unsigned otherBit = otherTimes == 2 ? 1U << (otherRank - 1) : 0U;
+        return Repeats{bit | otherBit, times >= 3 ? bit : 0U, times == 4 ? bit : 0U}.shapeOf();
+    }
+
+    [[nodiscard]] constexpr std::uint8_t code() const
+    {
         rules::SortedCards cards = cardsOfRankSet(0);
         auto card = cards.begin();
         for (int i = 0; i < times; ++i)
             (card++)->rank = rank;
         for (int i = 0; i < otherTimes; ++i)
             (card++)->rank = otherRank;
-        const unsigned bit = 1U << (rank - 1);
-        const unsigned otherBit = otherTimes == 2 ? 1U << (otherRank - 1) : 0;
-        const Repeats repeats{bit | otherBit, times >= 3 ? bit : 0, times == 4 ? bit : 0};
-        const rules::RankFacts ranks(cards);
-        codes[repeats.shape()] =
-            static_cast<std::uint8_t>(rules::playCode(rules::HandFacts(ranks), false));
-    };
-    for (const auto& [rank, otherRank] : {std::pair{3, 5}, {3, 11}, {11, 13}}) {
-        enter(rank, 2, otherRank, 0);
-        enter(rank, 2, otherRank, 2);
-        enter(rank, 3, otherRank, 0);
-        enter(rank, 3, otherRank, 2);
-        enter(rank, 4, otherRank, 0);
+        return static_cast<std::uint8_t>(
+            rules::playCode(rules::HandFacts(rules::RankFacts(cards)), false));
     }
+};
+
+template <typename Visit>
+constexpr void forEachRepetition(const Visit& visit)
+{
+    for (int rank = 1; rank <= 13; ++rank)
+        for (int otherRank = 1; otherRank <= 13; ++otherRank)
+            for (int times = 2; rank != otherRank && times <= 4; ++times)
+                for (int otherTimes = 0; otherTimes <= std::min(2, 5 - times); otherTimes += 2)
+                    visit(RepeatedRanks{rank, times, otherRank, otherTimes});
+}
+
+using CodeOfShape = std::array<std::uint8_t, shape::count>;
+
+// Shapes of no hand, and that of a hand without repeats, have the last row's code.
+constexpr CodeOfShape codesOfShapes()
+{
+    CodeOfShape codes{};
+    codes.fill(static_cast<std::uint8_t>(rules::chart.size()));
+    forEachRepetition(
+        [&codes](const RepeatedRanks& ranks) { codes[ranks.shapeOf()] = ranks.code(); });
     return codes;
 }
 
 inline constexpr CodeOfRankSet ranksOnce = codesOfDifferentRanks();
 inline constexpr CodeOfRankSet oneSuitDealt = codesOfOneSuit(false);
 inline constexpr CodeOfRankSet oneSuitFinal = codesOfOneSuit(true);
-inline constexpr CodeOfShape repeatedRanks = codesOfRepeats();
+inline constexpr CodeOfShape repeatedRanks = codesOfShapes();
+
+// A shape says all that the chart wants to know about repeated ranks.
+static_assert([] {
+    bool same = true;
+    forEachRepetition([&same](const RepeatedRanks& ranks) {
+        same = same && repeatedRanks[ranks.shapeOf()] == ranks.code();
+    });
+    return same;
+}());
 
 } // namespace quillet::tables
