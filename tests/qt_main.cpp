@@ -1,9 +1,11 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+// No display is needed: there are several unseen ones, each of another scale.
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLET_TEST_DISPLAYS);
+    qputenv("QT_SCREEN_SCALE_FACTORS", "1;1.25;1.5;1.75;2");
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

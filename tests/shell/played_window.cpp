@@ -102,6 +102,12 @@ std::string PlayedWindow::cards()
     return all.join("; ").toStdString();
 }
 
+QImage PlayedWindow::picture()
+{
+    QCoreApplication::processEvents();
+    return presented(*window);
+}
+
 QRect PlayedWindow::placeOf(const std::string& name)
 {
     QWidget& widget = part(name);

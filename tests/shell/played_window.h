@@ -2,6 +2,7 @@
 
 #include "shell/frm_main.h"
 #include "tests/engine/fake_table.h"
+#include "tests/render/presented.h"
 #include "tests/screens/window_driving.h"
 #include "tests/shell/memory_store.h"
 
@@ -51,8 +52,9 @@ public:
     // What a screen reader says of the card places, their numbers left out.
     [[nodiscard]] std::string cards();
     [[nodiscard]] bool waitsForDraw() const { return window->handState().handDealt; }
-    [[nodiscard]] QImage picture() { return window->grab().toImage(); }
-    // Where a part lies in the window's picture.
+    // What the window shows on its display.
+    [[nodiscard]] QImage picture();
+    // Where a part lies in the window.
     [[nodiscard]] QRect placeOf(const std::string& name);
     // The background of a chart row, "#rrggbb".
     [[nodiscard]] std::string rowColor(int playCode);

@@ -1,0 +1,178 @@
+#include "platform/picture_box.h"
+#include "render/card_art/card_art.h"
+#include "render/table_geometry.h"
+#include "tests/shell/played_window.h"
+
+#include <QPainter>
+
+#include <set>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+constexpr int sleeve = 65;
+constexpr int hatch = 53;
+
+QImage cardAt(double scale, int cardNumber)
+{
+    return renderCard(cardNumber, (QSizeF(cardArtWidth, cardArtHeight) * scale).toSize());
+}
+
+// Only the ink of the overlay.
+QImage inkOf(QImage overlay)
+{
+    for (int y = 0; y < overlay.height(); ++y)
+        for (int x = 0; x < overlay.width(); ++x)
+            if (overlay.pixel(x, y) == qRgb(255, 255, 255))
+                overlay.setPixel(x, y, qRgba(0, 0, 0, 0));
+    return overlay;
+}
+
+// The parts of the table that are known to a pixel, on a transparent picture.
+class KnownTable
+{
+public:
+    explicit KnownTable(PlayedWindow& game)
+        : m_game(game), m_scale(game.window->devicePixelRatioF()),
+          m_picture(game.picture().size(), QImage::Format_ARGB32_Premultiplied)
+    {
+        m_picture.setDevicePixelRatio(1);
+        m_picture.fill(Qt::transparent);
+        paintFrame();
+        paintDeck();
+    }
+
+    void paint(const QImage& image, const QPointF& at)
+    {
+        QPainter painter(&m_picture);
+        painter.drawImage(origin() + at.toPoint(), image);
+    }
+
+    void paintCards(const std::vector<int>& faces)
+    {
+        for (int slot = 0; slot < 5; ++slot) {
+            const auto& box =
+                static_cast<PictureBox&>(m_game.part("picPoker" + std::to_string(slot)));
+            paint(cardAt(m_scale, faces[std::size_t(slot)]), box.devicePlace().topLeft());
+            paint(inkOf(cardAt(m_scale, hatch)), box.devicePlace().topLeft());
+        }
+    }
+
+    // How many of the known pixels are shown otherwise.
+    [[nodiscard]] int differences(const QImage& shown) const
+    {
+        int count = 0;
+        for (int y = 0; y < m_picture.height(); ++y)
+            for (int x = 0; x < m_picture.width(); ++x)
+                count += qAlpha(m_picture.pixel(x, y)) == 255 &&
+                         m_picture.pixel(x, y) != shown.pixel(x, y);
+        return count;
+    }
+
+    [[nodiscard]] QPoint origin() const
+    {
+        return (QPointF(m_game.placeOf("table").topLeft()) * m_scale).toPoint();
+    }
+
+private:
+    void paintFrame()
+    {
+        const TableMeasures table{800, 514, 96, 130, 60, 169};
+        auto frame = tableFrame(table);
+        frame.push_back(chartFrame(table));
+        const char* names[] = {"top", "bottom", "side1", "side2"};
+        for (const FramePlace& place : frame) {
+            const QImage piece(QString(":/frame/%1.png").arg(names[int(place.piece)]));
+            const QRect to = deviceRect(place.rect, m_scale);
+            paint(piece.scaled(to.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                  to.topLeft());
+        }
+        // Chart and status bar lie over the frame, and what is between them belongs to neither.
+        QPainter painter(&m_picture);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.translate(origin());
+        for (const QRectF& covered : {chartPlace(table), QRectF(12, 442, 594, 60)})
+            painter.fillRect(deviceRect(covered, m_scale).adjusted(-1, -1, 1, 1), Qt::black);
+    }
+
+    void paintDeck()
+    {
+        const auto& box = static_cast<PictureBox&>(m_game.part("picDeal0"));
+        for (int back = 0; back < 4; ++back)
+            paint(cardAt(m_scale, sleeve),
+                  box.devicePlace().topLeft() +
+                      QPoint(deviceOrigin(2 * back, m_scale), deviceOrigin(back, m_scale)));
+    }
+
+    PlayedWindow& m_game;
+    double m_scale;
+    QImage m_picture;
+};
+
+std::set<QRgb> coloursIn(PlayedWindow& game, const std::string& part, int width)
+{
+    QRect place = game.placeOf(part).adjusted(1, 1, 0, -1);
+    place.setWidth(width);
+    const QImage picture = game.picture();
+    std::set<QRgb> colours;
+    const double scale = picture.devicePixelRatio();
+    for (int y = int(place.top() * scale); y < int(place.bottom() * scale); ++y)
+        for (int x = int(place.left() * scale); x < int(place.right() * scale); ++x)
+            colours.insert(picture.pixel(x, y));
+    return colours;
+}
+
+} // namespace
+
+TEST(PresentedTable, aFinishedHandAtTwoScales)
+{
+    for (const double scale : {1.0, 1.5}) {
+        SCOPED_TRACE(scale);
+        PlayedWindow game;
+        ASSERT_TRUE(game.start());
+        ASSERT_TRUE(moveToScale(*game.window, scale));
+        game.draw("12");
+        KnownTable known(game);
+        known.paintCards({40, 41, 18, 23, 28});
+        EXPECT_EQ(known.differences(game.picture()), 0);
+        EXPECT_TRUE(coloursIn(game, "lblstatus", 215).contains(qRgb(250, 175, 200)));
+        for (int row = 0; row < 21; ++row) {
+            const auto place = "pkLabel" + std::to_string(row);
+            EXPECT_EQ(coloursIn(game, place, 9).size() > 1, row == 10) << "the mark";
+            EXPECT_GT(coloursIn(game, place, 160).size(), 2u);
+        }
+    }
+}
+
+TEST(PresentedTable, cardsFlyOverTheWholeTable)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    ASSERT_TRUE(moveToScale(*game.window, 1.5));
+    game.window->prfAnimation = true;
+    game.window->prfAnimationDelay = 0;
+    int frames = 0;
+    QImage look;
+    const FrameWatch watch(game.part("table"), [&](const QImage& shown) {
+        if (++frames == 530) // in the third flight, from (209, 95) to (482, 284)
+            look = shown;
+    });
+    game.draw("12");
+    EXPECT_GT(frames, 189 + 189 + 273);
+    KnownTable known(game);
+    EXPECT_EQ(known.differences(look), 0);
+    const QImage back = cardAt(1.5, sleeve).convertToFormat(look.format());
+    const QRect middle = back.rect().adjusted(9, 9, -9, -9);
+    bool seen = false;
+    for (int step = 0; step < 273; ++step) {
+        const QRectF at(209 + step, 95 + step * 189 / 273, 96, 130);
+        const QPoint place = known.origin() + deviceRect(at, 1.5).topLeft();
+        seen = seen || look.copy(middle.translated(place)) == back.copy(middle);
+    }
+    EXPECT_TRUE(seen);
+}
+
+} // namespace quillet::test
