@@ -145,6 +145,8 @@ start
 [[ -e $settings ]] && fail "settings before the first end"
 wait_for 25 "the first hand" hand_waits
 any_row_is '#FFC0C0' || fail "the best play is not shown"
+[[ $(pixel 211 160) == '#FFFFFF' ]] || fail "the deck is not seen"
+[[ $(pixel 54 346) == '#FFFFFF' ]] || fail "the first card shows no face"
 best=$(row_coloured '#FFC0C0')
 ((keeps[best] == 1)) && wrong="0 1" || wrong="0"
 draw_with "$wrong" && fail "a hold of the wrong size was accepted"
