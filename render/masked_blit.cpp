@@ -38,6 +38,8 @@ void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
 {
     const int w = sixteenBits(std::int64_t{srcRect.right} - srcRect.left);
     const int h = sixteenBits(std::int64_t{srcRect.bottom} - srcRect.top);
+    if (w <= 0 || h <= 0)
+        return;
     const double scale = hdcDest.scale();
     const QRect from = deviceRect(QRectF(srcRect.left, srcRect.top, w, h), scale);
     const QPoint shift =

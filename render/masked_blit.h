@@ -20,7 +20,8 @@ struct PixelRect {
 
 // Copies the source rectangle to the destination, but where the source has exactly the
 // transparent colour (0x00BBGGRR) the background picture shows, which may be the destination
-// itself. Clipped to all three pictures. Throws RunTimeError for a width or height beyond 16 bits.
+// itself. Clipped to all three pictures; a rectangle turned over is empty. Throws RunTimeError for
+// a width or height beyond 16 bits.
 void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
                 const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor);
 

@@ -69,6 +69,8 @@ TEST(MaskedBlit, emptyAndOverlargeRectangles)
     Surface table = filled(4, 4, Qt::darkGreen);
     const QImage before = table.image();
     MaskedBlit(table, table, source, {2, 2, 2, 9}, 0, 0, white);
+    MaskedBlit(table, table, source, {2, 0, 0, 2}, 1, 1, white);
+    MaskedBlit(table, table, source, {0, 2, 2, 0}, 1, 1, white);
     EXPECT_EQ(table.image(), before);
     EXPECT_THROW(MaskedBlit(table, table, source, {0, 0, 32768, 1}, 0, 0, white), RunTimeError);
     EXPECT_THROW(MaskedBlit(table, table, source, {0, -40000, 1, 0}, 0, 0, white), RunTimeError);
