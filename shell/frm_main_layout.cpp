@@ -169,6 +169,7 @@ void frmMain::followScale()
     // toolkit takes opaque widgets for painted unless each is asked.
     for (QWidget* widget : findChildren<QWidget*>())
         widget->update();
+    picStatusBar->makePointer();
     if (m_pictures.canvas->scale() == devicePixelRatioF())
         return;
     // A picture that has been spoiled meanwhile stays as it was read.

@@ -1,8 +1,11 @@
 #include "shell/status_bar.h"
 
+#include "platform/surface.h"
 #include "shell/window_layout.h"
 
 #include <QCursor>
+#include <QGuiApplication>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPixmap>
 
@@ -11,6 +14,9 @@ namespace quillet
 
 namespace
 {
+
+constexpr int pointerSide = 32; // logical pixels
+constexpr QPoint hotSpot{12, 9};
 
 // Swallows its clicks, which would otherwise reach the bar.
 class SilentLabel : public QLabel
@@ -36,8 +42,7 @@ StatusBar::StatusBar(QWidget* parent)
     QPalette colors = palette();
     colors.setColor(QPalette::Window, Qt::black);
     setPalette(colors);
-    const QPixmap hand(QStringLiteral(":/pointer/hand.png"));
-    setCursor(hand.isNull() ? QCursor(Qt::PointingHandCursor) : QCursor(hand, 12, 9));
+    makePointer();
 
     m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
     m_lblstatus->setTextFormat(Qt::PlainText);
@@ -61,6 +66,24 @@ void StatusBar::setTextColor(const QColor& color)
 void StatusBar::centreText()
 {
     m_lblstatus->move((width() - m_lblstatus->width()) / 2, m_lblstatus->y());
+}
+
+void StatusBar::makePointer()
+{
+    const QImage drawn(QStringLiteral(":/pointer/hand@2x.png"));
+    if (drawn.isNull()) {
+        setCursor(Qt::PointingHandCursor);
+        return;
+    }
+    const double scale = devicePixelRatioF();
+    const int side = deviceSize(pointerSide, scale);
+    QPixmap hand = QPixmap::fromImage(
+        drawn.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    // X11 counts a pointer in device pixels, all others in logical ones.
+    const bool inDevicePixels = QGuiApplication::platformName() == QLatin1String("xcb");
+    hand.setDevicePixelRatio(inDevicePixels ? 1 : scale);
+    const QPointF tip = QPointF(hotSpot) * (inDevicePixels ? scale : 1);
+    setCursor(QCursor(hand, qRound(tip.x()), qRound(tip.y())));
 }
 
 void StatusBar::mousePressEvent(QMouseEvent* event)

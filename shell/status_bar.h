@@ -17,6 +17,8 @@ public:
     void setTextColor(const QColor& color);
     // Horizontally, in the bar's present width.
     void centreText();
+    // In the pixels of the present display.
+    void makePointer();
 
 signals:
     void clicked();

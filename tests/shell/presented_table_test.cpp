@@ -175,4 +175,17 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     EXPECT_TRUE(seen);
 }
 
+TEST(PresentedTable, theBarsPointerIsAsLargeOnEveryDisplay)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        ASSERT_TRUE(moveToScale(*game.window, scale));
+        const QCursor pointer = game.part("picStatusBar").cursor();
+        EXPECT_EQ(pointer.pixmap().size(), QSize(32, 32) * scale);
+        EXPECT_EQ(pointer.pixmap().devicePixelRatio(), scale);
+        EXPECT_EQ(pointer.hotSpot(), QPoint(12, 9));
+    }
+}
+
 } // namespace quillet::test
