@@ -109,4 +109,10 @@ QPointF statusBarPosition(const TableMeasures& table)
     return {margin, table.innerHeight - table.statusBarHeight - margin};
 }
 
+QRectF statusStrip(const TableMeasures& table)
+{
+    return {statusBarPosition(table),
+            QSizeF(chartFrame(table).rect.x() - margin, table.statusBarHeight)};
+}
+
 } // namespace quillet

@@ -53,5 +53,7 @@ inline constexpr QPointF flyingCardOffset{8, 4};
 
 [[nodiscard]] QRectF chartPlace(const TableMeasures& table);
 [[nodiscard]] QPointF statusBarPosition(const TableMeasures& table);
+// The black strip in which the status bar lies, up to the chart's frame.
+[[nodiscard]] QRectF statusStrip(const TableMeasures& table);
 
 } // namespace quillet

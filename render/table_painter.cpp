@@ -4,6 +4,8 @@
 #include "platform/table_canvas.h"
 #include "render/masked_blit.h"
 
+#include <QPainter>
+
 namespace quillet
 {
 
@@ -76,6 +78,8 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
     placeDeck(table);
     placeCards(table);
     paintFrame(tableFrame(table));
+    QPainter(&canvas.keptForDrawing().pixels())
+        .fillRect(deviceRect(statusStrip(table), canvas.scale()), Qt::black);
     for (PictureBox* box : m_pictures.picPoker)
         box->copyTableBehind();
     m_pictures.BoardBuffer = canvas.kept();

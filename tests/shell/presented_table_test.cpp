@@ -90,11 +90,12 @@ private:
             paint(piece.scaled(to.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
                   to.topLeft());
         }
-        // Chart and status bar lie over the frame, and what is between them belongs to neither.
+        // Status bar and chart lie over the frame, and beside the bar it is black.
         QPainter painter(&m_picture);
-        painter.setCompositionMode(QPainter::CompositionMode_Clear);
         painter.translate(origin());
-        for (const QRectF& covered : {chartPlace(table), QRectF(12, 442, 594, 60)})
+        painter.fillRect(deviceRect({480, 442, 126, 60}, m_scale), Qt::black);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        for (const QRectF& covered : {chartPlace(table), QRectF(12, 442, 468, 60)})
             painter.fillRect(deviceRect(covered, m_scale).adjusted(-1, -1, 1, 1), Qt::black);
     }
 
