@@ -142,6 +142,7 @@ void TablePainter::copyTableBehind(OffScreenBox& box)
 void TablePainter::layHatches()
 {
     Surface& hatch = m_pictures.picAnimate.picture;
+    hatch.fill(Qt::white);
     m_library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
     const PixelRect whole = wholeOf(hatch);
 

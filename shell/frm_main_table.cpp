@@ -24,6 +24,8 @@ void frmMain::placeFlyingCard()
 
 void frmMain::paintFlyingCard(std::int32_t backNumber)
 {
+    // White is what an overlay lets through, outside its rounded corners, too.
+    m_pictures.picAnimate.picture.fill(Qt::white);
     m_library.cdtDraw(m_pictures.picAnimate.picture, 0, 0, backNumber, drawBack, whiteColor);
 }
 
@@ -49,7 +51,7 @@ void frmMain::flyCardTo(int slot)
     // Where the card lands, its rounded corners show the table of that place.
     OffScreenBox& card = m_pictures.picAnimate;
     card.picture.copyFrom(m_pictures.canvas->kept(), to, card.place.size(), {0, 0});
-    paintFlyingCard(prfPKBackFace);
+    m_library.cdtDraw(card.picture, 0, 0, prfPKBackFace, drawBack, whiteColor);
     std::int32_t x = pixel(from.x());
     std::int32_t y = pixel(from.y());
     m_flight.AnimateCard(x, y, pixel(to.x()), pixel(to.y()), 1, prfPKBackFace, drawBack);

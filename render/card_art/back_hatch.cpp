@@ -28,7 +28,7 @@ double depthInside(int x, int y, QSize size, double radius)
 QImage hatchPicture(QSize deviceSize)
 {
     QImage picture(deviceSize, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(paper);
+    picture.fill(Qt::transparent);
     const double scale = deviceSize.width() / double(cardArtWidth);
     const int line = std::max(1, static_cast<int>(std::lround(scale)));
     // Where a line is rounded up, the lattice is wider, so that the ink stays below a quarter.
@@ -48,10 +48,12 @@ QImage hatchPicture(QSize deviceSize)
         auto* const row = reinterpret_cast<QRgb*>(picture.scanLine(y));
         for (int x = 0; x < deviceSize.width(); ++x) {
             const double depth = depthInside(x, y, deviceSize, radius);
-            const bool border = depth > 0 && depth < line;
+            if (depth <= 0)
+                continue;
+            const bool border = depth < line;
             const bool inner = depth > innerFrom && depth < innerFrom + line;
-            if (border || inner || (depth > innerFrom && onLattice(x, y)))
-                row[x] = ink;
+            const bool inked = border || inner || (depth > innerFrom && onLattice(x, y));
+            row[x] = inked ? ink : paper;
         }
     }
     return picture;

@@ -7,7 +7,7 @@ namespace quillet
 
 inline constexpr int hatchBack = 53;
 
-// The see-through overlay: white and one ink, line by line in device pixels.
+// The see-through overlay: white and one ink, pixel by pixel.
 [[nodiscard]] QImage hatchPicture(QSize deviceSize);
 
 // Backs 54..65; any other number leaves the card as it is.

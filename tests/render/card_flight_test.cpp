@@ -122,6 +122,7 @@ TEST_P(CardFlightTest, errorsHaveTheirOwnWords)
 TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
 {
     Surface hatch({96, 130}, GetParam());
+    hatch.fill(Qt::white);
     library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
     for (const PictureBox* place : pictures.picPoker) {
         const QImage shown = canvas.kept().image().copy(place->devicePlace());

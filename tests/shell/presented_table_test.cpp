@@ -176,6 +176,24 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     EXPECT_TRUE(seen);
 }
 
+TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    const auto corners = [&game] {
+        std::vector<QRgb> colours;
+        for (const char* part : {"picDeal0", "picPoker0", "picPoker4"})
+            colours.push_back(game.picture().pixel(game.placeOf(part).topLeft()));
+        return colours;
+    };
+    const auto before = corners();
+    game.window->prfPKBackFace = hatch;
+    game.window->DrawDealDeck();
+    game.in(700, [&] { EXPECT_EQ(corners(), before) << "face down"; });
+    game.draw("12");
+    EXPECT_EQ(corners(), before);
+}
+
 TEST(PresentedTable, theBarsPointerIsAsLargeOnEveryDisplay)
 {
     PlayedWindow game;
