@@ -51,7 +51,7 @@ void PictureBox::setShowing(bool showing)
     if (showing == m_showing)
         return;
     m_showing = showing;
-    m_canvas.present(m_place);
+    m_canvas.presentWithNextFrame(m_place);
 }
 
 void PictureBox::setChecked(bool checked)

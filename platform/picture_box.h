@@ -37,8 +37,8 @@ public:
 
     // Puts the picture on the display now if the box is showing.
     void refresh();
-    // A box that does not show is neither painted nor clicked. It stays a visible widget, so
-    // that the keyboard focus does not wander off with every flight.
+    // From the next frame on. A box that does not show is neither painted nor clicked. It stays a
+    // visible widget, so that the keyboard focus does not wander off with every flight.
     void setShowing(bool showing);
     [[nodiscard]] bool isShowing() const { return m_showing; }
 

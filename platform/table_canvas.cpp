@@ -7,6 +7,17 @@
 namespace quillet
 {
 
+namespace
+{
+
+// One pixel more all round: device pixels do not end where logical ones do.
+QRect withItsEdge(const QRectF& rect)
+{
+    return rect.toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+} // namespace
+
 TableCanvas::TableCanvas(QWidget* parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -43,8 +54,12 @@ void TableCanvas::refresh()
 
 void TableCanvas::present(const QRectF& rect)
 {
-    // One pixel more all round: device pixels do not end where logical ones do.
-    repaint(rect.toAlignedRect().adjusted(-1, -1, 1, 1));
+    repaint(withItsEdge(rect));
+}
+
+void TableCanvas::presentWithNextFrame(const QRectF& rect)
+{
+    update(withItsEdge(rect));
 }
 
 void TableCanvas::paintEvent(QPaintEvent*)

@@ -41,8 +41,9 @@ public:
     void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
     // The kept picture becomes what the player sees, now.
     void refresh();
-    // Repaints the rectangle on the display now.
+    // Repaints the rectangle on the display now, or with the next frame that is presented.
     void present(const QRectF& rect);
+    void presentWithNextFrame(const QRectF& rect);
 
     // The card in flight: this rectangle of the screen picture lies over the boxes until the
     // persistent image is on again.

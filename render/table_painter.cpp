@@ -89,9 +89,9 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
     layHatches();
     m_pictures.picReject.picture.copyFrom(m_pictures.picRejectBack.picture, {0, 0},
                                           m_pictures.picReject.place.size(), {0, 0});
-    canvas.refresh();
     for (PictureBox* box : m_pictures.picDeal)
         box->setShowing(true);
+    canvas.refresh();
 }
 
 void TablePainter::placeDeck(const TableMeasures& table)

@@ -84,7 +84,7 @@ void ChartRow::show(ChartRowColors colors, ChartRowState state)
     const QString spoken = spokenState(state);
     setAccessibleName(spoken.isEmpty() ? text()
                                        : QStringLiteral("%1, %2").arg(text().trimmed(), spoken));
-    repaint();
+    update();
 }
 
 QColor ChartRow::textColor() const

@@ -151,9 +151,7 @@ void frmMain::resetGraphics()
             deck->setShowing(false);
         for (int slot = 0; slot < 5; ++slot)
             hideCard(slot);
-        picPokerLabels->hide();
         m_painter.repaint(table, prfPKBackFace);
-        picPokerLabels->show();
         m_state.judgePending = false;
     });
 }

@@ -122,7 +122,7 @@ void frmMain::showHoldOutline(int slot, bool shown)
     if (showing == shown)
         return;
     showing = shown;
-    m_pictures.canvas->present(box(slot).place().adjusted(-4, -4, 4, 4));
+    m_pictures.canvas->presentWithNextFrame(box(slot).place().adjusted(-4, -4, 4, 4));
     describeSlot(slot);
 }
 

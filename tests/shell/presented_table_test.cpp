@@ -176,6 +176,33 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     EXPECT_TRUE(seen);
 }
 
+TEST(PresentedTable, deckAndChartNeverFlash)
+{
+    constexpr int beach = 64;
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.window->prfAnimation = true;
+    game.window->prfAnimationDelay = 0;
+    const QPoint deck = game.placeOf("picDeal0").topLeft();
+    const QPoint border = deck + QPoint(1, 8), middle = deck + QPoint(54, 68);
+    const QPoint chart = game.placeOf("pkLabel1").topLeft() + QPoint(3, 3);
+    QRgb old = 0;
+    const FrameWatch watch(game.part("table"), [&](const QImage& shown) {
+        EXPECT_EQ(shown.pixel(border), qRgb(255, 255, 255));
+        EXPECT_EQ(shown.pixelColor(chart), QColor(0xe0, 0xe0, 0xe0));
+        EXPECT_NE(shown.pixel(middle), old);
+    });
+    game.random.stack(PlayedWindow::jacks);
+    game.choose("mnuPoker");
+    const QImage before = game.picture();
+    game.window->prfPKBackFace = beach;
+    game.window->DrawDealDeck();
+    EXPECT_NE(game.picture().pixel(middle), before.pixel(middle));
+    old = before.pixel(middle);
+    game.draw("12");
+    EXPECT_TRUE(game.counters().ends_with("/1"));
+}
+
 TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
 {
     PlayedWindow game;
