@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace quillet
 {
 
@@ -20,8 +22,8 @@ void PictureBox::place(const QRectF& place, double scale)
         m_picture = Surface(place.size(), scale);
         m_behind = m_picture;
     }
-    m_place = place;
-    setGeometry(place.toAlignedRect());
+    m_place = {QPointF(std::nearbyint(place.x()), std::nearbyint(place.y())), place.size()};
+    setGeometry(m_place.toAlignedRect());
 }
 
 QRect PictureBox::devicePlace() const

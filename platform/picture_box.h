@@ -12,7 +12,7 @@ class TableCanvas;
 
 // A picture that lies on the table: a card place or a deck picture. As a widget it takes the
 // clicks, the keyboard focus and the accessible name; its picture is painted by the canvas, which
-// knows the exact device pixels of a place such as 150.4.
+// knows its exact device pixels.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ class PictureBox : public QWidget
 public:
     explicit PictureBox(TableCanvas& canvas);
 
-    // In logical pixels of the table, fractions kept. A new size or scale gives a new, black
-    // picture.
+    // In logical pixels of the table. Its corner is rounded to whole ones, on which a card lands
+    // at every scale. A new size or scale gives a new, black picture.
     void place(const QRectF& place, double scale);
     [[nodiscard]] const QRectF& place() const { return m_place; }
     [[nodiscard]] QRect devicePlace() const;

@@ -40,10 +40,14 @@ void Surface::fill(const QColor& color)
 
 void Surface::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
 {
-    const QRect wanted = deviceRect({from, size}, m_scale);
-    const QPoint target(deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale));
-    const QPoint shift = target - wanted.topLeft();
-    const QRect readable = wanted & source.m_image.rect();
+    copyPixels(source, deviceRect({from, size}, m_scale),
+               {deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale)});
+}
+
+void Surface::copyPixels(const Surface& source, const QRect& from, QPoint to)
+{
+    const QPoint shift = to - from.topLeft();
+    const QRect readable = from & source.m_image.rect();
     const QRect writable = readable.translated(shift) & m_image.rect();
     if (writable.isEmpty())
         return;

@@ -32,6 +32,8 @@ public:
 
     // Copies a rectangle of this size from the source, pixel by pixel.
     void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
+    // The same in device pixels, which need no rounding.
+    void copyPixels(const Surface& source, const QRect& from, QPoint to);
     // Paints a picture whose pixels are device pixels, its transparent parts left out.
     void drawPixels(const QImage& pixels, QPointF to);
     // For pixel operations of our own, in device pixels.

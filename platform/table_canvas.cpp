@@ -36,14 +36,11 @@ void TableCanvas::setPersistentImage(bool on)
         m_lifted.reset();
 }
 
-void TableCanvas::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
+void TableCanvas::copyPixels(const Surface& source, const QRect& place)
 {
-    if (m_persistentImage) {
-        m_kept.copyFrom(source, from, size, to);
-        return;
-    }
-    m_screen.copyFrom(source, from, size, to);
-    present({to, size});
+    (m_persistentImage ? m_kept : m_screen).copyPixels(source, place, place.topLeft());
+    if (!m_persistentImage)
+        present({QPointF(place.topLeft()) / scale(), QSizeF(place.size()) / scale()});
 }
 
 void TableCanvas::refresh()
@@ -60,6 +57,13 @@ void TableCanvas::present(const QRectF& rect)
 void TableCanvas::presentWithNextFrame(const QRectF& rect)
 {
     update(withItsEdge(rect));
+}
+
+void TableCanvas::presentWholeWindowWithNextFrame()
+{
+    // The toolkit takes opaque widgets for painted unless each is asked.
+    for (QWidget* widget : window()->findChildren<QWidget*>())
+        widget->update();
 }
 
 void TableCanvas::paintEvent(QPaintEvent*)
@@ -80,10 +84,8 @@ void TableCanvas::paintEvent(QPaintEvent*)
         m_overlays(painter, scale);
         painter.restore();
     }
-    if (m_lifted) {
-        const QRect lifted = deviceRect(*m_lifted, scale);
-        painter.drawImage(lifted.topLeft(), m_screen.image(), lifted);
-    }
+    if (m_lifted)
+        painter.drawImage(m_lifted->topLeft(), m_screen.image(), *m_lifted);
 }
 
 } // namespace quillet

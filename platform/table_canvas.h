@@ -37,17 +37,19 @@ public:
     [[nodiscard]] Surface& keptForDrawing() { return m_kept; }
     [[nodiscard]] const Surface& screen() const { return m_screen; }
 
-    // Copies a rectangle to where drawing goes at present.
-    void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
+    // Copies these device pixels, each to its own place, to where drawing goes at present.
+    void copyPixels(const Surface& source, const QRect& place);
     // The kept picture becomes what the player sees, now.
     void refresh();
     // Repaints the rectangle on the display now, or with the next frame that is presented.
     void present(const QRectF& rect);
     void presentWithNextFrame(const QRectF& rect);
+    // The next frame is the whole window, and not only what has changed.
+    void presentWholeWindowWithNextFrame();
 
-    // The card in flight: this rectangle of the screen picture lies over the boxes until the
+    // The card in flight: these device pixels of the screen picture lie over the boxes until the
     // persistent image is on again.
-    void liftOverBoxes(const QRectF& rect) { m_lifted = rect; }
+    void liftOverBoxes(const QRect& place) { m_lifted = place; }
 
     // What is painted over the boxes, such as hold outlines. The painter counts device pixels.
     using OverlayPainter = std::function<void(QPainter& painter, double scale)>;
@@ -66,7 +68,7 @@ private:
     Surface m_kept;
     Surface m_screen;
     bool m_persistentImage = true;
-    std::optional<QRectF> m_lifted;
+    std::optional<QRect> m_lifted;
     std::vector<PictureBox*> m_boxes; // children; the table never loses one
     OverlayPainter m_overlays;
 };

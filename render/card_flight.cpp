@@ -115,20 +115,28 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
 void CardFlight::prepareTable()
 {
     TableCanvas& canvas = *m_pictures.canvas;
+    Surface& board = m_pictures.BoardBuffer;
     canvas.setPersistentImage(true);
-    if (m_pictures.BoardBuffer.size() != canvas.innerSize() ||
-        m_pictures.BoardBuffer.scale() != canvas.scale())
-        m_pictures.BoardBuffer = Surface(canvas.innerSize(), canvas.scale());
-    m_pictures.BoardBuffer.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
+    if (board.size() != canvas.innerSize() || board.scale() != canvas.scale())
+        board = Surface(canvas.innerSize(), canvas.scale());
+    board.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
     for (auto box = m_pictures.picDeal.rbegin(); box != m_pictures.picDeal.rend(); ++box)
         (*box)->setShowing(false);
+    // No event is handled on the way, so that what is uncovered meanwhile waits for the next card.
+    canvas.presentWholeWindowWithNextFrame();
     canvas.refresh();
+
+    // The cards on the table are what the flying one's rounded corners show.
+    for (const PictureBox* box : m_pictures.picPoker)
+        if (box->isShowing())
+            board.copyPixels(box->picture(), box->picture().image().rect(),
+                             box->devicePlace().topLeft());
+    m_lastFrame = {};
 }
 
 void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
                            std::int32_t cardNumber, std::int32_t drawMode)
 {
-    TableCanvas& canvas = *m_pictures.canvas;
     Surface& board = m_pictures.BoardBuffer;
     const QSizeF card = m_pictures.picAnimate.picture.size();
     const QPointF at(x, y);
@@ -144,8 +152,8 @@ void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
     } else if (path.movingRight) {
         corner.rx() -= trail;
     }
-    canvas.liftOverBoxes({at, card});
-    canvas.copyFrom(board, corner, card + QSizeF(trail, trail), corner);
+    show(deviceRect({at, card}, board.scale()),
+         deviceRect({corner, card + QSizeF(trail, trail)}, board.scale()));
 
     board.copyFrom(m_pictures.picBuffer, {0, 0}, card, at);
 }
@@ -153,12 +161,26 @@ void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
 void CardFlight::land(std::int32_t toX, std::int32_t toY)
 {
     TableCanvas& canvas = *m_pictures.canvas;
+    Surface& board = m_pictures.BoardBuffer;
     const Surface& card = m_pictures.picAnimate.picture;
     const QPointF at(toX, toY);
-    canvas.liftOverBoxes({at, card.size()});
-    canvas.copyFrom(card, {0, 0}, card.size(), at);
+    board.copyFrom(card, {0, 0}, card.size(), at);
+    show(deviceRect({at, card.size()}, board.scale()), {});
+    board.copyFrom(canvas.kept(), at, card.size(), at);
+    for (const PictureBox* box : m_pictures.picPoker)
+        if (box->isShowing())
+            board.copyPixels(canvas.kept(), box->devicePlace(), box->devicePlace().topLeft());
     canvas.setPersistentImage(true);
     m_pictures.picDeal[0]->setShowing(true);
+}
+
+// A card ends and begins at device pixels of its own, so that the copy also takes in the pixels of
+// this frame's card and of the last one's.
+void CardFlight::show(const QRect& card, const QRect& copied)
+{
+    m_pictures.canvas->liftOverBoxes(card);
+    m_pictures.canvas->copyPixels(m_pictures.BoardBuffer, copied | card | m_lastFrame);
+    m_lastFrame = card;
 }
 
 } // namespace quillet

@@ -34,11 +34,13 @@ private:
     void drawFrame(std::int32_t x, std::int32_t y, const Path& path, std::int32_t cardNumber,
                    std::int32_t drawMode);
     void land(std::int32_t toX, std::int32_t toY);
+    void show(const QRect& card, const QRect& copied);
 
     TablePictures& m_pictures;
     CardLibrary& m_library;
     const Preferences& m_preferences;
     ErrorBox& m_errorBox;
+    QRect m_lastFrame; // where the card lies on the display, in device pixels
 };
 
 } // namespace quillet

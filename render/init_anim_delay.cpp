@@ -51,7 +51,8 @@ double DelayMeter::flightRound(std::int32_t delay)
     for (int frame = 0; frame < flightFrames; ++frame) {
         m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
         m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColor);
-        m_pictures.canvas->copyFrom(board, {0, -trail}, size + QSizeF(trail, trail), {0, -trail});
+        m_pictures.canvas->copyPixels(
+            board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
         board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
         countingLoop(delay);
     }

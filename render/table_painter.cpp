@@ -101,7 +101,7 @@ void TablePainter::placeDeck(const TableMeasures& table)
         box->place(place, m_pictures.canvas->scale());
         box->copyTableBehind();
     }
-    m_pictures.picDealBack.place = place;
+    m_pictures.picDealBack.place = m_pictures.picDeal[0]->place();
     copyTableBehind(m_pictures.picDealBack);
 }
 

@@ -163,10 +163,8 @@ void frmMain::followScale()
     // The card library closes before the exit screen is shown.
     if (m_unloading)
         return;
-    // A flight may have been the first to paint in the new pixels, and of them only its own. The
-    // toolkit takes opaque widgets for painted unless each is asked.
-    for (QWidget* widget : findChildren<QWidget*>())
-        widget->update();
+    // A flight may have been the first to paint in the new pixels, and of them only its own.
+    m_pictures.canvas->presentWholeWindowWithNextFrame();
     picStatusBar->makePointer();
     if (m_pictures.canvas->scale() == devicePixelRatioF())
         return;

@@ -6,8 +6,6 @@
 #include "shell/frm_main.h"
 #include "shell/status_bar.h"
 
-#include <cmath>
-
 namespace quillet
 {
 
@@ -43,18 +41,15 @@ void frmMain::flyCardTo(int slot)
 {
     // The deck's picture in the table is what is seen during the flight.
     paintDeckIntoTable();
-    const auto pixel = [](double position) {
-        return static_cast<std::int32_t>(std::nearbyint(position));
-    };
-    const QPointF from = m_pictures.picAnimate.place.topLeft();
-    const QPointF to = box(slot).place().topLeft();
+    const QPoint from = m_pictures.picAnimate.place.topLeft().toPoint();
+    const QPoint to = box(slot).place().topLeft().toPoint();
     // Where the card lands, its rounded corners show the table of that place.
     OffScreenBox& card = m_pictures.picAnimate;
     card.picture.copyFrom(m_pictures.canvas->kept(), to, card.place.size(), {0, 0});
     m_library.cdtDraw(card.picture, 0, 0, prfPKBackFace, drawBack, whiteColor);
-    std::int32_t x = pixel(from.x());
-    std::int32_t y = pixel(from.y());
-    m_flight.AnimateCard(x, y, pixel(to.x()), pixel(to.y()), 1, prfPKBackFace, drawBack);
+    std::int32_t x = from.x();
+    std::int32_t y = from.y();
+    m_flight.AnimateCard(x, y, to.x(), to.y(), 1, prfPKBackFace, drawBack);
 }
 
 void frmMain::endFlights()

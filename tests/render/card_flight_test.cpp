@@ -2,10 +2,13 @@
 #include "platform/table_canvas.h"
 #include "render/card_flight.h"
 #include "render/table_painter.h"
+#include "tests/render/card_pixels.h"
+#include "tests/render/presented.h"
 
-#include <QApplication>
+#include <QPainter>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <vector>
 
 namespace quillet::test
@@ -29,10 +32,13 @@ protected:
     {
         library.cdtInit(width, height);
         pictures.canvas = &canvas;
-        for (PictureBox*& box : pictures.picDeal)
-            box = new PictureBox(canvas);
+        for (std::size_t i = pictures.picDeal.size(); i-- > 0;)
+            pictures.picDeal[i] = new PictureBox(canvas);
         for (PictureBox*& box : pictures.picPoker)
             box = new PictureBox(canvas);
+        canvas.setFixedSize(800, 514);
+        canvas.show();
+        ASSERT_TRUE(moveToScale(canvas, GetParam()));
         painter.sizePictures(table, GetParam());
         QImage wood(800, 440, QImage::Format_RGB32);
         for (int y = 0; y < wood.height(); ++y)
@@ -40,19 +46,43 @@ protected:
                 wood.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
         pictures.thePic = {wood, QSizeF(800, 440)};
         painter.repaint(table, 65);
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
+        const PictureBox& deck = *pictures.picDeal[0];
+        canvas.keptForDrawing().copyPixels(deck.picture(), deck.picture().image().rect(),
+                                           deck.devicePlace().topLeft());
+        for (const int slot : {1, 2, 3})
+            showCard(slot);
+        canvas.refresh();
+        bare = presented(canvas);
     }
 
-    // The card lies there, and all else is the painted table. Right beside the card the last
-    // frame may show for a moment, until the table is refreshed.
-    void expectOnlyTheCard(QPointF at)
+    void showCard(int slot)
     {
-        const QRect card = deviceRect({at, QSizeF(96, 130)}, GetParam());
-        EXPECT_EQ(canvas.screen().image().copy(card), pictures.picAnimate.picture.image());
-        Surface shown = canvas.screen();
-        const QPointF beside = at - QPointF(2, 2);
-        shown.copyFrom(canvas.kept(), beside, QSizeF(100, 134), beside);
-        EXPECT_EQ(shown.image(), canvas.kept().image()) << "a trail lies on the table";
+        PictureBox& box = *pictures.picPoker[std::size_t(slot)];
+        library.cdtDraw(box.picture(), 0, 0, 65, drawBack, whiteColor);
+        box.setShowing(true);
+    }
+
+    void fly(QPoint from, QPoint to)
+    {
+        pictures.picAnimate.picture.copyFrom(canvas.kept(), to, QSizeF(96, 130), {0, 0});
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
+        std::int32_t x = from.x();
+        std::int32_t y = from.y();
+        flight.AnimateCard(x, y, to.x(), to.y(), 1, 65, drawBack);
+        EXPECT_LE(std::abs(x - to.x()), 1);
+        EXPECT_LE(std::abs(y - to.y()), 1);
+    }
+
+    // Where a card lies on the display, which shows nothing else but the table.
+    std::optional<QPoint> cardOn(const QImage& shown)
+    {
+        const QRect changed = difference(shown, bare);
+        if (changed.isEmpty())
+            return {};
+        QImage expected = bare.copy(changed);
+        QPainter(&expected).drawImage(0, 0, cardAt(65, GetParam()));
+        EXPECT_TRUE(difference(shown.copy(changed), expected).isEmpty()) << "not a whole card";
+        return changed.topLeft();
     }
 
     TableMeasures table{800, 514, 96, 130, 60, 169};
@@ -66,27 +96,41 @@ protected:
     DeckPile pile{pictures, library};
     TablePainter painter{pictures, library, pile};
     CardFlight flight{pictures, library, preferences, errorBox};
+    QImage bare; // the display without a flying card
 };
 
 } // namespace
 
-TEST_P(CardFlightTest, leavesNoTrailWhateverItsDirection)
+TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
 {
     preferences.prfAnimation = true;
-    const QPoint from(300, 150);
-    for (const QPoint to :
-         {QPoint(330, 180), QPoint(260, 190), QPoint(340, 150), QPoint(250, 150), QPoint(300, 190),
-          QPoint(300, 120), QPoint(335, 130), QPoint(262, 133), QPoint(300, 150)}) {
-        std::int32_t x = from.x();
-        std::int32_t y = from.y();
-        flight.AnimateCard(x, y, to.x(), to.y(), 1, 65, drawBack);
-        EXPECT_LE(std::abs(x - to.x()), 1);
-        EXPECT_LE(std::abs(y - to.y()), 1);
-        expectOnlyTheCard(to);
+    const QPoint from(300, 100);
+    std::vector<std::pair<QPoint, QPoint>> flights;
+    for (const QPoint way :
+         {QPoint(20, 20), QPoint(-25, 30), QPoint(30, 0), QPoint(-30, 0), QPoint(0, 30),
+          QPoint(0, -20), QPoint(25, -10), QPoint(-25, -12), QPoint()})
+        flights.emplace_back(from, from + way);
+    for (const int slot : {0, 4}) // the second over cards
+        flights.emplace_back(QPoint(209, 95),
+                             pictures.picPoker[std::size_t(slot)]->place().topLeft().toPoint());
+    for (const auto& [start, end] : flights) {
+        SCOPED_TRACE(testing::Message() << "to " << end.x() << ", " << end.y());
+        int frames = 0;
+        const FrameWatch watch(canvas, [&](const QImage& shown) {
+            const bool card = cardOn(shown).has_value();
+            EXPECT_TRUE(card || frames == 0) << "it vanishes after frame " << frames;
+            frames += card ? 1 : 0;
+        });
+        fly(start, end);
+        const QPoint way = end - start;
+        EXPECT_EQ(frames, std::max(std::abs(way.x()), std::abs(way.y())));
+        EXPECT_EQ(cardOn(presented(canvas)), deviceRect({end, QSizeF()}, GetParam()).topLeft());
         EXPECT_EQ(pictures.BoardBuffer.image(), canvas.kept().image());
         EXPECT_TRUE(canvas.persistentImage());
         EXPECT_TRUE(pictures.picDeal[0]->isShowing());
         EXPECT_FALSE(pictures.picDeal[1]->isShowing());
+        canvas.refresh();
+        EXPECT_EQ(presented(canvas), bare);
     }
     EXPECT_TRUE(errorBox.texts.empty());
 }
@@ -126,11 +170,11 @@ TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
     library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
     for (const PictureBox* place : pictures.picPoker) {
         const QImage shown = canvas.kept().image().copy(place->devicePlace());
-        const QImage bare = pictures.BoardBuffer.image().copy(place->devicePlace());
+        const QImage empty = pictures.BoardBuffer.image().copy(place->devicePlace());
         for (int y = 0; y < shown.height(); ++y)
             for (int x = 0; x < shown.width(); ++x) {
                 const QRgb ink = hatch.image().pixel(x, y);
-                ASSERT_EQ(shown.pixel(x, y), ink == qRgb(255, 255, 255) ? bare.pixel(x, y) : ink);
+                ASSERT_EQ(shown.pixel(x, y), ink == qRgb(255, 255, 255) ? empty.pixel(x, y) : ink);
             }
     }
 }

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <cstring>
 #include <functional>
 
 namespace quillet::test
@@ -15,9 +16,35 @@ namespace quillet::test
 // What is on the display, in device pixels. Nothing is painted anew for it, as grab() does, so
 // that a picture which was never repainted shows its old state. (Off screen, grabWindow() cuts
 // windows off at scales above 1.)
+inline QImage& display(const QWidget& window)
+{
+    return dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
+}
+
 inline QImage presented(const QWidget& window)
 {
-    return dynamic_cast<const QImage&>(*window.backingStore()->paintDevice()).copy();
+    QImage pixels = display(window).copy();
+    pixels.setDevicePixelRatio(1);
+    return pixels;
+}
+
+// The smallest rectangle outside which both pictures are equal; empty for equal ones.
+inline QRect difference(const QImage& first, const QImage& second)
+{
+    QRect found;
+    for (int y = 0; y < first.height(); ++y) {
+        const auto* one = reinterpret_cast<const QRgb*>(first.constScanLine(y));
+        const auto* other = reinterpret_cast<const QRgb*>(second.constScanLine(y));
+        if (std::memcmp(one, other, std::size_t(first.width()) * sizeof(QRgb)) == 0)
+            continue;
+        int left = 0, right = first.width() - 1;
+        while (one[left] == other[left])
+            ++left;
+        while (one[right] == other[right])
+            --right;
+        found |= QRect(QPoint(left, y), QPoint(right, y));
+    }
+    return found;
 }
 
 // Whether there is a display of this scale, on which the window now lies.
@@ -30,7 +57,8 @@ inline bool moveToScale(QWidget& window, double scale)
     return window.devicePixelRatioF() == scale;
 }
 
-// Looks at every frame of a table, while it waits to be followed by the next one.
+// Looks at every frame of a table when it is about to be followed by the next one. A frame that is
+// to be kept must be copied.
 class FrameWatch : public QObject
 {
 public:
@@ -43,7 +71,7 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Paint)
-            m_look(presented(*m_table.window()));
+            m_look(display(*m_table.window()));
         return false;
     }
 
