@@ -2,6 +2,8 @@
 
 #include "engine/hand_evaluation.h"
 
+#include <utility>
+
 namespace quillet
 {
 
@@ -132,7 +134,7 @@ void HandController::dealOrDraw()
 void HandController::deal(const std::array<int, 5>& order, bool cardsWereShowing)
 {
     const std::uint32_t epoch = ++m_state.epoch;
-    m_firstDealComing = false;
+    endFade();
     for (int slot = 0; slot < 5; ++slot) {
         m_table.hideCard(slot);
         m_table.showHoldOutline(slot, false);
@@ -266,6 +268,12 @@ void HandController::dealNextHandByItself(std::uint32_t epoch)
     picDeal_Click(programsOwnCall);
 }
 
+void HandController::endFade()
+{
+    if (std::exchange(m_firstDealComing, false))
+        m_table.fadeStatusText(fadeSteps);
+}
+
 void HandController::charge()
 {
     m_counters.total = addStopping(m_counters.total, -wager);
@@ -293,7 +301,7 @@ void HandController::recover()
 {
     ++m_state.epoch;
     m_payTarget.reset();
-    m_firstDealComing = false;
+    endFade();
     m_state.handBusy = false;
     m_state.handDealt = false;
     m_state.holdFlags.fill(false);

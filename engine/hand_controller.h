@@ -56,6 +56,8 @@ private:
     [[nodiscard]] bool pay(std::uint32_t epoch);
     void finishPaying();
     void dealNextHandByItself(std::uint32_t epoch);
+    // A deal or an error that overtakes the fade leaves the status text in its last colour.
+    void endFade();
     void charge();
     void addCredits(std::int16_t credits);
     void abandonHand();

@@ -44,7 +44,7 @@ public:
     [[nodiscard]] std::string logged() const; // entries, one blank between
 
     void layOutGame() override;
-    void fadeStatusText(int) override {}
+    void fadeStatusText(int step) override { fadeStep = step; }
     void placeFlyingCard() override {}
     void paintFlyingCard(std::int32_t backNumber) override { flyingBack = backNumber; }
     void paintDeckIntoTable() override {}
@@ -71,6 +71,7 @@ public:
     std::array<bool, 5> showing{};
     std::array<bool, 5> outlines{};
     std::int32_t flyingBack = 0;
+    int fadeStep = 0;
 
 private:
     int m_now = 0;

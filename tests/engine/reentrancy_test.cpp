@@ -114,6 +114,7 @@ TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
         game.table.in(moment, [&] {
             game.click();
             EXPECT_TRUE(game.state.handDealt) << "the click is heard";
+            EXPECT_EQ(game.table.fadeStep, 25) << "the text does not stay dark";
         });
         game.controller.initPokerScreen();
         expectOneFreshDeal(game, 1);
