@@ -1,4 +1,5 @@
 // What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
+#include "bench/busy_load.h"
 #include "platform/event_clock.h"
 #include "platform/picture_box.h"
 #include "platform/picture_file.h"
@@ -83,8 +84,10 @@ void oneDelayUnit(benchmark::State& state)
         countingLoop(1);
 }
 
+// The range is the number of other programs at work.
 void firstStartCalibration(benchmark::State& state)
 {
+    const BusyLoad load(state.range(0));
     Painted painted(1.0);
     painted.pictures.picStatusBar = Surface({468, 60}, 1.0);
     painted.pictures.picBanner3 = QImage(468, 60, QImage::Format_ARGB32_Premultiplied);
@@ -102,7 +105,12 @@ void firstStartCalibration(benchmark::State& state)
 BENCHMARK(flight)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 BENCHMARK(repaintOfTheTable)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 BENCHMARK(oneDelayUnit)->Unit(benchmark::kMicrosecond);
-BENCHMARK(firstStartCalibration)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(firstStartCalibration)
+    ->Arg(0)
+    ->Arg(8)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(1);
 
 } // namespace
 

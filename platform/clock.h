@@ -5,13 +5,14 @@
 namespace quillet
 {
 
-// Time since some fixed moment; it never runs backwards.
+// Times since some fixed moment; they never run backwards.
 class Clock
 {
 public:
     virtual ~Clock() = default;
     [[nodiscard]] virtual std::int64_t milliseconds() = 0;
-    [[nodiscard]] virtual double seconds() = 0; // with the fraction that the machine can tell
+    // What the calling thread has spent on a processor.
+    [[nodiscard]] virtual double processorSeconds() = 0;
 };
 
 } // namespace quillet

@@ -1,30 +1,22 @@
 #include "platform/event_clock.h"
 
 #include <chrono>
+#include <ctime>
 
 namespace quillet
 {
 
-namespace
-{
-
-template <typename Duration>
-Duration now()
-{
-    return std::chrono::duration_cast<Duration>(
-        std::chrono::steady_clock::now().time_since_epoch());
-}
-
-} // namespace
-
 std::int64_t EventClock::milliseconds()
 {
-    return now<std::chrono::milliseconds>().count();
+    using namespace std::chrono;
+    return duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-double EventClock::seconds()
+double EventClock::processorSeconds()
 {
-    return now<std::chrono::duration<double>>().count();
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
 } // namespace quillet

@@ -5,12 +5,12 @@
 namespace quillet
 {
 
-// The time by which events are delivered: the system's steady clock.
+// The system's steady clock, by which events are delivered, and its clock of this thread.
 class EventClock : public Clock
 {
 public:
     [[nodiscard]] std::int64_t milliseconds() override;
-    [[nodiscard]] double seconds() override;
+    [[nodiscard]] double processorSeconds() override;
 };
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace quillet
 {
@@ -12,12 +13,13 @@ struct RoundCost {
     double secondsPerUnit = 0.0; // of the whole round
 };
 
-// Runs a round of frames with this delay and tells how long it took, in seconds.
-using MeasureRound = std::function<double(std::int32_t delay)>;
+// Runs a round of frames with this delay and tells how long it took, in seconds. Nothing when
+// there is no time left for a round: the delay is then what the rounds so far make likely.
+using MeasureRound = std::function<std::optional<double>(std::int32_t delay)>;
 
-// The smallest multiple of ten for which a round of flight frames takes at least 0.4 s. Rounds
-// whose outcome the cost makes certain are skipped. The delay holds the value reached so far,
-// also when a round throws.
+// The smallest multiple of ten for which a round of flight frames takes at least 0.4 s: that round
+// and the one before it are measured, and no others that the cost makes certain. The delay holds
+// the value reached so far, also when a round throws.
 void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure);
 
 // From its present value, rises by ten a round until a round takes at least 0.3 s; the last round

@@ -19,6 +19,9 @@ constexpr int bannerFrames = 61;
 constexpr std::int32_t beachBack = 64;
 constexpr double trail = 10;
 
+// In milliseconds, for all rounds together. An idle machine needs half of it.
+constexpr std::int64_t patience = 2800;
+
 } // namespace
 
 DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
@@ -31,15 +34,32 @@ DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preference
 void DelayMeter::InitAnimDelay()
 {
     guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [this] {
+        m_started = m_clock.milliseconds();
         m_preferences.prfAnimationDelay = 0;
         const double unit = secondsPerDelayUnit();
         calibrateFlight(m_preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
-                        [this](std::int32_t delay) { return flightRound(delay); });
+                        [this](std::int32_t delay) {
+                            return whileTimeIsLeft([&] { return flightRound(delay); });
+                        });
         m_preferences.prfScrollVal = scrollValueFor(m_preferences.prfAnimationDelay);
         calibrateBanner(m_preferences.prfBannerDelay, {bannerRound(0), unit * bannerFrames},
-                        [this](std::int32_t delay) { return bannerRound(delay); });
+                        [this](std::int32_t delay) {
+                            return whileTimeIsLeft([&] { return bannerRound(delay); });
+                        });
         m_pictures.picStatusBar = Surface();
     });
+}
+
+// A round that other programs slow down takes as much longer on the clock on the wall, and so will
+// the next one.
+std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>& round)
+{
+    const std::int64_t before = m_clock.milliseconds();
+    if (before - m_started + m_lastRound > patience)
+        return std::nullopt;
+    const double took = round();
+    m_lastRound = m_clock.milliseconds() - before;
+    return took;
 }
 
 double DelayMeter::flightRound(std::int32_t delay)
@@ -47,7 +67,7 @@ double DelayMeter::flightRound(std::int32_t delay)
     Surface& board = m_pictures.BoardBuffer;
     const QSizeF size(std::nearbyint(m_pictures.picReject.place.width()),
                       std::nearbyint(m_pictures.picReject.place.height()));
-    const double start = m_clock.seconds();
+    const double start = m_clock.processorSeconds();
     for (int frame = 0; frame < flightFrames; ++frame) {
         m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
         m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColor);
@@ -56,7 +76,7 @@ double DelayMeter::flightRound(std::int32_t delay)
         board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
         countingLoop(delay);
     }
-    const double elapsed = m_clock.seconds() - start;
+    const double elapsed = m_clock.processorSeconds() - start;
     m_afterRound();
     return elapsed;
 }
@@ -64,12 +84,12 @@ double DelayMeter::flightRound(std::int32_t delay)
 double DelayMeter::bannerRound(std::int32_t delay)
 {
     const QImage& banner = m_pictures.picBanner3;
-    const double start = m_clock.seconds();
+    const double start = m_clock.processorSeconds();
     for (std::int32_t k = bannerTop; k <= 0; ++k) {
         m_pictures.picStatusBar.drawPixels(banner, QPointF(0, k));
         countingLoop(delay);
     }
-    const double elapsed = m_clock.seconds() - start;
+    const double elapsed = m_clock.processorSeconds() - start;
     m_afterRound();
     return elapsed;
 }
@@ -79,9 +99,9 @@ double DelayMeter::secondsPerDelayUnit()
     constexpr std::int32_t sample = 500;
     double best = 0.0;
     for (int i = 0; i < 3; ++i) {
-        const double start = m_clock.seconds();
+        const double start = m_clock.processorSeconds();
         countingLoop(sample);
-        const double elapsed = m_clock.seconds() - start;
+        const double elapsed = m_clock.processorSeconds() - start;
         best = i == 0 ? elapsed : std::min(best, elapsed);
     }
     return best / sample;

@@ -6,12 +6,15 @@
 #include "render/card_library.h"
 #include "render/table_pictures.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace quillet
 {
 
-// Measures this machine, so that cards fly at the same speed everywhere.
+// Measures this machine, so that cards fly at the same speed everywhere. It measures the time that
+// this thread spends on a processor: other programs' work is not the machine's speed.
 class DelayMeter
 {
 public:
@@ -24,6 +27,8 @@ public:
     void InitAnimDelay();
 
 private:
+    // Nothing when the player has waited long enough.
+    [[nodiscard]] std::optional<double> whileTimeIsLeft(const std::function<double()>& round);
     // Seconds taken by a round of frames with this delay.
     [[nodiscard]] double flightRound(std::int32_t delay);
     [[nodiscard]] double bannerRound(std::int32_t delay);
@@ -35,6 +40,8 @@ private:
     Clock& m_clock;
     ErrorBox& m_errorBox;
     std::function<void()> m_afterRound;
+    std::int64_t m_started = 0;   // milliseconds of the clock
+    std::int64_t m_lastRound = 0; // milliseconds that it took
 };
 
 } // namespace quillet

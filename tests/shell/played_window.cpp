@@ -132,7 +132,7 @@ void PlayedWindow::open(const std::string&, const std::string& file, const std::
     opened.push_back(file);
 }
 
-double PlayedWindow::seconds()
+double PlayedWindow::processorSeconds()
 {
     failIf("clock");
     return static_cast<double>(now += 500) / 1000;

@@ -64,7 +64,7 @@ public:
     void open(const std::string& verb, const std::string& file, const std::string& parameters,
               const std::string& directory, int showCommand) override;
     std::int64_t milliseconds() override { return now; }
-    double seconds() override; // moves on with every look, as on a very slow machine
+    double processorSeconds() override; // moves on with every look, as on a very slow machine
     void reseed() override { failIf("random"); }
     double next() override { return random.next(); }
 

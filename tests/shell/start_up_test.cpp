@@ -37,6 +37,11 @@ TEST(StartUp, theFirstStartMeasuresTheDelaysOrTellsWhyNot)
         EXPECT_EQ(game.errors,
                   std::vector<std::string>(fails ? 1 : 0, "Error in InitAnimDelay the wind"));
     }
+    PlayedWindow fastest;
+    fastest.store.texts["prfAnimationDelay"] = "0";
+    fastest.failing = "clock";
+    ASSERT_TRUE(fastest.start());
+    EXPECT_TRUE(fastest.errors.empty()) << "a delay of 0 is known, too";
 }
 
 TEST(StartUp, anErrorBeforeTheWindowShowsEndsIt)
