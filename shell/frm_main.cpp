@@ -2,6 +2,7 @@
 
 #include "platform/accessible_picture.h"
 #include "platform/file_exists.h"
+#include "platform/number_keys.h"
 #include "platform/picture_box.h"
 #include "platform/table_canvas.h"
 #include "shell/card_names.h"
@@ -10,6 +11,7 @@
 #include "shell/status_bar.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -159,14 +161,15 @@ void frmMain::paintEvent(QPaintEvent* event)
 
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
+    const std::optional<int> digit = digitOfKey(*event, QGuiApplication::platformName());
     const int key = event->key();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!plain || event->isAutoRepeat()) {
+    if (event->isAutoRepeat() || (!digit && !plain)) {
         QMainWindow::keyPressEvent(event);
         return;
     }
-    if (key >= Qt::Key_1 && key <= Qt::Key_5) {
-        picPoker_MouseDown(static_cast<std::int16_t>(key - Qt::Key_1));
+    if (digit && *digit >= 1 && *digit <= 5) {
+        picPoker_MouseDown(static_cast<std::int16_t>(*digit - 1));
         return;
     }
     for (std::int16_t slot = 0; slot < 5; ++slot)

@@ -1,3 +1,4 @@
+#include "platform/number_keys.h"
 #include "platform/picture_box.h"
 #include "platform/table_canvas.h"
 #include "tests/shell/played_window.h"
@@ -104,7 +105,10 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     QApplication::sendEvent(game.window.get(), &held);
     QTest::keyClick(display, Qt::Key_5, Qt::ControlModifier);
     EXPECT_TRUE(outlined(game, 4, Qt::green)) << "neither repeats nor combinations count";
-    press(Qt::Key_5);
+    QTest::keyClick(display, Qt::Key_5, Qt::KeypadModifier);
+    QTest::keyClick(display, Qt::Key_1, Qt::ShiftModifier);
+    EXPECT_FALSE(outlined(game, 0, Qt::green) || outlined(game, 4, Qt::green));
+    press(Qt::Key_1);
 
     // Tab walks from the deck to the cards, where the blank toggles the hold.
     for (int step = 0; step < 3; ++step)
@@ -115,6 +119,23 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     EXPECT_EQ(game.counters(), "0/1/1");
     press(Qt::Key_F1);
     EXPECT_TRUE(game.window->findChild<QWidget*>("HelpViewer") != nullptr);
+}
+
+TEST(NumberKeys, aRowWithoutDigitsCountsByItsPlaces)
+{
+    const auto digit = [](quint32 scanCode, const QString& text, Qt::KeyboardModifiers modifiers,
+                          const char* platform = "xcb") {
+        return digitOfKey(QKeyEvent(QEvent::KeyPress, 0, modifiers, scanCode, 0, 0, text),
+                          platform);
+    };
+    EXPECT_EQ(digit(10, "&", Qt::NoModifier), 1) << "French";
+    EXPECT_EQ(digit(14, "(", Qt::NoModifier, "wayland"), 5);
+    EXPECT_EQ(digit(14, "5", Qt::ShiftModifier), 5);
+    EXPECT_EQ(digit(10, "!", Qt::ShiftModifier), std::nullopt) << "English";
+    EXPECT_EQ(digit(10, "&", Qt::AltModifier), std::nullopt);
+    EXPECT_EQ(digit(10, "&", Qt::NoModifier, "offscreen"), std::nullopt);
+    EXPECT_EQ(digit(20, "-", Qt::NoModifier), std::nullopt);
+    EXPECT_EQ(digit(38, QString(QChar(0x0663)), Qt::NoModifier), 3) << "Arabic";
 }
 
 } // namespace quillet::test
