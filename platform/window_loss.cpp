@@ -1,6 +1,8 @@
 #include "platform/window_loss.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QWidget>
+#include <QWindow>
 
 #include <cstdint>
 #include <cstring>
@@ -22,9 +24,21 @@ struct DestroyNotify {
     std::uint32_t window;
 };
 
+// Windows that the toolkit has destroyed by itself have no such number any more.
+void closeWindow(WId lost)
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const QWindow* handle = window->windowHandle();
+        if (window->isVisible() && handle != nullptr && handle->winId() == lost) {
+            window->close();
+            return;
+        }
+    }
+}
+
 } // namespace
 
-WindowLoss::WindowLoss(QWidget& window) : m_window(window.winId())
+WindowLoss::WindowLoss()
 {
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -40,8 +54,9 @@ bool WindowLoss::nativeEventFilter(const QByteArray& eventType, void* message, q
         return false;
     DestroyNotify notice;
     std::memcpy(&notice, message, sizeof notice);
-    if (notice.responseType == DestroyNotify::type && notice.window == m_window)
-        QMetaObject::invokeMethod(this, &WindowLoss::windowLost, Qt::QueuedConnection);
+    if (notice.responseType == DestroyNotify::type)
+        QMetaObject::invokeMethod(
+            this, [lost = WId{notice.window}] { closeWindow(lost); }, Qt::QueuedConnection);
     return false;
 }
 

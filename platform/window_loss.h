@@ -2,29 +2,23 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
-#include <QWidget>
 
 namespace quillet
 {
 
-// Tells when another program has destroyed the window on the X server, as the toolkit does not:
-// the process would live on unseen. On other platforms nobody can do that.
+// Closes a window or dialog that another program has destroyed on the X server, as its close box
+// would. The toolkit does not notice: the process would live on unseen, or wait for ever for a
+// dialog that nobody can see. On other platforms nobody can do that.
 class WindowLoss : public QObject, private QAbstractNativeEventFilter
 {
     Q_OBJECT
 
 public:
-    // Makes the window one of the desktop's, if it is not yet. It outlives this object.
-    explicit WindowLoss(QWidget& window);
+    WindowLoss();
     ~WindowLoss() override;
-
-signals:
-    void windowLost();
 
 private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-
-    WId m_window;
 };
 
 } // namespace quillet

@@ -32,8 +32,7 @@ int Main(quillet::Desktop& desktop)
 {
     desktop.helpFile = desktop.programFolder + "/quillet.hlp";
     quillet::frmMain window(desktop);
-    const quillet::WindowLoss loss(window);
-    QObject::connect(&loss, &quillet::WindowLoss::windowLost, &window, &QWidget::close);
+    const quillet::WindowLoss loss;
     const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
     desktop.endProcess(code);
     return code;

@@ -199,11 +199,14 @@ wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
 cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
 
-# The window destroyed by another program.
+# A dialog, the window and the exit screen destroyed by another program.
 start
+open_preferences
+xdotool windowclose "$(xdotool getactivewindow)"
+wait_for 10 "the main window" active_is "$title"
 xdotool windowclose "$window"
 wait_for 10 "the exit screen" active_is "$exit_title"
-keys Return
+xdotool windowclose "$(xdotool getactivewindow)"
 wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
 
