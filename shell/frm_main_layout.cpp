@@ -5,7 +5,7 @@
 #include "shell/status_bar.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QTimer>
 #include <QWindow>
 
 namespace quillet
@@ -48,7 +48,11 @@ void frmMain::Form_Resize()
 {
     guarded(m_desktop.errorBox, "Form_Resize", [this] {
         if (isMaximized() || isFullScreen()) {
+            // Shown anew, a window is placed anew unless it says where it was.
+            const QRect place = normalGeometry();
             hide();
+            if (place.isValid())
+                setGeometry(QRect(place.topLeft(), size()));
             showNormal();
         }
         if (isMinimized() || isMaximized())
@@ -105,11 +109,13 @@ void frmMain::showAndWaitUntilExposed()
     if (isVisible())
         return;
     show();
-    QElapsedTimer waiting;
-    waiting.start();
-    while (!windowHandle()->isExposed() && !waiting.hasExpired(longestExposure))
-        QCoreApplication::processEvents(
-            QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents, longestExposure);
+    // Its timeout is an event, too, which ends the last waiting for one.
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(longestExposure);
+    while (!windowHandle()->isExposed() && patience.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
+                                        QEventLoop::ExcludeUserInputEvents);
 }
 
 TableMeasures frmMain::measures() const

@@ -97,6 +97,15 @@ hand_waits() {
     return 1
 }
 
+place_of_window() {
+    xdotool getwindowgeometry --shell "$window" | sed -n 's/^[XY]=//p' | paste -sd,
+}
+moved_from() { [[ $(place_of_window) != "$1" ]]; }
+# The forced state has been seen and undone, and the window lies where it was.
+is_back_at() {
+    [[ $(place_of_window) == "$1" ]] && ! xprop -id "$window" _NET_WM_STATE | grep -qE 'FULL|MAXI'
+}
+
 keys() { xdotool key --clearmodifiers --delay 30 "$@"; }
 
 # How many cards the play of each row keeps.
@@ -199,8 +208,17 @@ wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
 cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
 
-# A dialog, the window and the exit screen destroyed by another program.
+# Full screen and maximising are undone where the window was.
 start
+xdotool windowmove "$window" 60 40
+wait_for 5 "the move" moved_from "$left,$top"
+place=$(place_of_window)
+for state in fullscreen maximized_vert,maximized_horz; do
+    wmctrl -i -r "$window" -b "add,$state"
+    wait_for 10 "the end of $state" is_back_at "$place"
+done
+
+# A dialog, the window and the exit screen destroyed by another program.
 open_preferences
 xdotool windowclose "$(xdotool getactivewindow)"
 wait_for 10 "the main window" active_is "$title"
