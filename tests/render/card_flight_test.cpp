@@ -110,9 +110,12 @@ TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
          {QPoint(20, 20), QPoint(-25, 30), QPoint(30, 0), QPoint(-30, 0), QPoint(0, 30),
           QPoint(0, -20), QPoint(25, -10), QPoint(-25, -12), QPoint()})
         flights.emplace_back(from, from + way);
-    for (const int slot : {0, 4}) // the second over cards
-        flights.emplace_back(QPoint(209, 95),
-                             pictures.picPoker[std::size_t(slot)]->place().topLeft().toPoint());
+    for (const std::size_t slot : {0U, 4U}) { // the second over cards
+        const QPoint place = pictures.picPoker[slot]->place().topLeft().toPoint();
+        EXPECT_EQ(deviceRect({place, QSizeF()}, GetParam()).topLeft(),
+                  pictures.picPoker[slot]->devicePlace().topLeft());
+        flights.emplace_back(QPoint(209, 95), place);
+    }
     for (const auto& [start, end] : flights) {
         SCOPED_TRACE(testing::Message() << "to " << end.x() << ", " << end.y());
         int frames = 0;

@@ -57,26 +57,26 @@ inline bool moveToScale(QWidget& window, double scale)
     return window.devicePixelRatioF() == scale;
 }
 
-// Looks at every frame of a table when it is about to be followed by the next one. A frame that is
-// to be kept must be copied.
+// Looks at what the window shows whenever a widget in it, such as the table in a flight, is about
+// to be painted again. A picture that is to be kept must be copied.
 class FrameWatch : public QObject
 {
 public:
-    FrameWatch(QWidget& table, std::function<void(const QImage&)> look)
-        : m_table(table), m_look(std::move(look))
+    FrameWatch(QWidget& widget, std::function<void(const QImage&)> look)
+        : m_widget(widget), m_look(std::move(look))
     {
-        table.installEventFilter(this);
+        widget.installEventFilter(this);
     }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Paint)
-            m_look(display(*m_table.window()));
+            m_look(display(*m_widget.window()));
         return false;
     }
 
 private:
-    QWidget& m_table;
+    QWidget& m_widget;
     std::function<void(const QImage&)> m_look;
 };
 
