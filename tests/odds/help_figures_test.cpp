@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <numeric>
 #include <string>
 
 namespace quillet::test
@@ -50,7 +54,72 @@ std::string handsPerRoyal(const FairOdds& odds, Strategy strategy)
     return withCommas(std::lround(1.0 / std::stod(odds.chanceOf(strategy, 1).decimals(15))));
 }
 
+// The chance of each card, by its number, to come to each place of the shuffled deck.
+std::array<std::array<double, 52>, 52> placesAfterTheShuffle()
+{
+    std::array<std::array<double, 52>, 52> chances{};
+    for (std::size_t card = 0; card < chances.size(); ++card) {
+        std::array<double, 52>& place = chances[card];
+        place[card] = 1.0;
+        for (std::size_t i = 0; i < place.size(); ++i) {
+            const double here = place[i];
+            for (double& chance : place)
+                chance = chance * 51 / 52 + here / 52;
+            // The card that the exchange brings here lay anywhere else, or stays.
+            place[i] = 1.0 / 52;
+        }
+    }
+    return chances;
+}
+
+std::string inPercent(double share)
+{
+    std::array<char, 16> text{};
+    std::snprintf(text.data(), text.size(), "%.2f", share * 100);
+    return text.data();
+}
+
 } // namespace
+
+TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
+{
+    const std::string help = helpText();
+    const auto chances = placesAfterTheShuffle();
+    std::array<double, 52> dealt{};
+    std::array<double, 52> drawn{};
+    double least = 1;
+    double most = 0;
+    double highCards = 0;
+    for (std::size_t card = 0; card < 52; ++card) {
+        const auto& place = chances[card];
+        dealt[card] = std::accumulate(place.begin(), place.begin() + 5, 0.0);
+        drawn[card] = std::accumulate(place.begin() + 5, place.begin() + 10, 0.0);
+        least = std::min(least, *std::ranges::min_element(place));
+        most = std::max(most, *std::ranges::max_element(place));
+        highCards += card < 4 || card >= 40 ? dealt[card] : 0.0;
+    }
+    const auto moreOften = [&dealt](std::size_t rank) {
+        const auto first = dealt.begin() + static_cast<std::ptrdiff_t>(4 * (rank - 1));
+        const double change = std::accumulate(first, first + 4, 0.0) / (4 * 5.0 / 52) - 1;
+        return std::to_string(std::abs(std::lround(change * 100)));
+    };
+    constexpr std::size_t kingOfSpades = 51;
+    constexpr std::size_t twoOfDiamonds = 5;
+    constexpr std::size_t threeOfHearts = 10;
+    EXPECT_EQ(figure(help, "shuffle-least"), inPercent(least));
+    EXPECT_EQ(figure(help, "shuffle-most"), inPercent(most));
+    EXPECT_EQ(std::ranges::min_element(dealt) - dealt.begin(), kingOfSpades);
+    EXPECT_EQ(std::ranges::max_element(dealt) - dealt.begin(), twoOfDiamonds);
+    EXPECT_EQ(std::ranges::max_element(drawn) - drawn.begin(), threeOfHearts);
+    EXPECT_EQ(figure(help, "dealt-least"), inPercent(dealt[kingOfSpades]));
+    EXPECT_EQ(figure(help, "dealt-most"), inPercent(dealt[twoOfDiamonds]));
+    EXPECT_EQ(figure(help, "drawn-least"), inPercent(drawn[kingOfSpades]));
+    EXPECT_EQ(figure(help, "drawn-most"), inPercent(drawn[threeOfHearts]));
+    EXPECT_EQ(figure(help, "twos"), moreOften(2));
+    EXPECT_EQ(figure(help, "kings"), moreOften(13));
+    EXPECT_EQ(figure(help, "aces"), moreOften(1));
+    EXPECT_EQ(figure(help, "high-cards"), inPercent(highCards / 100));
+}
 
 TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
 {
@@ -64,6 +133,9 @@ TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
     EXPECT_EQ(figure(help, "worth-royal-perfect"), handsPerRoyal(odds, Strategy::perfect));
     EXPECT_EQ(figure(help, "worth-royal-chart"), handsPerRoyal(odds, Strategy::chartBest));
     EXPECT_EQ(figure(help, "worth-cost"), odds.rows[11].costliest.decimals(4));
+    const RowOdds& twoHigh = odds.rows[17];
+    EXPECT_EQ(figure(help, "worth-lowest"),
+              ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3));
 }
 
 } // namespace quillet::test
