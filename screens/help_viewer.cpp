@@ -7,9 +7,12 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 namespace quillet
 {
@@ -27,6 +30,28 @@ QAction* addCommand(QToolBar& bar, const QString& text, const QList<QKeySequence
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     return action;
 }
+
+void prepare(QToolBar& bar)
+{
+    bar.setMovable(false);
+    // Shows what a narrow window leaves no room for.
+    if (auto* more = bar.findChild<QToolButton*>("qt_toolbar_ext_button"))
+        more->setAccessibleName("More commands");
+}
+
+// Styles draw the edge of a field in a shade of the window's colour, which on black is nothing.
+class SearchField : public QLineEdit
+{
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QLineEdit::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(
+            palette().color(hasFocus() ? QPalette::Highlight : QPalette::PlaceholderText));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
 
 QString notFound(const QString& text)
 {
@@ -48,7 +73,7 @@ void HelpViewer::present(QWidget* parent, ShellOpen& shell, const QString& path)
 
 HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
     : QMainWindow(parent, Qt::Window), m_shell(shell), m_page(new HelpPage),
-      m_searchText(new QLineEdit), m_message(new QLabel)
+      m_searchText(new SearchField), m_message(new QLabel)
 {
     setObjectName("HelpViewer");
     setWindowTitle("Quillet Help");
@@ -60,7 +85,20 @@ HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
     connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
         openWebPage(m_shell, address.toEncoded().toStdString());
     });
-    setCentralWidget(m_page);
+    // The answer of a search has a line of its own, and more where it is long: in the bar it would
+    // disappear where the window is narrow.
+    m_message->setObjectName("helpMessage");
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    m_message->setContentsMargins(8, 4, 8, 4);
+    m_message->hide();
+    auto* middle = new QWidget;
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_page, 1);
+    column->addWidget(m_message);
+    setCentralWidget(middle);
 
     auto* commands = new QToolBar("Commands");
     addNavigation(*commands);
@@ -68,7 +106,7 @@ HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
     auto* searching = new QToolBar("Search");
     addSearch(*searching);
     for (QToolBar* bar : {commands, searching})
-        bar->setMovable(false);
+        prepare(*bar);
     addToolBar(Qt::TopToolBarArea, commands);
     addToolBar(Qt::BottomToolBarArea, searching);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
@@ -108,6 +146,8 @@ void HelpViewer::addSearch(QToolBar& bar)
     m_searchText->setObjectName("helpSearch");
     m_searchText->setAccessibleName("Find in the help text");
     m_searchText->setClearButtonEnabled(true);
+    if (auto* clear = m_searchText->findChild<QToolButton*>())
+        clear->setAccessibleName("Clear the search");
     m_searchText->setMaximumWidth(220);
     auto* caption = new QLabel("Find (Ctrl+F)");
     caption->setContentsMargins(8, 0, 8, 0);
@@ -116,10 +156,6 @@ void HelpViewer::addSearch(QToolBar& bar)
     addCommand(bar, "Previous", {QKeySequence(Qt::SHIFT | Qt::Key_F3)},
                [this] { searchNext(QTextDocument::FindBackward); });
     addCommand(bar, "Next", {QKeySequence(Qt::Key_F3)}, [this] { searchNext({}); });
-    m_message->setObjectName("helpMessage");
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setContentsMargins(8, 0, 8, 0);
-    bar.addWidget(m_message);
 
     connect(m_searchText, &QLineEdit::textEdited, this, &HelpViewer::searchTyped);
     connect(m_searchText, &QLineEdit::returnPressed, this, [this] { searchNext({}); });
@@ -172,6 +208,7 @@ void HelpViewer::searchTyped(const QString& text)
 void HelpViewer::tell(const QString& message)
 {
     m_message->setText(message);
+    m_message->setVisible(!message.isEmpty());
     if (message.isEmpty())
         return;
     QAccessibleEvent spoken(m_message, QAccessible::Alert);
