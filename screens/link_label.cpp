@@ -51,7 +51,7 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
-    setContentsMargins(1, 2, 1, 2);
+    setContentsMargins(0, 2, 0, 2); // in one line with plain labels
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);

@@ -16,16 +16,15 @@ constexpr int usualRounds = 8;
 } // namespace
 
 CalibrationSplash::CalibrationSplash()
-    : QWidget(nullptr, Qt::SplashScreen | Qt::WindowStaysOnTopHint),
-      m_progress(new QProgressBar(this))
+    : QWidget(nullptr, Qt::SplashScreen), m_progress(new QProgressBar(this))
 {
     setObjectName(QStringLiteral("calibrationSplash"));
     setWindowTitle(QStringLiteral("Quillet"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
-    layout->addWidget(new QLabel(tr("Measuring this computer, so that cards fly at the right "
-                                    "speed. This happens once."),
+    layout->addWidget(new QLabel(tr("Measuring this computer, so that cards fly\n"
+                                    "at the right speed. This happens once."),
                                  this));
     m_progress->setRange(0, usualRounds);
     m_progress->setTextVisible(false);

@@ -56,6 +56,9 @@ bool frmMain::sessionIsEnding()
 void frmMain::showExitScreen()
 {
     frmExitNoBanner screen(m_desktop.shell);
+    // It stands where the game stood.
+    screen.adjustSize();
+    screen.move(geometry().center() - screen.rect().center());
     connect(&screen, &frmExitNoBanner::unloadMainWindow, this, &QWidget::close);
     connect(&screen, &frmExitNoBanner::endProgram, this, [this] { m_desktop.endProcess(0); });
     screen.exec();
