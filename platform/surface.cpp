@@ -38,6 +38,12 @@ void Surface::fill(const QColor& color)
     m_image.fill(color);
 }
 
+void Surface::makeTransparent()
+{
+    m_image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    m_image.fill(Qt::transparent);
+}
+
 void Surface::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
 {
     copyPixels(source, deviceRect({from, size}, m_scale),

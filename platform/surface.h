@@ -29,6 +29,8 @@ public:
     [[nodiscard]] const QImage& image() const { return m_image; }
 
     void fill(const QColor& color);
+    // Empties it; what is not painted on shows whatever it is drawn over.
+    void makeTransparent();
 
     // Copies a rectangle of this size from the source, pixel by pixel.
     void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);

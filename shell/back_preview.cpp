@@ -13,7 +13,7 @@ BackPreview::BackPreview(QWidget* parent) : QWidget(parent)
 Surface& BackPreview::freshPicture(QSize cardSize)
 {
     m_picture = Surface(cardSize, devicePixelRatioF());
-    m_picture.fill(palette().color(QPalette::Window));
+    m_picture.makeTransparent(); // the corners show the page
     return m_picture;
 }
 

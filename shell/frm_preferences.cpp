@@ -23,6 +23,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillet
 {
 
@@ -67,15 +69,17 @@ Control* add(QFrame& page, const QString& name, const QString& caption)
     return control;
 }
 
-// The list is as wide as the card, whatever the size of the desktop's font.
-void fitFont(QComboBox& list)
+// The list is as wide as the preview. Letters may become a little smaller for that, but where the
+// desktop's font is so large that this does not do, the list becomes wider.
+void fitTo(QComboBox& list, int width)
 {
-    constexpr double smallest = 6.0;
     QFont font = list.font();
-    while (list.sizeHint().width() > list.width() && font.pointSizeF() > smallest) {
+    const double smallest = 0.8 * font.pointSizeF();
+    while (list.sizeHint().width() > width && font.pointSizeF() > smallest) {
         font.setPointSizeF(font.pointSizeF() - 0.5);
         list.setFont(font);
     }
+    list.setFixedWidth(std::max(width, list.sizeHint().width()));
 }
 
 } // namespace
@@ -145,8 +149,14 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     caption->setBuddy(Combo1);
     picBacks = new BackPreview(&page);
     auto* column = static_cast<QVBoxLayout*>(page.layout());
-    column->addWidget(Combo1, 0, Qt::AlignHCenter);
-    column->addWidget(picBacks, 0, Qt::AlignHCenter);
+    auto* middle = new QVBoxLayout;
+    middle->addWidget(Combo1, 0, Qt::AlignLeft);
+    middle->addWidget(picBacks, 0, Qt::AlignLeft);
+    auto* inTheMiddle = new QHBoxLayout;
+    inTheMiddle->addStretch();
+    inTheMiddle->addLayout(middle);
+    inTheMiddle->addStretch();
+    column->addLayout(inTheMiddle);
 
     auto* row = new QHBoxLayout;
     auto* colorCaption = new QLabel(tr("Hold  Card Outline color"), &page);
@@ -158,7 +168,7 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     lblColor->setFrameStyle(QFrame::Box | QFrame::Plain);
     cmdChangeColor = new QPushButton(tr("change"), &page);
     cmdChangeColor->setObjectName(QStringLiteral("cmdChangeColor"));
-    cmdChangeColor->setAutoDefault(false);
+    cmdChangeColor->setAccessibleName(tr("Change the colour of the hold outline"));
     row->addWidget(colorCaption);
     row->addWidget(lblColor);
     row->addWidget(cmdChangeColor);
@@ -201,8 +211,7 @@ void frmPreferences::Form_Activate()
         const Preferences& now = m_host.preferences;
         const int margin = static_cast<int>(30 / m_host.twipsPerPixel);
         picBacks->setFixedSize(m_host.cardSize + QSize(margin, margin));
-        Combo1->setFixedWidth(picBacks->width());
-        fitFont(*Combo1);
+        fitTo(*Combo1, picBacks->width());
         Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));
         {
             // Showing the stored position changes no delay.
@@ -233,6 +242,7 @@ void frmPreferences::Combo1_Click()
             return;
         m_host.library.cdtDraw(picBacks->freshPicture(m_host.cardSize), 0, 0,
                                firstBack + Combo1->currentIndex(), drawBack, whiteColor);
+        picBacks->setAccessibleName(tr("Card back %1").arg(Combo1->currentText()));
         picBacks->update();
     });
 }
@@ -242,6 +252,7 @@ void frmPreferences::cmdChangeColor_Click()
     QColorDialog chooser(
         colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
     chooser.setObjectName(QStringLiteral("CommonDialog1"));
+    chooser.setWindowTitle(tr("Colour of the hold outline"));
     if (chooser.exec() != QDialog::Accepted)
         return;
     m_host.preferences.prfCardOutlineColor =

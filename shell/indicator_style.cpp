@@ -45,7 +45,7 @@ void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOpti
                                         QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control != CC_ScrollBar || !isDark(*option))
+    if (control != CC_ScrollBar)
         return;
     const QRect slider = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
     paintFrame(*painter, *option, slider.adjusted(1, 1, -2, -2), false);

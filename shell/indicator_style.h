@@ -5,9 +5,9 @@
 namespace quillet
 {
 
-// Frames check boxes, option buttons and the scroll bar's slider in the colour of the text where
-// the window is dark. The toolkit's own style frames them in a shade of the window's colour, which
-// on black is nothing.
+// Frames check boxes and option buttons in the colour of the text where the window is dark, and the
+// scroll bar's slider everywhere. The toolkit's own style frames them in a shade of the window's
+// colour, which on black is nothing, and of the slider little on any colour.
 class IndicatorStyle : public QProxyStyle
 {
     Q_OBJECT

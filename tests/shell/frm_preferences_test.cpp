@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QStyleOptionButton>
+#include <QStyleOptionSlider>
 #include <QTabWidget>
 
 namespace quillet::test
@@ -95,26 +96,82 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
     });
 }
 
-TEST(PreferencesDialog, emptyBoxesAreSeenOnABlackDesktop)
+TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
+{
+    for (const QPalette& desktop : {QPalette(Qt::black, Qt::black), QPalette(QColor(0xefefef))}) {
+        PlayedWindow game;
+        ASSERT_TRUE(game.start());
+        inPreferences(game, [&desktop](frmPreferences& dialog) {
+            dialog.setPalette(desktop);
+            auto& tabs = control<QTabWidget>(dialog, "SSTab1");
+            const auto edgeOf = [](QWidget& widget, const QRect& place) {
+                const QImage picture = widget.grab().toImage();
+                const QColor edge = picture.pixelColor(place.left(), place.center().y());
+                return contrast(edge, picture.pixelColor(place.left() - 1, place.center().y()));
+            };
+            for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
+                tabs.setCurrentIndex(page);
+                auto& box = control(dialog, name);
+                QStyleOptionButton option;
+                option.initFrom(&box);
+                const auto part =
+                    page == 0 ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
+                const QRect place = box.style()->subElementRect(part, &option, &box);
+                const QColor edge =
+                    box.grab().toImage().pixelColor(place.left(), place.center().y());
+                EXPECT_GE(contrast(edge, desktop.color(QPalette::Window)), 1.5) << name;
+            }
+            tabs.setCurrentIndex(0);
+            auto& bar = control<QScrollBar>(dialog, "HScroll1");
+            QStyleOptionSlider option;
+            option.initFrom(&bar);
+            option.maximum = bar.maximum();
+            option.sliderPosition = option.sliderValue = bar.value();
+            option.pageStep = bar.pageStep();
+            option.state |= QStyle::State_Horizontal;
+            const QRect thumb = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                            QStyle::SC_ScrollBarSlider, &bar);
+            EXPECT_GE(edgeOf(bar, thumb.adjusted(1, 1, -1, -1)), 3);
+
+            tabs.setCurrentIndex(2);
+            auto& preview = control(dialog, "picBacks");
+            const QImage picture = dialog.grab().toImage();
+            const QPoint corner = preview.mapTo(&dialog, QPoint(1, 1)); // of the card
+            EXPECT_EQ(picture.pixelColor(corner), picture.pixelColor(corner - QPoint(6, 0)));
+            EXPECT_EQ(preview.accessibleName(), "Card back Sleeve");
+            QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+        });
+    }
+}
+
+TEST(PreferencesDialog, enterOnTheColoursButtonOpensTheChooser)
 {
     PlayedWindow game;
     ASSERT_TRUE(game.start());
     inPreferences(game, [](frmPreferences& dialog) {
-        dialog.setPalette(QPalette(Qt::black, Qt::black));
-        for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
-            control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(page);
-            auto& box = control(dialog, name);
-            QStyleOptionButton option;
-            option.initFrom(&box);
-            const auto part =
-                page == 0 ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
-            const QRect place = box.style()->subElementRect(part, &option, &box);
-            const QImage picture = box.grab().toImage();
-            const QColor edge = picture.pixelColor(place.left(), place.center().y());
-            EXPECT_GE(contrast(edge, Qt::black), 3) << name;
-        }
-        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+        control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
+        control(dialog, "cmdChangeColor").setFocus();
+        const auto enter = [&] { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); };
+        whileOpen<QColorDialog>(enter, [](QColorDialog&) {});
+        EXPECT_TRUE(dialog.isVisible());
     });
+}
+
+TEST(PreferencesDialog, aLargeFontStaysLarge)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(18);
+    QApplication::setFont(large);
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    inPreferences(game, [](frmPreferences& dialog) {
+        auto& list = control(dialog, "Combo1");
+        EXPECT_GE(list.font().pointSizeF(), 14);
+        EXPECT_GE(list.width(), list.sizeHint().width());
+        EXPECT_EQ(list.x(), control(dialog, "picBacks").x());
+    });
+    QApplication::setFont(usual);
 }
 
 } // namespace quillet::test

@@ -171,7 +171,7 @@ keys shift+Tab shift+Tab shift+Tab Right
 keys Tab space Tab Down
 keys shift+Tab shift+Tab Right
 keys Tab Home Down Down Tab space
-wait_for 10 "the colour chooser" active_is "Select Color"
+wait_for 10 "the colour chooser" active_is "Colour of the hold outline"
 keys alt+h ctrl+a
 xdotool type --delay 30 '#0080ff'
 keys Return
