@@ -1,4 +1,4 @@
-#include "platform/accessible_picture.h"
+#include "platform/accessible_widgets.h"
 
 #include "platform/picture_box.h"
 
@@ -25,8 +25,6 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         state.checkable = m_box.isCheckable();
         state.checked = m_box.isChecked();
-        // What the keyboard cannot reach lies beneath another picture.
-        state.invisible = state.invisible || m_box.focusPolicy() == Qt::NoFocus;
         return state;
     }
 
@@ -53,17 +51,70 @@ private:
     PictureBox& m_box;
 };
 
-QAccessibleInterface* makeAccessiblePicture(const QString&, QObject* object)
+class HiddenWidget : public QAccessibleWidget
 {
-    auto* box = qobject_cast<PictureBox*>(object);
-    return box == nullptr ? nullptr : new AccessiblePicture(*box);
+public:
+    explicit HiddenWidget(QWidget& widget) : QAccessibleWidget(&widget, QAccessible::NoRole) {}
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = true;
+        return state;
+    }
+};
+
+class AccessibleLink : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLink(QWidget& link) : QAccessibleWidget(&link, QAccessible::Link) {}
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction())
+            QMetaObject::invokeMethod(widget(), "clicked", Qt::QueuedConnection);
+        else
+            QAccessibleWidget::doAction(name);
+    }
+};
+
+// How a widget is presented, kept as a property of it.
+constexpr const char* presentation = "presentation to readers";
+constexpr int hidden = 1;
+constexpr int link = 2;
+
+QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object)
+{
+    if (auto* box = qobject_cast<PictureBox*>(object);
+        box != nullptr && box->property(presentation).isNull())
+        return new AccessiblePicture(*box);
+    auto* widget = qobject_cast<QWidget*>(object);
+    const int kind = widget == nullptr ? 0 : widget->property(presentation).toInt();
+    if (kind == hidden)
+        return new HiddenWidget(*widget);
+    return kind == link ? new AccessibleLink(*widget) : nullptr;
 }
 
 } // namespace
 
-void installAccessiblePictures()
+void installAccessibleWidgets()
 {
-    QAccessible::installFactory(makeAccessiblePicture);
+    QAccessible::installFactory(makeAccessible);
+}
+
+void hideFromReaders(QWidget& widget)
+{
+    widget.setProperty(presentation, hidden);
+}
+
+void presentAsLink(QWidget& widget)
+{
+    widget.setProperty(presentation, link);
 }
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "shell/chart_panel.h"
 
+#include "platform/accessible_widgets.h"
 #include "shell/chart_row.h"
 
 #include <QFontMetricsF>
@@ -18,7 +19,6 @@ constexpr int rowWidth = 167;
 constexpr int captionPixels = 11;
 constexpr int rowPixels = 13; // 9.75 points
 constexpr int leastRowPixels = 9;
-constexpr int markRoom = 9; // for the mark of a lit row, left of its caption
 constexpr int counterWidth = 52;
 
 QFont panelFont(int pixels, bool bold)
@@ -30,9 +30,14 @@ QFont panelFont(int pixels, bool bold)
     return font;
 }
 
-QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bool bold)
+enum class Reader { hears, doesNotHear };
+
+QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bool bold,
+                   Reader reader)
 {
     auto* label = new QLabel(parent);
+    if (reader == Reader::doesNotHear)
+        hideFromReaders(*label);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
@@ -73,10 +78,11 @@ QLabel* ChartPanel::addCounter(const QString& captionName, const QString& captio
                                double captionLeft, double captionWidth, const QString& valueName)
 {
     const int centre = static_cast<int>(std::lround((captionLeft + captionWidth / 2) / twips));
-    QLabel* captionLabel = whiteLabel(this, captionName, caption, false);
-    captionLabel->setGeometry(border + centre - counterWidth / 2, -2, counterWidth, 16);
-    QLabel* value = whiteLabel(this, valueName, QStringLiteral("0"), true);
-    value->setGeometry(border + centre - counterWidth / 2, 14, counterWidth, 16);
+    // The value's spoken name has the caption in it.
+    QLabel* captionLabel = whiteLabel(this, captionName, caption, false, Reader::doesNotHear);
+    captionLabel->setGeometry(border + centre - counterWidth / 2, border - 2, counterWidth, 16);
+    QLabel* value = whiteLabel(this, valueName, QStringLiteral("0"), true, Reader::hears);
+    value->setGeometry(border + centre - counterWidth / 2, border + 14, counterWidth, 16);
     captionLabel->setBuddy(value);
     return value;
 }
@@ -105,7 +111,7 @@ void ChartPanel::fitRowFont()
         const QFontMetricsF metrics(font);
         bool fits = metrics.height() <= rowHeight;
         for (const ChartRow* row : m_rows)
-            fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - 2 * markRoom;
+            fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - ChartRow::markRoom;
         if (!fits && pixels > leastRowPixels)
             continue;
         for (ChartRow* row : m_rows)
@@ -125,10 +131,13 @@ void ChartPanel::showRow(int row)
 void ChartPanel::showCounters(const Counters& counters)
 {
     const auto show = [](QLabel* label, const QString& name, std::int16_t value) {
+        const QString spoken = QStringLiteral("%1 %2").arg(name).arg(value);
+        if (label->accessibleName() == spoken)
+            return; // a reader would say it again
         label->setText(QString::number(value));
         // A deal charges just before flights that handle no events.
         label->repaint();
-        label->setAccessibleName(QStringLiteral("%1 %2").arg(name).arg(value));
+        label->setAccessibleName(spoken);
     };
     show(m_lblHands, tr("Hands"), counters.hands);
     show(m_lblWon, tr("Won"), counters.won);

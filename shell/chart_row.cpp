@@ -102,7 +102,10 @@ void ChartRow::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), colorOf(m_colors.background));
     painter.setPen(textColor());
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    // A caption that is as wide as its row makes room for the mark.
+    const bool inTheWay = fontMetrics().horizontalAdvance(text()) > width() - 2 * markRoom;
+    const int left = inTheWay && m_state != ChartRowState::base ? markRoom : 0;
+    painter.drawText(rect().adjusted(left, 0, 0, 0), Qt::AlignCenter | Qt::TextSingleLine, text());
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(5, height() / 2.0);

@@ -14,6 +14,8 @@ class ChartRow : public QLabel
     Q_OBJECT
 
 public:
+    static constexpr int markRoom = 9; // pixels at the left, for the mark of a lit row
+
     ChartRow(int row, QWidget* parent);
 
     void show(ChartRowColors colors, ChartRowState state);

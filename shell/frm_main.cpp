@@ -1,6 +1,6 @@
 #include "shell/frm_main.h"
 
-#include "platform/accessible_picture.h"
+#include "platform/accessible_widgets.h"
 #include "platform/file_exists.h"
 #include "platform/number_keys.h"
 #include "platform/picture_box.h"
@@ -26,7 +26,7 @@ frmMain::frmMain(Desktop& desktop)
       m_coach(m_state, *this, m_chart, *this, desktop.programFolder),
       m_controller(m_state, m_counters, *this, *this, m_coach, desktop.random, desktop.errorBox)
 {
-    installAccessiblePictures();
+    installAccessibleWidgets();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -58,11 +58,13 @@ void frmMain::makeBoxes()
         auto* deck = new PictureBox(canvas);
         m_pictures.picDeal[i] = deck;
         deck->setObjectName(QStringLiteral("picDeal%1").arg(i));
+        if (i > 0)
+            hideFromReaders(*deck); // beneath the first
+        deck->setAccessibleName(tr("Deck"));
         connect(deck, &PictureBox::clicked, this,
                 [this, i] { picDeal_Click(static_cast<std::int16_t>(i)); });
     }
     m_pictures.picDeal[0]->setFocusPolicy(Qt::TabFocus);
-    m_pictures.picDeal[0]->setAccessibleName(tr("Deck"));
     for (std::size_t i = 0; i < m_pictures.picPoker.size(); ++i) {
         auto* place = new PictureBox(canvas);
         m_pictures.picPoker[i] = place;

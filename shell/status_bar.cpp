@@ -1,5 +1,6 @@
 #include "shell/status_bar.h"
 
+#include "platform/accessible_widgets.h"
 #include "platform/surface.h"
 #include "shell/window_layout.h"
 
@@ -36,6 +37,7 @@ StatusBar::StatusBar(QWidget* parent)
     : QWidget(parent), m_lblstatus(new SilentLabel(tr("Welcome to Quillet"), this))
 {
     setObjectName(QStringLiteral("picStatusBar"));
+    presentAsLink(*this);
     setAccessibleName(tr("Status bar, opens the web site"));
     setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
     setAutoFillBackground(true);
