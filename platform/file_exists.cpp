@@ -1,7 +1,9 @@
 #include "platform/file_exists.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <system_error>
+#include <unistd.h>
 
 namespace quillet
 {
@@ -13,7 +15,8 @@ bool FileExists(const std::string& thePath)
         return false;
     std::error_code error;
     const auto length = std::filesystem::file_size(thePath, error);
-    return !error && length > 0;
+    // What may not be read cannot be had.
+    return !error && length > 0 && ::faccessat(AT_FDCWD, thePath.c_str(), R_OK, AT_EACCESS) == 0;
 }
 
 } // namespace quillet

@@ -1,13 +1,16 @@
 #include "platform/picture_file.h"
 
 #include "engine/run_time_error.h"
+#include "platform/picture_integrity.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace quillet
 {
@@ -16,6 +19,7 @@ namespace
 {
 
 constexpr qint64 mostPixels = 16'000'000;
+constexpr qint64 largestFile = 4 * mostPixels + 100'000; // as a bitmap, with its head
 constexpr int longestSide = 8192; // a window cannot be longer than a few screens
 constexpr double normalDensity = 96.0;
 constexpr double metresPerInch = 0.0254;
@@ -30,13 +34,11 @@ double pixelRatio(double dotsPerInch)
 
 // Dots an inch by the head of a JPEG file, which is known before anything is decoded; 0 for
 // another file, or where the head does not say.
-double densityInHead(const QString& path)
+double densityInHead(const QByteArray& head)
 {
     constexpr qsizetype length = 18;
     constexpr qsizetype unitAt = 13;
-    QFile file(path);
-    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(length) : QByteArray();
-    const bool inInches = head.size() == length && head.startsWith("\xff\xd8\xff\xe0") &&
+    const bool inInches = head.size() >= length && head.startsWith("\xff\xd8\xff\xe0") &&
                           head.mid(6, 4) == "JFIF" && head.at(unitAt) == 1;
     return inInches ? qFromBigEndian<quint16>(head.constData() + unitAt + 1) : 0;
 }
@@ -45,16 +47,24 @@ double densityInHead(const QString& path)
 
 LoadedPicture loadPictureFile(const QString& path, double scale)
 {
-    QImageReader reader(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
+        throw RunTimeError("Invalid picture: " + path.toStdString());
+    QByteArray bytes = file.readAll();
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size(); // of the file's head; nothing is decoded yet
+    // Of the file's head; nothing is decoded yet. A bitmap stored from the top down has a negative
+    // height.
+    const QSize size(reader.size().width(), std::abs(reader.size().height()));
     if (qint64{size.width()} * size.height() > mostPixels ||
         std::max(size.width(), size.height()) > longestSide)
         throw RunTimeError("Picture too large: " + path.toStdString());
-    const QSize shown = (size * (scale / pixelRatio(densityInHead(path))));
+    const QSize shown = (size * (scale / pixelRatio(densityInHead(bytes))));
     if (shown.width() < size.width())
         reader.setScaledSize(shown);
-    const QImage image = size.isEmpty() ? QImage() : reader.read();
+    const bool readable = !size.isEmpty() && goesOnToItsEnd(bytes);
+    const QImage image = readable ? reader.read() : QImage();
     if (image.isNull())
         throw RunTimeError("Invalid picture: " + path.toStdString());
     return {image.convertToFormat(QImage::Format_RGB32),

@@ -1,9 +1,11 @@
 #include "platform/file_exists.h"
+#include "tests/platform/plain_user.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <sys/stat.h>
 
 namespace quillet::test
 {
@@ -20,6 +22,11 @@ TEST(FileExists, onlyAFileWithSomethingInItCounts)
          {folder + "empty.jpg", folder + "missing.jpg", folder, folder + "grün.jpg/below",
           folder + std::string(5000, 'x'), std::string(), std::string("/dev/null")})
         EXPECT_FALSE(FileExists(path)) << path;
+
+    ASSERT_EQ(::chmod(temporary.path().toLocal8Bit(), 0755), 0);
+    ASSERT_EQ(::chmod((folder + "grün.jpg").c_str(), 0), 0);
+    const PlainUser user;
+    EXPECT_FALSE(FileExists(folder + "grün.jpg")) << "it may not be read";
 }
 
 } // namespace quillet::test

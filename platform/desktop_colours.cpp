@@ -1,0 +1,47 @@
+#include "platform/desktop_colours.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <array>
+
+namespace quillet
+{
+
+QColor desktopColour(std::uint32_t number)
+{
+    constexpr std::uint32_t windowText = 8;
+    constexpr std::uint32_t greyText = 17;
+    static constexpr std::array roles{
+        QPalette::Mid,             // scroll bars
+        QPalette::Window,          // the desktop's ground
+        QPalette::Highlight,       // title bar of the active window
+        QPalette::Mid,             // and of the others
+        QPalette::Window,          // menus
+        QPalette::Base,            // ground of texts and lists
+        QPalette::Shadow,          // frames of windows
+        QPalette::WindowText,      // text of menus
+        QPalette::WindowText,      // text of windows
+        QPalette::HighlightedText, // text of the active title bar
+        QPalette::Highlight,       // border of the active window
+        QPalette::Mid,             // and of the others
+        QPalette::Dark,            // ground of windows in a window
+        QPalette::Highlight,       // what is selected
+        QPalette::HighlightedText, // and its text
+        QPalette::Button,          // buttons
+        QPalette::Dark,            // their shadow
+        QPalette::WindowText,      // text of what cannot be used
+        QPalette::ButtonText,      // text of buttons
+        QPalette::WindowText,      // text of the other title bars
+        QPalette::Light,           // lit edges
+        QPalette::Shadow,          // dark edges
+        QPalette::Midlight,        // faint edges
+        QPalette::ToolTipText,     // text of hints
+        QPalette::ToolTipBase,     // and their ground
+    };
+    const auto group = number == greyText ? QPalette::Disabled : QPalette::Active;
+    return QGuiApplication::palette().color(group,
+                                            roles[number < roles.size() ? number : windowText]);
+}
+
+} // namespace quillet
