@@ -70,8 +70,9 @@ bool isPlayable(const Recording& recording)
     const SDL_AudioSpec& format = recording.format;
     if (!recording.data || format.freq < 4000 || format.freq > 192'000)
         return false;
-    const std::uint64_t bytesPerSecond = std::uint64_t{SDL_AUDIO_BITSIZE(format.format)} / 8 *
-                                         format.channels * static_cast<unsigned>(format.freq);
+    const auto bytesPerSample = static_cast<std::uint64_t>(SDL_AUDIO_BITSIZE(format.format)) / 8;
+    const std::uint64_t bytesPerSecond =
+        bytesPerSample * format.channels * static_cast<std::uint64_t>(format.freq);
     return recording.bytes <= mostSeconds * bytesPerSecond;
 }
 

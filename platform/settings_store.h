@@ -17,6 +17,9 @@ public:
                                                   const std::string& key,
                                                   const std::string& defaultText) = 0;
 
+    // Where the texts of an application are kept, for a player who has to mend one.
+    [[nodiscard]] virtual std::string place(const std::string& application) = 0;
+
     // Throws RunTimeError when the text cannot be stored; what was stored before stays whole.
     virtual void writeSetting(const std::string& application, const std::string& section,
                               const std::string& key, const std::string& text) = 0;

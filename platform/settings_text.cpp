@@ -3,7 +3,6 @@
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <ranges>
 
 namespace quillet
 {
@@ -156,10 +155,8 @@ std::optional<SettingsText::Line> SettingsText::parseLine(std::string_view raw,
 
 std::optional<std::string> SettingsText::value(std::string_view section, std::string_view key) const
 {
-    for (const Line& line : std::views::reverse(m_lines))
-        if (line.section == section && line.key == key)
-            return line.value;
-    return std::nullopt;
+    const Line* found = find(section, key);
+    return found == nullptr ? std::nullopt : std::optional(found->value);
 }
 
 void SettingsText::setValue(const std::string& section, const std::string& key,
@@ -167,13 +164,19 @@ void SettingsText::setValue(const std::string& section, const std::string& key,
 {
     Line entry{escaped(key, misreadInNames) + "=" + escaped(value, "") + m_carriageReturn, section,
                false, key, std::string(value)};
-    for (Line& line : std::views::reverse(m_lines)) {
-        if (line.section == section && line.key == key) {
-            line = std::move(entry);
-            return;
-        }
-    }
-    insertEntry(std::move(entry));
+    if (const Line* found = find(section, key))
+        m_lines[static_cast<std::size_t>(found - m_lines.data())] = std::move(entry);
+    else
+        insertEntry(std::move(entry));
+}
+
+// Of several lines with this key the last counts.
+const SettingsText::Line* SettingsText::find(std::string_view section, std::string_view key) const
+{
+    const auto found = std::find_if(m_lines.rbegin(), m_lines.rend(), [&](const Line& line) {
+        return line.section == section && line.key == key;
+    });
+    return found == m_lines.rend() ? nullptr : &*found;
 }
 
 // Below the last entry of its section, so that blank lines and comments after it stay where they

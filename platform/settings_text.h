@@ -38,6 +38,7 @@ private:
 
     [[nodiscard]] static std::optional<Line> parseLine(std::string_view raw,
                                                        const std::string& section);
+    [[nodiscard]] const Line* find(std::string_view section, std::string_view key) const;
     void insertEntry(Line entry);
 
     std::string m_byteOrderMark;

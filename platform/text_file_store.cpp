@@ -6,12 +6,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSaveFile>
-#include <QStandardPaths>
+#include <QScopeGuard>
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <cstring>
+#include <pwd.h>
 #include <unistd.h>
 
 namespace quillet
@@ -42,11 +43,21 @@ struct StoredFile {
     throw RunTimeError(text.arg(path, cause).toStdString());
 }
 
-// A relative XDG_CONFIG_HOME counts as not set: it would move with the current directory.
+// Relative folders count as not set: they would move with the current directory.
+QString absoluteFolder(const char* variable)
+{
+    const QString folder = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(folder) ? folder : QString();
+}
+
 QString userConfigFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + "/.config";
+    if (const QString folder = absoluteFolder("XDG_CONFIG_HOME"); !folder.isEmpty())
+        return folder;
+    QString home = absoluteFolder("HOME");
+    if (const passwd* user = home.isEmpty() ? ::getpwuid(::getuid()) : nullptr)
+        home = QFile::decodeName(user->pw_dir);
+    return home + "/.config";
 }
 
 // The file that a link at this path leads to, present or not. Links in a circle stay links.
@@ -118,12 +129,21 @@ QString setAside(const QString& path)
     return {};
 }
 
+// What a save writes first. One that was killed leaves it behind for the next to write over.
+QString unfinished(const QString& path)
+{
+    return path + ".new";
+}
+
 // The new file is safe on the disk before the old one is touched.
 void replace(const QString& path, const std::string& bytes, bool keepOld)
 {
-    QSaveFile file(path);
+    QFile file(unfinished(path));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         fail(path, file.errorString());
+    const auto removed = qScopeGuard([&file] { file.remove(); });
+    if (QFile::exists(path))
+        file.setPermissions(QFile::permissions(path));
     // A nearly full disk takes a part first; only the next write tells what is wrong.
     auto rest = QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size()));
     while (!rest.isEmpty()) {
@@ -144,10 +164,11 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
         if (aside.isEmpty())
             fail(path, QStringLiteral("The damaged file there cannot be kept aside"));
     }
-    if (!file.commit()) {
+    if (::rename(QFile::encodeName(file.fileName()), QFile::encodeName(path)) != 0) {
+        const QString cause = QString::fromLocal8Bit(std::strerror(errno));
         if (keepOld)
             QFile::rename(aside, path);
-        fail(path, file.errorString());
+        fail(path, cause);
     }
 }
 
@@ -163,12 +184,17 @@ std::string TextFileStore::readSetting(const std::string& application, const std
     return load(filePath(application)).text.value(section, key).value_or(defaultText);
 }
 
+std::string TextFileStore::place(const std::string& application)
+{
+    return filePath(application).toStdString();
+}
+
 void TextFileStore::writeSetting(const std::string& application, const std::string& section,
                                  const std::string& key, const std::string& text)
 {
     const QString path = filePath(application);
     // What is stored already needs no disk: closing the window mostly changes nothing.
-    if (load(path).text.value(section, key) == text)
+    if (load(path).text.value(section, key) == text && !QFile::exists(unfinished(path)))
         return;
     if (!makeFolder(QFileInfo(path).path()))
         fail(path, QStringLiteral("The folder cannot be made"));

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] std::string readSetting(const std::string& application,
                                           const std::string& section, const std::string& key,
                                           const std::string& defaultText) override;
+    [[nodiscard]] std::string place(const std::string& application) override;
     void writeSetting(const std::string& application, const std::string& section,
                       const std::string& key, const std::string& text) override;
 

@@ -38,7 +38,7 @@ public:
         try {
             return rule(stored);
         } catch (const RunTimeError& error) {
-            throw RunTimeError(key + ": " + error.what());
+            throw RunTimeError(key + ": " + error.what() + " in " + m_store.place(application));
         }
     }
 

@@ -1,5 +1,6 @@
 #include "engine/run_time_error.h"
 #include "platform/text_file_store.h"
+#include "tests/platform/plain_user.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,9 +8,11 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace quillet::test
 {
@@ -150,6 +153,54 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
     EXPECT_NE(write("k", std::string(5000, 'x')), "");
     EXPECT_EQ(fileText(), "what") << "not set aside in vain";
     EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
+{
+    EXPECT_EQ(write("k", "old"), "");
+    for (const char* folder : {"config", "config/Quillet"}) {
+        struct stat status {
+        };
+        EXPECT_EQ(::stat(m_home.filePath(folder).toLocal8Bit(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, 0700U) << folder;
+    }
+    // A save that was killed left this behind.
+    writeFile("settings.ini.new", "[Preferen");
+    EXPECT_EQ(write("k", "old"), "");
+    EXPECT_EQ(leftovers(), QStringList());
+
+    ASSERT_TRUE(QFile::rename(path(), path("elsewhere")));
+    ASSERT_TRUE(QFile::link("elsewhere", path()));
+    ASSERT_EQ(::chmod(path("elsewhere").toLocal8Bit(), 0640), 0);
+    EXPECT_EQ(write("k", "new"), "");
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    EXPECT_EQ(fileText("elsewhere"), "[Preferences]\nk=new\n");
+    struct stat status {
+    };
+    EXPECT_EQ(::stat(path("elsewhere").toLocal8Bit(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640U);
+
+    for (const char* open : {"", "config", "config/Quillet"})
+        ASSERT_EQ(::chmod(m_home.filePath(open).toLocal8Bit(), 0777), 0);
+    ASSERT_EQ(::chmod(path().toLocal8Bit(), 0), 0);
+    {
+        const PlainUser user;
+        EXPECT_EQ(read("k"), "default");
+        EXPECT_THAT(write("k", "lost"), testing::HasSubstr("cannot be stored"));
+    }
+    EXPECT_EQ(fileText("elsewhere"), "[Preferences]\nk=new\n") << "unreadable is not broken";
+}
+
+TEST(UsersStore, liesInTheHomeOfTheUserDatabaseWhereNoneIsSet)
+{
+    const QByteArray home = qgetenv("HOME");
+    const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+    qunsetenv("HOME");
+    qputenv("XDG_CONFIG_HOME", "relative");
+    const std::string known = ::getpwuid(::getuid())->pw_dir;
+    EXPECT_EQ(TextFileStore().place("Quillet"), known + "/.config/Quillet/settings.ini");
+    qputenv("HOME", home);
+    config.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", config);
 }
 
 TEST_F(TextFileStoreTest, writersMergeTheirKeys)

@@ -23,6 +23,8 @@ public:
         return texts.contains(key) ? texts[key] : defaultText;
     }
 
+    std::string place(const std::string&) override { return "memory"; }
+
     void writeSetting(const std::string& application, const std::string& section,
                       const std::string& key, const std::string& text) override
     {

@@ -54,7 +54,7 @@ TEST(PreferencesStore, everyFieldFollowsItsRule)
         {"prfPKBackFace", "53", "53"},
         {"prfPKBackFace", " 0.0 ", "65"},
         {"prfPKBackFace", "0.4", "not written"},
-        {"prfPKBackFace", "abc", "prfPKBackFace: Type mismatch"},
+        {"prfPKBackFace", "abc", "prfPKBackFace: Type mismatch in memory"},
         {"prfShowPokerPlay", "False", "False"},
         {"prfAnimation", "False", "False"},
         {"prfSound", "False", "False"},
@@ -64,14 +64,14 @@ TEST(PreferencesStore, everyFieldFollowsItsRule)
         {"prfSound", "0", "True"},
         {"prfAnimationDelay", "300", "300"},
         {"prfBannerDelay", "-120", "-120"},
-        {"prfAnimationDelay", "2147483648", "prfAnimationDelay: Overflow"},
-        {"prfBannerDelay", "1x", "prfBannerDelay: Type mismatch"},
+        {"prfAnimationDelay", "2147483648", "prfAnimationDelay: Overflow in memory"},
+        {"prfBannerDelay", "1x", "prfBannerDelay: Type mismatch in memory"},
         {"prfPKBackground", "grün =.jpg", "grün =.jpg"},
         {"prfPKBackground", "", "vpokerwood.jpg"},
         {"prfScrollVal", "", "0"},
         {"prfScrollVal", "13.5", "14"},
-        {"prfScrollVal", " ", "prfScrollVal: Type mismatch"},
-        {"prfScrollVal", "32768", "prfScrollVal: Overflow"}};
+        {"prfScrollVal", " ", "prfScrollVal: Type mismatch in memory"},
+        {"prfScrollVal", "32768", "prfScrollVal: Overflow in memory"}};
     for (const auto& [key, text, result] : rows)
         EXPECT_EQ(afterOneRun(key, text), result) << key << "=" << text;
 }
