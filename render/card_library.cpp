@@ -23,7 +23,10 @@ void CardLibrary::cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int3
     if (!m_ready)
         throw RunTimeError("The card library is closed");
     const bool isFace = drawMode == drawFace && cardNumber >= 0 && cardNumber < 52;
-    const bool isBack = drawMode == drawBack && cardNumber >= firstBack && cardNumber <= lastBack;
+    const bool isBack = drawMode == drawBack;
+    // An edited settings file can name a back that does not exist.
+    if (isBack && (cardNumber < firstBack || cardNumber > lastBack))
+        cardNumber = usualBack;
     if (isFace || isBack)
         dc.drawPixels(card(cardNumber, dc.scale()), QPointF(x, y));
 }

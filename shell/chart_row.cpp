@@ -1,6 +1,7 @@
 #include "shell/chart_row.h"
 
 #include "platform/colour_contrast.h"
+#include "platform/desktop_colours.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -121,6 +122,9 @@ void ChartRow::changeEvent(QEvent* event)
 
 QColor colorOf(std::uint32_t bgr)
 {
+    constexpr std::uint32_t namesDesktopColour = 0x80000000;
+    if ((bgr & namesDesktopColour) != 0)
+        return desktopColour(bgr & ~namesDesktopColour);
     return {static_cast<int>(bgr & 0xff), static_cast<int>((bgr >> 8) & 0xff),
             static_cast<int>((bgr >> 16) & 0xff)};
 }

@@ -31,7 +31,8 @@ private:
     ChartRowState m_state = ChartRowState::base;
 };
 
-// A colour 0x00BBGGRR.
+// A colour 0x00BBGGRR; with the top bit set, the one that the desktop has under the number in the
+// rest.
 [[nodiscard]] QColor colorOf(std::uint32_t bgr);
 // The same way back.
 [[nodiscard]] std::uint32_t bgrOf(const QColor& color);

@@ -47,6 +47,21 @@ TEST(HandInWindow, aHeldCardIsOutlined)
     EXPECT_EQ(game.picture(), before);
 }
 
+TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
+{
+    PlayedWindow usual;
+    ASSERT_TRUE(usual.start());
+    const QImage table = usual.picture();
+    PlayedWindow odd;
+    odd.store.texts["prfPKBackFace"] = "40";               // no such back
+    odd.store.texts["prfCardOutlineColor"] = "&H80000008"; // the text of the desktop's windows
+    ASSERT_TRUE(odd.start());
+    EXPECT_EQ(odd.picture(), table);
+    odd.clickCard(0);
+    EXPECT_TRUE(outlined(odd, 0, QGuiApplication::palette().color(QPalette::WindowText)));
+    EXPECT_EQ(odd.window->prfPKBackFace, 40) << "what is stored stays";
+}
+
 TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
 {
     PlayedWindow game;
