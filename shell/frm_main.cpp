@@ -15,6 +15,8 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
+#include <QWindow>
 
 namespace quillet
 {
@@ -140,6 +142,36 @@ void frmMain::closeEvent(QCloseEvent* event)
 {
     Form_Unload();
     event->accept();
+}
+
+// A window manager that is about to fill the screen may move the window first and tell of its state
+// afterwards, so a place counts only when it has lasted.
+void frmMain::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    const QPoint place = geometry().topLeft();
+    if (m_comingBack) {
+        if (m_place && place != *m_place)
+            windowHandle()->setPosition(*m_place);
+        return;
+    }
+    constexpr int lasting = 250; // milliseconds
+    QTimer::singleShot(lasting, this, [this, place] {
+        const bool filling = isMaximized() || isFullScreen() || isMinimized();
+        if (isVisible() && !filling && !m_comingBack && geometry().topLeft() == place)
+            m_place = place;
+    });
+}
+
+// A window that is shown anew is placed anew, some time after that. For a moment it insists on the
+// place where it was.
+void frmMain::comeBack()
+{
+    constexpr int insistence = 1000; // milliseconds
+    if (m_place)
+        windowHandle()->setPosition(*m_place);
+    m_comingBack = true;
+    QTimer::singleShot(insistence, this, [this] { m_comingBack = false; });
 }
 
 void frmMain::resizeEvent(QResizeEvent* event)

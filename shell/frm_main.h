@@ -79,6 +79,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -103,6 +104,7 @@ private:
     void setOuterSize(QSizeF twips);
     void placeChartAndStatusBar();
     void widenToMinimum();
+    void comeBack();
     void showAndWaitUntilExposed();
     [[nodiscard]] TableMeasures measures() const;
     void followScale();
@@ -159,8 +161,10 @@ private:
     ChartPanel* picPokerLabels = nullptr; // children of the window
     StatusBar* picStatusBar = nullptr;
 
-    QSizeF m_outerSize;          // twips
-    QString m_backgroundVersion; // of the file and the scale that thePic was read for
+    bool m_comingBack = false;     // from a state that was forced on the window
+    std::optional<QPoint> m_place; // of the inner area on the screen, where it was left
+    QSizeF m_outerSize;            // twips
+    QString m_backgroundVersion;   // of the file and the scale that thePic was read for
     bool inLayout = false;
     bool calibrateDelays = false;
     bool m_firstHandStarted = false;

@@ -48,12 +48,9 @@ void frmMain::Form_Resize()
 {
     guarded(m_desktop.errorBox, "Form_Resize", [this] {
         if (isMaximized() || isFullScreen()) {
-            // Shown anew, a window is placed anew unless it says where it was.
-            const QRect place = normalGeometry();
             hide();
-            if (place.isValid())
-                setGeometry(QRect(place.topLeft(), size()));
             showNormal();
+            comeBack();
         }
         if (isMinimized() || isMaximized())
             return;

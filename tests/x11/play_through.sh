@@ -176,6 +176,7 @@ keys alt+h ctrl+a
 xdotool type --delay 30 '#0080ff'
 keys Return
 wait_for 10 "the preferences again" active_is Preferences
+keys Tab # from the button that opened the chooser to "Save"
 save_preferences
 outline='#0080FF'
 wait_for 5 "the hand after the dialog" hand_waits
@@ -212,6 +213,7 @@ cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
 start
 xdotool windowmove "$window" 60 40
 wait_for 5 "the move" moved_from "$left,$top"
+sleep 1 # only a place that lasts is the window's own
 place=$(place_of_window)
 for state in fullscreen maximized_vert,maximized_horz; do
     wmctrl -i -r "$window" -b "add,$state"
