@@ -15,10 +15,6 @@ namespace quillet
 namespace
 {
 
-// The slowest delay that the slider can set. A larger one can only come out of an edited settings
-// file, where it would stop the game for hours: no event is handled during a flight.
-constexpr std::int32_t slowestDelay = 6000;
-
 // How far a frame's copy reaches past the card, over the place that the card has left.
 constexpr int trail = 10;
 
@@ -34,12 +30,6 @@ std::int16_t pixelsToTravel(std::int64_t distance)
     return static_cast<std::int16_t>(distance);
 }
 
-void waitAfterFrame(std::int32_t delay)
-{
-    const bool counts = delay <= longestDelay;
-    countingLoop(counts ? std::min(delay, slowestDelay) : delay);
-}
-
 int frameCount(std::int16_t pixels, std::int16_t stepSize)
 {
     if (stepSize == 0)
@@ -49,6 +39,12 @@ int frameCount(std::int16_t pixels, std::int16_t stepSize)
 }
 
 } // namespace
+
+std::int32_t delayFlown(std::int32_t storedDelay)
+{
+    constexpr std::int32_t slowestOfTheSlider = 6000;
+    return storedDelay <= longestDelay ? std::min(storedDelay, slowestOfTheSlider) : storedDelay;
+}
 
 // The longer axis moves by whole steps, the other follows in fractions. Equal distances count as
 // a path along y that moves both axes alike.
@@ -106,7 +102,7 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
             exactMinor += minorStep;
             minor = static_cast<std::int32_t>(std::floor(exactMinor));
             drawFrame(fromX, fromY, path, cardNumber, drawMode);
-            waitAfterFrame(m_preferences.prfAnimationDelay);
+            countingLoop(delayFlown(m_preferences.prfAnimationDelay));
         }
         land(toX, toY);
     });

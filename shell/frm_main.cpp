@@ -16,6 +16,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace quillet
@@ -39,7 +40,12 @@ frmMain::frmMain(Desktop& desktop)
     m_pictures.canvas->setObjectName(QStringLiteral("table"));
     m_pictures.canvas->setAccessibleName(tr("Card table"));
     m_pictures.canvas->setFocusPolicy(Qt::ClickFocus);
-    setCentralWidget(m_pictures.canvas);
+    // A tiling window manager may give the window more room than the table has.
+    auto* middle = new QWidget(this);
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_pictures.canvas, 0, Qt::AlignCenter);
+    setCentralWidget(middle);
     makeMenus();
     makeBoxes();
     picPokerLabels = new ChartPanel(m_chart, m_pictures.canvas);
@@ -187,7 +193,7 @@ void frmMain::changeEvent(QEvent* event)
         Form_Resize();
 }
 
-// Seen only where a tiling window manager gives the window more room than the table has.
+// Seen only around the table, where the window has more room than that.
 void frmMain::paintEvent(QPaintEvent* event)
 {
     QPainter(this).fillRect(event->rect(), Qt::black);

@@ -5,6 +5,7 @@
 #include "tests/engine/card_text.h"
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <string>
 #include <vector>
@@ -36,6 +37,7 @@ class FakeTable : public HandTable, public CueOutput, public ErrorBox
 {
 public:
     explicit FakeTable(HandState& handState) : state(handState) {}
+    ~FakeTable() override { EXPECT_TRUE(m_due.empty()) << "input whose moment never came"; }
 
     // Runs the act when the virtual clock has come so many milliseconds further.
     void in(int milliseconds, std::function<void()> act);

@@ -1,3 +1,4 @@
+#include "render/card_flight.h"
 #include "render/delay_calibration.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +94,13 @@ TEST(DelayCalibration, theSliderFollowsTheDelay)
     for (const auto& [delay, value] :
          {std::pair{0, 1000}, {500, 500}, {510, 400}, {750, 400}, {760, 250}})
         EXPECT_EQ(scrollValueFor(delay), value) << delay;
+}
+
+TEST(DelayCalibration, noFlightIsSlowerThanTheSliderCanSet)
+{
+    for (const auto& [stored, flown] :
+         {std::pair{0, 0}, {6000, 6000}, {6001, 6000}, {2147483, 6000}, {2147484, 2147484}})
+        EXPECT_EQ(delayFlown(stored), flown);
 }
 
 } // namespace quillet::test

@@ -70,8 +70,8 @@ TEST_F(ExitScreenTest, aDoubleClickOpensTwiceOnALinkLabelAndOnceOnTheFooter)
 
 TEST_F(ExitScreenTest, everyWayOutUnloadsOnceAndTheButtonsEnd)
 {
-    runWith([this] { click(control(window, "Command1")); });
     runWith([this] { QTest::keyClick(window.windowHandle(), Qt::Key_Return); });
+    runWith([this] { click(control(window, "Command1")); });
     runWith([this] { window.windowHandle()->close(); });
     runWith([this] { QTest::keyClick(window.windowHandle(), Qt::Key_Escape); });
     runWith([this] { click(control(window, "cmdOK")); });
