@@ -1,0 +1,38 @@
+#!/bin/bash
+# bare-root.sh RELEASE [FOLDER]: makes a bare system of a Debian release, bookworm or trixie, in the
+# folder (by default below build/), copies what is committed into it, and runs ./play and ./check
+# there, as a newcomer would on a fresh machine. Run it as root; it needs debootstrap. A folder that
+# holds such a system already is used again with all that was installed in it.
+set -euo pipefail
+cd -- "$(dirname -- "$(readlink -f -- "$0")")/.."
+
+release=${1:?"say which release: bookworm or trixie"}
+root=$(readlink -m -- "${2:-build/bare-$release}")
+mirror=$(grep -rhoE 'https?://[^ ]+/debian/?( |$)' /etc/apt/sources.list /etc/apt/sources.list.d |
+    head -n 1)
+mirror=${mirror:-http://deb.debian.org/debian}
+
+[ "$(id -u)" -eq 0 ] || { echo "Only root can make a system of its own." >&2; exit 1; }
+command -v debootstrap >/dev/null || { echo "Please install debootstrap." >&2; exit 1; }
+
+if [ ! -x "$root/usr/bin/apt-get" ]; then
+    mkdir -p "$root"
+    debootstrap --variant=minbase "$release" "$root" "${mirror%% }"
+fi
+
+# What a machine has and a bare folder lacks: the network's names, and the kernel's file systems.
+cp -L /etc/resolv.conf "$root/etc/resolv.conf"
+cp -rL /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/"
+for system in proc dev dev/pts dev/shm; do
+    mountpoint -q "$root/$system" || mount --bind "/$system" "$root/$system"
+done
+trap 'for system in dev/shm dev/pts dev proc; do umount "$root/$system" || true; done' EXIT
+
+rm -rf "$root/quillet"
+git clone --quiet --no-hardlinks . "$root/quillet"
+for command in ./play ./check; do
+    echo "== $release: $command"
+    time chroot "$root" env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin \
+        bash -c "cd /quillet && $command"
+done
+echo "$release: both passed."
