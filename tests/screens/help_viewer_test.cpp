@@ -95,7 +95,7 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
 TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
 {
     HelpViewer& viewer = present(helpWithTwoSections());
-    const auto& message = control<QLabel>(viewer, "helpMessage");
+    auto& message = control<QLabel>(viewer, "helpMessage");
     const auto found = [&] { return pageOf(viewer).textCursor().selectionStart(); };
 
     press(viewer, Qt::Key_F, Qt::ControlModifier);
