@@ -8,8 +8,8 @@ cd -- "$(dirname -- "$(readlink -f -- "$0")")/.."
 
 release=${1:?"say which release: bookworm or trixie"}
 root=$(readlink -m -- "${2:-build/bare-$release}")
-mirror=$(grep -rhoE 'https?://[^ ]+/debian/?( |$)' /etc/apt/sources.list /etc/apt/sources.list.d |
-    head -n 1)
+# The mirror that this machine uses itself.
+mirror=$(grep -rhoE 'https?://[^ ]+/debian/?( |$)' /etc/apt/sources.list* | head -n 1 || true)
 mirror=${mirror:-http://deb.debian.org/debian}
 
 [ "$(id -u)" -eq 0 ] || { echo "Only root can make a system of its own." >&2; exit 1; }

@@ -9,7 +9,7 @@ namespace
 {
 
 // Notes of the scale of C, in hertz.
-constexpr double c3 = 130.81, e3 = 164.81, g3 = 196.00, a3 = 220.00, c4 = 261.63, c5 = 523.25,
+constexpr double c4 = 261.63, e4 = 329.63, f4 = 349.23, g4 = 392.00, a4 = 440.00, c5 = 523.25,
                  e5 = 659.26, g5 = 783.99, c6 = 1046.50, e6 = 1318.51, g6 = 1567.98;
 
 // Heard ten times a hand, so it is short, dark and soft: a card's edge touches the felt, the card
@@ -20,9 +20,9 @@ SoundBuffer deal()
     puff(buffer, {0.000, 2300, 0.8, 1.1, 0.0015, 0.030, -0.1});
     puff(buffer, {0.002, 620, 0.7, 2.6, 0.0020, 0.060, 0.1});
     puff(buffer, {0.004, 1500, 0.6, 0.75, 0.0120, 0.110, 0.2});
-    strike(buffer, {0.0015, 172, 0.85, 0}, std::vector{Mode{1, 1, 0.085}, Mode{1.9, 0.4, 0.05}});
-    soften(buffer, 1.6);
-    finish(buffer, 30, -5.2);
+    strike(buffer, {0.0015, 330, 0.75, 0}, std::vector{Mode{1, 1, 0.085}, Mode{1.9, 0.4, 0.05}});
+    soften(buffer, 2.2);
+    finish(buffer, 30, -4);
     return buffer;
 }
 
@@ -30,30 +30,31 @@ SoundBuffer deal()
 SoundBuffer wrong()
 {
     SoundBuffer buffer(380);
-    strikeWood(buffer, {0.000, a3, 1.0, -0.15});
-    strikeWood(buffer, {0.120, e3, 1.1, 0.15});
-    finish(buffer, 60, -4);
+    strikeWood(buffer, {0.000, a4, 1.0, -0.15});
+    strikeWood(buffer, {0.140, e4, 1.1, 0.15});
+    finish(buffer, 60, -3.3);
     return buffer;
 }
 
-// One dull knock across three bars, not quite together.
+// The wrong cues lie as low as a laptop's speaker reaches: from 300 Hz on.
+// One dull knock across two neighbouring bars, not quite together.
 SoundBuffer wrong2()
 {
-    SoundBuffer buffer(280);
-    strikeWood(buffer, {0.000, g3, 0.9, -0.1});
-    strikeWood(buffer, {0.012, c4, 0.5, 0.1});
-    strikeWood(buffer, {0.012, c3, 0.7, 0});
-    finish(buffer, 60, -4);
+    SoundBuffer buffer(230);
+    strikeWood(buffer, {0.000, g4, 0.9, -0.1});
+    strikeWood(buffer, {0.012, f4, 0.8, 0.1});
+    finish(buffer, 60, -3.3);
     return buffer;
 }
 
-// The same low bar knocked twice.
+// The same low bar knocked three times, as on a door.
 SoundBuffer wrong3()
 {
     SoundBuffer buffer(340);
-    strikeWood(buffer, {0.000, g3, 0.9, 0.15});
-    strikeWood(buffer, {0.105, g3, 1.0, -0.15});
-    finish(buffer, 60, -4);
+    strikeWood(buffer, {0.000, e4, 0.9, 0.15});
+    strikeWood(buffer, {0.080, e4, 0.9, -0.15});
+    strikeWood(buffer, {0.160, e4, 1.0, 0});
+    finish(buffer, 60, -3.3);
     return buffer;
 }
 
@@ -64,7 +65,7 @@ SoundBuffer pokerWin1()
     SoundBuffer buffer(195);
     pluckHarp(buffer, {0.000, c5, 0.8, -0.2});
     pluckHarp(buffer, {0.055, g5, 1.0, 0.2});
-    finish(buffer, 60, -5.8);
+    finish(buffer, 60, -5.9);
     return buffer;
 }
 
@@ -74,7 +75,7 @@ SoundBuffer pokerWin2()
     pluckHarp(buffer, {0.000, c5, 0.8, -0.3});
     pluckHarp(buffer, {0.070, g5, 0.85, 0});
     pluckHarp(buffer, {0.140, c6, 1.0, 0.3});
-    finish(buffer, 100, -5.5);
+    finish(buffer, 100, -5.9);
     return buffer;
 }
 
@@ -88,7 +89,7 @@ SoundBuffer pokerWin3()
     pluckHarp(buffer, {0.165, c6, 0.75, 0.2});
     pluckHarp(buffer, {0.220, e6, 0.85, 0.4});
     strikeBell(buffer, {0.220, g6, 0.16, -0.3});
-    finish(buffer, 110, -5);
+    finish(buffer, 110, -4.2);
     return buffer;
 }
 

@@ -127,7 +127,7 @@ void pluckHarp(SoundBuffer& buffer, const Note& note)
 
 void strikeWood(SoundBuffer& buffer, const Note& note)
 {
-    constexpr std::array modes{Mode{1, 1, 0.26}, Mode{2.02, 0.28, 0.13}, Mode{3.93, 0.16, 0.07},
+    constexpr std::array modes{Mode{1, 1, 0.40}, Mode{2.02, 0.45, 0.26}, Mode{3.93, 0.16, 0.09},
                                Mode{9.2, 0.03, 0.02}};
     strike(buffer, note, modes);
     puff(buffer, {note.start, 520, 1.1, note.level * 0.9, 0.001, 0.030, note.place});
