@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace quillet
 {
 
@@ -84,6 +86,7 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
         box->copyTableBehind();
     m_pictures.BoardBuffer = canvas.kept();
     paintFrame({chartFrame(table)});
+    paintChartEdge(table);
 
     m_pile.DrawDealDeck(backNumber);
     layHatches();
@@ -119,6 +122,21 @@ void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
         stretch(m_pictures.canvas->keptForDrawing(), piece, place.rect);
         stretch(m_pictures.BoardBuffer, piece, place.rect);
     }
+}
+
+// The piece at the chart's left turns its gilt edge to the table. The chart gets one as well: the
+// inner end of the frame's left piece, which looks the other way.
+void TablePainter::paintChartEdge(const TableMeasures& table)
+{
+    constexpr double edge = 4; // logical pixels
+    const QImage& left = m_pictures.framePieces[static_cast<std::size_t>(FramePiece::picSide1)];
+    const int width = static_cast<int>(std::lround(left.width() * edge / frameSideWidth));
+    const QRectF piece = chartFrame(table).rect;
+    const QRectF place(piece.right() - edge, piece.top(), edge, piece.height());
+    if (m_chartEdge.isNull())
+        m_chartEdge = left.copy(left.width() - width, 0, width, left.height());
+    stretch(m_pictures.canvas->keptForDrawing(), m_chartEdge, place);
+    stretch(m_pictures.BoardBuffer, m_chartEdge, place);
 }
 
 void TablePainter::stretch(Surface& surface, const QImage& picture, const QRectF& to)

@@ -34,6 +34,7 @@ private:
     void placeDeck(const TableMeasures& table);
     void placeCards(const TableMeasures& table);
     void paintFrame(const std::vector<FramePlace>& frame);
+    void paintChartEdge(const TableMeasures& table);
     void stretch(Surface& surface, const QImage& picture, const QRectF& to);
     void copyTableBehind(OffScreenBox& box);
     void layHatches();
@@ -41,6 +42,8 @@ private:
     TablePictures& m_pictures;
     CardLibrary& m_library;
     DeckPile& m_pile;
+
+    QImage m_chartEdge; // in the pixels of the frame's pieces
 
     // Pictures stretched to device pixels, which costs more than all else, by picture and size.
     using StretchKey = std::tuple<qint64, int, int>;

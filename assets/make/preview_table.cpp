@@ -35,7 +35,7 @@ void paintCards(QPainter& painter)
     for (const QRectF& place : cardPlaces())
         painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     painter.setBrush(QColor(0x24, 0x3c, 0x7a));
-    painter.drawRoundedRect(QRectF(deckPlace.topLeft(), QSizeF(96, 130)), 6, 6);
+    painter.drawRoundedRect(QRectF(deckSeen.topLeft(), QSizeF(96, 130)), 6, 6);
 }
 
 } // namespace

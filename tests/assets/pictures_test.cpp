@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace quillet::test
 {
 
@@ -33,6 +35,22 @@ QByteArray content(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The mean difference of two pictures' colours, 0 to 255. Another release of the toolkit may draw
+// an edge a shade differently.
+double difference(const QString& one, const QString& other)
+{
+    if (one.endsWith(".svg"))
+        return content(one) == content(other) ? 0 : 255;
+    const QImage first = QImage(one).convertToFormat(QImage::Format_ARGB32);
+    const QImage second = QImage(other).convertToFormat(QImage::Format_ARGB32);
+    if (first.isNull() || first.size() != second.size())
+        return 255;
+    double sum = 0;
+    for (qsizetype i = 0; i < first.sizeInBytes(); ++i)
+        sum += std::abs(first.constBits()[i] - second.constBits()[i]);
+    return sum / static_cast<double>(first.sizeInBytes());
 }
 
 QRect inPixels(const QRectF& place)
@@ -61,7 +79,7 @@ TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
     const QStringList written = filesBelow(folder.path());
     EXPECT_EQ(written, filesBelow(assets));
     for (const QString& name : written)
-        EXPECT_TRUE(content(folder.filePath(name)) == content(assets.filePath(name)))
+        EXPECT_LT(difference(folder.filePath(name), assets.filePath(name)), 1)
             << name.toStdString();
 }
 
@@ -74,7 +92,7 @@ TEST(Tables, letEveryCardEdgeStandOut)
         const QImage table(tables.filePath(name));
         EXPECT_EQ(table.size(), QSize(1600, 880));
         EXPECT_EQ(table.dotsPerMeterX(), 7559) << "twice its size";
-        EXPECT_GE(whiteEdgeContrast(table, inPixels(deckPlace)), 3);
+        EXPECT_GE(whiteEdgeContrast(table, inPixels(deckSeen)), 3);
         for (const QRectF& place : cardPlaces())
             EXPECT_GE(whiteEdgeContrast(table, inPixels(place)), 3) << place.left();
     }

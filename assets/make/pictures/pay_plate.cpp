@@ -57,7 +57,7 @@ void paintTitle(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
 }
 
 // Dots from the name of a hand to its credits. All lines share one grid, so that their dots stand
-// in columns.
+// in columns, each in the middle of a pixel.
 void addLeader(QPainterPath& dots, double from, double to, double gridRight, double y)
 {
     constexpr double apart = 5;
@@ -85,8 +85,8 @@ void paintLines(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
         inlay(canvas, hand.translated(left - hand.boundingRect().left(), baseline), material);
         inlay(canvas, credits.translated(creditsLeft - credits.boundingRect().left(), baseline),
               material);
-        addLeader(dots, handRight, creditsLeft, right - 42, baseline - 1);
-        baseline += 19.5;
+        addLeader(dots, handRight, creditsLeft, right + 0.5, baseline - 1.5);
+        baseline += 19;
     }
     Color dim = ornament.metal.dark;
     dim.a = 0.75F;

@@ -52,7 +52,7 @@ void paintLines(Canvas& canvas, const InlayMaterial& metal)
 // A fine frame round the deck, so that its place is there when the deck is in the air.
 void paintDeckFrame(Canvas& canvas, const InlayMaterial& metal)
 {
-    const QRectF frame = deckPlace.adjusted(-7, -7, 7, 7);
+    const QRectF frame = deckSeen.adjusted(-9, -9, 9, 9);
     inlay(canvas, between(scoopedPath(frame, 4), scoopedPath(frame.adjusted(1, 1, -1, -1), 4)),
           metal);
 }

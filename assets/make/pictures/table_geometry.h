@@ -12,8 +12,8 @@ inline constexpr QSize tableSize{800, 440};
 inline constexpr double tableScale = 2; // the pictures are kept at twice their size
 
 inline constexpr QRectF playField{20, 21, 579, 400};
-inline constexpr double trayTop = 275;
-inline constexpr QRectF deckPlace{200.6, 91.25, 105.6, 143};
+inline constexpr double trayTop = 277; // as far above the cards as the field ends below them
+inline constexpr QRectF deckSeen{201, 91, 102, 133}; // the pile of four, not its box
 inline constexpr QRectF emblemArea{23, 24, 168, 248};
 inline constexpr QRectF payPlate{326, 34, 262, 228};
 
