@@ -36,6 +36,12 @@ unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
 mkdir -p "$HOME"
 settings=$XDG_CONFIG_HOME/Quillet/settings.ini
 
+# Nothing here leads to a page.
+mkdir "$scratch/bin"
+printf '#!/bin/sh\necho "$@" >>"%s/opened"\n' "$scratch" >"$scratch/bin/xdg-open"
+chmod +x "$scratch/bin/xdg-open"
+export PATH=$scratch/bin:$PATH
+
 exec {server}<> <(:)
 Xvfb -displayfd "$server" -screen 0 1100x800x24 -nolisten tcp 2>"$scratch/xvfb.log" &
 pids+=($!)
@@ -241,5 +247,6 @@ kill -9 "$game"
 wait "$game" 2>/dev/null
 cmp "$settings" "$scratch/first.ini" || fail "a killed program changed the settings"
 
+[[ -e $scratch/opened ]] && fail "a page was opened: $(cat "$scratch/opened")"
 [[ -s $scratch/program.log ]] && fail "the program spoke: $(cat "$scratch/program.log")"
 echo "passed in $SECONDS s"
