@@ -7,8 +7,8 @@ namespace quillet
 {
 
 // Fills the preferences from the store. A text that its field cannot hold throws a RunTimeError
-// that names key, cause and place; the fields read before it keep their new values and the others the
-// ones they had.
+// that names key, cause and place; the fields read before it keep their new values and the others
+// the ones they had.
 //
 // A truth value is false for the exact text "False" only. The outline colour never throws: a
 // text that is no colour gives green.

@@ -4,8 +4,9 @@
 #include "engine/hand_controller.h"
 #include "tests/engine/card_text.h"
 
-#include <functional>
 #include <gtest/gtest.h>
+
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>

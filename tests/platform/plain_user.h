@@ -19,10 +19,7 @@ public:
 private:
     static constexpr uid_t nobody = 65534;
 
-    static void become(uid_t user)
-    {
-        EXPECT_TRUE(::getuid() != 0 || ::seteuid(user) == 0);
-    }
+    static void become(uid_t user) { EXPECT_TRUE(::getuid() != 0 || ::seteuid(user) == 0); }
 };
 
 } // namespace quillet::test

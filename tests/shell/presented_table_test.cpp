@@ -83,12 +83,19 @@ private:
         auto frame = tableFrame(table);
         frame.push_back(chartFrame(table));
         const char* names[] = {"top", "bottom", "side1", "side2"};
-        for (const FramePlace& place : frame) {
-            const QImage piece(QString(":/frame/%1.png").arg(names[int(place.piece)]));
-            const QRect to = deviceRect(place.rect, m_scale);
+        const auto paintPiece = [this](const QImage& piece, const QRectF& place) {
+            const QRect to = deviceRect(place, m_scale);
             paint(piece.scaled(to.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
                   to.topLeft());
-        }
+        };
+        for (const FramePlace& place : frame)
+            paintPiece(QImage(QString(":/frame/%1.png").arg(names[int(place.piece)])), place.rect);
+        // The gilt edge of the left piece, at the chart's.
+        const QImage left(":/frame/side1.png");
+        const QImage edge = left.copy(left.width() * 9 / 13, 0, left.width(), left.height());
+        const QRectF beside = frame.back().rect;
+        paintPiece(edge.copy(0, 0, left.width() * 4 / 13, left.height()),
+                   {beside.right() - 4, 0, 4, beside.height()});
         // Status bar and chart lie over the frame, and beside the bar it is black.
         QPainter painter(&m_picture);
         painter.translate(origin());
