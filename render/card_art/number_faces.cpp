@@ -13,9 +13,10 @@ namespace quillet
 namespace
 {
 
-constexpr double indexCentre = 12;
+constexpr double indexCentre = 10.5;
 constexpr double indexTop = 7;
-constexpr double indexPipHeight = 15;
+// Clearly of two sizes, and well apart, so that nobody counts the index among the pips.
+constexpr double indexPipHeight = 14;
 constexpr double bodyPipHeight = 18;
 
 // Body pips on the grid. Those of the upper half have a turned partner in the lower one, those
@@ -25,9 +26,9 @@ struct PipLayout {
     std::vector<QPointF> alone;
 };
 
-constexpr double left = 30.5;
+constexpr double left = 31;
 constexpr double middle = 48;
-constexpr double right = 65.5;
+constexpr double right = 65;
 constexpr double top = 22;
 constexpr double upperThird = 50.7;
 constexpr double centre = 65;
