@@ -38,7 +38,7 @@ constexpr std::array<std::array<Roles, 4>, 3> rolesOf = {{
     {{{blue, gold, gold, black, blue},
       {red, blue, gold, gold, blue},
       {red, gold, white, gold, red},
-      {black, blue, gold, black, blue}}},
+      {black, red, gold, gold, black}}},
     {{{blue, red, gold, black, red},
       {red, blue, gold, gold, blue},
       {red, gold, white, gold, red},
