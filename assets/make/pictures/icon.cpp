@@ -50,14 +50,15 @@ void addQuill(FlatDrawing& drawing, const Quill& feather, double outline, bool f
 FlatDrawing fullDrawing()
 {
     FlatDrawing drawing{64, {}};
-    addCard(drawing, {7, 9, 33, 46}, 4, -13, 1.5, paper);
-    const QTransform turned = QTransform::fromTranslate(23.5, 32).rotate(-13).translate(-23.5, -32);
-    drawing.shapes.push_back({turned.map(roundedPath({11, 13, 25, 38}, 2)), wine});
-    addCard(drawing, {20, 9, 35, 49}, 4.2, 7, 1.5, paper);
+    // The quill points as it does on the table.
+    addCard(drawing, {27, 12, 30, 40}, 4, 13, 1.5, paper);
+    const QTransform turned = QTransform::fromTranslate(42, 32).rotate(13).translate(-42, -32);
+    drawing.shapes.push_back({turned.map(roundedPath({31, 16, 22, 32}, 2)), wine});
+    addCard(drawing, {9, 9, 35, 49}, 4.2, -7, 1.5, paper);
     const QTransform leaning =
-        QTransform::fromTranslate(37.5, 33.5).rotate(7).translate(-37.5, -33.5);
-    drawing.shapes.push_back({leaning.map(suitMark(Suit::heart, {37, 23}, 20)), suitRed});
-    addQuill(drawing, quill({9, 61.5}, {61.8, 25}, 1.15), 1.2, true);
+        QTransform::fromTranslate(26.5, 33.5).rotate(-7).translate(-26.5, -33.5);
+    drawing.shapes.push_back({leaning.map(suitMark(Suit::heart, {27, 23}, 20)), suitRed});
+    addQuill(drawing, quill({55, 61.5}, {2.2, 25}, 1.15), 1.2, true);
     return drawing;
 }
 
@@ -74,10 +75,10 @@ struct SmallIcon {
 };
 
 const std::array smallIcons{
-    SmallIcon{16, {}, {1, 0, 13, 16}, 2, {6.5, 5.5}, 7, {2.6, 15.6}, {15.6, 5.6}},
-    SmallIcon{22, {1, 0, 14, 19}, {5, 2, 15, 20}, 2.4, {12, 8.5}, 8.5, {4, 21.6}, {21.6, 8.5}},
-    SmallIcon{24, {1, 0, 16, 21}, {5, 2, 17, 22}, 2.4, {13, 9}, 9.5, {4, 23.6}, {23.6, 9.5}},
-    SmallIcon{32, {2, 1, 20, 27}, {8, 3, 21, 28}, 3, {17.5, 12}, 12.5, {5, 31.4}, {31.5, 12.5}},
+    SmallIcon{16, {}, {2, 0, 13, 16}, 2, {9.5, 5.5}, 7, {13.4, 15.6}, {0.4, 5.6}},
+    SmallIcon{22, {7, 0, 14, 19}, {2, 2, 15, 20}, 2.4, {10, 8.5}, 8.5, {18, 21.6}, {0.4, 8.5}},
+    SmallIcon{24, {7, 0, 16, 21}, {2, 2, 17, 22}, 2.4, {11, 9}, 9.5, {20, 23.6}, {0.4, 9.5}},
+    SmallIcon{32, {10, 1, 20, 27}, {3, 3, 21, 28}, 3, {14.5, 12}, 12.5, {27, 31.4}, {0.5, 12.5}},
 };
 
 FlatDrawing smallDrawing(const SmallIcon& small)
