@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace
 {
@@ -45,13 +46,14 @@ QImage sheetAt(int scale)
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: contact_sheet FOLDER\n");
+    const int scale = argc == 3 ? std::atoi(argv[2]) : 0;
+    if (scale != 1 && scale != 2) {
+        std::fprintf(stderr, "usage: contact_sheet FOLDER SCALE\n");
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
-    const bool written = sheetAt(1).save(folder.filePath("cards.png")) &&
-                         sheetAt(2).save(folder.filePath("cards@2x.png"));
+    const char* name = scale == 1 ? "cards.png" : "cards@2x.png";
+    const bool written = sheetAt(scale).save(folder.filePath(name));
     if (!written)
         std::fprintf(stderr, "contact_sheet: cannot write to %s\n", argv[1]);
     return written ? 0 : 1;
