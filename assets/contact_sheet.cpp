@@ -1,6 +1,6 @@
-// Writes every card face and back on one sheet, at scale 1 and 2, to look at the artwork:
-//   cmake --build --preset release --target contact_sheet && build/release/assets/contact_sheet
-//   docs
+// Writes every card face and back on one sheet, at scale 1 or 2, to look at the artwork:
+//   cmake --build --preset release --target contact_sheet
+//   build/release/assets/contact_sheet FOLDER 2
 
 #include "render/card_art/card_art.h"
 
