@@ -14,6 +14,10 @@ namespace quillet
 struct Request {
     bool help = false;
     bool csv = false;
+    bool rows = false;                      // every row that a chart can have
+    bool plays = false;                     // of the chart, deal by deal
+    std::string chartFile;                  // empty: no chart of the user's
+    std::optional<std::int64_t> bestChart;  // of how many rows
     std::string hand;                       // empty: the whole game
     std::optional<std::int64_t> simulation; // how many hands to play
     std::optional<std::uint64_t> seed;

@@ -1,11 +1,15 @@
+#include "charts/chart_search.h"
 #include "engine/random.h"
+#include "odds/chart_report.h"
 #include "odds/command_line.h"
 #include "odds/hand_text.h"
 #include "odds/reports.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -29,6 +33,15 @@ void showProgress(std::int64_t done, std::int64_t all)
         std::cerr << "\r" << std::string(width + 8, ' ') << "\r" << std::flush;
 }
 
+std::string contentOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string content((std::istreambuf_iterator<char>(file)), {});
+    if (!file)
+        throw std::runtime_error(path + " cannot be read");
+    return content;
+}
+
 void answer(const Request& request, std::ostream& out)
 {
     if (request.help) {
@@ -36,7 +49,22 @@ void answer(const Request& request, std::ostream& out)
         return;
     }
     const Format format = request.csv ? Format::csv : Format::text;
-    if (request.simulation) {
+    if (request.rows) {
+        reportRowKinds(out);
+    } else if (!request.chartFile.empty()) {
+        const HeldCards heldCards;
+        const charts::Chart chart = charts::parseChart(contentOf(request.chartFile));
+        if (request.plays)
+            reportPlays(out, heldCards, chart);
+        else
+            reportChart(out, chart, charts::priceChart(heldCards, chart), format);
+    } else if (request.bestChart) {
+        const HeldCards heldCards;
+        const charts::Chart chart = charts::ChartSearch(heldCards).best(
+            static_cast<std::size_t>(*request.bestChart),
+            [](double share) { showProgress(static_cast<std::int64_t>(share * 1000), 1000); });
+        writeChartFile(out, chart, charts::priceChart(heldCards, chart));
+    } else if (request.simulation) {
         const HeldCards heldCards;
         const std::int64_t hands = *request.simulation;
         BlendingRandom random([] { return std::uint64_t{0}; }, request.seed.value_or(1));
@@ -65,6 +93,9 @@ int main(int argc, char** argv)
             throw std::runtime_error("the answer could not be written");
     } catch (const BadUsage& error) {
         std::cerr << "quillet-odds: " << error.what() << "\nTry quillet-odds --help\n";
+        return 2;
+    } catch (const charts::BadChart& error) {
+        std::cerr << "quillet-odds: " << error.what() << "\n";
         return 2;
     } catch (const BadHand& error) {
         std::cerr << "quillet-odds: " << error.what() << "\n";

@@ -1,0 +1,84 @@
+#include "charts/chart_player.h"
+
+#include <bit>
+#include <cassert>
+
+namespace quillet::charts
+{
+
+HoldTable::HoldTable(const HeldCards& heldCards)
+{
+    const std::span<const Card> none;
+    m_facts.resize(heldCards.classes(), HoldFacts(none));
+    for (int size = 1; size <= 4; ++size) {
+        forEachClass(size, [&](const SuitSets& sets) {
+            const auto places = placesOf<5>(sets);
+            const auto held = std::span(places).first(static_cast<std::size_t>(size));
+            std::vector<Card> cards;
+            for (const DeckPlace place : held)
+                cards.push_back(cardAt(place));
+            m_facts[heldCards.classOf(held)] = HoldFacts(cards);
+        });
+    }
+}
+
+HoldFacts factsOf(const DealtHand& hand, Hold hold)
+{
+    std::array<Card, 5> cards;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        if ((hold >> i & 1U) != 0)
+            cards[count++] = cardAt(hand.places[i]);
+    }
+    return HoldFacts(std::span(cards).first(count));
+}
+
+ChartPlayer::ChartPlayer(const HoldTable& table, const Chart& chart) : m_chart(chart)
+{
+    assert(!chart.empty() && chart.size() <= mostRows && chart.back() == nothingRow());
+    m_rowsOfClass.reserve(table.classes());
+    for (std::size_t id = 0; id < table.classes(); ++id)
+        m_rowsOfClass.push_back(rowsThatFit(table.facts(static_cast<HeldCards::ClassId>(id))));
+}
+
+ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held) const
+{
+    RowSet rows = 0;
+    for (std::size_t row = 0; row < m_chart.size(); ++row) {
+        if (rowKinds()[m_chart[row]].fits(held))
+            rows |= RowSet{1} << row;
+    }
+    return rows;
+}
+
+Play ChartPlayer::play(const DealtHand& hand) const
+{
+    std::array<RowSet, holds> rows{};
+    RowSet any = 0;
+    for (Hold hold = 0; hold < holdAll; ++hold) {
+        rows[hold] = m_rowsOfClass[hand.classOfHold[hold]];
+        any |= rows[hold];
+    }
+    rows[holdAll] = rowsThatFit(factsOf(hand, holdAll));
+    any |= rows[holdAll];
+    for (; any != 0; any &= any - 1) {
+        Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};
+        for (Hold hold = 0; hold < holds; ++hold) {
+            if ((rows[hold] >> play.row & 1U) != 0 && allows(play.row, hand, hold))
+                play.fitting |= 1U << hold;
+        }
+        if (play.fitting != 0)
+            return play;
+    }
+    assert(false); // the last row fits every deal
+    return {};
+}
+
+bool ChartPlayer::allows(std::size_t row, const DealtHand& hand, Hold hold) const
+{
+    const RowKind& kind = rowKinds()[m_chart[row]];
+    return kind.allows == nullptr ||
+           kind.allows(factsOf(hand, hold), factsOf(hand, holdAll & ~hold));
+}
+
+} // namespace quillet::charts

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "charts/chart.h"
+#include "odds/dealt_hand.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace quillet::charts
+{
+
+// How a chart plays one deal.
+struct Play {
+    std::size_t row = 0;       // of the chart
+    std::uint32_t fitting = 0; // bit h is set when hold h fits that row
+};
+
+// Tells the facts of every set of cards that can be held, which are worked out once.
+class HoldTable
+{
+public:
+    explicit HoldTable(const HeldCards& heldCards);
+
+    [[nodiscard]] const HoldFacts& facts(HeldCards::ClassId id) const { return m_facts[id]; }
+    [[nodiscard]] std::size_t classes() const { return m_facts.size(); }
+
+private:
+    std::vector<HoldFacts> m_facts;
+};
+
+// Finds the row by which a chart plays a deal.
+class ChartPlayer
+{
+public:
+    ChartPlayer(const HoldTable& table, const Chart& chart);
+
+    [[nodiscard]] Play play(const DealtHand& hand) const;
+
+private:
+    using RowSet = std::uint64_t; // bit r for row r of the chart
+    static_assert(mostRows <= 64);
+
+    [[nodiscard]] RowSet rowsThatFit(const HoldFacts& held) const;
+    [[nodiscard]] bool allows(std::size_t row, const DealtHand& hand, Hold hold) const;
+
+    const Chart m_chart;
+    std::vector<RowSet> m_rowsOfClass;
+};
+
+// The facts of those cards of a deal that a hold keeps.
+[[nodiscard]] HoldFacts factsOf(const DealtHand& hand, Hold hold);
+
+} // namespace quillet::charts

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "engine/card.h"
+
+#include <span>
+
+namespace quillet::charts
+{
+
+// Ranks as a set of bits, bit 0 for the ace and bit 12 for the king.
+using RankSet = unsigned;
+
+inline constexpr RankSet ace = 1;
+inline constexpr RankSet ten = 1U << 9;
+inline constexpr RankSet jack = 1U << 10;
+inline constexpr RankSet queen = 1U << 11;
+inline constexpr RankSet king = 1U << 12;
+inline constexpr RankSet faces = jack | queen | king;
+inline constexpr RankSet highRanks = faces | ace;
+inline constexpr RankSet royalRanks = highRanks | ten;
+
+// What cards that are kept together show: all that the rows of a chart ask of them.
+struct HoldFacts {
+    explicit HoldFacts(std::span<const Card> cards);
+
+    // Cards of different ranks and of one suit.
+    [[nodiscard]] bool suitedRun(int count) const { return suited && run(count); }
+    // So many cards of different ranks that lie in one straight.
+    [[nodiscard]] bool run(int count) const { return cards == count && straights > 0; }
+
+    int cards = 0;
+    RankSet ranks = 0;
+    int alike = 0;         // the most cards of one rank
+    int pairs = 0;         // ranks of which there are two
+    bool highPair = false; // a pair of aces or faces
+    int high = 0;          // aces and faces
+    bool suited = true;    // all of one suit
+    bool follow = false;   // different ranks without a gap, the ace low
+    int straights = 0;     // how many of the ten straights have all these ranks; 0 with a pair
+};
+
+} // namespace quillet::charts

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "charts/hold_facts.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace quillet::charts
+{
+
+// One row that a chart can have: which cards it tells the player to keep. A hold fits it by the
+// cards kept; some rows also ask about those thrown away.
+struct RowKind {
+    std::string_view name;    // as it stands in a chart
+    std::string_view meaning; // one sentence
+    bool (*fits)(const HoldFacts& held);
+    bool (*allows)(const HoldFacts& held, const HoldFacts& discarded) = nullptr;
+};
+
+// Where a kind stands in the list of all kinds.
+using RowKindId = std::size_t;
+
+// Every row that a chart can have, in the order in which they are told to players. The last one
+// keeps nothing and fits every deal.
+[[nodiscard]] std::span<const RowKind> rowKinds();
+
+// The row that keeps nothing.
+[[nodiscard]] RowKindId nothingRow();
+
+// Upper and lower case and the number of blanks are all one.
+[[nodiscard]] std::optional<RowKindId> findRowKind(std::string_view name);
+
+// The names that are written most like this one, best first, no more than so many.
+[[nodiscard]] std::vector<std::string_view> nearestRowNames(std::string_view name,
+                                                            std::size_t most);
+
+} // namespace quillet::charts

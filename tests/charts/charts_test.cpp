@@ -1,0 +1,136 @@
+#include "charts/chart_price.h"
+#include "charts/chart_search.h"
+#include "odds/hand_text.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <numeric>
+#include <random>
+
+namespace quillet::charts::test
+{
+
+namespace
+{
+
+const HeldCards& heldCards()
+{
+    static const HeldCards theHeldCards;
+    return theHeldCards;
+}
+
+Chart trainersChart()
+{
+    std::ifstream file(QUILLET_CHARTS_FOLDER "/trainer.chart");
+    return parseChart(std::string((std::istreambuf_iterator<char>(file)), {}));
+}
+
+std::string complaintAbout(std::string_view text)
+{
+    try {
+        (void)parseChart(text);
+        return "none";
+    } catch (const BadChart& error) {
+        return error.what();
+    }
+}
+
+// The row and the holds that fit it, looked for without any table.
+Play playedByHand(const Chart& chart, const DealtHand& hand)
+{
+    for (std::size_t row = 0;; ++row) {
+        const RowKind& kind = rowKinds()[chart.at(row)];
+        Play play{row, 0};
+        for (Hold hold = 0; hold < holds; ++hold) {
+            const HoldFacts held = factsOf(hand, hold);
+            if (kind.fits(held) &&
+                (kind.allows == nullptr || kind.allows(held, factsOf(hand, holdAll & ~hold))))
+                play.fitting |= 1U << hold;
+        }
+        if (play.fitting != 0)
+            return play;
+    }
+}
+
+} // namespace
+
+TEST(Chart, isReadAsAPersonWritesIt)
+{
+    const Chart chart = parseChart("# mine\n  High  Pair # best\r\n\n2 high, suited\nnothing");
+    EXPECT_EQ(chartText(chart), "high pair\n2 high, suited\nnothing\n");
+    EXPECT_EQ(parseChart("high pair").size(), 2U) << "and nothing";
+    EXPECT_EQ(complaintAbout("ace\n4 to a flsh\n"),
+              "line 2: there is no row \"4 to a flsh\"; the nearest are \"4 to a flush\", "
+              "\"3 to a flush\", \"4 to a royal\"");
+    EXPECT_EQ(complaintAbout("# only\n"), "there is no row in it");
+    std::string long_chart;
+    for (int i = 0; i < 65; ++i)
+        long_chart += "ace\n";
+    EXPECT_EQ(complaintAbout(long_chart), "line 65: a chart has no more than 64 rows");
+    for (const RowKind& kind : rowKinds())
+        EXPECT_EQ(rowKinds()[*findRowKind(kind.name)].name, kind.name) << "twice";
+}
+
+TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
+{
+    const Chart chart = trainersChart();
+    int otherwise = 0;
+    forEachPlayedDeal(heldCards(), chart, [&otherwise](const PlayedDeal& deal) {
+        otherwise += deal.play.fitting != deal.hand.accepted ||
+                     static_cast<int>(deal.play.row) + 1 != deal.hand.chartCode;
+    });
+    EXPECT_EQ(otherwise, 0);
+    const ChartPrice price = priceChart(heldCards(), chart);
+    EXPECT_EQ(price.perfect.text(), "1653526326983/1661102543100");
+    EXPECT_EQ(price.returned[0].text(), "149999803741/151009322100");
+    EXPECT_EQ(price.returned[1].text(), "449889582859/453027966300");
+    EXPECT_EQ(price.returned[2].text(), "149944582453/151009322100");
+    std::int64_t deals = 0;
+    for (const RowPrice& row : price.rows)
+        deals += row.deals;
+    EXPECT_EQ(deals, 2598960);
+}
+
+TEST(Chart, playsByTheFirstRowThatFits)
+{
+    Chart every(rowKinds().size() - 31);
+    std::iota(every.begin(), every.end(), RowKindId{30});
+    std::mt19937 random(3);
+    const HoldTable table(heldCards());
+    for (int round = 0; round < 3; ++round) {
+        std::shuffle(every.begin(), every.end(), random);
+        Chart chart(every.begin(), every.begin() + 40);
+        chart.push_back(nothingRow());
+        const ChartPlayer player(table, chart);
+        for (int deal = 0; deal < 1000; ++deal) {
+            std::array<DeckPlace, 52> deck{};
+            std::iota(deck.begin(), deck.end(), DeckPlace{0});
+            std::shuffle(deck.begin(), deck.end(), random);
+            std::array<DeckPlace, 5> places{};
+            std::copy_n(deck.begin(), 5, places.begin());
+            std::ranges::sort(places);
+            const DealtHand hand(heldCards(), places);
+            const Play expected = playedByHand(chart, hand);
+            ASSERT_EQ(player.play(hand).row, expected.row) << holdText(places, holdAll);
+            ASSERT_EQ(player.play(hand).fitting, expected.fitting) << holdText(places, holdAll);
+        }
+    }
+}
+
+TEST(ChartSearch, findsChartsThatNoSingleChangeImproves)
+{
+    ChartSearch search(heldCards());
+    for (const auto& [rows, most] : {std::pair{12U, 0.49}, {21U, 0.0766}}) {
+        const Chart chart = search.best(rows);
+        EXPECT_LE(chart.size(), rows);
+        EXPECT_TRUE(search.cannotBeImproved(chart));
+        EXPECT_LE(priceChart(heldCards(), chart).loss(Taken::worst).value() * 100, most);
+    }
+    EXPECT_EQ(search.best(5), ChartSearch(heldCards()).best(5)) << "the same every time";
+    EXPECT_FALSE(search.cannotBeImproved(trainersChart()));
+}
+
+} // namespace quillet::charts::test
