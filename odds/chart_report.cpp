@@ -38,7 +38,7 @@ void writeText(std::ostream& out, const Chart& chart, const ChartPrice& price)
     for (std::size_t way = 0; way < charts::waysToTake; ++way)
         out << "  " << left(takenNames[way], 30)
             << right((price.returned[way] * 100).decimals(8), 14) << "\n";
-    out << "\nWhat each row loses of 100 credits over all deals, with the worst hold that fits,\n"
+    out << "\nWhat each row loses of 100 credits over all deals, the worst hold taken,\n"
            "and the deal that costs most credits\n\n"
         << left("Row", 48) << right("Deals", 8) << right("Loss", 9) << " Costliest deal\n";
     for (std::size_t row = 0; row < chart.size(); ++row) {

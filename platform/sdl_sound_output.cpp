@@ -6,6 +6,7 @@
 
 #include <SDL.h>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -33,7 +34,7 @@ constexpr auto staleAfter = 500ms;
 constexpr auto patienceAtTheEnd = 300ms;
 
 struct Request {
-    std::string path;
+    std::string path; // empty: only to be ready
     Clock::time_point asked;
 };
 
@@ -43,13 +44,18 @@ class CuePlayer
 public:
     void play(const Request& request)
     {
-        auto cue = m_library.find(request.path);
+        const bool onlyReady = request.path.empty();
+        auto cue = onlyReady ? nullptr : m_library.find(request.path);
         if (m_device && m_device->isLost())
             m_device.reset();
-        if (!m_device && cue)
+        if (!m_device && (cue || onlyReady))
             openDevice();
         if (!m_device)
             return;
+        if (onlyReady) {
+            m_restAt = std::max(m_restAt, Clock::now() + restAfter);
+            return;
+        }
         if (Clock::now() - request.asked > staleAfter)
             cue = nullptr;
         m_restAt = Clock::now() + (cue ? cue->length() : 0ms) + restAfter;
@@ -90,7 +96,9 @@ public:
     {
         {
             const std::lock_guard lock(m_mutex);
-            m_request = std::move(request);
+            // To be ready is less than a cue that waits already.
+            if (!request.path.empty() || !m_request)
+                m_request = std::move(request);
         }
         m_changed.notify_all();
     }
@@ -158,6 +166,11 @@ SdlSoundOutput::~SdlSoundOutput()
 {
     stop();
     m_mailbox->waitForEnd(patienceAtTheEnd);
+}
+
+void SdlSoundOutput::prepare()
+{
+    m_mailbox->put({{}, Clock::now()});
 }
 
 void SdlSoundOutput::play(const std::string& path)

@@ -23,6 +23,7 @@ public:
     SdlSoundOutput(const SdlSoundOutput&) = delete;
     SdlSoundOutput& operator=(const SdlSoundOutput&) = delete;
 
+    void prepare() override;
     void play(const std::string& path) override;
 
     // Ends all sound for good and returns at once, for a process that is about to end.

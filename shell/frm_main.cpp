@@ -131,7 +131,16 @@ void frmMain::sndPlaySound(const std::string& path)
 
 void frmMain::picDeal_Click(std::int16_t Index)
 {
+    prepareSound();
     m_controller.picDeal_Click(Index);
+}
+
+// Cards land a second or more after the click, so that the first cue after a rest is not late even
+// where the device takes that long to open.
+void frmMain::prepareSound()
+{
+    if (prfSound)
+        m_desktop.sound.prepare();
 }
 
 void frmMain::picPoker_MouseDown(std::int16_t Index)

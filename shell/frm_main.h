@@ -91,6 +91,7 @@ private:
     void watchSession();
     void paintOutlines(QPainter& painter, double scale) const;
     void describeSlot(int slot);
+    void prepareSound();
 
     // frm_main_startup.cpp
     void buildRunningState();

@@ -91,6 +91,7 @@ void frmMain::layOutGame()
     }
     shuffleCards();
     resetGraphics();
+    prepareSound();
 }
 
 void frmMain::placeChartAndStatusBar()

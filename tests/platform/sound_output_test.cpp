@@ -109,6 +109,15 @@ TEST(SdlSoundOutput, everyCueCutsOffTheOneThatSoundsEvenABrokenOne)
     EXPECT_LT(recorder.heard(2000), 4000);
 }
 
+TEST(SdlSoundOutput, opensTheDeviceBeforeTheCueThatFollows)
+{
+    const TemporaryFolder folder;
+    const Recorder recorder(folder);
+    SdlSoundOutput output;
+    output.prepare();
+    EXPECT_TRUE(recorder.hears(0, 20)) << "silence";
+}
+
 TEST(SdlAudioDevice, machineWithoutSoundIsNoDeviceAndNoMessage)
 {
     setenv("AUDIODEV", "no-such-device", 1);

@@ -60,6 +60,7 @@ public:
     [[nodiscard]] std::string rowColor(int playCode);
 
     void showError(const std::string& text) override { errors.push_back(text); }
+    void prepare() override {}
     void play(const std::string& path) override;
     void open(const std::string& verb, const std::string& file, const std::string& parameters,
               const std::string& directory, int showCommand) override;
