@@ -3,9 +3,13 @@
 #include "odds/hand_text.h"
 #include "odds/simulation.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <string>
+#include <sys/wait.h>
+#include <utility>
 #include <vector>
 
 namespace quillet::test
@@ -17,6 +21,15 @@ namespace
 Request parsed(std::vector<std::string_view> arguments)
 {
     return parseArguments(arguments);
+}
+
+// What the program prints, and its exit status.
+std::pair<std::string, int> run(const std::string& arguments)
+{
+    FILE* pipe = popen((QUILLET_ODDS " 2>&1 " + arguments).c_str(), "r");
+    std::string output(1 << 20, '\0');
+    output.resize(std::fread(output.data(), 1, output.size(), pipe));
+    return {output, WEXITSTATUS(pclose(pipe))};
 }
 
 // Exchanges every card with itself.
@@ -46,6 +59,26 @@ TEST(CommandLine, refusesWhatMakesNoSense)
         {"--simulate", "-5"}, {"--simulate", "9", "--seed"}};
     for (const auto& arguments : nonsense)
         EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments.front();
+}
+
+TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
+{
+    const auto [game, gameStatus] = run("");
+    EXPECT_EQ(gameStatus, 0);
+    for (const char* figure :
+         {"99.54390437  = 1653526326983/1661102543100", "99.33148607  = 149999803741/151009322100",
+          "Of the 2598960 deals", "28824   0.02014283    0.02014283  9c Tc Jc Kc Ad   5.77243293"})
+        EXPECT_THAT(game, testing::HasSubstr(figure));
+    const auto [csv, csvStatus] = run("--csv");
+    EXPECT_THAT(csv, testing::StartsWith("figure,subject,strategy,decimal,fraction\n"
+                                         "return,\"game\",perfect,0.9954390437,"));
+    const auto [hand, handStatus] = run("9c Tc Jc Kc Ad");
+    EXPECT_THAT(hand, testing::HasSubstr("5.77243293"));
+    EXPECT_EQ(run("Ad Jc 9c Kc Tc").first, hand) << "in any order";
+    EXPECT_THAT(run("--chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
+                testing::HasSubstr("99.29491793"));
+    EXPECT_EQ(run("9c Tc").second, 2);
+    EXPECT_THAT(run("9c Tc Jc Kc Ad >/dev/full").second, 1) << "a full disk";
 }
 
 TEST(Simulation, playsTheEnginesOwnDecks)
