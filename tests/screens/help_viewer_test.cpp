@@ -90,6 +90,15 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_EQ(bar.value(), sectionOne);
     press(viewer, Qt::Key_Home, Qt::AltModifier);
     EXPECT_EQ(bar.value(), 0);
+
+    const auto size = [&] { return pageOf(viewer).font().pointSizeF(); };
+    const double normal = size();
+    press(viewer, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(size(), normal);
+    press(viewer, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(size(), normal);
+    press(viewer, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_LT(size(), normal);
 }
 
 TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
@@ -114,6 +123,7 @@ TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
 
     QTest::keyClicks(&control(viewer, "helpSearch"), "<b>");
     EXPECT_EQ(message.text(), "\"needle<b>\" does not occur in the help.");
+    EXPECT_TRUE(message.isVisible());
     EXPECT_EQ(found(), first);
 }
 

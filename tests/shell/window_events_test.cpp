@@ -133,6 +133,16 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     EXPECT_EQ(game.opened, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
     EXPECT_EQ(game.opened.size(), 6u) << "the text in the bar is no link";
+    // A button let go beside what it was pressed on has not clicked it.
+    QWindow* const display = game.window->windowHandle();
+    for (const char* pressed : {"picStatusBar", "picDeal0"}) {
+        const QRect place = game.placeOf(pressed);
+        QTest::mousePress(display, Qt::LeftButton, {}, place.topLeft() + QPoint(5, 5));
+        QTest::mouseRelease(display, Qt::LeftButton, {}, place.topLeft() - QPoint(5, 5));
+    }
+    EXPECT_EQ(game.opened.size(), 6u);
+    EXPECT_TRUE(game.waitsForDraw());
+    EXPECT_TRUE(game.sounds.size() == 5u) << "nobody asked to draw";
 
     game.choose("mnuAbout");
     game.choose("mnuAbout");
