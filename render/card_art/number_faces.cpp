@@ -15,7 +15,7 @@ namespace
 
 constexpr double indexCentre = 10.5;
 constexpr double indexTop = 7;
-// Clearly of two sizes, and well apart, so that nobody counts the index among the pips.
+// The columns keep four pixels clear of the index, so that nobody counts it among the pips.
 constexpr double indexPipHeight = 14;
 constexpr double bodyPipHeight = 18;
 
