@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace quillet
@@ -45,8 +46,10 @@ bool jpegHasItsEnd(const QByteArray& file)
         if (marker == endOfImage)
             return true;
         const bool standsAlone = marker == 0 || marker == 1 || (marker >= 0xd0 && marker <= 0xd8);
+        // A segment's length counts its own two bytes. One that says less, as where the file ends
+        // in it, must not lead back.
         if (!standsAlone)
-            walk.skip(walk.bigEndian16() - 2);
+            walk.skip(std::max(walk.bigEndian16() - 2, 0));
     }
     return false;
 }

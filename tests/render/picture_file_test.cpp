@@ -3,6 +3,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QImageWriter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -54,6 +55,18 @@ TEST(PictureFile, whatWasCutShortIsInvalid)
             EXPECT_TRUE(loaded(whole.first(length)).isNull()) << length << " of " << whole.size();
         EXPECT_FALSE(loaded(whole + "and a note").isNull());
     }
+}
+
+TEST(PictureFile, noJpegThatEndsInItsHeadIsTakenOrWaitedFor)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "JPG");
+    writer.setProgressiveScanWrite(true); // many markers
+    ASSERT_TRUE(buffer.open(QIODevice::WriteOnly) && writer.write(loaded(saved("BMP"))));
+    const QByteArray whole = buffer.data();
+    EXPECT_FALSE(loaded(whole).isNull());
+    for (qsizetype length = 1; length < whole.size(); ++length)
+        EXPECT_TRUE(loaded(whole.first(length)).isNull()) << length << " of " << whole.size();
 }
 
 TEST(PictureFile, aBitmapMayBeStoredFromTheTopDown)
