@@ -1,6 +1,7 @@
 #include "charts/chart_price.h"
 
 #include "engine/pay_table.h"
+#include "odds/fair_odds.h"
 
 #include <bit>
 
@@ -13,14 +14,12 @@ namespace
 // Every number of holds that can fit a row, 1 to 10, divides it.
 constexpr std::int64_t shares = 2520;
 
-constexpr std::int64_t allDeals = choose[5][52];
-
 // Losses in shares of a worth unit.
 using Losses = std::array<Int128, waysToTake>;
 
 Fraction perCreditPaid(Int128 sum)
 {
-    constexpr Int128 unit = Int128{allDeals} * shares * wager * DealtHand::worthUnit;
+    constexpr Int128 unit = Int128{FairOdds::deals} * shares * wager * DealtHand::worthUnit;
     return {sum, unit};
 }
 

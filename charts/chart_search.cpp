@@ -124,12 +124,6 @@ void ChartSearch::kick(std::mt19937& chance)
     }
 }
 
-std::int64_t ChartSearch::loss(const Chart& chart)
-{
-    stand(chart);
-    return m_loss;
-}
-
 bool ChartSearch::cannotBeImproved(const Chart& chart)
 {
     stand(chart);

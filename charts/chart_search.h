@@ -24,9 +24,6 @@ public:
     // The best chart found with at most so many rows, 1..mostRows, the row for nothing included.
     [[nodiscard]] Chart best(std::size_t rows, const Progress& progress = {});
 
-    // What a chart loses over all deals, in the search's own unit, for comparisons.
-    [[nodiscard]] std::int64_t loss(const Chart& chart);
-
     // Whether no row taken out, none put in another's place and none moved makes it lose less.
     [[nodiscard]] bool cannotBeImproved(const Chart& chart);
 
@@ -60,7 +57,6 @@ private:
     struct Offer;
 
     void findFits(const HeldCards& heldCards);
-    void orderByWorth();
     void stand(const Chart& chart);
     [[nodiscard]] std::vector<Loss> gainsOfRemoval() const;
     [[nodiscard]] Change bestRemoval() const;
