@@ -51,6 +51,9 @@ LoadedPicture loadPictureFile(const QString& path, double scale)
     if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
         throw RunTimeError("Invalid picture: " + path.toStdString());
     QByteArray bytes = file.readAll();
+    // Before a decoder sees it, which would say on stderr what it thinks of the file.
+    if (!goesOnToItsEnd(bytes))
+        throw RunTimeError("Invalid picture: " + path.toStdString());
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
@@ -63,8 +66,7 @@ LoadedPicture loadPictureFile(const QString& path, double scale)
     const QSize shown = (size * (scale / pixelRatio(densityInHead(bytes))));
     if (shown.width() < size.width())
         reader.setScaledSize(shown);
-    const bool readable = !size.isEmpty() && goesOnToItsEnd(bytes);
-    const QImage image = readable ? reader.read() : QImage();
+    const QImage image = size.isEmpty() ? QImage() : reader.read();
     if (image.isNull())
         throw RunTimeError("Invalid picture: " + path.toStdString());
     return {image.convertToFormat(QImage::Format_RGB32),

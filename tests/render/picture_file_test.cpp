@@ -65,8 +65,10 @@ TEST(PictureFile, noJpegThatEndsInItsHeadIsTakenOrWaitedFor)
     ASSERT_TRUE(buffer.open(QIODevice::WriteOnly) && writer.write(loaded(saved("BMP"))));
     const QByteArray whole = buffer.data();
     EXPECT_FALSE(loaded(whole).isNull());
+    testing::internal::CaptureStderr();
     for (qsizetype length = 1; length < whole.size(); ++length)
         EXPECT_TRUE(loaded(whole.first(length)).isNull()) << length << " of " << whole.size();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST(PictureFile, aBitmapMayBeStoredFromTheTopDown)
