@@ -105,7 +105,7 @@ Palette courtPalette(int rank, int suit)
         {'w', white},      {'k', black},        {'r', red},
         {'g', gold},       {'b', blue},         {'s', skin},
         {'R', roles.robe}, {'L', roles.lining}, {'P', roles.pattern},
-        {'H', roles.hair}, {'C', roles.cap},    {'S', roles.lining == gold ? red : roles.lining}};
+        {'H', roles.hair}, {'C', roles.cap},    {'S', roles.lining == gold ? roles.robe : roles.lining}};
 }
 
 void paintCourtFace(CardCanvas& canvas, int rank, int suit)

@@ -1,4 +1,5 @@
 #include "render/card_art/court.h"
+#include "render/card_art/pips.h"
 
 #include <array>
 #include <cstddef>
@@ -55,6 +56,18 @@ constexpr std::string_view veil = R"(
     |-k.5 M49 13.6 C43 14.6 40.6 19 40.6 26 C40.4 34 39 41 35 47;
 )";
 
+// The queen of clubs stands in no veil but in a wide collar, and has her hair up: at a glance she
+// is another than the queen of spades.
+constexpr std::string_view collar = R"(
+    |wk.8 M49 52 L34.4 47 C29.6 41 28.8 34 31.6 27.4 C36.6 29 40.6 33 42.6 38 L49 38;
+    :-k.5 M41.6 43.4 L30.6 32; :-k.5 M41.4 45 L30.4 38.4; :-k.5 M42 41 L33.4 28.6;
+)";
+
+constexpr std::string_view hairUp = R"(
+    |Hk.8 M49 13 C42.6 13.6 38.6 18 38.8 24 C38.6 28.6 40.4 32.6 43.4 34 L49 30;
+    :-g.6 M40.6 20 C39.8 24 40.4 28 42.4 31;
+)";
+
 constexpr std::string_view hair = R"(
     |Hk.8 M49 16.6 C43 16.6 40.4 21 40.8 26.6 C41 31 39 33 39.4 36.4 C38 39 39 42 40.6 43.6
         C40 46.6 42 49 44.6 49.6 L49 44;
@@ -88,8 +101,8 @@ constexpr std::string_view face = R"(
 void paintQueen(QPainter& painter, int suit, const Palette& palette)
 {
     const auto index = static_cast<std::size_t>(suit);
-    paintPicture(painter, veil, palette, axis);
-    paintPicture(painter, hair, palette, axis);
+    paintPicture(painter, suit == Clubs ? collar : veil, palette, axis);
+    paintPicture(painter, suit == Clubs ? hairUp : hair, palette, axis);
     paintCloth(painter, gown, suit, palette);
     paintPicture(painter, bodice, palette, axis);
     paintPicture(painter, face, palette, axis);

@@ -17,7 +17,7 @@ constexpr double indexCentre = 10.5;
 constexpr double indexTop = 7;
 // The columns keep four pixels clear of the index, so that nobody counts it among the pips.
 constexpr double indexPipHeight = 14;
-constexpr double bodyPipHeight = 18;
+constexpr double bodyPipHeight = 20;
 
 // Body pips on the grid. Those of the upper half have a turned partner in the lower one, those
 // alone have none.
@@ -26,9 +26,9 @@ struct PipLayout {
     std::vector<QPointF> alone;
 };
 
-constexpr double left = 31;
+constexpr double left = 32;
 constexpr double middle = 48;
-constexpr double right = 65;
+constexpr double right = 64;
 constexpr double top = 22;
 constexpr double upperThird = 50.7;
 constexpr double centre = 65;

@@ -34,6 +34,32 @@ std::vector<int> runs(int first, int last, const IsInked& isInked)
     return found;
 }
 
+// Where ink hangs together: the rectangle around each mark inside the card's edge.
+std::vector<QRect> marks(const QImage& card)
+{
+    std::vector<QRect> found;
+    QImage left = card.copy(card.rect().adjusted(2, 2, -2, -2));
+    for (int y = 0; y < left.height(); ++y)
+        for (int x = 0; x < left.width(); ++x) {
+            std::vector<QPoint> edge{{x, y}};
+            QRect around;
+            while (!edge.empty()) {
+                const QPoint at = edge.back();
+                edge.pop_back();
+                if (!left.rect().contains(at) || qGray(left.pixel(at)) > 160)
+                    continue;
+                left.setPixel(at, 0xffffffff);
+                around |= QRect(at, QSize(1, 1));
+                for (const int dy : {-1, 0, 1})
+                    for (const int dx : {-1, 0, 1})
+                        edge.emplace_back(at.x() + dx, at.y() + dy);
+            }
+            if (!around.isEmpty())
+                found.push_back(around.translated(2, 2));
+        }
+    return found;
+}
+
 } // namespace
 
 TEST(CardFaces, differInGreyAtThumbnailSize)
@@ -45,6 +71,30 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
         for (std::size_t second = first + 1; second < 52; ++second)
             EXPECT_GE(greyDifference(thumbnails[first], thumbnails[second], 64), 20)
                 << first << " and " << second;
+}
+
+TEST(CardFaces, blackQueensDifferInTheirOutline)
+{
+    const QRect side(32, 28, 9, 17); // of the head, on the left below the suit's mark
+    EXPECT_GE(greyDifference(cardAt(44, 1).copy(side), cardAt(47, 1).copy(side), 64),
+              side.width() * side.height() / 2);
+}
+
+TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
+{
+    for (const int number : cardNumbers(4, 39)) {
+        const int rank = number / 4 + 1;
+        int pips = 0, lowest = 99, indexPip = 0;
+        for (const QRect& mark : marks(cardAt(number, 1)))
+            if (mark.center().x() < index.right() + 3)
+                indexPip = mark.height(); // the suit stands below the rank
+            else if (mark.center().x() < cardArtWidth - index.right() - 3) {
+                ++pips;
+                lowest = std::min(lowest, mark.height());
+            }
+        EXPECT_EQ(pips, rank) << number;
+        EXPECT_GE(lowest, 1.4 * indexPip) << number;
+    }
 }
 
 TEST(CardFaces, indexStaysReadableUnderTheHatch)
