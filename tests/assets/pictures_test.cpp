@@ -9,7 +9,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 namespace quillet::test
 {
@@ -70,6 +72,24 @@ double whiteEdgeContrast(const QImage& table, const QRect& card)
     return least;
 }
 
+// How many pixels from the cards the nearest line across the tray lies, upwards (-1) or downwards
+// (1); a line is brighter than what is between it and the cards.
+int distanceToLine(const QImage& table, const QRect& cards, int way)
+{
+    constexpr int farthest = 20;
+    std::vector<double> brightness;
+    for (int away = 1; away <= farthest; ++away) {
+        const int y = way < 0 ? cards.top() - away : cards.bottom() + away;
+        double sum = 0;
+        for (int x = cards.left(); x <= cards.right(); ++x)
+            sum += qGray(table.pixel(x, y));
+        brightness.push_back(sum / cards.width());
+    }
+    const auto line = std::find_if(brightness.begin(), brightness.end(),
+                                   [&](double row) { return row > brightness.front() + 15; });
+    return static_cast<int>(line - brightness.begin()) + 1;
+}
+
 } // namespace
 
 TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
@@ -83,7 +103,7 @@ TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
             << name.toStdString();
 }
 
-TEST(Tables, letEveryCardEdgeStandOut)
+TEST(Tables, letEveryCardEdgeStandOutInTheMiddleOfItsTray)
 {
     const QDir tables(assets.filePath("pics"));
     EXPECT_GE(tables.count(), 3U);
@@ -95,6 +115,11 @@ TEST(Tables, letEveryCardEdgeStandOut)
         EXPECT_GE(whiteEdgeContrast(table, inPixels(deckSeen)), 3);
         for (const QRectF& place : cardPlaces())
             EXPECT_GE(whiteEdgeContrast(table, inPixels(place)), 3) << place.left();
+
+        const QRect cards = inPixels(cardPlaces().front() | cardPlaces().back());
+        const int above = distanceToLine(table, cards, -1);
+        EXPECT_LE(above, 14);
+        EXPECT_NEAR(above, distanceToLine(table, cards, 1), 2) << "in the middle of the tray";
     }
 }
 

@@ -16,14 +16,16 @@ namespace
 
 constexpr QRectF wholeTable{0, 0, 800, 440};
 
-QRectF tray()
+// The tray is a part of the field, with a line of its own as far above the cards as the nearest
+// line lies below them.
+double trayTop(double nextLineBelow)
 {
-    return {QPointF(playField.left(), trayTop), playField.bottomRight()};
+    return cardsTop - (nextLineBelow - (cardsTop + cardSize.height()));
 }
 
-QRectF upperField()
+QRectF tray(double top)
 {
-    return {playField.topLeft(), QPointF(playField.right(), trayTop)};
+    return {QPointF(playField.left(), top), playField.bottomRight()};
 }
 
 // Crossbanding: a narrow band round the field whose grain runs across it, mitred at the corners.
@@ -42,10 +44,9 @@ void paintLines(Canvas& canvas, const InlayMaterial& metal)
 {
     const QRectF field = playField;
     const double line = 1.5;
-    const double rule = trayTop;
     QPainterPath lines =
         between(rectanglePath(field.adjusted(-line, -line, line, line)), rectanglePath(field));
-    lines.addRect(QRectF(field.left(), rule - line / 2, field.width(), line));
+    lines.addRect(QRectF(field.left(), trayTop(field.bottom()) - line, field.width(), line));
     inlay(canvas, lines, metal);
 }
 
@@ -115,9 +116,10 @@ Canvas woodTable()
                      .pores = 1,
                      .seed = 37});
     paintRim(canvas, rim);
-    canvas.shade(rectanglePath(upperField()), [&](double x, double y) { return field.at(x, y); });
-    canvas.shade(rectanglePath(tray()), [&](double x, double y) { return sunk.at(x, y); });
-    sink(canvas, rectanglePath(tray()), 7, 0.7);
+    const QPainterPath lower = rectanglePath(tray(trayTop(playField.bottom())));
+    canvas.shade(rectanglePath(playField), [&](double x, double y) { return field.at(x, y); });
+    canvas.shade(lower, [&](double x, double y) { return sunk.at(x, y); });
+    sink(canvas, lower, 7, 0.7);
     paintLight(canvas, 0.42);
     paintLines(canvas, brass());
     paintWorks(canvas, {brass(), ivory(), {rgb(0xd2583c), rgb(0x9c2f1f), 0.8}, rgb(0x22130b)});
@@ -128,9 +130,11 @@ Canvas feltTable()
 {
     Canvas canvas =
         coveredTable(rimWood(rgb(0x9a5c36), rgb(0x4a2612), 41), Felt(rgb(0x1f6b45), 43));
-    QPainterPath seam = rectanglePath(playField.adjusted(3, 3, -3, -3));
-    seam.moveTo(playField.left() + 3, trayTop);
-    seam.lineTo(playField.right() - 3, trayTop);
+    const QRectF sewn = playField.adjusted(2, 2, -2, -2);
+    const double top = trayTop(sewn.bottom());
+    QPainterPath seam = rectanglePath(sewn);
+    seam.moveTo(sewn.left(), top);
+    seam.lineTo(sewn.right(), top);
     sew(canvas, seam, rgb(0xc9b98a));
     paintWorks(canvas, {brass(), ivory(), {rgb(0xe0604a), rgb(0xa83526), 0.8}, rgb(0x0b2a1b)});
     return canvas;
@@ -141,8 +145,14 @@ Canvas nightTable()
     Canvas canvas =
         coveredTable(rimWood(rgb(0x7d563b), rgb(0x3a2315), 53), Leather(rgb(0x23365f), 59));
     const InlayMaterial wornFoil{rgb(0xa9b3c4), rgb(0x6f7a8e), 0.6};
-    tool(canvas, playField.adjusted(1, 1, -1, -0.5), wornFoil);
-    inlay(canvas, rectanglePath({playField.left() + 5.4, trayTop, playField.width() - 10.8, 0.8}),
+    // The rows of lozenges leave the cards too little air, so the tray has a plain line.
+    const double line = 0.8;
+    const QRectF tooled = playField.adjusted(1, 1, -1, -1);
+    const double top = trayTop(tooled.bottom() - line);
+    const QRectF plain(QPointF(tooled.left(), top - line), tooled.bottomRight());
+    tool(canvas, {tooled.topLeft(), QPointF(tooled.right(), top)}, wornFoil);
+    inlay(canvas,
+          between(rectanglePath(plain), rectanglePath(plain.adjusted(line, line, -line, -line))),
           wornFoil);
     paintWorks(canvas, {silver(), brass(), {rgb(0xd8685a), rgb(0xa03a34), 0.8}, rgb(0x0d1526)});
     return canvas;
