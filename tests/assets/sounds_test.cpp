@@ -87,6 +87,20 @@ double decibelsToTheEar(const std::vector<double>& samples)
     return 10 * std::log10(power);
 }
 
+// How often something is struck: where 20 ms are twice as loud as the 20 ms before.
+int strikes(const std::vector<double>& samples)
+{
+    constexpr std::ptrdiff_t step = 1920;
+    int count = 0;
+    double before = 0.02; // silence is never exceeded twice
+    for (auto at = samples.begin(); samples.end() - at >= step; at += step) {
+        const double power = std::inner_product(at, at + step, at, 0.0);
+        count += power > 2 * before;
+        before = std::max(power, 0.02);
+    }
+    return count;
+}
+
 } // namespace
 
 TEST(Sounds, makerWritesTheCommittedFiles)
@@ -132,6 +146,9 @@ TEST(Sounds, everyCueFitsItsUseAndTheOthers)
         EXPECT_LE(peak, -3);
         loudness.push_back(decibelsToTheEar(samples));
     }
+    EXPECT_EQ(strikes(samplesOf("wrong.wav")), 2);
+    EXPECT_EQ(strikes(samplesOf("wrong2.wav")), 1);
+    EXPECT_EQ(strikes(samplesOf("wrong3.wav")), 3);
     const auto [quietest, loudest] = std::minmax_element(loudness.begin(), loudness.end());
     EXPECT_LE(*loudest - *quietest, 4);
 }

@@ -47,14 +47,14 @@ SoundBuffer wrong2()
     return buffer;
 }
 
-// The same low bar knocked three times, as on a door.
+// A higher bar knocked three times, as on a door.
 SoundBuffer wrong3()
 {
     SoundBuffer buffer(340);
-    strikeWood(buffer, {0.000, e4, 0.9, 0.15});
-    strikeWood(buffer, {0.080, e4, 0.9, -0.15});
-    strikeWood(buffer, {0.160, e4, 1.0, 0});
-    finish(buffer, 60, -3.3);
+    strikeWood(buffer, {0.000, c5, 0.9, 0.15});
+    strikeWood(buffer, {0.080, c5, 0.9, -0.15});
+    strikeWood(buffer, {0.160, c5, 1.0, 0});
+    finish(buffer, 60, -5);
     return buffer;
 }
 
