@@ -28,6 +28,7 @@ TEST_F(AboutTest, theLinkOpensTheAddressThatItShows)
 {
     frmAbout& box = present();
     auto& link = control<QLabel>(box, "lblLink");
+    EXPECT_EQ(link.x() + link.contentsRect().x(), control(box, "Label4").x()) << "in line";
     EXPECT_EQ(link.text(), "http://downloads.quillet.example/free/videopoker");
     doubleClick(link);
     link.setText("http://elsewhere.example/x");

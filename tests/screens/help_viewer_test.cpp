@@ -1,3 +1,5 @@
+#include "platform/colour_contrast.h"
+#include "screens/help_colours.h"
 #include "screens/help_viewer.h"
 #include "screens/single_window.h"
 #include "tests/screens/window_driving.h"
@@ -99,6 +101,16 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_EQ(size(), normal);
     press(viewer, Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_LT(size(), normal);
+}
+
+TEST(HelpColours, linksAreReadableOnEveryGround)
+{
+    for (const QColor ground : {Qt::white, Qt::black, Qt::darkBlue}) {
+        QPalette desktop;
+        desktop.setColor(QPalette::Base, ground);
+        desktop.setColor(QPalette::Link, ground == Qt::darkBlue ? ground : QColor(Qt::gray));
+        EXPECT_GE(contrast(readableLinkColour(desktop), ground), 4.5) << ground.value();
+    }
 }
 
 TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)

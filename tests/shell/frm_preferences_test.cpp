@@ -144,7 +144,7 @@ TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
     }
 }
 
-TEST(PreferencesDialog, enterOnTheColoursButtonOpensTheChooser)
+TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
 {
     PlayedWindow game;
     ASSERT_TRUE(game.start());
@@ -154,7 +154,12 @@ TEST(PreferencesDialog, enterOnTheColoursButtonOpensTheChooser)
         const auto enter = [&] { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); };
         whileOpen<QColorDialog>(enter, [](QColorDialog&) {});
         EXPECT_TRUE(dialog.isVisible());
+        control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
+        control(dialog, "Combo1").setFocus();
+        enter();
+        EXPECT_FALSE(dialog.isVisible());
     });
+    EXPECT_EQ(game.window->prfPKBackFace, 63);
 }
 
 TEST(PreferencesDialog, aLargeFontStaysLarge)

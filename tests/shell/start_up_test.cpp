@@ -1,8 +1,10 @@
 #include "platform/picture_box.h"
 #include "platform/table_canvas.h"
+#include "shell/calibration_splash.h"
 #include "tests/shell/played_window.h"
 
 #include <QFile>
+#include <QLayout>
 
 namespace quillet::test
 {
@@ -94,7 +96,22 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         EXPECT_FALSE(game.window->isMaximized());
         EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
         EXPECT_TRUE(game.errors.empty());
+        // A tiling window manager gives more room than that.
+        QWidget& middle = *game.window->centralWidget();
+        middle.resize(1200, 900);
+        middle.layout()->activate();
+        EXPECT_EQ(game.part("table").geometry().center(), middle.rect().center());
     }
+}
+
+TEST(StartUp, theSplashFitsSmallScreensAndCoversNoOtherProgram)
+{
+    const QFont usual = QApplication::font();
+    QApplication::setFont(QFont(usual.family(), 18));
+    CalibrationSplash splash;
+    EXPECT_LE(splash.sizeHint().width(), 800);
+    EXPECT_FALSE(splash.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QApplication::setFont(usual);
 }
 
 } // namespace quillet::test

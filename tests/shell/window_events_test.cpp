@@ -97,7 +97,10 @@ TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
                                   "prfAnimation=False prfShowHide=True prfSound=True isPoker=True "
                                   "prfAnimationDelay=300 prfBannerDelay=0 "
                                   "prfPKBackground=vpokerwood.jpg ";
+        game.window->move(60, 40);
+        const QPoint stood = game.window->geometry().center();
         whileOpen<frmExitNoBanner>(leave, [&](frmExitNoBanner& screen) {
+            EXPECT_LE((screen.geometry().center() - stood).manhattanLength(), 8);
             EXPECT_EQ(game.store.log, saved);
             EXPECT_FALSE(game.window->isVisible());
             EXPECT_TRUE(game.ended.empty());
