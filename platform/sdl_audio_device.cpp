@@ -42,7 +42,7 @@ void renderBlock(void* mixer, Uint8* block, int bytes)
 
 } // namespace
 
-std::unique_ptr<SdlAudioDevice> SdlAudioDevice::open(CueMixer& mixer)
+std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
 {
     static std::once_flag prepared;
     std::call_once(prepared, prepareSdl);

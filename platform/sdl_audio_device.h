@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/audio_device.h"
 #include "platform/cue_mixer.h"
 
 #include <cstdint>
@@ -10,18 +11,17 @@ namespace quillet
 
 // The machine's sound output while it is open. Opening and closing take as long as the sound
 // server likes, so only a thread that nobody waits for may do either.
-class SdlAudioDevice
+class SdlAudioDevice : public AudioDevice
 {
 public:
     // Plays what the mixer renders; the mixer must outlive the device. Null when there is none.
-    [[nodiscard]] static std::unique_ptr<SdlAudioDevice> open(CueMixer& mixer);
+    [[nodiscard]] static std::unique_ptr<AudioDevice> open(CueMixer& mixer);
 
-    ~SdlAudioDevice();
+    ~SdlAudioDevice() override;
     SdlAudioDevice(const SdlAudioDevice&) = delete;
     SdlAudioDevice& operator=(const SdlAudioDevice&) = delete;
 
-    // True once the device was unplugged or its server went away.
-    [[nodiscard]] bool isLost() const;
+    [[nodiscard]] bool isLost() const override;
 
 private:
     explicit SdlAudioDevice(std::uint32_t id) : m_id(id) {}

@@ -1,12 +1,10 @@
 #include "platform/sdl_sound_output.h"
 
-#include "platform/cue_library.h"
-#include "platform/cue_mixer.h"
+#include "platform/cue_player.h"
 #include "platform/sdl_audio_device.h"
 
 #include <SDL.h>
 
-#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -23,67 +21,11 @@ namespace
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// Between two cues of a running hand the device stays open. After that it is closed: an SDL device
-// that is paused goes on writing silence a hundred times a second.
-constexpr auto restAfter = 5s;
-constexpr auto retryAfter = 2s;
-
-// A cue that a slow server holds up for longer than this no longer fits what the player sees.
-constexpr auto staleAfter = 500ms;
-
 constexpr auto patienceAtTheEnd = 300ms;
 
 struct Request {
     std::string path; // empty: only to be ready
     Clock::time_point asked;
-};
-
-// What the thread owns: the device while it is open, and everything that sounds through it.
-class CuePlayer
-{
-public:
-    void play(const Request& request)
-    {
-        const bool onlyReady = request.path.empty();
-        auto cue = onlyReady ? nullptr : m_library.find(request.path);
-        if (m_device && m_device->isLost())
-            m_device.reset();
-        if (!m_device && (cue || onlyReady))
-            openDevice();
-        if (!m_device)
-            return;
-        if (onlyReady) {
-            m_restAt = std::max(m_restAt, Clock::now() + restAfter);
-            return;
-        }
-        if (Clock::now() - request.asked > staleAfter)
-            cue = nullptr;
-        m_restAt = Clock::now() + (cue ? cue->length() : 0ms) + restAfter;
-        m_mixer.play(std::move(cue));
-    }
-
-    void rest() { m_device.reset(); }
-
-    // When the device may be closed; nothing while it is.
-    [[nodiscard]] std::optional<Clock::time_point> restAt() const
-    {
-        return m_device ? std::optional(m_restAt) : std::nullopt;
-    }
-
-private:
-    void openDevice()
-    {
-        if (Clock::now() < m_retryAt)
-            return;
-        m_device = SdlAudioDevice::open(m_mixer);
-        m_retryAt = Clock::now() + retryAfter;
-    }
-
-    CueLibrary m_library;
-    CueMixer m_mixer;
-    std::unique_ptr<SdlAudioDevice> m_device;
-    Clock::time_point m_retryAt;
-    Clock::time_point m_restAt;
 };
 
 } // namespace
@@ -185,12 +127,15 @@ void SdlSoundOutput::stop()
 
 void SdlSoundOutput::work(const std::shared_ptr<Mailbox>& mailbox)
 {
-    CuePlayer player;
+    CuePlayer player(&Clock::now, &SdlAudioDevice::open);
     while (!mailbox->isClosed()) {
-        if (const auto request = mailbox->take(player.restAt()))
-            player.play(*request);
-        else
+        const auto request = mailbox->take(player.restAt());
+        if (!request)
             player.rest();
+        else if (request->path.empty())
+            player.prepare();
+        else
+            player.play(request->path, request->asked);
     }
 }
 
