@@ -2,7 +2,7 @@
 //   cmake --build --preset release --target contact_sheet
 //   build/release/assets/contact_sheet FOLDER 2
 
-#include "render/card_art/card_art.h"
+#include "cards/card_art.h"
 
 #include <QDir>
 #include <QImage>

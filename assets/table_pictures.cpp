@@ -3,12 +3,12 @@
 
 #include "engine/deck.h"
 #include "engine/hand_evaluation.h"
+#include "main_window/frm_main.h"
 #include "platform/desktop_shell.h"
 #include "platform/event_clock.h"
 #include "platform/message_error_box.h"
-#include "platform/sdl_sound_output.h"
-#include "platform/text_file_store.h"
-#include "shell/frm_main.h"
+#include "settings/text_file_store.h"
+#include "sound/sdl_sound_output.h"
 
 #include <QApplication>
 #include <QDir>

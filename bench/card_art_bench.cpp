@@ -1,4 +1,4 @@
-#include "render/card_art/card_art.h"
+#include "cards/card_art.h"
 
 #include <benchmark/benchmark.h>
 

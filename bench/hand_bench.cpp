@@ -2,13 +2,13 @@
 // is named (0 leaves the counting loops out, so the difference is theirs). A real display shows
 // the real cost; without one it is played off screen.
 #include "coach/hold_judgement.h"
+#include "main_window/frm_main.h"
 #include "platform/desktop_shell.h"
 #include "platform/event_clock.h"
 #include "platform/message_error_box.h"
-#include "platform/sdl_sound_output.h"
 #include "platform/short_delay.h"
-#include "platform/text_file_store.h"
-#include "shell/frm_main.h"
+#include "settings/text_file_store.h"
+#include "sound/sdl_sound_output.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

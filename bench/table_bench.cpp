@@ -1,13 +1,13 @@
 // What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
 #include "bench/busy_load.h"
 #include "platform/event_clock.h"
-#include "platform/picture_box.h"
-#include "platform/picture_file.h"
-#include "platform/table_canvas.h"
-#include "render/card_flight.h"
-#include "render/counting_loop.h"
-#include "render/init_anim_delay.h"
-#include "render/table_painter.h"
+#include "table/card_flight.h"
+#include "table/counting_loop.h"
+#include "table/init_anim_delay.h"
+#include "table/picture_box.h"
+#include "table/picture_file.h"
+#include "table/table_canvas.h"
+#include "table/table_painter.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

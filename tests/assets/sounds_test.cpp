@@ -77,7 +77,7 @@ double decibelsToTheEar(const std::vector<double>& samples)
     double power = 0;
     for (double hertz = 300; hertz < 16000; hertz += 48000 / frames) {
         const auto step = std::polar(1.0, -2 * std::numbers::pi * hertz / 48000);
-        for (const std::size_t channel : {0, 1}) {
+        for (const std::size_t channel : {0U, 1U}) {
             std::complex<double> sum = 0, turn = 1;
             for (std::size_t i = channel; i < window; i += 2, turn *= step)
                 sum += loudest[i] * turn;

@@ -1,6 +1,6 @@
 #include "coach/hold_judgement.h"
 #include "engine/hand_evaluation.h"
-#include "tests/engine/card_text.h"
+#include "tests/kit/card_text.h"
 
 #include <gtest/gtest.h>
 

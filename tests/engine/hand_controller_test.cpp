@@ -1,4 +1,4 @@
-#include "tests/engine/fake_table.h"
+#include "tests/kit/fake_table.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "engine/hand_evaluation.h"
-#include "tests/engine/card_text.h"
+#include "tests/kit/card_text.h"
 
 #include <gtest/gtest.h>
 

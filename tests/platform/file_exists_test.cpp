@@ -1,5 +1,5 @@
 #include "platform/file_exists.h"
-#include "tests/platform/plain_user.h"
+#include "tests/kit/plain_user.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "platform/picture_box.h"
-#include "platform/picture_file.h"
+#include "main_window/frm_preferences.h"
 #include "screens/frm_exit_no_banner.h"
-#include "shell/frm_preferences.h"
-#include "tests/shell/played_window.h"
+#include "table/picture_box.h"
+#include "table/picture_file.h"
+#include "tests/kit/played_window.h"
 
 #include <QComboBox>
 #include <QFile>

@@ -1,10 +1,10 @@
 #include "coach/hold_judgement.h"
 #include "engine/pay_table.h"
-#include "platform/picture_box.h"
-#include "platform/table_canvas.h"
+#include "main_window/frm_preferences.h"
 #include "screens/frm_exit_no_banner.h"
-#include "shell/frm_preferences.h"
-#include "tests/shell/played_window.h"
+#include "table/picture_box.h"
+#include "table/table_canvas.h"
+#include "tests/kit/played_window.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "screens/frm_about.h"
 #include "screens/single_window.h"
-#include "tests/screens/window_driving.h"
+#include "tests/kit/window_driving.h"
 
 #include <QLabel>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "screens/frm_exit_no_banner.h"
 #include "screens/link_label.h"
-#include "tests/screens/window_driving.h"
+#include "tests/kit/window_driving.h"
 
 #include <QAccessible>
 #include <QLabel>

@@ -2,7 +2,7 @@
 #include "screens/help_colours.h"
 #include "screens/help_viewer.h"
 #include "screens/single_window.h"
-#include "tests/screens/window_driving.h"
+#include "tests/kit/window_driving.h"
 
 #include <QFile>
 #include <QLabel>

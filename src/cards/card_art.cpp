@@ -1,0 +1,28 @@
+#include "cards/card_art.h"
+
+#include "cards/backs.h"
+#include "cards/card_canvas.h"
+#include "cards/faces.h"
+
+namespace quillet
+{
+
+QImage renderCard(int cardNumber, QSize deviceSize)
+{
+    if (cardNumber == hatchBack)
+        return hatchPicture(deviceSize);
+    CardCanvas canvas(deviceSize);
+    if (cardNumber >= 0 && cardNumber < 52) {
+        const int rank = cardNumber / 4 + 1;
+        const int suit = cardNumber % 4;
+        if (rank <= 10)
+            paintNumberFace(canvas, rank, suit);
+        else
+            paintCourtFace(canvas, rank, suit);
+    } else {
+        paintBack(canvas, cardNumber);
+    }
+    return canvas.image();
+}
+
+} // namespace quillet

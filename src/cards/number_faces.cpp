@@ -1,0 +1,126 @@
+#include "cards/faces.h"
+#include "cards/index_glyphs.h"
+#include "cards/picture_text.h"
+#include "cards/pips.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+namespace quillet
+{
+namespace
+{
+
+constexpr double indexCentre = 10.5;
+constexpr double indexTop = 7;
+// The columns keep four pixels clear of the index, so that nobody counts it among the pips.
+constexpr double indexPipHeight = 14;
+constexpr double bodyPipHeight = 20;
+
+// Body pips on the grid. Those of the upper half have a turned partner in the lower one, those
+// alone have none.
+struct PipLayout {
+    std::vector<QPointF> upper;
+    std::vector<QPointF> alone;
+};
+
+constexpr double left = 32;
+constexpr double middle = 48;
+constexpr double right = 64;
+constexpr double top = 22;
+constexpr double upperThird = 50.7;
+constexpr double centre = 65;
+
+const PipLayout& layoutOf(int rank)
+{
+    static const std::array<PipLayout, 11> layouts = {{
+        {},
+        {},
+        {{{middle, top}}, {}},
+        {{{middle, top}}, {{middle, centre}}},
+        {{{left, top}, {right, top}}, {}},
+        {{{left, top}, {right, top}}, {{middle, centre}}},
+        {{{left, top}, {right, top}}, {{left, centre}, {right, centre}}},
+        {{{left, top}, {right, top}},
+         {{left, centre}, {right, centre}, {middle, (top + centre) / 2}}},
+        {{{left, top}, {right, top}, {middle, (top + centre) / 2}},
+         {{left, centre}, {right, centre}}},
+        {{{left, top}, {right, top}, {left, upperThird}, {right, upperThird}}, {{middle, centre}}},
+        {{{left, top},
+          {right, top},
+          {left, upperThird},
+          {right, upperThird},
+          {middle, (top + upperThird) / 2}},
+         {}},
+    }};
+    return layouts[static_cast<std::size_t>(rank)];
+}
+
+// Paints a pip with its top and bottom on whole device pixels. The right column mirrors the left
+// one exactly, also where the width is odd.
+void paintCrispPip(CardCanvas& canvas, int suit, QPointF place, double height)
+{
+    const double x = place.x() < middle   ? canvas.snappedX(place.x())
+                     : place.x() > middle ? 2 * middle - canvas.snappedX(2 * middle - place.x())
+                                          : middle;
+    const double crispHeight = canvas.snappedY(height);
+    const double y = canvas.snappedY(place.y() - crispHeight / 2) + crispHeight / 2;
+    QPainter painter;
+    canvas.begin(painter);
+    paintPip(painter, suit, {x, y}, crispHeight, suitColour(suit));
+}
+
+void paintAce(CardCanvas& canvas, int suit)
+{
+    canvas.turnUpperHalf();
+    if (suit != Spades)
+        return paintCrispPip(canvas, suit, {middle, centre}, 44);
+    QPainter painter;
+    canvas.begin(painter);
+    paintPip(painter, suit, {middle, centre}, 62, cardBlack);
+    paintPip(painter, suit, {middle, centre - 0.5}, 54, 0xffffffff);
+    paintPip(painter, suit, {middle, centre - 0.5}, 51, cardBlack);
+    const Palette palette{{'w', 0xffffffff}};
+    paintPicture(painter, R"(
+        |w- M48 47 C47 52.5 43.5 54.5 43.5 58.5 C43.5 62 46.5 64 48 68;
+        :w- M46.4 68.4 C42 67.5 38.6 64 38 58.6 C34.6 61.5 33.2 65.5 34.6 69
+            C36.2 72.8 42 72.6 46.4 68.4 Z;
+        |w- M48 69.6 C46.6 70.4 44.4 70.2 43 71.6 C44.4 73 46.6 72.8 48 73.6;
+        |w- M48 75 C47.4 78 46.6 79.6 45.4 81 L48 81;
+    )",
+                 palette, 48);
+}
+
+} // namespace
+
+void paintIndex(CardCanvas& canvas, int rank, int suit)
+{
+    QPainter painter;
+    canvas.beginInPixels(painter);
+    painter.fillPath(rankOutline(rank, indexCentre, indexTop, canvas.scaleX(), canvas.scaleY()),
+                     QColor::fromRgba(suitColour(suit)));
+    painter.end();
+    paintCrispPip(canvas, suit, {indexCentre, indexTop + rankHeight + 3 + indexPipHeight / 2},
+                  indexPipHeight);
+}
+
+void paintNumberFace(CardCanvas& canvas, int rank, int suit)
+{
+    paintIndex(canvas, rank, suit);
+    if (rank == 1) {
+        paintAce(canvas, suit);
+        return;
+    }
+    const PipLayout& layout = layoutOf(rank);
+    const auto paint = [&](const std::vector<QPointF>& places) {
+        for (const QPointF place : places)
+            paintCrispPip(canvas, suit, place, bodyPipHeight);
+    };
+    paint(layout.upper);
+    canvas.turnUpperHalf();
+    paint(layout.alone);
+}
+
+} // namespace quillet

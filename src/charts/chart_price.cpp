@@ -1,0 +1,92 @@
+#include "charts/chart_price.h"
+
+#include "engine/pay_table.h"
+#include "odds/fair_odds.h"
+
+#include <bit>
+
+namespace quillet::charts
+{
+
+namespace
+{
+
+// Every number of holds that can fit a row, 1 to 10, divides it.
+constexpr std::int64_t shares = 2520;
+
+// Losses in shares of a worth unit.
+using Losses = std::array<Int128, waysToTake>;
+
+Fraction perCreditPaid(Int128 sum)
+{
+    constexpr Int128 unit = Int128{FairOdds::deals} * shares * wager * DealtHand::worthUnit;
+    return {sum, unit};
+}
+
+} // namespace
+
+void forEachPlayedDeal(const HeldCards& heldCards, const Chart& chart,
+                       const std::function<void(const PlayedDeal&)>& visit)
+{
+    const HoldTable table(heldCards);
+    const ChartPlayer player(table, chart);
+    forEachClass(5, [&](const SuitSets& sets) {
+        const DealtHand hand(heldCards, placesOf<5>(sets));
+        PlayedDeal deal{hand, classSize(sets), player.play(hand), 0, 0};
+        deal.bestHold = deal.worstHold = static_cast<Hold>(std::countr_zero(deal.play.fitting));
+        for (std::uint32_t left = deal.play.fitting; left != 0; left &= left - 1) {
+            const auto hold = static_cast<Hold>(std::countr_zero(left));
+            if (hand.worth[hold] > hand.worth[deal.bestHold])
+                deal.bestHold = hold;
+            if (hand.worth[hold] < hand.worth[deal.worstHold])
+                deal.worstHold = hold;
+        }
+        visit(deal);
+    });
+}
+
+ChartPrice priceChart(const HeldCards& heldCards, const Chart& chart)
+{
+    Int128 perfect = 0;
+    std::vector<Losses> losses(chart.size());
+    std::vector<std::int64_t> costliest(chart.size(), -1);
+    ChartPrice price;
+    price.rows.resize(chart.size());
+
+    forEachPlayedDeal(heldCards, chart, [&](const PlayedDeal& deal) {
+        const DealtHand& hand = deal.hand;
+        const std::int64_t best = hand.worth[hand.bestHold];
+        const std::int64_t worstLoss = best - hand.worth[deal.worstHold];
+        const std::int64_t share = shares / std::popcount(deal.play.fitting);
+        std::int64_t anyLoss = 0;
+        for (std::uint32_t left = deal.play.fitting; left != 0; left &= left - 1)
+            anyLoss +=
+                share * (best - hand.worth[static_cast<std::size_t>(std::countr_zero(left))]);
+
+        perfect += Int128{best} * shares * deal.members;
+        Losses& row = losses[deal.play.row];
+        row[0] += Int128{best - hand.worth[deal.bestHold]} * shares * deal.members;
+        row[1] += Int128{anyLoss} * deal.members;
+        row[2] += Int128{worstLoss} * shares * deal.members;
+        RowPrice& told = price.rows[deal.play.row];
+        told.deals += deal.members;
+        if (worstLoss > costliest[deal.play.row]) {
+            costliest[deal.play.row] = worstLoss;
+            told.costliest = {worstLoss, DealtHand::worthUnit};
+            told.example = hand.places;
+        }
+    });
+
+    price.perfect = perCreditPaid(perfect);
+    for (std::size_t way = 0; way < waysToTake; ++way) {
+        Int128 lost = 0;
+        for (std::size_t row = 0; row < chart.size(); ++row) {
+            lost += losses[row][way];
+            price.rows[row].loss[way] = perCreditPaid(losses[row][way]);
+        }
+        price.returned[way] = perCreditPaid(perfect - lost);
+    }
+    return price;
+}
+
+} // namespace quillet::charts

@@ -1,0 +1,147 @@
+#include "main_window/chart_panel.h"
+
+#include "main_window/chart_row.h"
+#include "table/accessible_widgets.h"
+
+#include <QFontMetricsF>
+
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr double twips = 15; // per pixel, in which the panel was designed
+constexpr int border = 1;
+constexpr int rowWidth = 167;
+constexpr int captionPixels = 11;
+constexpr int rowPixels = 13; // 9.75 points
+constexpr int leastRowPixels = 9;
+constexpr int counterWidth = 52;
+
+QFont panelFont(int pixels, bool bold)
+{
+    QFont font(QStringLiteral("MS Sans Serif"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+enum class Reader { hears, doesNotHear };
+
+QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bool bold,
+                   Reader reader)
+{
+    auto* label = new QLabel(parent);
+    if (reader == Reader::doesNotHear)
+        hideFromReaders(*label);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setFont(panelFont(captionPixels, bold));
+    label->setAlignment(Qt::AlignCenter);
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, Qt::white);
+    label->setPalette(colors);
+    return label;
+}
+
+} // namespace
+
+ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QWidget(parent), m_chart(chart)
+{
+    setObjectName(QStringLiteral("picPokerLabels"));
+    setAccessibleName(tr("Strategy chart"));
+    setAutoFillBackground(true);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::black);
+    setPalette(colors);
+
+    m_lblHands =
+        addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600, QStringLiteral("lblHands"));
+    m_lblWon = addCounter(QStringLiteral("Label3"), tr("Won"), 1080, 420, QStringLiteral("lblWon"));
+    m_lblTotal =
+        addCounter(QStringLiteral("Label1"), tr("Total"), 1752, 480, QStringLiteral("lblTotal"));
+
+    for (int row = 0; row < chartRows; ++row) {
+        m_rows[static_cast<std::size_t>(row)] = new ChartRow(row, this);
+        showRow(row);
+    }
+    m_chart.onRowChanged([this](int row) { showRow(row); });
+    showCounters({});
+}
+
+QLabel* ChartPanel::addCounter(const QString& captionName, const QString& caption,
+                               double captionLeft, double captionWidth, const QString& valueName)
+{
+    const int centre = static_cast<int>(std::lround((captionLeft + captionWidth / 2) / twips));
+    // The value's spoken name has the caption in it.
+    QLabel* captionLabel = whiteLabel(this, captionName, caption, false, Reader::doesNotHear);
+    captionLabel->setGeometry(border + centre - counterWidth / 2, border - 2, counterWidth, 16);
+    QLabel* value = whiteLabel(this, valueName, QStringLiteral("0"), true, Reader::hears);
+    value->setGeometry(border + centre - counterWidth / 2, border + 14, counterWidth, 16);
+    captionLabel->setBuddy(value);
+    return value;
+}
+
+void ChartPanel::layoutChartRows()
+{
+    const double innerHeight = height() - 2 * border;
+    const auto places = StrategyChart::layoutChartRows(innerHeight * twips);
+    for (std::size_t row = 0; row < places.size(); ++row) {
+        const auto edge = [](double position) {
+            return border + static_cast<int>(std::lround(position / twips));
+        };
+        const int top = edge(places[row].top);
+        const int bottom = edge(places[row].top + places[row].height);
+        m_rows[row]->setGeometry(border, top, rowWidth, bottom - top);
+    }
+    fitRowFont();
+}
+
+// The largest size up to the designed one at which every caption fits its row.
+void ChartPanel::fitRowFont()
+{
+    const int rowHeight = m_rows[chartRows - 1]->height();
+    for (int pixels = rowPixels; pixels >= leastRowPixels; --pixels) {
+        const QFont font = panelFont(pixels, false);
+        const QFontMetricsF metrics(font);
+        bool fits = metrics.height() <= rowHeight;
+        for (const ChartRow* row : m_rows)
+            fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - ChartRow::markRoom;
+        if (!fits && pixels > leastRowPixels)
+            continue;
+        for (ChartRow* row : m_rows)
+            row->setFont(font);
+        return;
+    }
+}
+
+void ChartPanel::showRow(int row)
+{
+    ChartRow& label = *m_rows[static_cast<std::size_t>(row)];
+    label.show(m_chart.colors(row), m_chart.state(row));
+    const bool lit = m_chart.state(row) != ChartRowState::base;
+    setAccessibleDescription(lit ? label.accessibleName() : QString());
+}
+
+void ChartPanel::showCounters(const Counters& counters)
+{
+    const auto show = [](QLabel* label, const QString& name, std::int16_t value) {
+        const QString spoken = QStringLiteral("%1 %2").arg(name).arg(value);
+        if (label->accessibleName() == spoken)
+            return; // a reader would say it again
+        label->setText(QString::number(value));
+        // A deal charges just before flights that handle no events.
+        label->repaint();
+        label->setAccessibleName(spoken);
+    };
+    show(m_lblHands, tr("Hands"), counters.hands);
+    show(m_lblWon, tr("Won"), counters.won);
+    show(m_lblTotal, tr("Total"), counters.total);
+}
+
+} // namespace quillet

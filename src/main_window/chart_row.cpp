@@ -1,0 +1,139 @@
+#include "main_window/chart_row.h"
+
+#include "platform/colour_contrast.h"
+#include "platform/desktop_colours.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr double leastContrast = 3.0;
+
+// An arrow for the best play, a cross for the missed one, a diamond for a win.
+QPainterPath markFor(ChartRowState state)
+{
+    QPainterPath mark;
+    switch (state) {
+    case ChartRowState::bestPlay:
+        mark.addPolygon(QPolygonF({{-3, -4.5}, {4.5, 0}, {-3, 4.5}}));
+        break;
+    case ChartRowState::missedPlay:
+        mark.addPolygon(QPolygonF({{-4, -2.6},
+                                   {-2.6, -4},
+                                   {0, -1.4},
+                                   {2.6, -4},
+                                   {4, -2.6},
+                                   {1.4, 0},
+                                   {4, 2.6},
+                                   {2.6, 4},
+                                   {0, 1.4},
+                                   {-2.6, 4},
+                                   {-4, 2.6},
+                                   {-1.4, 0}}));
+        break;
+    case ChartRowState::winner:
+        mark.addPolygon(QPolygonF({{0, -5}, {4.5, 0}, {0, 5}, {-4.5, 0}}));
+        break;
+    case ChartRowState::base:
+        break;
+    }
+    mark.closeSubpath();
+    return mark;
+}
+
+QString spokenState(ChartRowState state)
+{
+    switch (state) {
+    case ChartRowState::bestPlay:
+        return ChartRow::tr("best play");
+    case ChartRowState::missedPlay:
+        return ChartRow::tr("missed best play");
+    case ChartRowState::winner:
+        return ChartRow::tr("winning hand");
+    case ChartRowState::base:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+ChartRow::ChartRow(int row, QWidget* parent) : QLabel(parent)
+{
+    const auto caption = StrategyChart::caption(row);
+    setObjectName(QStringLiteral("pkLabel%1").arg(row));
+    setTextFormat(Qt::PlainText);
+    setText(QString::fromLatin1(caption.data(), static_cast<qsizetype>(caption.size())));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ChartRow::show(ChartRowColors colors, ChartRowState state)
+{
+    m_colors = colors;
+    m_state = state;
+    const QString spoken = spokenState(state);
+    setAccessibleName(spoken.isEmpty() ? text()
+                                       : QStringLiteral("%1, %2").arg(text().trimmed(), spoken));
+    update();
+}
+
+QColor ChartRow::textColor() const
+{
+    if (m_colors.text != windowTextColor)
+        return colorOf(m_colors.text);
+    // Not the row's own palette, which follows the black panel.
+    const QColor fromDesktop = QGuiApplication::palette().color(QPalette::WindowText);
+    const bool readable = contrast(fromDesktop, colorOf(m_colors.background)) >= leastContrast;
+    return readable ? fromDesktop : QColor(Qt::black);
+}
+
+void ChartRow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), colorOf(m_colors.background));
+    painter.setPen(textColor());
+    // A caption that is as wide as its row makes room for the mark.
+    const bool inTheWay = fontMetrics().horizontalAdvance(text()) > width() - 2 * markRoom;
+    const int left = inTheWay && m_state != ChartRowState::base ? markRoom : 0;
+    painter.drawText(rect().adjusted(left, 0, 0, 0), Qt::AlignCenter | Qt::TextSingleLine, text());
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(5, height() / 2.0);
+    painter.fillPath(markFor(m_state), textColor());
+}
+
+void ChartRow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        update();
+    QLabel::changeEvent(event);
+}
+
+QColor colorOf(std::uint32_t bgr)
+{
+    constexpr std::uint32_t namesDesktopColour = 0x80000000;
+    if ((bgr & namesDesktopColour) != 0)
+        return desktopColour(bgr & ~namesDesktopColour);
+    return {static_cast<int>(bgr & 0xff), static_cast<int>((bgr >> 8) & 0xff),
+            static_cast<int>((bgr >> 16) & 0xff)};
+}
+
+std::uint32_t bgrOf(const QColor& color)
+{
+    return static_cast<std::uint32_t>(color.red()) |
+           static_cast<std::uint32_t>(color.green()) << 8 |
+           static_cast<std::uint32_t>(color.blue()) << 16;
+}
+
+} // namespace quillet

@@ -1,0 +1,303 @@
+#include "main_window/frm_preferences.h"
+
+#include "main_window/animation_speed.h"
+#include "main_window/back_preview.h"
+#include "main_window/chart_row.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QFrame>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr int backs = 13;
+
+// Styles draw no focus on scroll bars, which elsewhere do not take it.
+class SpeedBar : public QScrollBar
+{
+public:
+    using QScrollBar::QScrollBar;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QScrollBar::paintEvent(event);
+        if (!hasFocus())
+            return;
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
+
+QFrame* makePage(const QString& name, QTabWidget& tabs, const QString& caption)
+{
+    auto* page = new QFrame(&tabs);
+    page->setObjectName(name);
+    new QVBoxLayout(page);
+    tabs.addTab(page, caption);
+    return page;
+}
+
+template <typename Control>
+Control* add(QFrame& page, const QString& name, const QString& caption)
+{
+    auto* control = new Control(caption, &page);
+    control->setObjectName(name);
+    page.layout()->addWidget(control);
+    return control;
+}
+
+// The list is as wide as the preview. Letters may become a little smaller for that, but where the
+// desktop's font is so large that this does not do, the list becomes wider.
+void fitTo(QComboBox& list, int width)
+{
+    QFont font = list.font();
+    const double smallest = 0.8 * font.pointSizeF();
+    while (list.sizeHint().width() > width && font.pointSizeF() > smallest) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        list.setFont(font);
+    }
+    list.setFixedWidth(std::max(width, list.sizeHint().width()));
+}
+
+} // namespace
+
+frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
+    : QDialog(parent), m_host(std::move(host))
+{
+    setObjectName(QStringLiteral("frmPreferences"));
+    setWindowTitle(tr("Preferences"));
+    auto* layout = new QVBoxLayout(this);
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    layout->addWidget(tabs);
+    makeGeneralPage(*makePage(QStringLiteral("frameGeneral"), *tabs, tr("General")));
+    makeVideoPokerPage(*makePage(QStringLiteral("frameVideoPoker"), *tabs, tr("Video Poker")));
+    makeCardBacksPage(*makePage(QStringLiteral("frameCardBacks"), *tabs, tr("Card Backs")));
+    for (QAbstractButton* indicator : findChildren<QAbstractButton*>())
+        indicator->setStyle(&m_indicatorStyle);
+    HScroll1->setStyle(&m_indicatorStyle);
+    makeButtons(*layout);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmPreferences::makeGeneralPage(QFrame& page)
+{
+    ckSounds = add<QCheckBox>(page, QStringLiteral("ckSounds"), tr("Enable sounds"));
+    ckAnimation = add<QCheckBox>(page, QStringLiteral("ckAnimation"), tr("Enable animation"));
+    auto* caption = add<QLabel>(page, QStringLiteral("Label1"), tr("Animation Delay"));
+    HScroll1 = new SpeedBar(Qt::Horizontal, &page);
+    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    HScroll1->setRange(slowest, fastest);
+    HScroll1->setSingleStep(1);
+    HScroll1->setPageStep(50);
+    HScroll1->setFocusPolicy(Qt::StrongFocus);
+    // As the toolkit makes them, the left arrow key moves a scroll bar to the right.
+    HScroll1->setInvertedControls(false);
+    HScroll1->setAccessibleName(tr("Animation Delay"));
+    caption->setBuddy(HScroll1);
+    page.layout()->addWidget(HScroll1);
+    add<QLabel>(page, QStringLiteral("Label7"), tr("Slower                      Faster"))
+        ->setAlignment(Qt::AlignHCenter);
+    Label4 = add<QLabel>(page, QStringLiteral("Label4"), QStringLiteral("100"));
+    Label4->setAlignment(Qt::AlignHCenter);
+    static_cast<QVBoxLayout*>(page.layout())->addStretch();
+    connect(HScroll1, &QScrollBar::valueChanged, this, &frmPreferences::HScroll1_Change);
+}
+
+void frmPreferences::makeVideoPokerPage(QFrame& page)
+{
+    ckprfAutoDeal = add<QCheckBox>(page, QStringLiteral("ckprfAutoDeal"), tr("Auto Deal"));
+    opAlwaysShow =
+        add<QRadioButton>(page, QStringLiteral("opAlwaysShow"), tr("Always Show Best Play "));
+    opShowOnError =
+        add<QRadioButton>(page, QStringLiteral("opShowOnError"), tr("Show Best Play after Error"));
+    static_cast<QVBoxLayout*>(page.layout())->addStretch();
+}
+
+void frmPreferences::makeCardBacksPage(QFrame& page)
+{
+    auto* caption = add<QLabel>(page, QStringLiteral("Label2"), tr("Select Card Image"));
+    Combo1 = new QComboBox(&page);
+    Combo1->setObjectName(QStringLiteral("Combo1"));
+    for (const char* name : {"Hatch", "Plaid", "Weave", "Robot", "Roses", "IvyBlack", "IvyBlue",
+                             "FishCyan", "FishBlue", "Shell", "Castle", "Beach", "Sleeve"})
+        Combo1->addItem(QString::fromLatin1(name));
+    Combo1->setCurrentIndex(-1);
+    caption->setBuddy(Combo1);
+    picBacks = new BackPreview(&page);
+    auto* column = static_cast<QVBoxLayout*>(page.layout());
+    auto* middle = new QVBoxLayout;
+    middle->addWidget(Combo1, 0, Qt::AlignLeft);
+    middle->addWidget(picBacks, 0, Qt::AlignLeft);
+    auto* inTheMiddle = new QHBoxLayout;
+    inTheMiddle->addStretch();
+    inTheMiddle->addLayout(middle);
+    inTheMiddle->addStretch();
+    column->addLayout(inTheMiddle);
+
+    auto* row = new QHBoxLayout;
+    auto* colorCaption = new QLabel(tr("Hold  Card Outline color"), &page);
+    colorCaption->setObjectName(QStringLiteral("Label5"));
+    lblColor = new QLabel(&page);
+    lblColor->setObjectName(QStringLiteral("lblColor"));
+    lblColor->setFixedSize(40, 20);
+    lblColor->setAutoFillBackground(true);
+    lblColor->setFrameStyle(QFrame::Box | QFrame::Plain);
+    cmdChangeColor = new QPushButton(tr("change"), &page);
+    cmdChangeColor->setObjectName(QStringLiteral("cmdChangeColor"));
+    cmdChangeColor->setAccessibleName(tr("Change the colour of the hold outline"));
+    row->addWidget(colorCaption);
+    row->addWidget(lblColor);
+    row->addWidget(cmdChangeColor);
+    column->addLayout(row);
+    connect(Combo1, &QComboBox::currentIndexChanged, this, &frmPreferences::Combo1_Click);
+    connect(cmdChangeColor, &QPushButton::clicked, this, &frmPreferences::cmdChangeColor_Click);
+}
+
+void frmPreferences::makeButtons(QVBoxLayout& layout)
+{
+    auto* row = new QHBoxLayout;
+    auto* cmdSave = new QPushButton(tr("Save"), this);
+    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    cmdSave->setDefault(true);
+    auto* cmdCancel = new QPushButton(tr("Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    row->addStretch();
+    row->addWidget(cmdSave);
+    row->addWidget(cmdCancel);
+    layout.addLayout(row);
+    connect(cmdSave, &QPushButton::clicked, this, &frmPreferences::cmdSave_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmPreferences::cmdCancel_Click);
+}
+
+bool frmPreferences::event(QEvent* event)
+{
+    // Once per opening: it becomes active again after the colour chooser, with changes pending.
+    if (event->type() == QEvent::Show && !m_activated) {
+        m_activated = true;
+        Form_Activate();
+        // The window takes its size for the card before it is seen.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    }
+    return QDialog::event(event);
+}
+
+void frmPreferences::Form_Activate()
+{
+    guarded(m_host.errorBox, "Form_Activate", [this] {
+        const Preferences& now = m_host.preferences;
+        const int margin = static_cast<int>(30 / m_host.twipsPerPixel);
+        picBacks->setFixedSize(m_host.cardSize + QSize(margin, margin));
+        fitTo(*Combo1, picBacks->width());
+        Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));
+        {
+            // Showing the stored position changes no delay.
+            const QSignalBlocker quiet(HScroll1);
+            HScroll1->setValue(now.prfScrollVal);
+        }
+        Label4->setText(QString::number(now.prfAnimationDelay));
+        ckprfAutoDeal->setChecked(now.prfPokerAutoDeal);
+        showOutlineColor();
+        QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
+        chosen.setChecked(true);
+        // The tab key is to find the chosen one; the toolkit sees to it from the first focus on.
+        for (QRadioButton* option : {opAlwaysShow, opShowOnError})
+            option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
+        ckAnimation->setChecked(now.prfAnimation);
+        ckSounds->setChecked(now.prfSound);
+        const std::int32_t entry = now.prfPKBackFace - firstBack;
+        if (entry < 0 || entry >= backs)
+            throw RunTimeError("Invalid property value");
+        Combo1->setCurrentIndex(entry);
+    });
+}
+
+void frmPreferences::Combo1_Click()
+{
+    guarded(m_host.errorBox, "Combo1_Click", [this] {
+        if (Combo1->currentIndex() < 0)
+            return;
+        m_host.library.cdtDraw(picBacks->freshPicture(m_host.cardSize), 0, 0,
+                               firstBack + Combo1->currentIndex(), drawBack, whiteColor);
+        picBacks->setAccessibleName(tr("Card back %1").arg(Combo1->currentText()));
+        picBacks->update();
+    });
+}
+
+void frmPreferences::cmdChangeColor_Click()
+{
+    QColorDialog chooser(
+        colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
+    chooser.setObjectName(QStringLiteral("CommonDialog1"));
+    chooser.setWindowTitle(tr("Colour of the hold outline"));
+    if (chooser.exec() != QDialog::Accepted)
+        return;
+    m_host.preferences.prfCardOutlineColor =
+        static_cast<std::int32_t>(bgrOf(chooser.selectedColor()));
+    showOutlineColor();
+    m_host.outlineColorChanged();
+}
+
+void frmPreferences::showOutlineColor()
+{
+    QPalette colors = lblColor->palette();
+    const QColor color =
+        colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
+    colors.setColor(QPalette::Window, color);
+    lblColor->setPalette(colors);
+    lblColor->setAccessibleName(tr("Hold outline colour %1").arg(color.name()));
+}
+
+void frmPreferences::HScroll1_Change()
+{
+    m_host.preferences.prfAnimationDelay = animationDelayFor(HScroll1->value());
+    Label4->setText(QString::number(m_host.preferences.prfAnimationDelay));
+}
+
+void frmPreferences::cmdSave_Click()
+{
+    guarded(m_host.errorBox, "cmdSave_Click", [this] {
+        Preferences& fields = m_host.preferences;
+        fields.prfPokerAutoDeal = ckprfAutoDeal->isChecked();
+        fields.prfShowPokerPlay = opAlwaysShow->isChecked();
+        fields.prfAnimation = ckAnimation->isChecked();
+        fields.prfSound = ckSounds->isChecked();
+        const int entry = Combo1->currentIndex();
+        if (entry >= 0 && entry < backs && firstBack + entry != fields.prfPKBackFace) {
+            fields.prfPKBackFace = firstBack + entry;
+            m_host.DrawDealDeck();
+        }
+        fields.prfScrollVal = static_cast<std::int16_t>(HScroll1->value());
+        accept();
+    });
+}
+
+void frmPreferences::cmdCancel_Click()
+{
+    reject();
+}
+
+} // namespace quillet

@@ -1,0 +1,104 @@
+#include "main_window/status_bar.h"
+
+#include "main_window/window_layout.h"
+#include "table/accessible_widgets.h"
+#include "table/surface.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPixmap>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr int pointerSide = 32; // logical pixels
+constexpr QPoint hotSpot{12, 9};
+
+// Swallows its clicks, which would otherwise reach the bar.
+class SilentLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
+};
+
+} // namespace
+
+StatusBar::StatusBar(QWidget* parent)
+    : QWidget(parent), m_lblstatus(new SilentLabel(tr("Welcome to Quillet"), this))
+{
+    setObjectName(QStringLiteral("picStatusBar"));
+    presentAsLink(*this);
+    setAccessibleName(tr("Status bar, opens the web site"));
+    setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
+    setAutoFillBackground(true);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::black);
+    setPalette(colors);
+    makePointer();
+
+    m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
+    m_lblstatus->setTextFormat(Qt::PlainText);
+    m_lblstatus->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    QFont font(QStringLiteral("MS Sans Serif"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(12);
+    font.setBold(true);
+    m_lblstatus->setFont(font);
+    m_lblstatus->setGeometry(117, 21, 215, 16);
+    setTextColor(QColor(0xff, 0xff, 0xc0));
+}
+
+void StatusBar::setTextColor(const QColor& color)
+{
+    QPalette colors = m_lblstatus->palette();
+    colors.setColor(QPalette::WindowText, color);
+    m_lblstatus->setPalette(colors);
+}
+
+void StatusBar::centreText()
+{
+    m_lblstatus->move((width() - m_lblstatus->width()) / 2, m_lblstatus->y());
+}
+
+void StatusBar::makePointer()
+{
+    const QImage drawn(QStringLiteral(":/pointer/hand@2x.png"));
+    if (drawn.isNull()) {
+        setCursor(Qt::PointingHandCursor);
+        return;
+    }
+    const double scale = devicePixelRatioF();
+    const int side = deviceSize(pointerSide, scale);
+    QPixmap hand = QPixmap::fromImage(
+        drawn.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    // X11 counts a pointer in device pixels, all others in logical ones.
+    const bool inDevicePixels = QGuiApplication::platformName() == QLatin1String("xcb");
+    hand.setDevicePixelRatio(inDevicePixels ? 1 : scale);
+    const QPointF tip = QPointF(hotSpot) * (inDevicePixels ? scale : 1);
+    setCursor(QCursor(hand, qRound(tip.x()), qRound(tip.y())));
+}
+
+void StatusBar::mousePressEvent(QMouseEvent* event)
+{
+    m_pressed = event->button() == Qt::LeftButton;
+}
+
+void StatusBar::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool click = m_pressed && event->button() == Qt::LeftButton;
+    m_pressed = false;
+    if (click && rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+} // namespace quillet

@@ -1,0 +1,211 @@
+#include "settings/settings_text.h"
+
+#include <QUtf8StringView>
+
+#include <algorithm>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view misreadInNames = "=#;[]";
+constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
+bool isUtf8(std::string_view text)
+{
+    return QUtf8StringView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8();
+}
+
+bool isControl(char c)
+{
+    return (c >= '\0' && c < ' ') || c == '\x7F';
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::string byteEscape(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return {'\\', 'x', hexDigits[byte / 16U], hexDigits[byte % 16U]};
+}
+
+std::string escaped(std::string_view text, std::string_view misread)
+{
+    const bool wellFormed = isUtf8(text);
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool outerBlank = c == ' ' && (i == 0 || i + 1 == text.size());
+        const bool looseByte = !wellFormed && static_cast<unsigned char>(c) >= 0x80;
+        if (c == '\\')
+            result += "\\\\";
+        else if (c == '\n')
+            result += "\\n";
+        else if (c == '\r')
+            result += "\\r";
+        else if (c == '\t')
+            result += "\\t";
+        else if (isControl(c) || outerBlank || looseByte || misread.find(c) != misread.npos)
+            result += byteEscape(c);
+        else
+            result += c;
+    }
+    return result;
+}
+
+// The byte for two hexadecimal digits at the front of the text.
+std::optional<char> hexByte(std::string_view text)
+{
+    int byte = 0;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const char digit = i < text.size() ? text[i] : '?';
+        const char upper = digit >= 'a' && digit <= 'f' ? static_cast<char>(digit - 32) : digit;
+        const auto value = hexDigits.find(upper);
+        if (value == std::string_view::npos)
+            return std::nullopt;
+        byte = byte * 16 + static_cast<int>(value);
+    }
+    return static_cast<char>(byte);
+}
+
+std::string unescaped(std::string_view text)
+{
+    constexpr std::string_view letters = "nrt\\", meanings = "\n\r\t\\";
+    std::string result;
+    while (!text.empty()) {
+        const char next = text.size() > 1 ? text[1] : '\0';
+        const auto letter = letters.find(next);
+        const std::optional<char> byte =
+            next == 'x' ? hexByte(text.substr(2)) : std::optional<char>();
+        if (text[0] == '\\' && byte) {
+            result += *byte;
+            text.remove_prefix(4);
+        } else if (text[0] == '\\' && letter != std::string_view::npos) {
+            result += meanings[letter];
+            text.remove_prefix(2);
+        } else {
+            result += text[0];
+            text.remove_prefix(1);
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+std::optional<SettingsText> SettingsText::parse(std::string_view bytes)
+{
+    SettingsText result;
+    if (!isUtf8(bytes))
+        return std::nullopt;
+    if (bytes.starts_with(byteOrderMark)) {
+        result.m_byteOrderMark = byteOrderMark;
+        bytes.remove_prefix(byteOrderMark.size());
+    }
+    std::string section;
+    while (!bytes.empty()) {
+        const std::string_view raw = bytes.substr(0, bytes.find('\n'));
+        bytes.remove_prefix(std::min(raw.size() + 1, bytes.size()));
+        std::optional<Line> line = parseLine(raw, section);
+        if (!line)
+            return std::nullopt;
+        section = line->section;
+        result.m_lines.push_back(std::move(*line));
+    }
+    if (!result.m_lines.empty() && result.m_lines.front().raw.ends_with('\r'))
+        result.m_carriageReturn += '\r';
+    return result;
+}
+
+std::optional<SettingsText::Line> SettingsText::parseLine(std::string_view raw,
+                                                          const std::string& section)
+{
+    Line line{std::string(raw), section, false, std::nullopt, {}};
+    if (raw.ends_with('\r'))
+        raw.remove_suffix(1);
+    if (std::ranges::any_of(raw, [](char c) { return isControl(c) && c != '\t'; }))
+        return std::nullopt;
+
+    const std::string_view text = trimmed(raw);
+    if (text.empty() || text[0] == '#' || text[0] == ';')
+        return line;
+    if (text[0] == '[') {
+        if (!text.ends_with(']'))
+            return std::nullopt;
+        line.section = unescaped(trimmed(text.substr(1, text.size() - 2)));
+        line.opensSection = true;
+        return line;
+    }
+    const auto equals = text.find('=');
+    if (equals == std::string_view::npos)
+        return std::nullopt;
+    line.key = unescaped(trimmed(text.substr(0, equals)));
+    line.value = unescaped(trimmed(text.substr(equals + 1)));
+    return line;
+}
+
+std::optional<std::string> SettingsText::value(std::string_view section, std::string_view key) const
+{
+    const Line* found = find(section, key);
+    return found == nullptr ? std::nullopt : std::optional(found->value);
+}
+
+void SettingsText::setValue(const std::string& section, const std::string& key,
+                            std::string_view value)
+{
+    Line entry{escaped(key, misreadInNames) + "=" + escaped(value, "") + m_carriageReturn, section,
+               false, key, std::string(value)};
+    if (const Line* found = find(section, key))
+        m_lines[static_cast<std::size_t>(found - m_lines.data())] = std::move(entry);
+    else
+        insertEntry(std::move(entry));
+}
+
+// Of several lines with this key the last counts.
+const SettingsText::Line* SettingsText::find(std::string_view section, std::string_view key) const
+{
+    const auto found = std::find_if(m_lines.rbegin(), m_lines.rend(), [&](const Line& line) {
+        return line.section == section && line.key == key;
+    });
+    return found == m_lines.rend() ? nullptr : &*found;
+}
+
+// Below the last entry of its section, so that blank lines and comments after it stay where they
+// are; a section that is not there yet is begun at the end.
+void SettingsText::insertEntry(Line entry)
+{
+    const auto last = std::find_if(m_lines.rbegin(), m_lines.rend(), [&entry](const Line& line) {
+        return line.section == entry.section && (line.key || line.opensSection);
+    });
+    if (last != m_lines.rend()) {
+        m_lines.insert(last.base(), std::move(entry));
+        return;
+    }
+    if (!m_lines.empty())
+        m_lines.push_back({m_carriageReturn, m_lines.back().section, false, std::nullopt, {}});
+    m_lines.push_back({'[' + escaped(entry.section, misreadInNames) + ']' + m_carriageReturn,
+                       entry.section,
+                       true,
+                       std::nullopt,
+                       {}});
+    m_lines.push_back(std::move(entry));
+}
+
+std::string SettingsText::bytes() const
+{
+    std::string result = m_byteOrderMark;
+    for (const Line& line : m_lines)
+        result += line.raw + "\n";
+    return result;
+}
+
+} // namespace quillet

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "sound/cue_mixer.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+namespace quillet
+{
+
+// Reads wave files and keeps what it has read, so that a cue heard ten times a hand is decoded
+// once. A file that has changed since is read again.
+class CueLibrary
+{
+public:
+    // Null for a file that is missing, broken, or larger or longer than a cue can sensibly be.
+    [[nodiscard]] std::shared_ptr<const SoundCue> find(const std::string& path);
+
+private:
+    struct Entry {
+        std::filesystem::file_time_type written;
+        std::uintmax_t size;
+        std::shared_ptr<const SoundCue> cue;
+    };
+
+    std::unordered_map<std::string, Entry> m_entries;
+    std::size_t m_keptBytes = 0;
+};
+
+} // namespace quillet

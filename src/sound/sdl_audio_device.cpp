@@ -1,0 +1,80 @@
+#include "sound/sdl_audio_device.h"
+
+#include <SDL.h>
+
+#include <dlfcn.h>
+#include <mutex>
+
+namespace quillet
+{
+
+namespace
+{
+
+void ignoreAlsaMessage(const char*, int, const char*, int, const char*, ...) {}
+
+// ALSA reports every look-up that fails on stderr, eight lines on a machine without a card. SDL
+// brings ALSA into the process on some systems and not on others, so its handler is looked up
+// rather than linked.
+void muteAlsa()
+{
+    using SetHandler = int (*)(decltype(&ignoreAlsaMessage));
+    void* alsa = dlopen("libasound.so.2", RTLD_LAZY);
+    if (!alsa)
+        return;
+    if (const auto set = reinterpret_cast<SetHandler>(dlsym(alsa, "snd_lib_error_set_handler")))
+        set(ignoreAlsaMessage);
+}
+
+void prepareSdl()
+{
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_APP_NAME, "Quillet");
+    SDL_LogSetOutputFunction([](void*, int, SDL_LogPriority, const char*) {}, nullptr);
+    muteAlsa();
+}
+
+void renderBlock(void* mixer, Uint8* block, int bytes)
+{
+    static_cast<CueMixer*>(mixer)->render({reinterpret_cast<std::int16_t*>(block),
+                                           static_cast<std::size_t>(bytes) / sizeof(std::int16_t)});
+}
+
+} // namespace
+
+std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
+{
+    static std::once_flag prepared;
+    std::call_once(prepared, prepareSdl);
+
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+        return nullptr;
+    SDL_AudioSpec wanted{};
+    wanted.freq = soundRate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = soundChannels;
+    wanted.samples = 512;
+    wanted.callback = renderBlock;
+    wanted.userdata = &mixer;
+    const SDL_AudioDeviceID id = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    if (id == 0) {
+        // The next attempt may find another server, so the choice of driver goes too.
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        return nullptr;
+    }
+    SDL_PauseAudioDevice(id, 0);
+    return std::unique_ptr<SdlAudioDevice>(new SdlAudioDevice(id));
+}
+
+SdlAudioDevice::~SdlAudioDevice()
+{
+    SDL_CloseAudioDevice(m_id);
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+bool SdlAudioDevice::isLost() const
+{
+    return SDL_GetAudioDeviceStatus(m_id) == SDL_AUDIO_STOPPED;
+}
+
+} // namespace quillet

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "sound/audio_device.h"
+#include "sound/cue_mixer.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace quillet
+{
+
+// The machine's sound output while it is open. Opening and closing take as long as the sound
+// server likes, so only a thread that nobody waits for may do either.
+class SdlAudioDevice : public AudioDevice
+{
+public:
+    // Plays what the mixer renders; the mixer must outlive the device. Null when there is none.
+    [[nodiscard]] static std::unique_ptr<AudioDevice> open(CueMixer& mixer);
+
+    ~SdlAudioDevice() override;
+    SdlAudioDevice(const SdlAudioDevice&) = delete;
+    SdlAudioDevice& operator=(const SdlAudioDevice&) = delete;
+
+    [[nodiscard]] bool isLost() const override;
+
+private:
+    explicit SdlAudioDevice(std::uint32_t id) : m_id(id) {}
+
+    std::uint32_t m_id;
+};
+
+} // namespace quillet

@@ -1,0 +1,182 @@
+#include "table/card_flight.h"
+
+#include "table/counting_loop.h"
+#include "table/picture_box.h"
+#include "table/table_canvas.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace quillet
+{
+
+namespace
+{
+
+// How far a frame's copy reaches past the card, over the place that the card has left.
+constexpr int trail = 10;
+
+std::int32_t roundHalfToEven(double value)
+{
+    return static_cast<std::int32_t>(std::nearbyint(value));
+}
+
+std::int16_t pixelsToTravel(std::int64_t distance)
+{
+    if (distance > std::numeric_limits<std::int16_t>::max())
+        throw overflowError();
+    return static_cast<std::int16_t>(distance);
+}
+
+int frameCount(std::int16_t pixels, std::int16_t stepSize)
+{
+    if (stepSize == 0)
+        throw pixels > 0 ? divisionByZeroError() : overflowError();
+    return roundHalfToEven(
+        static_cast<double>(static_cast<float>(pixels) / static_cast<float>(stepSize)));
+}
+
+} // namespace
+
+std::int32_t delayFlown(std::int32_t storedDelay)
+{
+    constexpr std::int32_t slowestOfTheSlider = 6000;
+    return storedDelay <= longestDelay ? std::min(storedDelay, slowestOfTheSlider) : storedDelay;
+}
+
+// The longer axis moves by whole steps, the other follows in fractions. Equal distances count as
+// a path along y that moves both axes alike.
+struct CardFlight::Path {
+    Path(std::int32_t fromX, std::int32_t fromY, std::int32_t x, std::int32_t y)
+        : toX(x), toY(y), movingDown(y > fromY), movingRight(!movingDown && fromX < x)
+    {
+        const std::int64_t dx = std::abs(std::int64_t{fromX} - toX);
+        const std::int64_t dy = std::abs(std::int64_t{fromY} - toY);
+        alongX = dx > dy;
+        if (dx > dy) {
+            stepX = 1.0;
+            stepY = static_cast<double>(dy) / static_cast<double>(dx);
+        } else if (dx < dy) {
+            stepY = 1.0;
+            stepX = static_cast<double>(dx) / static_cast<double>(dy);
+        } else {
+            stepX = stepY = 1.0;
+        }
+        if (fromX > toX)
+            stepX = -stepX;
+        if (fromY > toY)
+            stepY = -stepY;
+        pixels = pixelsToTravel(alongX ? dx : dy);
+    }
+
+    std::int32_t toX;
+    std::int32_t toY;
+    bool movingDown;
+    bool movingRight; // not looked at while moving down
+    bool alongX = false;
+    double stepX = 0.0;
+    double stepY = 0.0;
+    std::int16_t pixels = 0;
+};
+
+void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int32_t toX,
+                             std::int32_t toY, std::int16_t stepSize, std::int32_t cardNumber,
+                             std::int32_t drawMode)
+{
+    guardedWithText(m_errorBox, "Error in AnimateCard  ", "", [&] {
+        prepareTable();
+        const Path path(fromX, fromY, toX, toY);
+        m_pictures.canvas->refresh();
+        m_pictures.canvas->setPersistentImage(false);
+
+        std::int32_t& major = path.alongX ? fromX : fromY;
+        std::int32_t& minor = path.alongX ? fromY : fromX;
+        const double majorStep = stepSize * (path.alongX ? path.stepX : path.stepY);
+        const double minorStep = stepSize * (path.alongX ? path.stepY : path.stepX);
+        double exactMinor = minor;
+        const int frames = m_preferences.prfAnimation ? frameCount(path.pixels, stepSize) : 0;
+        for (int frame = 1; frame <= frames; ++frame) {
+            major = roundHalfToEven(major + majorStep);
+            exactMinor += minorStep;
+            minor = static_cast<std::int32_t>(std::floor(exactMinor));
+            drawFrame(fromX, fromY, path, cardNumber, drawMode);
+            countingLoop(delayFlown(m_preferences.prfAnimationDelay));
+        }
+        land(toX, toY);
+    });
+}
+
+void CardFlight::prepareTable()
+{
+    TableCanvas& canvas = *m_pictures.canvas;
+    Surface& board = m_pictures.BoardBuffer;
+    canvas.setPersistentImage(true);
+    if (board.size() != canvas.innerSize() || board.scale() != canvas.scale())
+        board = Surface(canvas.innerSize(), canvas.scale());
+    board.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
+    for (auto box = m_pictures.picDeal.rbegin(); box != m_pictures.picDeal.rend(); ++box)
+        (*box)->setShowing(false);
+    // No event is handled on the way, so that what is uncovered meanwhile waits for the next card.
+    canvas.presentWholeWindowWithNextFrame();
+    canvas.refresh();
+
+    // The cards on the table are what the flying one's rounded corners show.
+    for (const PictureBox* box : m_pictures.picPoker)
+        if (box->isShowing())
+            board.copyPixels(box->picture(), box->picture().image().rect(),
+                             box->devicePlace().topLeft());
+    m_lastFrame = {};
+}
+
+void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
+                           std::int32_t cardNumber, std::int32_t drawMode)
+{
+    Surface& board = m_pictures.BoardBuffer;
+    const QSizeF card = m_pictures.picAnimate.picture.size();
+    const QPointF at(x, y);
+
+    m_pictures.picBuffer.copyFrom(board, at, card, {0, 0});
+    m_library.cdtDraw(board, x, y, cardNumber, drawMode, whiteColor);
+
+    QPointF corner = at;
+    if (path.movingDown) {
+        corner.ry() -= trail;
+        if (path.toX >= x)
+            corner.rx() -= trail;
+    } else if (path.movingRight) {
+        corner.rx() -= trail;
+    }
+    show(deviceRect({at, card}, board.scale()),
+         deviceRect({corner, card + QSizeF(trail, trail)}, board.scale()));
+
+    board.copyFrom(m_pictures.picBuffer, {0, 0}, card, at);
+}
+
+void CardFlight::land(std::int32_t toX, std::int32_t toY)
+{
+    TableCanvas& canvas = *m_pictures.canvas;
+    Surface& board = m_pictures.BoardBuffer;
+    const Surface& card = m_pictures.picAnimate.picture;
+    const QPointF at(toX, toY);
+    board.copyFrom(card, {0, 0}, card.size(), at);
+    show(deviceRect({at, card.size()}, board.scale()), {});
+    board.copyFrom(canvas.kept(), at, card.size(), at);
+    for (const PictureBox* box : m_pictures.picPoker)
+        if (box->isShowing())
+            board.copyPixels(canvas.kept(), box->devicePlace(), box->devicePlace().topLeft());
+    canvas.setPersistentImage(true);
+    m_pictures.picDeal[0]->setShowing(true);
+}
+
+// A card ends and begins at device pixels of its own, so that the copy also takes in the pixels of
+// this frame's card and of the last one's.
+void CardFlight::show(const QRect& card, const QRect& copied)
+{
+    m_pictures.canvas->liftOverBoxes(card);
+    m_pictures.canvas->copyPixels(m_pictures.BoardBuffer, copied | card | m_lastFrame);
+    m_lastFrame = card;
+}
+
+} // namespace quillet

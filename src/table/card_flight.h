@@ -1,0 +1,51 @@
+#pragma once
+
+#include "engine/preferences.h"
+#include "faults/run_time_error.h"
+#include "table/card_library.h"
+#include "table/table_pictures.h"
+
+#include <cstdint>
+
+namespace quillet
+{
+
+// The delay with which a flight counts. One that is slower than the slider can set comes out of an
+// edited settings file and would stop the game for hours, since no event is handled during a
+// flight; beyond longestDelay it stays, and counting throws.
+[[nodiscard]] std::int32_t delayFlown(std::int32_t storedDelay);
+
+// Flies one card over the painted table. No event is handled during a flight; its speed rests on
+// prfAnimationDelay. The referenced objects outlive the flight.
+class CardFlight
+{
+public:
+    CardFlight(TablePictures& pictures, CardLibrary& library, const Preferences& preferences,
+               ErrorBox& errorBox)
+        : m_pictures(pictures), m_library(library), m_preferences(preferences), m_errorBox(errorBox)
+    {
+    }
+
+    // Moves the card stepSize pixels of the longer axis a frame and leaves picAnimate's picture
+    // at (toX, toY), on the display only. fromX and fromY end at the last frame's position. All
+    // in logical pixels. Errors are shown in a box; the flight ends there.
+    void AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int32_t toX, std::int32_t toY,
+                     std::int16_t stepSize, std::int32_t cardNumber, std::int32_t drawMode);
+
+private:
+    struct Path;
+
+    void prepareTable();
+    void drawFrame(std::int32_t x, std::int32_t y, const Path& path, std::int32_t cardNumber,
+                   std::int32_t drawMode);
+    void land(std::int32_t toX, std::int32_t toY);
+    void show(const QRect& card, const QRect& copied);
+
+    TablePictures& m_pictures;
+    CardLibrary& m_library;
+    const Preferences& m_preferences;
+    ErrorBox& m_errorBox;
+    QRect m_lastFrame; // where the card lies on the display, in device pixels
+};
+
+} // namespace quillet

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "table/surface.h"
+
+#include <QImage>
+#include <QSize>
+
+#include <cstdint>
+#include <map>
+
+namespace quillet
+{
+
+// Drawing modes of cdtDraw.
+inline constexpr std::int32_t drawFace = 0;
+inline constexpr std::int32_t drawBack = 1;
+
+inline constexpr std::int32_t firstBack = 53;
+inline constexpr std::int32_t lastBack = 65;
+inline constexpr std::int32_t usualBack = 65;
+// The crosshatch that is laid over card places and finished hands.
+inline constexpr std::int32_t hatchBack = 53;
+
+inline constexpr std::uint32_t whiteColor = 0xFFFFFF;
+
+// Paints cards on pictures. Each card is drawn once per scale factor and then copied.
+class CardLibrary
+{
+public:
+    CardLibrary();
+    // With cards of another size, in logical pixels.
+    explicit CardLibrary(QSize cardSize);
+
+    // Makes the library ready and tells the card size in logical pixels.
+    void cdtInit(std::int32_t& width, std::int32_t& height);
+
+    // Paints a face (0..51) or a back (53..65) with its top left corner at (x, y); for a back that
+    // does not exist the usual one, for any other number nothing. The corners let what is there
+    // show through. Throws RunTimeError outside cdtInit and cdtTerm.
+    void cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int32_t cardNumber,
+                 std::int32_t drawMode, std::uint32_t backgroundColor);
+
+    void cdtTerm();
+
+private:
+    const QImage& card(std::int32_t cardNumber, double scale);
+
+    QSize m_cardSize;
+    bool m_ready = false;
+    double m_cachedScale = 0.0;
+    std::map<std::int32_t, QImage> m_cards; // by card number, for the cached scale
+};
+
+} // namespace quillet

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "table/card_on_table.h"
+
+#include <QString>
+
+namespace quillet
+{
+
+// A face's name, "Queen of hearts"; card number 0..51.
+[[nodiscard]] QString cardName(std::int32_t cardId);
+
+// What a screen reader says of a card place, "Card 2: Queen of hearts, held".
+[[nodiscard]] QString spokenCard(int slot, const CardOnTable& card, bool held);
+
+} // namespace quillet

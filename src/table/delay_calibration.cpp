@@ -1,0 +1,114 @@
+#include "table/delay_calibration.h"
+
+#include "table/counting_loop.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr double flightRound = 0.4; // seconds that a round is to take at least
+constexpr double bannerRound = 0.3; // below this, the banner is measured again
+constexpr double bannerSlow = 0.5;  // below this, the banner's delay still rises
+constexpr std::int32_t step = 10;
+
+// A machine whose rounds agree with one another needs two or three.
+constexpr int mostRounds = 6;
+
+// A broken cost must not overflow the delay.
+constexpr double mostSteps = 100'000;
+
+// Looks for the first of the delays start, start + 10, ... whose round takes at least the limit.
+class Search
+{
+public:
+    Search(std::int32_t& delay, double limit, const RoundCost& cost)
+        : m_delay(delay), m_start(delay), m_limit(limit),
+          m_base(cost.seconds + cost.secondsPerUnit * delay), m_stepCost(cost.secondsPerUnit * step)
+    {
+    }
+
+    // Leaves the delay found; answers how long its round takes, measured or reckoned.
+    double run(const MeasureRound& measure)
+    {
+        for (int round = 0; round < mostRounds && m_enough != m_tooFew + 1; ++round) {
+            const int steps = likelySteps();
+            m_delay = m_start + steps * step;
+            const std::optional<double> took = measure(m_delay);
+            if (!took)
+                break;
+            note(steps, *took);
+        }
+        const int steps = m_enough == m_tooFew + 1 ? m_enough : likelySteps();
+        m_delay = m_start + steps * step;
+        return m_enough == steps ? m_enoughTook : m_base + m_stepCost * steps;
+    }
+
+private:
+    void note(int steps, double took)
+    {
+        // Longer rounds are measured more closely, so the longest one tells the cost of a step.
+        if (steps > 0 && took > m_base)
+            m_stepCost = (took - m_base) / steps;
+        if (took < m_limit) {
+            m_tooFew = steps;
+        } else {
+            m_enough = steps;
+            m_enoughTook = took;
+        }
+    }
+
+    // What the cost makes likely, but always between what is known to be too few and enough.
+    [[nodiscard]] int likelySteps() const
+    {
+        const double missing = std::max(m_limit - m_base, 0.0);
+        const double steps = m_stepCost > 0.0 ? std::ceil(missing / m_stepCost) : 0.0;
+        const int likely = static_cast<int>(std::min(steps, mostSteps));
+        const int most = m_enough == unknown ? likely : m_enough - 1;
+        return std::max(std::min(likely, most), m_tooFew + 1);
+    }
+
+    static constexpr int unknown = -2;
+
+    std::int32_t& m_delay;
+    const std::int32_t m_start;
+    const double m_limit;
+    const double m_base; // seconds of a round without a step
+    double m_stepCost;   // seconds that a step adds to it
+    int m_tooFew = -1;
+    int m_enough = unknown;
+    double m_enoughTook = 0.0;
+};
+
+} // namespace
+
+void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure)
+{
+    delay = 0;
+    Search(delay, flightRound, cost).run(measure);
+}
+
+void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure)
+{
+    // It starts from a stored value, which may be any: without a pass to count, or with far more
+    // than a round can take, the outcome is certain.
+    if (delay < 0 && cost.seconds < bannerRound)
+        delay %= step;
+    if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= longestDelay)
+        return;
+    if (Search(delay, bannerRound, cost).run(measure) < bannerSlow)
+        delay += step;
+}
+
+std::int16_t scrollValueFor(std::int32_t flightDelay)
+{
+    if (flightDelay >= 0 && flightDelay <= 500)
+        return static_cast<std::int16_t>(1000 - flightDelay);
+    return flightDelay >= 501 && flightDelay <= 750 ? 400 : 250;
+}
+
+} // namespace quillet

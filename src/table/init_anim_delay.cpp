@@ -1,0 +1,110 @@
+#include "table/init_anim_delay.h"
+
+#include "table/counting_loop.h"
+#include "table/delay_calibration.h"
+#include "table/table_canvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr int flightFrames = 150;
+constexpr std::int32_t bannerTop = -60;
+constexpr int bannerFrames = 61;
+constexpr std::int32_t beachBack = 64;
+constexpr double trail = 10;
+
+// In milliseconds, for all rounds together. An idle machine needs half of it.
+constexpr std::int64_t patience = 2800;
+
+} // namespace
+
+DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
+                       Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
+    : m_pictures(pictures), m_library(library), m_preferences(preferences), m_clock(clock),
+      m_errorBox(errorBox), m_afterRound(std::move(afterRound))
+{
+}
+
+void DelayMeter::InitAnimDelay()
+{
+    guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [this] {
+        m_started = m_clock.milliseconds();
+        m_preferences.prfAnimationDelay = 0;
+        const double unit = secondsPerDelayUnit();
+        calibrateFlight(m_preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
+                        [this](std::int32_t delay) {
+                            return whileTimeIsLeft([&] { return flightRound(delay); });
+                        });
+        m_preferences.prfScrollVal = scrollValueFor(m_preferences.prfAnimationDelay);
+        calibrateBanner(m_preferences.prfBannerDelay, {bannerRound(0), unit * bannerFrames},
+                        [this](std::int32_t delay) {
+                            return whileTimeIsLeft([&] { return bannerRound(delay); });
+                        });
+        m_pictures.picStatusBar = Surface();
+    });
+}
+
+// A round that other programs slow down takes as much longer on the clock on the wall, and so will
+// the next one.
+std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>& round)
+{
+    const std::int64_t before = m_clock.milliseconds();
+    if (before - m_started + m_lastRound > patience)
+        return std::nullopt;
+    const double took = round();
+    m_lastRound = m_clock.milliseconds() - before;
+    return took;
+}
+
+double DelayMeter::flightRound(std::int32_t delay)
+{
+    Surface& board = m_pictures.BoardBuffer;
+    const QSizeF size(std::nearbyint(m_pictures.picReject.place.width()),
+                      std::nearbyint(m_pictures.picReject.place.height()));
+    const double start = m_clock.processorSeconds();
+    for (int frame = 0; frame < flightFrames; ++frame) {
+        m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
+        m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColor);
+        m_pictures.canvas->copyPixels(
+            board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
+        board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
+        countingLoop(delay);
+    }
+    const double elapsed = m_clock.processorSeconds() - start;
+    m_afterRound();
+    return elapsed;
+}
+
+double DelayMeter::bannerRound(std::int32_t delay)
+{
+    const QImage& banner = m_pictures.picBanner3;
+    const double start = m_clock.processorSeconds();
+    for (std::int32_t k = bannerTop; k <= 0; ++k) {
+        m_pictures.picStatusBar.drawPixels(banner, QPointF(0, k));
+        countingLoop(delay);
+    }
+    const double elapsed = m_clock.processorSeconds() - start;
+    m_afterRound();
+    return elapsed;
+}
+
+double DelayMeter::secondsPerDelayUnit()
+{
+    constexpr std::int32_t sample = 500;
+    double best = 0.0;
+    for (int i = 0; i < 3; ++i) {
+        const double start = m_clock.processorSeconds();
+        countingLoop(sample);
+        const double elapsed = m_clock.processorSeconds() - start;
+        best = i == 0 ? elapsed : std::min(best, elapsed);
+    }
+    return best / sample;
+}
+
+} // namespace quillet

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "engine/preferences.h"
+#include "faults/run_time_error.h"
+#include "platform/clock.h"
+#include "table/card_library.h"
+#include "table/table_pictures.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace quillet
+{
+
+// Measures this machine, so that cards fly at the same speed everywhere. It measures the time that
+// this thread spends on a processor: other programs' work is not the machine's speed.
+class DelayMeter
+{
+public:
+    // afterRound is called after every measured round, to let events run and show progress.
+    DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
+               Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound);
+
+    // Sets prfAnimationDelay, prfBannerDelay and prfScrollVal. An error is shown in a box; the
+    // delays keep the values they had reached.
+    void InitAnimDelay();
+
+private:
+    // Nothing when the player has waited long enough.
+    [[nodiscard]] std::optional<double> whileTimeIsLeft(const std::function<double()>& round);
+    // Seconds taken by a round of frames with this delay.
+    [[nodiscard]] double flightRound(std::int32_t delay);
+    [[nodiscard]] double bannerRound(std::int32_t delay);
+    [[nodiscard]] double secondsPerDelayUnit();
+
+    TablePictures& m_pictures;
+    CardLibrary& m_library;
+    Preferences& m_preferences;
+    Clock& m_clock;
+    ErrorBox& m_errorBox;
+    std::function<void()> m_afterRound;
+    std::int64_t m_started = 0;   // milliseconds of the clock
+    std::int64_t m_lastRound = 0; // milliseconds that it took
+};
+
+} // namespace quillet

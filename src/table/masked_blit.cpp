@@ -1,0 +1,63 @@
+#include "table/masked_blit.h"
+
+#include "faults/run_time_error.h"
+
+#include <cmath>
+#include <limits>
+
+namespace quillet
+{
+
+namespace
+{
+
+int sixteenBits(std::int64_t size)
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (size < Limits::min() || size > Limits::max())
+        throw overflowError();
+    return static_cast<int>(size);
+}
+
+constexpr QRgb opaqueRgb(std::uint32_t color)
+{
+    return qRgb(static_cast<int>(color & 0xff), static_cast<int>((color >> 8) & 0xff),
+                static_cast<int>((color >> 16) & 0xff));
+}
+
+} // namespace
+
+PixelRect wholeOf(const Surface& picture)
+{
+    return {0, 0, static_cast<std::int32_t>(std::nearbyint(picture.size().width())),
+            static_cast<std::int32_t>(std::nearbyint(picture.size().height()))};
+}
+
+void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
+                const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor)
+{
+    const int w = sixteenBits(std::int64_t{srcRect.right} - srcRect.left);
+    const int h = sixteenBits(std::int64_t{srcRect.bottom} - srcRect.top);
+    if (w <= 0 || h <= 0)
+        return;
+    const double scale = hdcDest.scale();
+    const QRect from = deviceRect(QRectF(srcRect.left, srcRect.top, w, h), scale);
+    const QPoint shift =
+        QPoint(deviceOrigin(xDest, scale), deviceOrigin(yDest, scale)) - from.topLeft();
+    const QRect area = (from & hdcSrc.image().rect()).translated(shift) & hdcDest.image().rect() &
+                       hdcBack.image().rect();
+
+    const QRgb transparent = opaqueRgb(transColor);
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const auto* source =
+            reinterpret_cast<const QRgb*>(hdcSrc.image().constScanLine(y - shift.y()));
+        const auto* back = reinterpret_cast<const QRgb*>(hdcBack.image().constScanLine(y));
+        auto* dest = reinterpret_cast<QRgb*>(hdcDest.pixels().scanLine(y));
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QRgb pixel = source[x - shift.x()];
+            dest[x] = (pixel | 0xff000000) == transparent ? back[x] : pixel;
+        }
+    }
+}
+
+} // namespace quillet

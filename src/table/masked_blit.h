@@ -1,0 +1,28 @@
+#pragma once
+
+#include "table/surface.h"
+
+#include <cstdint>
+
+namespace quillet
+{
+
+// In logical pixels of the source; right and bottom lie outside.
+struct PixelRect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+};
+
+// The whole of a picture, its sides rounded to whole pixels.
+[[nodiscard]] PixelRect wholeOf(const Surface& picture);
+
+// Copies the source rectangle to the destination, but where the source has exactly the
+// transparent colour (0x00BBGGRR) the background picture shows, which may be the destination
+// itself. Clipped to all three pictures; a rectangle turned over is empty. Throws RunTimeError for
+// a width or height beyond 16 bits.
+void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
+                const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor);
+
+} // namespace quillet

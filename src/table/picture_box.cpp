@@ -1,0 +1,114 @@
+#include "table/picture_box.h"
+
+#include "table/table_canvas.h"
+
+#include <QAccessible>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace quillet
+{
+
+PictureBox::PictureBox(TableCanvas& canvas) : QWidget(&canvas), m_canvas(canvas)
+{
+    canvas.addBox(*this);
+}
+
+void PictureBox::place(const QRectF& place, double scale)
+{
+    if (place.size() != m_place.size() || scale != m_picture.scale() || m_picture.isNull()) {
+        m_picture = Surface(place.size(), scale);
+        m_behind = m_picture;
+    }
+    m_place = {QPointF(std::nearbyint(place.x()), std::nearbyint(place.y())), place.size()};
+    setGeometry(m_place.toAlignedRect());
+}
+
+QRect PictureBox::devicePlace() const
+{
+    return deviceRect(m_place, m_picture.scale());
+}
+
+void PictureBox::copyTableBehind()
+{
+    m_behind.copyFrom(m_canvas.kept(), m_place.topLeft(), m_place.size(), {0, 0});
+    restoreTableBehind();
+}
+
+void PictureBox::restoreTableBehind()
+{
+    m_picture.copyFrom(m_behind, {0, 0}, m_place.size(), {0, 0});
+}
+
+void PictureBox::refresh()
+{
+    if (isShowing())
+        m_canvas.present(m_place);
+}
+
+void PictureBox::setShowing(bool showing)
+{
+    if (showing == m_showing)
+        return;
+    m_showing = showing;
+    m_canvas.presentWithNextFrame(m_place);
+}
+
+void PictureBox::setChecked(bool checked)
+{
+    if (checked == m_checked)
+        return;
+    m_checked = checked;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void PictureBox::activate()
+{
+    if (!m_showing)
+        return;
+    if (m_checkable)
+        emit mouseDown();
+    else
+        emit clicked();
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event)
+{
+    m_pressed = m_showing && event->button() == Qt::LeftButton;
+    if (m_showing)
+        emit mouseDown();
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool click = m_pressed && event->button() == Qt::LeftButton;
+    m_pressed = false;
+    if (click && rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+// Stands for the second press, which the toolkit would otherwise also deliver as one.
+void PictureBox::mouseDoubleClickEvent(QMouseEvent*)
+{
+    if (m_showing)
+        emit doubleClicked();
+}
+
+void PictureBox::paintEvent(QPaintEvent*)
+{
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(0x20, 0x20, 0x20), 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect().adjusted(4, 4, -5, -5));
+    painter.setPen(QPen(QColor(0xff, 0xff, 0xff), 1, Qt::DotLine));
+    painter.drawRect(rect().adjusted(5, 5, -6, -6));
+}
+
+} // namespace quillet

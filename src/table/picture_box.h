@@ -1,0 +1,77 @@
+#pragma once
+
+#include "table/surface.h"
+
+#include <QRectF>
+#include <QWidget>
+
+namespace quillet
+{
+
+class TableCanvas;
+
+// A picture that lies on the table: a card place or a deck picture. As a widget it takes the
+// clicks, the keyboard focus and the accessible name; its picture is painted by the canvas, which
+// knows its exact device pixels.
+class PictureBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PictureBox(TableCanvas& canvas);
+
+    // In logical pixels of the table. Its corner is rounded to whole ones, on which a card lands
+    // at every scale. A new size or scale gives a new, black picture.
+    void place(const QRectF& place, double scale);
+    [[nodiscard]] const QRectF& place() const { return m_place; }
+    [[nodiscard]] QRect devicePlace() const;
+
+    [[nodiscard]] Surface& picture() { return m_picture; }
+    [[nodiscard]] const Surface& picture() const { return m_picture; }
+
+    // Copies the table behind the box into it and keeps a copy, for the rounded corners of what
+    // is painted later.
+    void copyTableBehind();
+    // Takes off whatever was painted.
+    void restoreTableBehind();
+
+    // Puts the picture on the display now if the box is showing.
+    void refresh();
+    // From the next frame on. A box that does not show is neither painted nor clicked. It stays a
+    // visible widget, so that the keyboard focus does not wander off with every flight.
+    void setShowing(bool showing);
+    [[nodiscard]] bool isShowing() const { return m_showing; }
+
+    // What a screen reader is told: a checkable picture is a check box, any other a button.
+    void setCheckable(bool checkable) { m_checkable = checkable; }
+    [[nodiscard]] bool isCheckable() const { return m_checkable; }
+    void setChecked(bool checked);
+    [[nodiscard]] bool isChecked() const { return m_checked; }
+    // The same as a click, from a screen reader.
+    void activate();
+
+signals:
+    // Any button.
+    void mouseDown();
+    void doubleClicked();
+    // Pressed and released over the box with the left button; a double click is one click.
+    void clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    TableCanvas& m_canvas;
+    QRectF m_place;
+    Surface m_picture;
+    Surface m_behind;
+    bool m_showing = false;
+    bool m_pressed = false;
+    bool m_checkable = false;
+    bool m_checked = false;
+};
+
+} // namespace quillet

@@ -1,0 +1,76 @@
+#include "table/picture_file.h"
+
+#include "faults/run_time_error.h"
+#include "table/picture_integrity.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr qint64 mostPixels = 16'000'000;
+constexpr qint64 largestFile = 4 * mostPixels + 100'000; // as a bitmap, with its head
+constexpr int longestSide = 8192; // a window cannot be longer than a few screens
+constexpr double normalDensity = 96.0;
+constexpr double metresPerInch = 0.0254;
+
+double pixelRatio(double dotsPerInch)
+{
+    const double ratio = dotsPerInch / normalDensity;
+    const double whole = std::round(ratio);
+    const bool marked = whole >= 2 && whole <= 4 && std::abs(ratio - whole) < 0.01;
+    return marked ? whole : 1.0;
+}
+
+// Dots an inch by the head of a JPEG file, which is known before anything is decoded; 0 for
+// another file, or where the head does not say.
+double densityInHead(const QByteArray& head)
+{
+    constexpr qsizetype length = 18;
+    constexpr qsizetype unitAt = 13;
+    const bool inInches = head.size() >= length && head.startsWith("\xff\xd8\xff\xe0") &&
+                          head.mid(6, 4) == "JFIF" && head.at(unitAt) == 1;
+    return inInches ? qFromBigEndian<quint16>(head.constData() + unitAt + 1) : 0;
+}
+
+} // namespace
+
+LoadedPicture loadPictureFile(const QString& path, double scale)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
+        throw RunTimeError("Invalid picture: " + path.toStdString());
+    QByteArray bytes = file.readAll();
+    // Before a decoder sees it, which would say on stderr what it thinks of the file.
+    if (!goesOnToItsEnd(bytes))
+        throw RunTimeError("Invalid picture: " + path.toStdString());
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    // Of the file's head; nothing is decoded yet. A bitmap stored from the top down has a negative
+    // height.
+    const QSize size(reader.size().width(), std::abs(reader.size().height()));
+    if (qint64{size.width()} * size.height() > mostPixels ||
+        std::max(size.width(), size.height()) > longestSide)
+        throw RunTimeError("Picture too large: " + path.toStdString());
+    const QSize shown = (size * (scale / pixelRatio(densityInHead(bytes))));
+    if (shown.width() < size.width())
+        reader.setScaledSize(shown);
+    const QImage image = size.isEmpty() ? QImage() : reader.read();
+    if (image.isNull())
+        throw RunTimeError("Invalid picture: " + path.toStdString());
+    return {image.convertToFormat(QImage::Format_RGB32),
+            QSizeF(size) / pixelRatio(image.dotsPerMeterX() * metresPerInch)};
+}
+
+} // namespace quillet

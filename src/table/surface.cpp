@@ -1,0 +1,76 @@
+#include "table/surface.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace quillet
+{
+
+int deviceOrigin(double position, double scale)
+{
+    return static_cast<int>(std::floor(position * scale + 0.5));
+}
+
+int deviceSize(double size, double scale)
+{
+    return static_cast<int>(std::floor(size * scale + 0.5));
+}
+
+QRect deviceRect(const QRectF& logical, double scale)
+{
+    return {deviceOrigin(logical.x(), scale), deviceOrigin(logical.y(), scale),
+            deviceSize(logical.width(), scale), deviceSize(logical.height(), scale)};
+}
+
+Surface::Surface(QSizeF size, double scale)
+    : m_image(std::max(1, deviceSize(size.width(), scale)),
+              std::max(1, deviceSize(size.height(), scale)), QImage::Format_RGB32),
+      m_size(size), m_scale(scale)
+{
+    m_image.fill(Qt::black);
+}
+
+void Surface::fill(const QColor& color)
+{
+    m_image.fill(color);
+}
+
+void Surface::makeTransparent()
+{
+    m_image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    m_image.fill(Qt::transparent);
+}
+
+void Surface::copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to)
+{
+    copyPixels(source, deviceRect({from, size}, m_scale),
+               {deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale)});
+}
+
+void Surface::copyPixels(const Surface& source, const QRect& from, QPoint to)
+{
+    const QPoint shift = to - from.topLeft();
+    const QRect readable = from & source.m_image.rect();
+    const QRect writable = readable.translated(shift) & m_image.rect();
+    if (writable.isEmpty())
+        return;
+
+    const auto bytes = static_cast<std::size_t>(writable.width()) * sizeof(QRgb);
+    for (int y = writable.top(); y <= writable.bottom(); ++y) {
+        const auto* line =
+            reinterpret_cast<const QRgb*>(source.m_image.constScanLine(y - shift.y()));
+        auto* into = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+        std::memmove(into + writable.left(), line + writable.left() - shift.x(), bytes);
+    }
+}
+
+void Surface::drawPixels(const QImage& pixels, QPointF to)
+{
+    QPainter painter(&m_image);
+    painter.drawImage(deviceOrigin(to.x(), m_scale), deviceOrigin(to.y(), m_scale), pixels);
+}
+
+} // namespace quillet

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "table/picture_file.h"
+#include "table/surface.h"
+#include "table/table_geometry.h"
+
+#include <QImage>
+
+#include <array>
+
+namespace quillet
+{
+
+class PictureBox;
+class TableCanvas;
+
+// An off-screen picture with a place on the table.
+struct OffScreenBox {
+    QRectF place;
+    Surface picture;
+};
+
+// The pictures the table is made of. The main window owns them all; the boxes and the canvas are
+// widgets and belong to it as such.
+struct TablePictures {
+    TableCanvas* canvas = nullptr;
+    std::array<PictureBox*, 4> picDeal{};  // the deck; index 0 lies on top
+    std::array<PictureBox*, 5> picPoker{}; // the card places, left to right
+
+    LoadedPicture thePic;              // the table's background
+    std::array<QImage, 4> framePieces; // by FramePiece
+    Surface BoardBuffer;               // copy of the table without cards and hatches
+    Surface picBuffer;                 // the table under the flying card
+    OffScreenBox picAnimate;           // the flying card
+    OffScreenBox picReject;            // the reject pile, never shown
+    OffScreenBox picRejectBack;
+    OffScreenBox picDealBack; // the table behind the deck
+    Surface picStatusBar;     // the status strip, while the banner is slid into it
+    QImage picBanner3;        // the banner of the calibration
+};
+
+} // namespace quillet

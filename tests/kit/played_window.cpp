@@ -1,0 +1,147 @@
+#include "tests/kit/played_window.h"
+
+#include "table/picture_box.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+
+namespace quillet::test
+{
+
+PlayedWindow::PlayedWindow()
+    : desktop{store,
+              *this,
+              *this,
+              *this,
+              *this,
+              *this,
+              {},
+              QUILLET_PROGRAM_FOLDER,
+              [this](std::int32_t delayTime, const std::function<bool()>& cutShort) {
+                  pause(delayTime, cutShort);
+              },
+              [this](int code) { ended.push_back(code); }}
+{
+    store.texts = {{"prfAnimation", "False"},
+                   {"prfPokerAutoDeal", "False"},
+                   {"prfShowPokerPlay", "False"},
+                   {"prfAnimationDelay", "300"},
+                   {"prfScrollVal", "700"}};
+}
+
+bool PlayedWindow::start(std::string_view tenCards)
+{
+    random.stack(tenCards);
+    window = std::make_unique<frmMain>(desktop);
+    return window->Form_Load();
+}
+
+void PlayedWindow::pause(std::int32_t delayTime, const std::function<bool()>& cutShort)
+{
+    QCoreApplication::processEvents();
+    const std::int64_t until = now + delayTime;
+    while (!m_due.empty() && m_due.begin()->first <= until && !cutShort()) {
+        auto next = m_due.extract(m_due.begin());
+        now = std::max(now, next.key());
+        next.mapped()();
+        QCoreApplication::processEvents();
+    }
+    if (!cutShort())
+        now = std::max(now, until);
+}
+
+QString PlayedWindow::useOwnFolder()
+{
+    desktop.programFolder = m_ownFolder.path().toStdString();
+    QDir(m_ownFolder.path()).mkdir("pics");
+    return m_ownFolder.path();
+}
+
+void PlayedWindow::usePicture(QSize size)
+{
+    store.texts["prfPKBackground"] = "table.bmp";
+    QFile file(useOwnFolder() + "/pics/table.bmp");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(0x204020);
+    size.isEmpty() ? void(file.write("no picture")) : void(image.save(&file, "BMP"));
+}
+
+void PlayedWindow::choose(const char* menuEntry)
+{
+    window->findChild<QAction*>(menuEntry)->trigger();
+}
+
+void PlayedWindow::draw(std::string_view heldSlots)
+{
+    for (const char digit : heldSlots)
+        clickCard(digit - '1');
+    clickDeck();
+}
+
+QWidget& PlayedWindow::part(const std::string& name)
+{
+    return control(*window, QString::fromStdString(name));
+}
+
+std::string PlayedWindow::counters()
+{
+    QString all;
+    for (const char* name : {"lblTotal", "lblHands", "lblWon"})
+        all += (all.isEmpty() ? "" : "/") + control<QLabel>(*window, name).text();
+    return all.toStdString();
+}
+
+std::string PlayedWindow::cards()
+{
+    QStringList all;
+    for (int slot = 0; slot < 5; ++slot)
+        all += part("picPoker" + std::to_string(slot)).accessibleName().mid(8);
+    return all.join("; ").toStdString();
+}
+
+QImage PlayedWindow::picture()
+{
+    QCoreApplication::processEvents();
+    return presented(*window);
+}
+
+QRect PlayedWindow::placeOf(const std::string& name)
+{
+    QWidget& widget = part(name);
+    return {widget.mapTo(window.get(), QPoint(0, 0)), widget.size()};
+}
+
+std::string PlayedWindow::rowColor(int playCode)
+{
+    const QRect row = placeOf("pkLabel" + std::to_string(playCode - 1));
+    return picture().pixelColor(row.topLeft() + QPoint(2, 2)).name().toStdString();
+}
+
+void PlayedWindow::play(const std::string& path)
+{
+    sounds.push_back(path.substr(path.find_last_of('/') + 1));
+}
+
+void PlayedWindow::open(const std::string&, const std::string& file, const std::string&,
+                        const std::string&, int)
+{
+    failIf("open");
+    opened.push_back(file);
+}
+
+double PlayedWindow::processorSeconds()
+{
+    failIf("clock");
+    return static_cast<double>(now += 500) / 1000;
+}
+
+void PlayedWindow::failIf(const std::string& port) const
+{
+    if (port == failing)
+        throw RunTimeError("the wind");
+}
+
+} // namespace quillet::test

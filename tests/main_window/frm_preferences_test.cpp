@@ -1,0 +1,182 @@
+#include "main_window/frm_preferences.h"
+#include "platform/colour_contrast.h"
+#include "tests/kit/played_window.h"
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStyleOptionButton>
+#include <QStyleOptionSlider>
+#include <QTabWidget>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+void inPreferences(PlayedWindow& game, const std::function<void(frmPreferences&)>& act)
+{
+    whileOpen<frmPreferences>([&] { game.choose("mnuPref"); }, act);
+}
+
+// The dialog's controls, "sounds animation speed delay autoDeal always onError back colour".
+std::string shown(frmPreferences& dialog)
+{
+    const auto button = [&dialog](const char* name) {
+        return control<QAbstractButton>(dialog, name).isChecked() ? "1 " : "0 ";
+    };
+    const QColor color = control(dialog, "lblColor").palette().color(QPalette::Window);
+    return (QString(button("ckSounds")) + button("ckAnimation") +
+            QString::number(control<QScrollBar>(dialog, "HScroll1").value()) + ' ' +
+            control<QLabel>(dialog, "Label4").text() + ' ' + button("ckprfAutoDeal") +
+            button("opAlwaysShow") + button("opShowOnError") +
+            control<QComboBox>(dialog, "Combo1").currentText() + ' ' + color.name())
+        .toStdString();
+}
+
+void chooseColor(frmPreferences& dialog, const QColor& color, bool accepted)
+{
+    whileOpen<QColorDialog>([&dialog] { dialog.cmdChangeColor_Click(); },
+                            [&](QColorDialog& chooser) {
+                                chooser.setCurrentColor(color);
+                                accepted ? chooser.accept() : chooser.reject();
+                            });
+}
+
+} // namespace
+
+TEST(PreferencesDialog, saveTakesEveryFieldAndThePileItsBack)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    const QImage before = game.picture();
+    inPreferences(game, [&game](frmPreferences& dialog) {
+        EXPECT_EQ(shown(dialog), "1 0 700 300 0 0 1 Sleeve #00ff00");
+        for (const char* name : {"ckSounds", "ckAnimation", "ckprfAutoDeal", "opAlwaysShow"})
+            control<QAbstractButton>(dialog, name).click();
+        control<QScrollBar>(dialog, "HScroll1").setValue(499);
+        control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
+        EXPECT_EQ(shown(dialog), "0 1 499 511 1 1 0 Castle #00ff00");
+        EXPECT_EQ(game.window->prfPKBackFace, 65) << "not before Save";
+        EXPECT_EQ(game.window->prfAnimationDelay, 511) << "at once";
+        click(control(dialog, "cmdSave"));
+    });
+    const frmMain& now = *game.window;
+    EXPECT_TRUE(!now.prfSound && now.prfAnimation && now.prfPokerAutoDeal && now.prfShowPokerPlay);
+    EXPECT_EQ(now.prfScrollVal, 499);
+    EXPECT_EQ(now.prfPKBackFace, 63);
+    EXPECT_NE(game.picture(), before) << "the pile has its new back";
+    EXPECT_EQ(game.store.log.find('='), std::string::npos) << "the store is none of its business";
+}
+
+TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.clickCard(0);
+    const QPoint edge = game.placeOf("picPoker0").topLeft() + QPoint(-2, 60);
+    ASSERT_EQ(game.picture().pixelColor(edge), QColor(Qt::green));
+    inPreferences(game, [&](frmPreferences& dialog) {
+        control<QAbstractButton>(dialog, "ckSounds").click();
+        control<QScrollBar>(dialog, "HScroll1").setValue(1000);
+        chooseColor(dialog, Qt::red, false);
+        EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #00ff00");
+        chooseColor(dialog, Qt::blue, true);
+        EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #0000ff") << "pending changes stay";
+        EXPECT_EQ(game.picture().pixelColor(edge), QColor(Qt::blue));
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+    });
+    EXPECT_EQ(game.window->prfCardOutlineColor, 0xff0000);
+    EXPECT_TRUE(game.window->prfSound);
+    inPreferences(game, [](frmPreferences& dialog) {
+        EXPECT_EQ(shown(dialog), "1 0 700 0 0 0 1 Sleeve #0000ff");
+    });
+}
+
+TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
+{
+    for (const QPalette& desktop : {QPalette(Qt::black, Qt::black), QPalette(QColor(0xefefef))}) {
+        PlayedWindow game;
+        ASSERT_TRUE(game.start());
+        inPreferences(game, [&desktop](frmPreferences& dialog) {
+            dialog.setPalette(desktop);
+            auto& tabs = control<QTabWidget>(dialog, "SSTab1");
+            const auto edgeOf = [](QWidget& widget, const QRect& place) {
+                const QImage picture = widget.grab().toImage();
+                const QColor edge = picture.pixelColor(place.left(), place.center().y());
+                return contrast(edge, picture.pixelColor(place.left() - 1, place.center().y()));
+            };
+            for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
+                tabs.setCurrentIndex(page);
+                auto& box = control(dialog, name);
+                QStyleOptionButton option;
+                option.initFrom(&box);
+                const auto part =
+                    page == 0 ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
+                const QRect place = box.style()->subElementRect(part, &option, &box);
+                const QColor edge =
+                    box.grab().toImage().pixelColor(place.left(), place.center().y());
+                EXPECT_GE(contrast(edge, desktop.color(QPalette::Window)), 1.5) << name;
+            }
+            tabs.setCurrentIndex(0);
+            auto& bar = control<QScrollBar>(dialog, "HScroll1");
+            QStyleOptionSlider option;
+            option.initFrom(&bar);
+            option.maximum = bar.maximum();
+            option.sliderPosition = option.sliderValue = bar.value();
+            option.pageStep = bar.pageStep();
+            option.state |= QStyle::State_Horizontal;
+            const QRect thumb = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                            QStyle::SC_ScrollBarSlider, &bar);
+            EXPECT_GE(edgeOf(bar, thumb.adjusted(1, 1, -1, -1)), 3);
+
+            tabs.setCurrentIndex(2);
+            auto& preview = control(dialog, "picBacks");
+            const QImage picture = dialog.grab().toImage();
+            const QPoint corner = preview.mapTo(&dialog, QPoint(1, 1)); // of the card
+            EXPECT_EQ(picture.pixelColor(corner), picture.pixelColor(corner - QPoint(6, 0)));
+            EXPECT_EQ(preview.accessibleName(), "Card back Sleeve");
+            QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+        });
+    }
+}
+
+TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    inPreferences(game, [](frmPreferences& dialog) {
+        control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
+        control(dialog, "cmdChangeColor").setFocus();
+        const auto enter = [&] { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); };
+        whileOpen<QColorDialog>(enter, [](QColorDialog&) {});
+        EXPECT_TRUE(dialog.isVisible());
+        control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
+        control(dialog, "Combo1").setFocus();
+        enter();
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(game.window->prfPKBackFace, 63);
+}
+
+TEST(PreferencesDialog, aLargeFontStaysLarge)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(18);
+    QApplication::setFont(large);
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    inPreferences(game, [](frmPreferences& dialog) {
+        auto& list = control(dialog, "Combo1");
+        EXPECT_GE(list.font().pointSizeF(), 14);
+        EXPECT_GE(list.width(), list.sizeHint().width());
+        EXPECT_EQ(list.x(), control(dialog, "picBacks").x());
+    });
+    QApplication::setFont(usual);
+}
+
+} // namespace quillet::test

@@ -1,0 +1,156 @@
+#include "platform/number_keys.h"
+#include "table/picture_box.h"
+#include "table/table_canvas.h"
+#include "tests/kit/played_window.h"
+
+namespace quillet::test
+{
+
+namespace
+{
+
+constexpr auto red = "#ff0000";
+constexpr auto green = "#00c000";
+constexpr auto grey = "#808080"; // rows of odd play codes
+
+// Whether the outline lies around the card and the markers inside its edges.
+bool outlined(PlayedWindow& game, int slot, const QColor& color)
+{
+    const QRect card = game.placeOf("picPoker" + std::to_string(slot));
+    const QImage picture = game.picture();
+    int found = 0;
+    for (const int x : {card.left() - 2, card.left() + 1, card.right() - 1, card.right() + 2})
+        found += picture.pixelColor(x, card.center().y()) == color ? 1 : 0;
+    EXPECT_TRUE(found == 0 || found == 4) << "slot " << slot << ": " << found;
+    return found == 4;
+}
+
+} // namespace
+
+TEST(HandInWindow, aHeldCardIsOutlined)
+{
+    PlayedWindow game;
+    game.store.texts["prfCardOutlineColor"] = "&HFF8000&";
+    ASSERT_TRUE(game.start());
+    const QImage before = game.picture();
+    const QColor blue(0x00, 0x80, 0xff);
+    game.clickCard(0);
+    game.clickCard(4);
+    for (const int slot : {0, 1, 2, 3, 4})
+        EXPECT_EQ(outlined(game, slot, blue), slot == 0 || slot == 4);
+    EXPECT_TRUE(game.cards().starts_with("Jack of clubs, held; Jack of diamonds;"));
+    click(game.part("picPoker0"), Qt::RightButton);
+    doubleClick(game.part("picPoker4"));
+    EXPECT_FALSE(outlined(game, 0, blue)) << "any button toggles";
+    EXPECT_TRUE(outlined(game, 4, blue)) << "a double click is two toggles";
+    game.clickCard(4);
+    EXPECT_EQ(game.picture(), before);
+}
+
+TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
+{
+    PlayedWindow usual;
+    ASSERT_TRUE(usual.start());
+    const QImage table = usual.picture();
+    PlayedWindow odd;
+    odd.store.texts["prfPKBackFace"] = "40";               // no such back
+    odd.store.texts["prfCardOutlineColor"] = "&H80000008"; // the text of the desktop's windows
+    ASSERT_TRUE(odd.start());
+    EXPECT_EQ(odd.picture(), table);
+    odd.clickCard(0);
+    EXPECT_TRUE(outlined(odd, 0, QGuiApplication::palette().color(QPalette::WindowText)));
+    EXPECT_EQ(odd.window->prfPKBackFace, 40) << "what is stored stays";
+}
+
+TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    EXPECT_EQ(game.rowColor(11), grey) << "the best play is kept secret";
+    game.sounds.clear();
+    game.draw("1");
+    EXPECT_EQ(game.rowColor(11), red);
+    EXPECT_EQ(game.part("pkLabel10").accessibleName(), "High Pair, missed best play");
+    EXPECT_EQ(game.sounds, std::vector<std::string>{"wrong2.wav"});
+    EXPECT_FALSE(outlined(game, 0, Qt::green));
+    EXPECT_EQ(game.counters(), "-5/1/0");
+    EXPECT_TRUE(game.waitsForDraw());
+
+    game.sounds.clear();
+    game.draw("12");
+    EXPECT_EQ(game.rowColor(11), green);
+    EXPECT_EQ(game.counters(), "0/1/1");
+    EXPECT_EQ(game.sounds,
+              (std::vector<std::string>{"deal.wav", "deal.wav", "deal.wav", "pokerwin1.wav"}));
+    EXPECT_EQ(game.cards(), "Jack of clubs; Jack of diamonds; Five of hearts; Six of spades; "
+                            "Eight of clubs");
+    EXPECT_FALSE(game.waitsForDraw());
+}
+
+TEST(HandInWindow, aDisplayWithOtherPixelsLeavesTheTableAsItWas)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    auto& canvas = control<TableCanvas>(*game.window, "table");
+    game.clickCard(1);
+    const QImage before = game.picture();
+    // As if the pictures had been made for another display than the one that shows them now.
+    canvas.resizePictures(canvas.innerSize(), 2.0);
+    for (auto* box : canvas.findChildren<PictureBox*>())
+        box->place(box->place(), 2.0);
+    canvas.repaint();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(canvas.scale(), 1.0);
+    EXPECT_EQ(game.picture(), before);
+    game.draw("1");
+    EXPECT_EQ(game.counters(), "0/1/1") << "the hand went on";
+}
+
+TEST(HandInWindow, theKeyboardPlaysAWholeHand)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    QWindow* const display = game.window->windowHandle();
+    const auto press = [&](Qt::Key key) { QTest::keyClick(display, key); };
+
+    press(Qt::Key_1);
+    press(Qt::Key_5);
+    EXPECT_TRUE(outlined(game, 0, Qt::green) && outlined(game, 4, Qt::green));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_5, {}, "5", true);
+    QApplication::sendEvent(game.window.get(), &held);
+    QTest::keyClick(display, Qt::Key_5, Qt::ControlModifier);
+    EXPECT_TRUE(outlined(game, 4, Qt::green)) << "neither repeats nor combinations count";
+    QTest::keyClick(display, Qt::Key_5, Qt::KeypadModifier);
+    QTest::keyClick(display, Qt::Key_1, Qt::ShiftModifier);
+    EXPECT_FALSE(outlined(game, 0, Qt::green) || outlined(game, 4, Qt::green));
+    press(Qt::Key_1);
+
+    // Tab walks from the deck to the cards, where the blank toggles the hold.
+    for (int step = 0; step < 3; ++step)
+        press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(outlined(game, 1, Qt::green));
+    press(Qt::Key_Return);
+    EXPECT_EQ(game.counters(), "0/1/1");
+    press(Qt::Key_F1);
+    EXPECT_TRUE(game.window->findChild<QWidget*>("HelpViewer") != nullptr);
+}
+
+TEST(NumberKeys, aRowWithoutDigitsCountsByItsPlaces)
+{
+    const auto digit = [](quint32 scanCode, const QString& text, Qt::KeyboardModifiers modifiers,
+                          const char* platform = "xcb") {
+        return digitOfKey(QKeyEvent(QEvent::KeyPress, 0, modifiers, scanCode, 0, 0, text),
+                          platform);
+    };
+    EXPECT_EQ(digit(10, "&", Qt::NoModifier), 1) << "French";
+    EXPECT_EQ(digit(14, "(", Qt::NoModifier, "wayland"), 5);
+    EXPECT_EQ(digit(14, "5", Qt::ShiftModifier), 5);
+    EXPECT_EQ(digit(10, "!", Qt::ShiftModifier), std::nullopt) << "English";
+    EXPECT_EQ(digit(10, "&", Qt::AltModifier), std::nullopt);
+    EXPECT_EQ(digit(10, "&", Qt::NoModifier, "offscreen"), std::nullopt);
+    EXPECT_EQ(digit(20, "-", Qt::NoModifier), std::nullopt);
+    EXPECT_EQ(digit(38, QString(QChar(0x0663)), Qt::NoModifier), 3) << "Arabic";
+}
+
+} // namespace quillet::test

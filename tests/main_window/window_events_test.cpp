@@ -1,0 +1,157 @@
+#include "main_window/frm_preferences.h"
+#include "screens/frm_about.h"
+#include "screens/frm_exit_no_banner.h"
+#include "screens/web_pages.h"
+#include "tests/kit/played_window.h"
+
+#include <QPushButton>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+constexpr int longPause = 1000; // moments of a start, in milliseconds
+constexpr int faceDown = 1700;
+
+void closeWindow(PlayedWindow& game)
+{
+    whileOpen<frmExitNoBanner>([&] { game.window->close(); }, [](frmExitNoBanner&) {});
+}
+
+} // namespace
+
+TEST(WindowEvents, clicksAndANewGameInAPauseDealOneFreshHand)
+{
+    for (const int moment : {longPause, faceDown}) {
+        PlayedWindow game;
+        game.in(moment, [&] {
+            game.clickDeck();
+            game.clickCard(0);
+            doubleClick(game.part("picDeal0"));
+            EXPECT_EQ(game.counters(), "-5/1/0") << "dealt once, by the click or before";
+            game.choose("mnuPoker");
+        });
+        ASSERT_TRUE(game.start());
+        EXPECT_EQ(game.counters(), "-10/2/0") << moment;
+        EXPECT_TRUE(game.waitsForDraw());
+    }
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.draw("12");
+    doubleClick(game.part("picDeal0"));
+    EXPECT_EQ(game.counters(), "-5/2/1") << "a double click on the deck is one click";
+    EXPECT_TRUE(game.waitsForDraw());
+}
+
+TEST(WindowEvents, automaticDealingUntickedInItsPauseStops)
+{
+    PlayedWindow game;
+    game.store.texts["prfPokerAutoDeal"] = "True";
+    ASSERT_TRUE(game.start());
+    game.in(1250 + 2000, [&] {
+        whileOpen<frmPreferences>([&] { game.choose("mnuPref"); },
+                                  [&](frmPreferences& dialog) {
+                                      game.clickDeck(); // nothing is dealt beneath the dialog
+                                      control<QAbstractButton>(dialog, "ckprfAutoDeal").click();
+                                      click(control(dialog, "cmdSave"));
+                                  });
+    });
+    game.draw("12");
+    EXPECT_EQ(game.counters(), "0/1/1") << "no further hand";
+    game.clickDeck();
+    EXPECT_EQ(game.counters(), "-5/2/1") << "the deck is never dead";
+}
+
+TEST(WindowEvents, closingInAnyPauseEndsEverything)
+{
+    for (const int moment : {longPause, faceDown}) {
+        PlayedWindow game;
+        std::string counters;
+        game.in(moment, [&] {
+            closeWindow(game);
+            counters = game.counters();
+        });
+        EXPECT_TRUE(game.start());
+        EXPECT_EQ(game.ended, std::vector<int>{0}) << moment;
+        EXPECT_EQ(game.counters(), counters) << "the interrupted sequence goes nowhere";
+        EXPECT_FALSE(game.window->isVisible());
+        game.choose("mnuPoker");
+        EXPECT_EQ(game.counters(), counters);
+        EXPECT_TRUE(game.errors.empty());
+    }
+}
+
+TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
+{
+    for (const char* way : {"mnuExit", "close box"}) {
+        PlayedWindow game;
+        ASSERT_TRUE(game.start());
+        game.store.log.clear();
+        const auto leave = [&] {
+            way == std::string("mnuExit") ? game.choose(way) : void(game.window->close());
+        };
+        const std::string saved = "prfCardOutlineColor=65280 prfScrollVal=700 prfPKBackFace=65 "
+                                  "prfShowPokerPlay=False prfPokerAutoDeal=False "
+                                  "prfAnimation=False prfShowHide=True prfSound=True isPoker=True "
+                                  "prfAnimationDelay=300 prfBannerDelay=0 "
+                                  "prfPKBackground=vpokerwood.jpg ";
+        game.window->move(60, 40);
+        const QPoint stood = game.window->geometry().center();
+        whileOpen<frmExitNoBanner>(leave, [&](frmExitNoBanner& screen) {
+            EXPECT_LE((screen.geometry().center() - stood).manhattanLength(), 8);
+            EXPECT_EQ(game.store.log, saved);
+            EXPECT_FALSE(game.window->isVisible());
+            EXPECT_TRUE(game.ended.empty());
+            click(control(screen, "Command1"));
+        });
+        ASSERT_FALSE(game.ended.empty());
+        EXPECT_EQ(game.ended[0], 0);
+        EXPECT_EQ(game.store.log, saved) << "once";
+        EXPECT_TRUE(game.opened.empty());
+    }
+}
+
+TEST(WindowEvents, aStoreThatFailsIsReportedAndNoExitScreenFollows)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.store.failingKey = "prfAnimation";
+    game.window->close();
+    EXPECT_EQ(game.errors, std::vector<std::string>{"Error  in  Form_Unload (  Disk full  )"});
+    EXPECT_EQ(game.ended, std::vector<int>{1});
+    EXPECT_FALSE(game.window->isVisible());
+    EXPECT_FALSE(game.store.texts.contains("prfShowHide"));
+}
+
+TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
+{
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    for (const char* entry : {"mnuSites0", "mnuSites1", "mnuSites2", "mnuSites3", "mnuSites4"})
+        game.choose(entry);
+    QTest::mouseClick(game.window->windowHandle(), Qt::LeftButton, {},
+                      game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
+    EXPECT_EQ(game.opened, std::vector<std::string>(6, onlinePokerPage()));
+    click(game.part("lblstatus"));
+    EXPECT_EQ(game.opened.size(), 6u) << "the text in the bar is no link";
+    // A button let go beside what it was pressed on has not clicked it.
+    QWindow* const display = game.window->windowHandle();
+    for (const char* pressed : {"picStatusBar", "picDeal0"}) {
+        const QRect place = game.placeOf(pressed);
+        QTest::mousePress(display, Qt::LeftButton, {}, place.topLeft() + QPoint(5, 5));
+        QTest::mouseRelease(display, Qt::LeftButton, {}, place.topLeft() - QPoint(5, 5));
+    }
+    EXPECT_EQ(game.opened.size(), 6u);
+    EXPECT_TRUE(game.waitsForDraw());
+    EXPECT_TRUE(game.sounds.size() == 5u) << "nobody asked to draw";
+
+    game.choose("mnuAbout");
+    game.choose("mnuAbout");
+    EXPECT_EQ(game.window->findChildren<frmAbout*>().size(), 1);
+    game.draw("12");
+    EXPECT_EQ(game.counters(), "0/1/1") << "the game goes on beside the box";
+}
+
+} // namespace quillet::test

@@ -1,0 +1,93 @@
+#include "faults/run_time_error.h"
+#include "settings/numeric_text.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sstream>
+#include <string>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+// The converted number as a text, or what the conversion raised.
+template <typename Convert>
+std::string outcome(const std::string& text, Convert convert)
+{
+    try {
+        return std::to_string(convert(toNumber(text)));
+    } catch (const RunTimeError& error) {
+        return error.what();
+    }
+}
+
+// Rows of a text and its outcome, with Z for four hundred zeros.
+template <typename Convert>
+void expectOutcomes(std::string rows, Convert convert)
+{
+    for (std::size_t at = rows.find('Z'); at != std::string::npos; at = rows.find('Z'))
+        rows.replace(at, 1, 400, '0');
+    std::istringstream words(rows);
+    for (std::string text, result; words >> text >> result;)
+        EXPECT_EQ(outcome("\t" + text + " ", convert), result) << text;
+}
+
+} // namespace
+
+TEST(NumericText, integersAreExact)
+{
+    expectOutcomes("65 65  -12 -12  +7 7  2. 2  .5 0  .05 0  12.5 12  13.5 14  -1.5 -2  -0.5 0 "
+                   "0.5Z1 1  12.4999999999999999999999999 12  Z1 1  0.Ze401 0  0.Z1e401 1 "
+                   "1Ze-400 1  25E-1 2  1D+2 100  1e-400 0  0e99999999999999999999 0 "
+                   "5e-99999999999999999999 0  2147483647.4 2147483647  2147483647.5 Overflow "
+                   "-2147483648.5 -2147483648  -2147483649 Overflow  1e400 Overflow "
+                   "99999999999999999999 Overflow  1e99999999999999999999 Overflow",
+                   toInt32);
+    expectOutcomes("32767.49 32767  32767.5 Overflow  -32768.5 -32768  -32769 Overflow", toInt16);
+}
+
+TEST(NumericText, bitPatternsTakeTheirSignFromTheTopBit)
+{
+    expectOutcomes("&H0000FF00& 65280  &hfF 255  &HFFFF 65535  &HFFFF& 65535  &HFFFFFFFF& -1 "
+                   "&H80000008 -2147483640  &H100000000 Overflow  &HZ1 1  &H1Z Overflow "
+                   "&o17 15  &O37777777777& -1",
+                   toInt32);
+    expectOutcomes("&HFFFF -1  &HFFFF& Overflow  &H8000 -32768  &H10000 Overflow "
+                   "&HFFFFFFFF -1  &O177777 -1",
+                   toInt16);
+}
+
+TEST(NumericText, otherTextsAreNoNumbers)
+{
+    for (const std::string text :
+         {"",     " ",     "abc",  "1x",    "+",   "-",    ".",     "-.",  "+-1",     "1 2", "1,5",
+          "1e",   "1e+",   "e5",   "1.2.3", "&H",  "&H&",  "&O&",   "&HG", "&O8",     "&17", "-&H1",
+          "& H1", "&H1&&", "0x1F", "inf",   "nan", "True", "1e2.5", "1\n", "\xD9\xA1"})
+        EXPECT_EQ(outcome(text, toInt32), "Type mismatch") << text;
+    EXPECT_FALSE(isNumeric(std::string("1\0", 2)));
+    EXPECT_TRUE(isNumeric("1e400"));
+}
+
+TEST(NumericText, madeUpTextsAgreeWithIntegerArithmetic)
+{
+    std::mt19937_64 random(20240229);
+    for (int i = 0; i < 10'000; ++i) {
+        // Thousandths: halves and their neighbours.
+        const auto size =
+            static_cast<std::int64_t>(random() % 3'000'000 * 500 + 499 + random() % 3);
+        const std::int64_t rest = size % 1000, whole = size / 1000;
+        const std::int64_t nearest = whole + (rest > 500 || (rest == 500 && whole % 2 == 1));
+        EXPECT_EQ(toNumber("-" + std::to_string(size) + "e-3").rounded, -nearest) << size;
+
+        std::string rubbish;
+        for (auto left = random() % 12; left > 0; --left)
+            rubbish += "0159.+-eEdD&HhOoFf \tx"[random() % 21];
+        const bool mismatch = outcome(rubbish, toInt32) == "Type mismatch";
+        EXPECT_EQ(mismatch, !isNumeric(" " + rubbish + "\t")) << rubbish;
+    }
+}
+
+} // namespace quillet::test

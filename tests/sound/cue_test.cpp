@@ -1,0 +1,89 @@
+#include "sound/cue_library.h"
+#include "sound/cue_player.h"
+#include "tests/sound/sound_files.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace quillet::test
+{
+
+TEST(CueLibrary, whatIsNoCueIsNothing)
+{
+    const TemporaryFolder folder;
+    const std::string good = flatWave(1000, 100);
+    std::string boundless = good.substr(0, 44);
+    boundless.replace(40, 4, "\xf0\xff\xff\xff");
+    const std::string enormous = folder.file("enormous.wav", good);
+    std::filesystem::resize_file(enormous, 4'000'000'000);
+    ASSERT_EQ(mkfifo(folder.file("pipe.wav").c_str(), 0600), 0);
+
+    CueLibrary library;
+    for (const std::string& path :
+         {folder.file("missing.wav"), folder.file("."), folder.file("pipe.wav"), enormous,
+          folder.file("empty.wav", ""), folder.file("header.wav", good.substr(0, 30)),
+          folder.file("truncated.wav", good.substr(0, good.size() / 2)),
+          folder.file("text.wav", std::string(5000, 'x')), folder.file("boundless.wav", boundless),
+          folder.file("longer.wav", flatWave(0x90, 30'000, {8000, 1, 1})),
+          folder.file("slow.wav", flatWave(0x90, 10'000, {100, 1, 1}))})
+        EXPECT_FALSE(library.find(path)) << path;
+    EXPECT_TRUE(library.find(folder.file("good.wav", good)));
+}
+
+TEST(CuePlayer, opensRestsAndTriesAgainByTheClockAndSkipsWhatComesTooLate)
+{
+    using namespace std::chrono_literals;
+    struct Device : AudioDevice {
+        explicit Device(const bool& lost) : m_lost(lost) {}
+        bool isLost() const override { return m_lost; }
+        const bool& m_lost;
+    };
+    CuePlayer::Moment now{1h};
+    int opened = 0;
+    bool works = false, lost = false;
+    auto takes = 0ms;
+    CueMixer* mixer = nullptr;
+    CuePlayer player([&] { return now; },
+                     [&](CueMixer& toPlay) -> std::unique_ptr<AudioDevice> {
+                         ++opened;
+                         now += takes;
+                         mixer = &toPlay;
+                         return works ? std::make_unique<Device>(lost) : nullptr;
+                     });
+    const auto heard = [&mixer] {
+        std::vector<std::int16_t> block(2000);
+        mixer->render(block);
+        return block.back();
+    };
+    const TemporaryFolder folder;
+    const std::string cue = folder.file("cue.wav", flatWave(1000, 1000));
+
+    player.play(folder.file("missing.wav"), now);
+    EXPECT_EQ(opened, 0) << "for nothing";
+    player.play(cue, now);
+    now += 1999ms;
+    player.play(cue, now);
+    EXPECT_EQ(opened, 1) << "no device: not at every cue";
+    EXPECT_FALSE(player.restAt());
+    now += 1ms;
+    works = true;
+    takes = 600ms;
+    player.play(cue, now);
+    EXPECT_EQ(heard(), 0) << "too late";
+    player.play(cue, now - 400ms);
+    EXPECT_EQ(heard(), 1000);
+    EXPECT_EQ(player.restAt(), now + 1s + 5s);
+    player.prepare();
+    EXPECT_EQ(player.restAt(), now + 1s + 5s) << "never sooner than after the cue";
+    EXPECT_EQ(opened, 2);
+    lost = true;
+    now += 2s;
+    player.prepare();
+    EXPECT_EQ(opened, 3);
+    player.rest();
+    EXPECT_FALSE(player.restAt());
+}
+
+} // namespace quillet::test

@@ -1,0 +1,187 @@
+#include "table/card_flight.h"
+#include "table/picture_box.h"
+#include "table/table_canvas.h"
+#include "table/table_painter.h"
+#include "tests/cards/card_pixels.h"
+#include "tests/kit/presented.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+class RecordingErrorBox : public ErrorBox
+{
+public:
+    void showError(const std::string& text) override { texts.push_back(text); }
+    std::vector<std::string> texts;
+};
+
+// A painted table with a card in the air, off screen.
+class CardFlightTest : public testing::TestWithParam<double>
+{
+protected:
+    void SetUp() override
+    {
+        library.cdtInit(width, height);
+        pictures.canvas = &canvas;
+        for (std::size_t i = pictures.picDeal.size(); i-- > 0;)
+            pictures.picDeal[i] = new PictureBox(canvas);
+        for (PictureBox*& box : pictures.picPoker)
+            box = new PictureBox(canvas);
+        canvas.setFixedSize(800, 514);
+        canvas.show();
+        ASSERT_TRUE(moveToScale(canvas, GetParam()));
+        painter.sizePictures(table, GetParam());
+        QImage wood(800, 440, QImage::Format_RGB32);
+        for (int y = 0; y < wood.height(); ++y)
+            for (int x = 0; x < wood.width(); ++x)
+                wood.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
+        pictures.thePic = {wood, QSizeF(800, 440)};
+        painter.repaint(table, 65);
+        const PictureBox& deck = *pictures.picDeal[0];
+        canvas.keptForDrawing().copyPixels(deck.picture(), deck.picture().image().rect(),
+                                           deck.devicePlace().topLeft());
+        for (const int slot : {1, 2, 3})
+            showCard(slot);
+        canvas.refresh();
+        bare = presented(canvas);
+    }
+
+    void showCard(int slot)
+    {
+        PictureBox& box = *pictures.picPoker[std::size_t(slot)];
+        library.cdtDraw(box.picture(), 0, 0, 65, drawBack, whiteColor);
+        box.setShowing(true);
+    }
+
+    void fly(QPoint from, QPoint to)
+    {
+        pictures.picAnimate.picture.copyFrom(canvas.kept(), to, QSizeF(96, 130), {0, 0});
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
+        std::int32_t x = from.x();
+        std::int32_t y = from.y();
+        flight.AnimateCard(x, y, to.x(), to.y(), 1, 65, drawBack);
+        EXPECT_LE(std::abs(x - to.x()), 1);
+        EXPECT_LE(std::abs(y - to.y()), 1);
+    }
+
+    // Where a card lies on the display, which shows nothing else but the table.
+    std::optional<QPoint> cardOn(const QImage& shown)
+    {
+        const QRect changed = difference(shown, bare);
+        if (changed.isEmpty())
+            return {};
+        QImage expected = bare.copy(changed);
+        QPainter(&expected).drawImage(0, 0, cardAt(65, GetParam()));
+        EXPECT_TRUE(difference(shown.copy(changed), expected).isEmpty()) << "not a whole card";
+        return changed.topLeft();
+    }
+
+    TableMeasures table{800, 514, 96, 130, 60, 169};
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    Preferences preferences;
+    RecordingErrorBox errorBox;
+    TableCanvas canvas;
+    TablePictures pictures;
+    CardLibrary library;
+    DeckPile pile{pictures, library};
+    TablePainter painter{pictures, library, pile};
+    CardFlight flight{pictures, library, preferences, errorBox};
+    QImage bare; // the display without a flying card
+};
+
+} // namespace
+
+TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
+{
+    preferences.prfAnimation = true;
+    const QPoint from(300, 100);
+    std::vector<std::pair<QPoint, QPoint>> flights;
+    for (const QPoint way :
+         {QPoint(20, 20), QPoint(-25, 30), QPoint(30, 0), QPoint(-30, 0), QPoint(0, 30),
+          QPoint(0, -20), QPoint(25, -10), QPoint(-25, -12), QPoint()})
+        flights.emplace_back(from, from + way);
+    for (const std::size_t slot : {0U, 4U}) { // the second over cards
+        const QPoint place = pictures.picPoker[slot]->place().topLeft().toPoint();
+        EXPECT_EQ(deviceRect({place, QSizeF()}, GetParam()).topLeft(),
+                  pictures.picPoker[slot]->devicePlace().topLeft());
+        flights.emplace_back(QPoint(209, 95), place);
+    }
+    for (const auto& [start, end] : flights) {
+        SCOPED_TRACE(testing::Message() << "to " << end.x() << ", " << end.y());
+        int frames = 0;
+        const FrameWatch watch(canvas, [&](const QImage& shown) {
+            const bool card = cardOn(shown).has_value();
+            EXPECT_TRUE(card || frames == 0) << "it vanishes after frame " << frames;
+            frames += card ? 1 : 0;
+        });
+        fly(start, end);
+        const QPoint way = end - start;
+        EXPECT_EQ(frames, std::max(std::abs(way.x()), std::abs(way.y())));
+        EXPECT_EQ(cardOn(presented(canvas)), deviceRect({end, QSizeF()}, GetParam()).topLeft());
+        EXPECT_EQ(pictures.BoardBuffer.image(), canvas.kept().image());
+        EXPECT_TRUE(canvas.persistentImage());
+        EXPECT_TRUE(pictures.picDeal[0]->isShowing());
+        EXPECT_FALSE(pictures.picDeal[1]->isShowing());
+        canvas.refresh();
+        EXPECT_EQ(presented(canvas), bare);
+    }
+    EXPECT_TRUE(errorBox.texts.empty());
+}
+
+TEST_P(CardFlightTest, theMinorAxisRoundsDown)
+{
+    preferences.prfAnimation = true;
+    const auto lastFrame = [this](QPoint to, std::int16_t step) {
+        std::int32_t x = 0;
+        std::int32_t y = 100;
+        flight.AnimateCard(x, y, to.x(), to.y(), step, 65, drawBack);
+        return QPoint(x, y);
+    };
+    EXPECT_EQ(lastFrame({8, 98}, 1), QPoint(8, 98));
+    EXPECT_EQ(lastFrame({3, 99}, 2), QPoint(4, 98)) << "one and a half frames are two";
+    EXPECT_EQ(lastFrame({10, 97}, 3), QPoint(9, 97)) << "and three and a third are three";
+}
+
+TEST_P(CardFlightTest, errorsHaveTheirOwnWords)
+{
+    preferences.prfAnimation = true;
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    flight.AnimateCard(x, y, 40000, 0, 1, 65, drawBack);
+    flight.AnimateCard(x, y, 5, 0, 0, 65, drawBack);
+    preferences.prfAnimationDelay = 3'000'000;
+    flight.AnimateCard(x, y, 5, 0, 1, 65, drawBack);
+    EXPECT_EQ(errorBox.texts, (std::vector<std::string>{"Error in AnimateCard  Overflow",
+                                                        "Error in AnimateCard  Division by zero",
+                                                        "Error in AnimateCard  Overflow"}));
+}
+
+TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
+{
+    Surface hatch({96, 130}, GetParam());
+    hatch.fill(Qt::white);
+    library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
+    for (const PictureBox* place : pictures.picPoker) {
+        const QImage shown = canvas.kept().image().copy(place->devicePlace());
+        const QImage empty = pictures.BoardBuffer.image().copy(place->devicePlace());
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x) {
+                const QRgb ink = hatch.image().pixel(x, y);
+                ASSERT_EQ(shown.pixel(x, y), ink == qRgb(255, 255, 255) ? empty.pixel(x, y) : ink);
+            }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, CardFlightTest, testing::Values(1.0, 1.25, 1.5, 1.75, 2.0));
+
+} // namespace quillet::test

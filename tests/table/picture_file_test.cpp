@@ -1,0 +1,79 @@
+#include "faults/run_time_error.h"
+#include "table/picture_file.h"
+#include "table/picture_integrity.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace quillet::test
+{
+
+namespace
+{
+
+QByteArray saved(const char* format)
+{
+    QImage picture(40, 30, QImage::Format_RGB888);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixelColor(x, y, QColor(x * 6, y * 8, x * y % 256));
+    QBuffer buffer;
+    EXPECT_TRUE(buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, format));
+    return buffer.data();
+}
+
+// One red pixel; the toolkit writes no such files.
+QByteArray savedGif()
+{
+    return QByteArray::fromHex("47494638396101000100800000ff0000ffffff"
+                               "2c00000000010001000002024401003b");
+}
+
+// Null for a file that is refused.
+QImage loaded(const QByteArray& bytes)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("picture"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    try {
+        return loadPictureFile(file.fileName(), 1.0).image;
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+} // namespace
+
+TEST(PictureFile, whatWasCutShortIsInvalid)
+{
+    for (const QByteArray& whole : {saved("JPG"), saved("BMP"), savedGif()}) {
+        EXPECT_FALSE(loaded(whole).isNull());
+        for (const qsizetype length : {whole.size() / 2, whole.size() * 9 / 10, whole.size() - 1})
+            EXPECT_TRUE(loaded(whole.first(length)).isNull()) << length << " of " << whole.size();
+        EXPECT_FALSE(loaded(whole + "and a note").isNull());
+    }
+}
+
+TEST(PictureFile, noJpegThatEndsInItsHeadIsWaitedFor)
+{
+    const QByteArray whole = saved("JPG");
+    for (qsizetype length = 4; length < whole.size(); ++length)
+        EXPECT_FALSE(goesOnToItsEnd(whole.first(length))) << length << " of " << whole.size();
+
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(loaded(whole.first(whole.size() / 2)).isNull());
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(PictureFile, aBitmapMayBeStoredFromTheTopDown)
+{
+    QByteArray bytes = saved("BMP");
+    const QImage upwards = loaded(bytes);
+    bytes.replace(22, 4, QByteArray::fromHex("e2ffffff")); // a height of -30
+    EXPECT_EQ(loaded(bytes), upwards.mirrored());
+}
+
+} // namespace quillet::test
