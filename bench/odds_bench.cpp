@@ -1,6 +1,7 @@
 #include "engine/random.h"
 #include "odds/fair_odds.h"
 #include "odds/simulation.h"
+#include "odds/sitting.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,7 +15,7 @@ namespace
 void theWholeGame(benchmark::State& state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(fairOdds());
+        benchmark::DoNotOptimize(fairOdds(HeldCards()));
 }
 BENCHMARK(theWholeGame)->Unit(benchmark::kMillisecond);
 
@@ -40,10 +41,35 @@ void simulatedHands(benchmark::State& state)
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     constexpr std::int64_t hands = 10000;
     for (auto _ : state)
-        benchmark::DoNotOptimize(simulate(heldCards, random, hands, [](std::int64_t) {}));
+        benchmark::DoNotOptimize(playHands(heldCards, random, hands));
     state.SetItemsProcessed(state.iterations() * hands);
 }
 BENCHMARK(simulatedHands)->Unit(benchmark::kMillisecond);
+
+OneHand perfectHand()
+{
+    const FairOdds odds = fairOdds(HeldCards());
+    OneHand one{{}, trainersPays()};
+    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+        one.chance[outcome] = odds.chanceOf(Strategy::perfect, outcome).value();
+    return one;
+}
+
+void aSitting(benchmark::State& state)
+{
+    const OneHand one = perfectHand();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(Sitting(one, state.range(0)).quantile(0.5));
+}
+BENCHMARK(aSitting)->Arg(600)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+void aBankroll(benchmark::State& state)
+{
+    const OneHand one = perfectHand();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(chancesOfRuin(one, state.range(0), 500));
+}
+BENCHMARK(aBankroll)->Arg(1000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

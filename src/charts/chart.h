@@ -27,6 +27,9 @@ public:
 // that does not end with the row for nothing gets it.
 [[nodiscard]] Chart parseChart(std::string_view text);
 
+// The trainer's own.
+[[nodiscard]] Chart trainersChart();
+
 // The rows as parseChart reads them, one a line.
 [[nodiscard]] std::string chartText(const Chart& chart);
 

@@ -1,10 +1,11 @@
 #include "odds/chart_report.h"
 
-#include "odds/columns.h"
 #include "odds/hand_text.h"
+#include "odds/reports.h"
 
 #include <array>
 #include <ostream>
+#include <utility>
 
 namespace quillet
 {
@@ -19,54 +20,10 @@ using charts::Taken;
 
 constexpr std::array<std::string_view, charts::waysToTake> takenNames{
     "Best of the holds that fit", "Any of them", "Worst of them"};
-constexpr std::array<std::string_view, charts::waysToTake> takenWords{"best", "any", "worst"};
 
-const Fraction& lossOf(const RowPrice& row, Taken taken)
+std::string nameOf(const Chart& chart, std::size_t row)
 {
-    return row.loss[static_cast<std::size_t>(taken)];
-}
-
-std::string_view nameOf(const Chart& chart, std::size_t row)
-{
-    return charts::rowKinds()[chart[row]].name;
-}
-
-void writeText(std::ostream& out, const Chart& chart, const ChartPrice& price)
-{
-    out << "Of 100 credits come back, for a fairly shuffled deck\n\n  " << left("Perfect play", 30)
-        << right((price.perfect * 100).decimals(8), 14) << "\n";
-    for (std::size_t way = 0; way < charts::waysToTake; ++way)
-        out << "  " << left(takenNames[way], 30)
-            << right((price.returned[way] * 100).decimals(8), 14) << "\n";
-    out << "\nWhat each row loses of 100 credits over all deals, the worst hold taken,\n"
-           "and the deal that costs most credits\n\n"
-        << left("Row", 48) << right("Deals", 8) << right("Loss", 9) << " Costliest deal\n";
-    for (std::size_t row = 0; row < chart.size(); ++row) {
-        const RowPrice& told = price.rows[row];
-        out << left(nameOf(chart, row), 48)
-            << right(told.deals == 0 ? "never" : std::to_string(told.deals), 8);
-        if (lossOf(told, Taken::worst) != Fraction())
-            out << right((lossOf(told, Taken::worst) * 100).decimals(6), 9) << ' '
-                << holdText(told.example, holdAll);
-        out << "\n";
-    }
-}
-
-void writeCsv(std::ostream& out, const Chart& chart, const ChartPrice& price)
-{
-    out << "row,deals,loss best,loss any,loss worst,costliest deal,costs\n";
-    for (std::size_t row = 0; row < chart.size(); ++row) {
-        const RowPrice& told = price.rows[row];
-        out << '"' << nameOf(chart, row) << "\"," << told.deals;
-        for (const Fraction& loss : told.loss)
-            out << ',' << loss.text();
-        const bool plays = told.deals > 0;
-        out << ',' << (plays ? holdText(told.example, holdAll) : "") << ',' << told.costliest.text()
-            << "\n";
-    }
-    out << "perfect,,,,,," << price.perfect.text() << "\n";
-    for (std::size_t way = 0; way < charts::waysToTake; ++way)
-        out << "return " << takenWords[way] << ",,,,,," << price.returned[way].text() << "\n";
+    return std::string(charts::rowKinds()[chart[row]].name);
 }
 
 } // namespace
@@ -74,15 +31,48 @@ void writeCsv(std::ostream& out, const Chart& chart, const ChartPrice& price)
 void reportRowKinds(std::ostream& out)
 {
     for (const charts::RowKind& kind : charts::rowKinds())
-        out << kind.name << "\n    " << kind.meaning << "\n";
+        out << kind.name << "\n"
+            << "    " << wrapped(std::string(kind.meaning));
 }
 
-void reportChart(std::ostream& out, const Chart& chart, const ChartPrice& price, Format format)
+Report chartReport(const Chart& chart, const ChartPrice& price)
 {
-    if (format == Format::csv)
-        writeCsv(out, chart, price);
-    else
-        writeText(out, chart, price);
+    Table returns{"returns",
+                  "Credits that come back of 100 paid, for a fairly shuffled deck\n\n",
+                  {{"play", "Play"}, {"return", "Return"}},
+                  {{std::string("Perfect play"), Exact{price.perfect, 8, true}}},
+                  {}};
+    for (std::size_t way = 0; way < charts::waysToTake; ++way)
+        returns.rows.push_back({std::string(takenNames[way]), Exact{price.returned[way], 8, true}});
+
+    Table rows{"rows",
+               "\nWhat each row loses of 100 credits over all deals, the worst hold taken, and\n"
+               "the deal that costs most credits\n\n",
+               {{"row", "Row"},
+                {"deals", "Deals"},
+                {"loss of best", ""},
+                {"loss of any", ""},
+                {"loss of worst", "Loss"},
+                {"costliest deal", "Costliest deal"},
+                {"costs", ""}},
+               {},
+               {}};
+    std::string idle;
+    for (std::size_t row = 0; row < chart.size(); ++row) {
+        const RowPrice& told = price.rows[row];
+        std::vector<Cell> cells{nameOf(chart, row), told.deals};
+        for (const Fraction& loss : told.loss)
+            cells.emplace_back(Exact{loss, 6, true});
+        const bool costs = told.costliest != Fraction();
+        cells.push_back(costs ? Cell(Cards{told.example, holdAll}) : Cell(std::string()));
+        cells.emplace_back(Exact{told.costliest, 4});
+        rows.rows.push_back(std::move(cells));
+        if (told.deals == 0)
+            idle += "  " + nameOf(chart, row) + "\n";
+    }
+    if (!idle.empty())
+        rows.outro = "\nThese rows never play:\n" + idle;
+    return {returns, rows};
 }
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "charts/chart_price.h"
-#include "odds/reports.h"
 
 #include <iosfwd>
 
@@ -10,10 +9,6 @@ namespace quillet
 
 // Every row that a chart can have, with its meaning.
 void reportRowKinds(std::ostream& out);
-
-// What a chart is worth, and each of its rows.
-void reportChart(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price,
-                 Format format);
 
 // The chart as a file, with its price in comments.
 void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "odds/pays.h"
+#include "odds/report.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -10,17 +13,36 @@
 namespace quillet
 {
 
+enum class Question {
+    game,
+    hand,
+    handsFromInput,
+    mistakes,
+    sitting,
+    simulation,
+    chart,
+    plays,
+    chartMistakes,
+    bestChart,
+    rowKinds,
+    document,
+    help,
+    version
+};
+
 // What the user asked for.
 struct Request {
-    bool help = false;
-    bool csv = false;
-    bool rows = false;                      // every row that a chart can have
-    bool plays = false;                     // of the chart, deal by deal
-    std::string chartFile;                  // empty: no chart of the user's
-    std::optional<std::int64_t> bestChart;  // of how many rows
-    std::string hand;                       // empty: the whole game
-    std::optional<std::int64_t> simulation; // how many hands to play
-    std::optional<std::uint64_t> seed;
+    Question question = Question::game;
+    Style style;
+    std::string pays;       // as parsePays reads it, or a file's name; empty: the trainer's
+    std::string hand;       // its words
+    bool allHolds = false;  // of a hand
+    std::int64_t hands = 0; // of a sitting or a simulation
+    std::optional<std::int64_t> bankroll;
+    std::uint64_t seed = 1;
+    std::string chartFile;
+    std::size_t leastRows = 0; // of best charts, one for each number of rows
+    std::size_t mostRows = 0;
 };
 
 // Arguments that make no sense; what() says why.

@@ -40,6 +40,31 @@ OutcomeCounts DealtHand::drawOutcomes(const HeldCards& heldCards, Hold hold) con
     return counts;
 }
 
+Hold DealtHand::bestAccepted() const
+{
+    Hold best = static_cast<Hold>(std::countr_zero(accepted));
+    for (std::uint32_t left = accepted; left != 0; left &= left - 1) {
+        const auto hold = static_cast<Hold>(std::countr_zero(left));
+        if (worth[hold] > worth[best])
+            best = hold;
+    }
+    return best;
+}
+
+double DealtHand::penaltyOf(const HeldCards& heldCards, Hold hold, std::size_t discard) const
+{
+    // Hands with the hold in them and none of the other discards, which leave 48 cards to draw.
+    const Hold back = 1U << discard;
+    std::int64_t pay = 0;
+    forEachLargerHold(hold, [&](Hold larger, int sign) {
+        if ((larger & back) == 0)
+            pay += sign * heldCards.pay(classOfHold[larger]);
+    });
+    const auto draws = static_cast<double>(choose[5 - cardsIn[hold]][48]);
+    return static_cast<double>(pay) / draws -
+           static_cast<double>(worth[hold]) / static_cast<double>(worthUnit);
+}
+
 void DealtHand::findClasses(const HeldCards& heldCards)
 {
     std::array<std::uint32_t, holds> combination{};
@@ -54,10 +79,10 @@ void DealtHand::findClasses(const HeldCards& heldCards)
 
 void DealtHand::findWorth(const HeldCards& heldCards)
 {
-    std::array<std::int32_t, holds> pay{};
+    std::array<std::int64_t, holds> pay{};
     for (Hold hold = 0; hold < holdAll; ++hold)
         pay[hold] = heldCards.pay(classOfHold[hold]);
-    pay[holdAll] = payOf(dealtOutcome);
+    pay[holdAll] = heldCards.pays()[dealtOutcome];
     // The same sums as forEachLargerHold makes, for all holds at once.
     for (Hold card = 1; card < holds; card *= 2) {
         for (Hold block = 0; block < holds; block += 2 * card) {

@@ -40,6 +40,14 @@ struct DealtHand {
     // How often each outcome comes up among all draws to this hold.
     [[nodiscard]] OutcomeCounts drawOutcomes(const HeldCards& heldCards, Hold hold) const;
 
+    // Of the holds that the coach accepts the one that is worth most; of equals, the first.
+    [[nodiscard]] Hold bestAccepted() const;
+
+    // What the hold would be worth more if this discard were still in the deck, as a share of one
+    // credit; below 0 for a card that it does not miss.
+    [[nodiscard]] double penaltyOf(const HeldCards& heldCards, Hold hold,
+                                   std::size_t discard) const;
+
     [[nodiscard]] bool isAccepted(Hold hold) const { return (accepted >> hold & 1U) != 0; }
 
     std::array<DeckPlace, 5> places{};

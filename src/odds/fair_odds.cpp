@@ -89,7 +89,7 @@ private:
     const HeldCards& m_heldCards;
     std::vector<PerStrategy> m_timesAsked;
     std::array<PerStrategy, outcomes> m_asDealt{};
-    std::array<PerStrategy, 21> m_loss{};
+    std::array<std::array<Int128, strategies>, 21> m_loss{};
     std::array<std::int64_t, 21> m_costliest{};
     Plays m_plays;
     FairOdds m_odds;
@@ -108,10 +108,10 @@ void Totals::addToRow(const DealtHand& hand, std::int64_t members)
     m_odds.rows[row].deals += members;
     m_odds.dealsWithAChoice += m_plays.accepted.size() > 1 ? members : 0;
     m_odds.dealsPlayedPerfectly += cost == 0 ? members : 0;
-    m_loss[row][at(Strategy::chartBest)] += members * cost * shares;
-    m_loss[row][at(Strategy::chartAverage)] += members * average;
+    m_loss[row][at(Strategy::chartBest)] += Int128{members} * cost * shares;
+    m_loss[row][at(Strategy::chartAverage)] += Int128{members} * average;
     m_loss[row][at(Strategy::chartWorst)] +=
-        members * (best - hand.worth[m_plays.chartWorst]) * shares;
+        Int128{members} * (best - hand.worth[m_plays.chartWorst]) * shares;
     if (cost > m_costliest[row]) {
         m_costliest[row] = cost;
         m_odds.rows[row].example = hand.places;
@@ -129,7 +129,7 @@ FairOdds Totals::result()
                 total += Int128{m_timesAsked[id][strategy]} *
                          m_heldCards.counts(static_cast<HeldCards::ClassId>(id))[outcome];
             m_odds.chances[strategy][outcome] = {total, allDeals};
-            credits += total * payOf(outcome);
+            credits += total * m_heldCards.pays()[outcome];
         }
         m_odds.returned[strategy] = {credits, allDeals * wager};
         for (std::size_t row = 0; row < m_odds.rows.size(); ++row)

@@ -43,9 +43,5 @@ struct FairOdds {
 };
 
 [[nodiscard]] FairOdds fairOdds(const HeldCards& heldCards);
-[[nodiscard]] inline FairOdds fairOdds()
-{
-    return fairOdds(HeldCards());
-}
 
 } // namespace quillet

@@ -1,13 +1,10 @@
 #include "engine/hand_evaluation.h"
-#include "engine/pay_table.h"
-#include "odds/columns.h"
 #include "odds/hand_text.h"
 #include "odds/reports.h"
 
 #include <algorithm>
 #include <functional>
 #include <numeric>
-#include <ostream>
 
 namespace quillet
 {
@@ -15,91 +12,108 @@ namespace quillet
 namespace
 {
 
-// The holds from the best down, with what is to be said of each.
-class RankedHolds
+constexpr std::size_t shownByDefault = 6;
+
+// What the draws to a hold come to: "1 Royal Flush, 8 Flush of 47".
+std::string waysText(const OutcomeCounts& counts)
 {
-public:
-    explicit RankedHolds(const DealtHand& hand) : m_hand(hand)
-    {
-        std::iota(order.begin(), order.end(), 0U);
-        std::ranges::stable_sort(order, std::greater(),
-                                 [&](Hold hold) { return hand.worth[hold]; });
-        m_chartsHold =
-            *std::ranges::find_if(order, [&](Hold hold) { return hand.isAccepted(hold); });
+    std::string text;
+    for (std::size_t outcome = 1; outcome < outcomes; ++outcome) {
+        if (counts[outcome] > 0)
+            text += (text.empty() ? "" : ", ") + std::to_string(counts[outcome]) + " " +
+                    std::string(outcomeName(outcome));
     }
-
-    [[nodiscard]] bool isBest(Hold hold) const
-    {
-        return m_hand.worth[hold] == m_hand.worth[m_hand.bestHold];
-    }
-    [[nodiscard]] bool isCharts(Hold hold) const { return hold == m_chartsHold; }
-    [[nodiscard]] Fraction cost(Hold hold) const
-    {
-        return m_hand.expectedCredits(m_hand.bestHold) - m_hand.expectedCredits(hold);
-    }
-    [[nodiscard]] std::string marks(Hold hold) const
-    {
-        std::string text = isBest(hold) ? "best" : "";
-        if (!text.empty() && m_hand.isAccepted(hold))
-            text += ", ";
-        if (m_hand.isAccepted(hold))
-            text += isCharts(hold) ? "the chart's hold" : "accepted too";
-        return text;
-    }
-
-    std::array<Hold, holds> order{};
-
-private:
-    const DealtHand& m_hand;
-    Hold m_chartsHold = 0; // the best of those that the coach accepts
-};
-
-void writeTable(std::ostream& out, const DealtHand& hand)
-{
-    const RankedHolds ranked(hand);
-    out << holdText(hand.places, holdAll) << ": row " << hand.chartCode << " of the chart, "
-        << playName(hand.chartCode) << "\n\n"
-        << "    " << left("Hold", 16) << right("Expected", 14) << right("Costs", 14)
-        << "  Expected, exactly\n";
-    int number = 0;
-    for (const Hold hold : ranked.order) {
-        const Fraction expected = hand.expectedCredits(hold);
-        const std::string marks = ranked.marks(hold);
-        out << right(std::to_string(++number), 3) << " " << left(holdText(hand.places, hold), 16)
-            << right(expected.decimals(8), 14) << right(ranked.cost(hold).decimals(8), 14) << "  "
-            << left(expected.text(), marks.empty() ? 0 : 19) << marks << "\n";
-    }
+    return (text.empty() ? "nothing that pays" : text) + " of " +
+           std::to_string(std::accumulate(counts.begin(), counts.end(), 0));
 }
 
-void writeCsv(std::ostream& out, const HeldCards& heldCards, const DealtHand& hand)
+// The discards that the hold misses, and how much.
+std::string penaltiesText(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
 {
-    out << "hold,expected,expected fraction,cost,cost fraction,best,chart,accepted,draws";
-    for (const Payout& payout : payTable())
-        out << "," << playName(payout.playCode);
-    out << "\n";
-    const RankedHolds ranked(hand);
-    for (const Hold hold : ranked.order) {
-        const Fraction expected = hand.expectedCredits(hold);
-        const Fraction cost = ranked.cost(hold);
-        const OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
-        out << holdText(hand.places, hold) << "," << expected.decimals(8) << "," << expected.text()
-            << "," << cost.decimals(8) << "," << cost.text() << "," << ranked.isBest(hold) << ","
-            << ranked.isCharts(hold) << "," << hand.isAccepted(hold) << ","
-            << std::accumulate(counts.begin(), counts.end(), 0);
-        for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-            out << "," << counts[outcome];
-        out << "\n";
+    std::string text;
+    for (std::size_t card = 0; hold != 0 && card < hand.places.size(); ++card) {
+        if ((hold >> card & 1U) != 0)
+            continue;
+        const double penalty = hand.penaltyOf(heldCards, hold, card);
+        if (penalty > 0)
+            text += (text.empty() ? "" : ", ") + cardText(hand.places[card]) + " " +
+                    decimals(penalty, 4);
     }
+    return text;
+}
+
+std::string marks(const DealtHand& hand, Hold hold)
+{
+    std::string text = hand.worth[hold] == hand.worth[hand.bestHold] ? "best" : "";
+    if (!text.empty() && hand.isAccepted(hold))
+        text += ", ";
+    if (hand.isAccepted(hold))
+        text += hold == hand.bestAccepted() ? "the chart's" : "accepted too";
+    return text;
+}
+
+std::string why(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
+{
+    std::string text = holdText(hand.places, hold) + " comes to " +
+                       waysText(hand.drawOutcomes(heldCards, hold)) + " draws";
+    const std::string penalties = penaltiesText(heldCards, hand, hold);
+    if (!penalties.empty())
+        text += "; with a discard still in the deck it would be worth so much more: " + penalties;
+    return wrapped(text + ".");
 }
 
 } // namespace
 
-void reportHand(std::ostream& out, const HeldCards& heldCards, const DealtHand& hand, Format format)
+Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
 {
-    if (format == Format::csv)
-        writeCsv(out, heldCards, hand);
-    else
-        writeTable(out, hand);
+    Table table{"holds",
+                holdText(hand.places, holdAll) + ": row " + std::to_string(hand.chartCode) +
+                    " of the chart, " + std::string(playName(hand.chartCode)) + "\n\n",
+                {{"number", "No."},
+                 {"hold", "Hold"},
+                 {"expected", "Expected"},
+                 {"cost", "Costs"},
+                 {"marks", ""},
+                 {"best", ""},
+                 {"chart", ""},
+                 {"accepted", ""},
+                 {"draws", ""}},
+                {},
+                {}};
+    table.columns[4].heading = "Is";
+    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+        table.columns.push_back({std::string(outcomeName(outcome)), ""});
+    table.columns.push_back({"missed discards", ""});
+
+    std::array<Hold, holds> order{};
+    std::iota(order.begin(), order.end(), 0U);
+    std::ranges::stable_sort(order, std::greater(), [&](Hold hold) { return hand.worth[hold]; });
+    const Hold charts = hand.bestAccepted();
+    const Fraction best = hand.expectedCredits(hand.bestHold);
+    std::int64_t number = 0;
+    for (const Hold hold : order) {
+        ++number;
+        if (!all && number > static_cast<std::int64_t>(shownByDefault) && hold != charts)
+            continue;
+        const OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+        std::vector<Cell> row{number,
+                              Cards{hand.places, hold},
+                              Exact{hand.expectedCredits(hold), 8},
+                              Exact{best - hand.expectedCredits(hold), 8},
+                              marks(hand, hold),
+                              std::int64_t{hand.worth[hold] == hand.worth[hand.bestHold]},
+                              std::int64_t{hold == charts},
+                              std::int64_t{hand.isAccepted(hold)},
+                              std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
+        for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+            row.emplace_back(std::int64_t{counts[outcome]});
+        row.emplace_back(penaltiesText(heldCards, hand, hold));
+        table.rows.push_back(std::move(row));
+    }
+    table.outro = "\n" + why(heldCards, hand, hand.bestHold);
+    if (charts != hand.bestHold)
+        table.outro += why(heldCards, hand, charts);
+    return {table};
 }
 
 } // namespace quillet

@@ -15,24 +15,42 @@ constexpr std::string_view suits = "cdhs";
 
 bool isBlank(char c)
 {
-    return c == ' ' || c == '\t' || c == ',';
+    return c == ' ' || c == '\t' || c == ',' || c == '\r';
+}
+
+// The suit at the front of the text, a letter or its sign, which is taken off; 4 for none.
+std::size_t takeSuit(std::string_view& text)
+{
+    constexpr std::array<std::string_view, 4> signs{"\u2663", "\u2666", "\u2665", "\u2660"};
+    for (std::size_t suit = 0; suit < signs.size(); ++suit) {
+        if (text.starts_with(signs[suit])) {
+            text.remove_prefix(signs[suit].size());
+            return suit;
+        }
+    }
+    const auto letter =
+        text.empty()
+            ? std::string_view::npos
+            : suits.find(static_cast<char>(std::tolower(static_cast<unsigned char>(text.front()))));
+    text.remove_prefix(std::min<std::size_t>(text.size(), 1));
+    return std::min(letter, signs.size());
 }
 
 // Takes one card off the front of the text.
 DeckPlace takeCard(std::string_view& text)
 {
+    const std::string_view before = text;
     const bool ten = text.starts_with("10");
-    const std::size_t length = ten ? 3 : 2;
-    const std::string word(text.substr(0, std::min(length, text.size())));
-    const auto lower = static_cast<char>(std::tolower(static_cast<unsigned char>(word.back())));
-    const auto upper = static_cast<char>(std::toupper(static_cast<unsigned char>(word.front())));
+    const auto upper = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     const auto rank = ten ? std::size_t{9} : ranks.find(upper);
-    const auto suit = suits.find(lower);
-    if (word.size() != length || rank == std::string_view::npos || suit == std::string_view::npos)
-        throw BadHand("'" + word +
+    text.remove_prefix(ten ? 2 : 1);
+    const auto suit = takeSuit(text);
+    if (rank == std::string_view::npos || suit == 4) {
+        const auto end = std::ranges::find_if(before, isBlank);
+        throw BadHand("'" + std::string(before.begin(), end) +
                       "' is not a card: write a rank (A 2 3 4 5 6 7 8 9 T J Q K) and a "
                       "suit (c d h s), such as Tc");
-    text.remove_prefix(length);
+    }
     return static_cast<DeckPlace>(suit * 13 + rank);
 }
 

@@ -17,8 +17,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Reads "9c Tc Jc Kc Ad": ranks A, 2 to 9, T or 10, J, Q, K and suits c, d, h, s in either case,
-// with or without blanks between the cards. The places come in the order of the text.
+// Reads "9c Tc Jc Kc Ad": ranks A, 2 to 9, T or 10, J, Q, K and suits c, d, h, s in either case or
+// as their signs, with or without blanks between the cards. The places come in the order of the
+// text.
 [[nodiscard]] std::array<DeckPlace, 5> parseHand(std::string_view text);
 
 [[nodiscard]] std::string cardText(DeckPlace place);

@@ -43,19 +43,7 @@ std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
 
 } // namespace
 
-std::size_t outcomeOf(std::int16_t finalCode)
-{
-    const auto table = payTable();
-    const auto found = std::ranges::find(table, finalCode, &Payout::playCode);
-    return found == table.end() ? 0 : static_cast<std::size_t>(found - table.begin()) + 1;
-}
-
-std::int16_t payOf(std::size_t outcome)
-{
-    return outcome == 0 ? std::int16_t{0} : payTable()[outcome - 1].pays;
-}
-
-HeldCards::HeldCards() : m_classOf(firstOfSize[5])
+HeldCards::HeldCards(const Pays& pays) : m_pays(pays), m_classOf(firstOfSize[5])
 {
     m_counts.resize(classesUpToFour);
     m_playCode.reserve(classesUpToFour);
@@ -68,9 +56,9 @@ HeldCards::HeldCards() : m_classOf(firstOfSize[5])
     countHandsOf<0>();
     m_pay.reserve(classesUpToFour);
     for (const OutcomeCounts& counts : m_counts) {
-        std::int32_t pay = 0;
+        std::int64_t pay = 0;
         for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-            pay += counts[outcome] * payOf(outcome);
+            pay += counts[outcome] * pays[outcome];
         m_pay.push_back(pay);
     }
 }

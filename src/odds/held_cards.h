@@ -1,5 +1,6 @@
 #pragma once
 
+#include "odds/pays.h"
 #include "odds/suit_classes.h"
 
 #include <array>
@@ -11,13 +12,7 @@
 namespace quillet
 {
 
-// What a final hand can come to: outcome 0 pays nothing, the others are the rows of the pay
-// table, best first.
-inline constexpr std::size_t outcomes = 10;
 using OutcomeCounts = std::array<std::int32_t, outcomes>;
-
-[[nodiscard]] std::size_t outcomeOf(std::int16_t finalCode);
-[[nodiscard]] std::int16_t payOf(std::size_t outcome);
 
 // Row n, column m: the ways to choose n of m cards.
 using ChooseTable = std::array<std::array<std::uint32_t, 53>, 6>;
@@ -36,13 +31,16 @@ constexpr ChooseTable chooseTable()
 inline constexpr ChooseTable choose = chooseTable();
 
 // For every set of up to four cards: which hands of five contain it. What a draw brings follows
-// from these counts by inclusion and exclusion, without going through the draws.
+// from these counts by inclusion and exclusion, without going through the draws. What they pay is
+// added up for one pay table.
 class HeldCards
 {
 public:
     using ClassId = std::uint16_t;
 
-    HeldCards();
+    explicit HeldCards(const Pays& pays = trainersPays());
+
+    [[nodiscard]] const Pays& pays() const { return m_pays; }
 
     [[nodiscard]] std::size_t classes() const { return m_pay.size(); }
 
@@ -56,7 +54,7 @@ public:
 
     // Over all hands that contain the set.
     [[nodiscard]] const OutcomeCounts& counts(ClassId id) const { return m_counts[id]; }
-    [[nodiscard]] std::int32_t pay(ClassId id) const { return m_pay[id]; }
+    [[nodiscard]] std::int64_t pay(ClassId id) const { return m_pay[id]; }
 
     // The play that the cards amount to when they are held, with fillers for the rest.
     [[nodiscard]] std::int16_t playCode(ClassId id) const { return m_playCode[id]; }
@@ -69,9 +67,10 @@ private:
     template <std::size_t Size>
     void countHandsOf();
 
+    Pays m_pays;
     std::vector<ClassId> m_classOf;
     std::vector<OutcomeCounts> m_counts;
-    std::vector<std::int32_t> m_pay;
+    std::vector<std::int64_t> m_pay;
     std::vector<std::int16_t> m_playCode;
 };
 

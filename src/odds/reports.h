@@ -1,21 +1,38 @@
 #pragma once
 
-#include "odds/dealt_hand.h"
+#include "charts/chart_price.h"
+#include "charts/mistakes.h"
 #include "odds/fair_odds.h"
+#include "odds/report.h"
 #include "odds/simulation.h"
+#include "odds/sitting.h"
 
-#include <iosfwd>
+#include <optional>
+#include <vector>
 
 namespace quillet
 {
 
-// Each report comes as a table for readers or as comma-separated values with a line of titles.
-enum class Format { text, csv };
+// What a hand comes to with one way to play, for the figures of a sitting.
+[[nodiscard]] OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy);
 
-void reportGame(std::ostream& out, const FairOdds& odds, Format format);
-void reportHand(std::ostream& out, const HeldCards& heldCards, const DealtHand& hand,
-                Format format);
-void reportSimulation(std::ostream& out, const Simulation& simulation, const FairOdds& fair,
-                      Format format);
+// The worth of the game: returns, what one hand of it does, rows of the chart, final hands.
+[[nodiscard]] Report gameReport(const FairOdds& odds, const Pays& pays);
+
+// The holds of a deal, six and the chart's or all 32, and why.
+[[nodiscard]] Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all);
+
+// What so many hands come to, for perfect play and the chart's best choice. With bars, the text
+// draws the distribution.
+[[nodiscard]] Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
+                                   std::optional<std::int64_t> bankroll, bool bars);
+
+[[nodiscard]] Report mistakesReport(const std::vector<charts::Mistake>& mistakes);
+
+[[nodiscard]] Report simulationReport(const Simulation& simulation, const FairOdds& fair,
+                                      const Pays& pays);
+
+// What a chart is worth, and each of its rows.
+[[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);
 
 } // namespace quillet

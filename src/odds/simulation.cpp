@@ -2,11 +2,17 @@
 
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
+#include "engine/random.h"
 #include "odds/dealt_hand.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <functional>
+#include <mutex>
 #include <numeric>
+#include <thread>
+#include <vector>
 
 namespace quillet
 {
@@ -29,16 +35,6 @@ std::size_t playedOutcome(std::array<Card, 5> hand, const PokerDeck& deck,
     return outcomeOf(EvaluatePokerHand(hand, true));
 }
 
-Hold bestAccepted(const DealtHand& dealt)
-{
-    Hold best = holds;
-    for (Hold hold = 0; hold < holds; ++hold) {
-        if (dealt.isAccepted(hold) && (best == holds || dealt.worth[hold] > dealt.worth[best]))
-            best = hold;
-    }
-    return best;
-}
-
 } // namespace
 
 std::int64_t PlayedHands::hands() const
@@ -46,34 +42,35 @@ std::int64_t PlayedHands::hands() const
     return std::accumulate(count.begin(), count.end(), std::int64_t{0});
 }
 
-double PlayedHands::returned() const
+void PlayedHands::add(const PlayedHands& others)
+{
+    std::ranges::transform(count, others.count, count.begin(), std::plus());
+}
+
+double PlayedHands::returned(const Pays& pays) const
 {
     std::int64_t credits = 0;
     for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        credits += count[outcome] * payOf(outcome);
+        credits += count[outcome] * pays[outcome];
     return static_cast<double>(credits) / static_cast<double>(hands() * wager);
 }
 
-double PlayedHands::margin() const
+double PlayedHands::margin(const Pays& pays) const
 {
     const auto total = static_cast<double>(hands());
     double squares = 0;
     for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
-        const double off = static_cast<double>(payOf(outcome)) / wager - returned();
+        const double off = static_cast<double>(pays[outcome]) / wager - returned(pays);
         squares += static_cast<double>(count[outcome]) * off * off;
     }
     return total < 2 ? INFINITY : 1.96 * std::sqrt(squares / (total - 1) / total);
 }
 
-Simulation simulate(const HeldCards& heldCards, RandomSource& random, std::int64_t hands,
-                    const std::function<void(std::int64_t)>& progress)
+Simulation playHands(const HeldCards& heldCards, RandomSource& random, std::int64_t hands)
 {
-    constexpr std::int64_t reportEvery = 1 << 14;
     Simulation result;
     PokerDeck deck{};
     for (std::int64_t done = 0; done < hands; ++done) {
-        if (done % reportEvery == 0)
-            progress(done);
         shuffleDeck(deck, random);
         const std::array<Card, 5> hand = dealHand(deck);
         std::array<Slot, 5> slots;
@@ -85,8 +82,38 @@ Simulation simulate(const HeldCards& heldCards, RandomSource& random, std::int64
 
         const DealtHand dealt(heldCards, places);
         ++result.perfect.count[playedOutcome(hand, deck, slots, dealt.bestHold)];
-        ++result.chart.count[playedOutcome(hand, deck, slots, bestAccepted(dealt))];
+        ++result.chart.count[playedOutcome(hand, deck, slots, dealt.bestAccepted())];
     }
+    return result;
+}
+
+Simulation simulate(const HeldCards& heldCards, std::uint64_t seed, std::int64_t hands,
+                    unsigned threads, const std::function<void(std::int64_t)>& progress)
+{
+    // Each block of hands has draws of its own, whoever plays it.
+    constexpr std::int64_t block = 1 << 14;
+    const std::int64_t blocks = (hands + block - 1) / block;
+    std::atomic<std::int64_t> nextBlock = 0;
+    std::mutex mutex;
+    Simulation result;
+    std::int64_t done = 0;
+    const auto work = [&](const std::function<void(std::int64_t)>& report) {
+        for (std::int64_t mine = nextBlock++; mine < blocks; mine = nextBlock++) {
+            const auto number = static_cast<std::uint64_t>(mine);
+            BlendingRandom random([number] { return number; }, seed);
+            const std::int64_t count = std::min(block, hands - mine * block);
+            const Simulation played = playHands(heldCards, random, count);
+            const std::lock_guard lock(mutex);
+            result.perfect.add(played.perfect);
+            result.chart.add(played.chart);
+            report(done += count);
+        }
+    };
+    std::vector<std::jthread> helpers;
+    for (unsigned thread = 1; thread < threads; ++thread)
+        helpers.emplace_back([&work] { work([](std::int64_t) {}); });
+    work(progress);
+    helpers.clear();
     progress(hands);
     return result;
 }

@@ -14,13 +14,17 @@ namespace quillet
 struct PlayedHands {
     std::array<std::int64_t, outcomes> count{};
 
+    void add(const PlayedHands& others);
     [[nodiscard]] std::int64_t hands() const;
-    [[nodiscard]] double returned() const; // credits won per credit paid
+    [[nodiscard]] double returned(const Pays& pays) const; // credits won per credit paid
 
     // The return lies within so much of returned() with a chance of 95 %, as far as the rare
     // large wins have come up often enough.
-    [[nodiscard]] double margin() const;
+    [[nodiscard]] double margin(const Pays& pays) const;
 };
+
+// Fewer hands than these tell next to nothing about a return: a royal comes once in 40,000.
+inline constexpr std::int64_t tellingHands = 1'000'000;
 
 // The same deals and replacements, held in two ways: by the hold that is best for a fairly
 // shuffled deck, and by the best of those that the coach accepts.
@@ -29,10 +33,14 @@ struct Simulation {
     PlayedHands chart;
 };
 
-// Plays hands from decks shuffled as the trainer shuffles them. Reports now and then how many are
-// done.
-[[nodiscard]] Simulation simulate(const HeldCards& heldCards, RandomSource& random,
-                                  std::int64_t hands,
+// Plays hands from decks shuffled as the trainer shuffles them, on as many threads. The same seed
+// gives the same hands on any number of them. Reports now and then how many are done.
+[[nodiscard]] Simulation simulate(const HeldCards& heldCards, std::uint64_t seed,
+                                  std::int64_t hands, unsigned threads,
                                   const std::function<void(std::int64_t)>& progress);
+
+// Plays so many with these draws.
+[[nodiscard]] Simulation playHands(const HeldCards& heldCards, RandomSource& random,
+                                   std::int64_t hands);
 
 } // namespace quillet

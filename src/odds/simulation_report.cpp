@@ -1,79 +1,55 @@
-#include "engine/hand_evaluation.h"
-#include "engine/pay_table.h"
-#include "odds/columns.h"
 #include "odds/reports.h"
-
-#include <iomanip>
-#include <ostream>
-#include <sstream>
 
 namespace quillet
 {
 
-namespace
+Report simulationReport(const Simulation& simulation, const FairOdds& fair, const Pays& pays)
 {
+    const std::int64_t played = simulation.perfect.hands();
+    Table returns{"returns",
+                  std::to_string(played) +
+                      " hands from decks shuffled as the trainer shuffles them\n\n"
+                      "Credits that come back of 100 paid, and the margin of 95 %: of a hundred\n"
+                      "such runs about 95 come out no farther than that from what is true\n\n",
+                  {{"play", "Play"},
+                   {"hands", ""},
+                   {"return percent", "Return"},
+                   {"margin", "+-"},
+                   {"fair return", "From a fair deck"}},
+                  {},
+                  {}};
+    const auto add = [&](const char* name, const PlayedHands& hands, Strategy strategy) {
+        returns.rows.push_back(
+            {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
+             played < 2 ? Cell(std::string("unknown")) : Cell(Rounded{100 * hands.margin(pays), 4}),
+             Exact{fair.returnOf(strategy), 4, true}});
+    };
+    add("Best holds", simulation.perfect, Strategy::perfect);
+    add("Chart, best choice", simulation.chart, Strategy::chartBest);
+    if (played < tellingHands)
+        returns.outro =
+            "\nFewer than a million hands tell next to nothing about a return: a royal is\n"
+            "some 2 % of it and comes once in 40,000, and even the margin trusts those\n"
+            "that came.\n";
 
-std::string decimals(double value, int places)
-{
-    std::ostringstream text;
-    text << std::fixed << std::setprecision(places) << value;
-    return text.str();
-}
-
-void writeSummary(std::ostream& out, std::string_view name, const PlayedHands& played,
-                  const Fraction& fair)
-{
-    out << "  " << left(name, 20) << right(decimals(100 * played.returned(), 4), 9) << " +- "
-        << left(decimals(100 * played.margin(), 4), 8) << "  from a fair deck "
-        << (fair * 100).decimals(4) << "\n";
-}
-
-void writeTable(std::ostream& out, const Simulation& simulation, const FairOdds& fair)
-{
-    out << simulation.perfect.hands()
-        << " hands from decks shuffled as the trainer shuffles them\n\n"
-        << "Return: credits won for 100 credits paid, with the margin of 95 %\n\n";
-    writeSummary(out, "Best holds", simulation.perfect, fair.returnOf(Strategy::perfect));
-    writeSummary(out, "Chart, best choice", simulation.chart, fair.returnOf(Strategy::chartBest));
-    out << "\n  " << left("Final hand", 20) << right("Best holds", 14) << right("Fair deck", 14)
-        << right("Chart", 14) << right("Fair deck", 14) << "\n";
-    const auto fairCount = [&](Strategy strategy, std::size_t outcome) {
-        const auto hands = static_cast<double>(simulation.perfect.hands());
-        return right(decimals(hands * fair.chanceOf(strategy, outcome).value(), 1), 14);
+    Table counts{"final hands",
+                 "\nHow often each hand came, and would from a fair deck on average\n\n",
+                 {{"final hand", "Final hand"},
+                  {"best holds", "Best holds"},
+                  {"fair best holds", "Fair deck"},
+                  {"chart", "Chart"},
+                  {"fair chart", "Fair deck"}},
+                 {},
+                 {}};
+    const auto expected = [&](Strategy strategy, std::size_t outcome) {
+        return Rounded{static_cast<double>(played) * fair.chanceOf(strategy, outcome).value(), 1};
     };
     for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        out << "  " << left(playName(payTable()[outcome - 1].playCode), 20)
-            << right(std::to_string(simulation.perfect.count[outcome]), 14)
-            << fairCount(Strategy::perfect, outcome)
-            << right(std::to_string(simulation.chart.count[outcome]), 14)
-            << fairCount(Strategy::chartBest, outcome) << "\n";
-}
-
-void writeCsvLine(std::ostream& out, std::string_view strategy, const PlayedHands& played,
-                  const Fraction& fair)
-{
-    out << strategy << "," << played.hands() << "," << decimals(played.returned(), 8) << ","
-        << decimals(played.margin(), 8) << "," << fair.decimals(8);
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        out << "," << played.count[outcome];
-    out << "\n";
-}
-
-} // namespace
-
-void reportSimulation(std::ostream& out, const Simulation& simulation, const FairOdds& fair,
-                      Format format)
-{
-    if (format == Format::text) {
-        writeTable(out, simulation, fair);
-        return;
-    }
-    out << "strategy,hands,return,margin,fair return";
-    for (const Payout& payout : payTable())
-        out << "," << playName(payout.playCode);
-    out << "\n";
-    writeCsvLine(out, "perfect", simulation.perfect, fair.returnOf(Strategy::perfect));
-    writeCsvLine(out, "chart best", simulation.chart, fair.returnOf(Strategy::chartBest));
+        counts.rows.push_back({std::string(outcomeName(outcome)), simulation.perfect.count[outcome],
+                               expected(Strategy::perfect, outcome),
+                               simulation.chart.count[outcome],
+                               expected(Strategy::chartBest, outcome)});
+    return {returns, counts};
 }
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
+#include "charts/mistakes.h"
 #include "odds/hand_text.h"
 
 #include <gmock/gmock.h>
@@ -20,12 +21,6 @@ const HeldCards& heldCards()
 {
     static const HeldCards theHeldCards;
     return theHeldCards;
-}
-
-Chart trainersChart()
-{
-    std::ifstream file(QUILLET_CHARTS_FOLDER "/trainer.chart");
-    return parseChart(std::string((std::istreambuf_iterator<char>(file)), {}));
 }
 
 std::string complaintAbout(std::string_view text)
@@ -77,6 +72,8 @@ TEST(Chart, isReadAsAPersonWritesIt)
 TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
 {
     const Chart chart = trainersChart();
+    std::ifstream file(QUILLET_CHARTS_FOLDER "/trainer.chart");
+    EXPECT_EQ(parseChart(std::string((std::istreambuf_iterator<char>(file)), {})), chart);
     int otherwise = 0;
     forEachPlayedDeal(heldCards(), chart, [&otherwise](const PlayedDeal& deal) {
         otherwise += deal.play.fitting != deal.hand.accepted ||
@@ -118,6 +115,25 @@ TEST(Chart, playsByTheFirstRowThatFits)
             ASSERT_EQ(player.play(hand).fitting, expected.fitting) << holdText(places, holdAll);
         }
     }
+}
+
+TEST(Mistakes, addUpToWhatTheChartLoses)
+{
+    const ChartPrice price = priceChart(heldCards(), trainersChart());
+    std::int64_t deals = 0;
+    Fraction cost;
+    const std::vector<Mistake> mistakes = mistakesOf(heldCards(), trainersChart());
+    for (const Mistake& mistake : mistakes) {
+        deals += mistake.deals;
+        cost = cost + mistake.cost;
+    }
+    EXPECT_EQ(deals, 85848);
+    EXPECT_EQ(cost, price.loss(Taken::best));
+    EXPECT_EQ(mistakes.size(), 14U);
+    EXPECT_EQ(mistakes[4].row, "3 to a royal");
+    EXPECT_EQ(mistakes[4].instead, "4 to a straight flush");
+    EXPECT_EQ(holdText(mistakes[4].example, mistakes[4].best), "9c Tc Jc Kc");
+    EXPECT_EQ(mistakes[4].costliest.decimals(4), "5.7724");
 }
 
 TEST(ChartSearch, findsChartsThatNoSingleChangeImproves)

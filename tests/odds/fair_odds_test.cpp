@@ -11,7 +11,7 @@ namespace
 
 const FairOdds& odds()
 {
-    static const FairOdds theOdds = fairOdds();
+    static const FairOdds theOdds = fairOdds(HeldCards());
     return theOdds;
 }
 
@@ -20,10 +20,20 @@ constexpr std::array allStrategies{Strategy::perfect, Strategy::chartBest, Strat
 
 } // namespace
 
-// Both figures have been published for this pay table again and again.
+// These figures have been published again and again.
 TEST(FairOdds, perfectPlayComesOutAsPublished)
 {
-    EXPECT_EQ((odds().returnOf(Strategy::perfect) * 100).decimals(4), "99.5439");
+    for (const auto& [name, returned] : {std::pair{"9/6", "99.543904"},
+                                         {"9/5", "98.449808"},
+                                         {"8/6", "98.392685"},
+                                         {"8/5", "97.298434"},
+                                         {"7/5", "96.147209"},
+                                         {"6/5", "94.996137"}}) {
+        const FairOdds table = fairOdds(HeldCards(parsePays(name)));
+        EXPECT_EQ((table.returnOf(Strategy::perfect) * 100).decimals(6), returned) << name;
+    }
+    EXPECT_EQ(odds().returnOf(Strategy::perfect).text(), "1653526326983/1661102543100");
+    EXPECT_EQ(odds().returnOf(Strategy::chartBest).text(), "149999803741/151009322100");
     const Fraction& royal = odds().chanceOf(Strategy::perfect, 1);
     EXPECT_EQ(Fraction(royal.denominator(), royal.numerator()).decimals(2), "40390.55");
 }
@@ -35,11 +45,33 @@ TEST(FairOdds, chancesAddUpToTheReturn)
         Fraction credits;
         for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
             chances = chances + odds().chanceOf(strategy, outcome);
-            credits = credits + odds().chanceOf(strategy, outcome) * payOf(outcome);
+            credits = credits + odds().chanceOf(strategy, outcome) * trainersPays()[outcome];
         }
         EXPECT_EQ(chances, Fraction(1, 1));
         EXPECT_EQ(credits / wager, odds().returnOf(strategy));
     }
+}
+
+TEST(Pays, areReadAsAPersonWritesThem)
+{
+    EXPECT_EQ(parsePays("9/6"), trainersPays());
+    EXPECT_EQ(parsePays("8/5"), (Pays{0, 4000, 250, 125, 40, 25, 20, 15, 10, 5}));
+    EXPECT_EQ(parsePays(paysText(parsePays("7/5"))), parsePays("7/5"));
+    EXPECT_EQ(parsePays("Royal 4000 # five coins\r\nStraight flush 250\n\n125,45 30\n20 15 10 5"),
+              trainersPays());
+    const auto complaint = [](std::string_view text) -> std::string {
+        try {
+            (void)parsePays(text);
+            return "none";
+        } catch (const BadPays& error) {
+            return error.what();
+        }
+    };
+    EXPECT_EQ(complaint("4000 250\n125 4x5"),
+              "pay table, line 2: '4x5' is not a number of credits, 0 to 100000");
+    EXPECT_EQ(complaint("1 2 3 4 5 6 7 8 9 10"), "pay table, line 1: more than nine hands pay");
+    for (const char* text : {"", "9", "9/", "9/-6", "/", "1 2 3 4 5 6 7 8 100001", "99999/6"})
+        EXPECT_NE(complaint(text), "none") << text;
 }
 
 } // namespace quillet::test

@@ -1,4 +1,6 @@
+#include "charts/mistakes.h"
 #include "odds/fair_odds.h"
+#include "odds/hand_text.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +11,7 @@
 #include <fstream>
 #include <iterator>
 #include <numeric>
+#include <span>
 #include <string>
 
 namespace quillet::test
@@ -124,7 +127,7 @@ TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
 TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
 {
     const std::string help = helpText();
-    const FairOdds odds = fairOdds();
+    const FairOdds odds = fairOdds(HeldCards());
     EXPECT_EQ(figure(help, "worth-perfect"), inHundred(odds.returnOf(Strategy::perfect)));
     EXPECT_EQ(figure(help, "worth-best"), inHundred(odds.returnOf(Strategy::chartBest)));
     EXPECT_EQ(figure(help, "worth-average"), inHundred(odds.returnOf(Strategy::chartAverage)));
@@ -134,6 +137,15 @@ TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
     EXPECT_EQ(figure(help, "worth-royal-chart"), handsPerRoyal(odds, Strategy::chartBest));
     EXPECT_EQ(figure(help, "worth-cost"), odds.rows[11].costliest.decimals(4));
     const RowOdds& twoHigh = odds.rows[17];
+    std::string dearest;
+    const auto mistakes = charts::mistakesOf(HeldCards(), charts::trainersChart());
+    for (const charts::Mistake& mistake : std::span(mistakes).first(10))
+        dearest += "<tr class=\"mistake\"><td>" + std::string(mistake.row) + "</td><td>" +
+                   std::string(mistake.instead) + "</td><td>" + withCommas(mistake.deals) +
+                   "</td><td>" + (mistake.cost * 100).decimals(4) +
+                   "</td><td><span class=\"hand\">" + holdText(mistake.example, holdAll) +
+                   "</span></td></tr>\n";
+    EXPECT_NE(help.find(dearest), std::string::npos) << dearest;
     EXPECT_EQ(figure(help, "worth-lowest"),
               ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3));
 }

@@ -1,0 +1,208 @@
+#include "odds/answer.h"
+
+#include "charts/chart_search.h"
+#include "odds/chart_report.h"
+#include "odds/document.h"
+#include "odds/hand_stream.h"
+#include "odds/hand_text.h"
+#include "odds/reports.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <poll.h>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillet
+{
+
+namespace
+{
+
+// A bar on the terminal; nothing when the errors go elsewhere.
+void showProgress(std::int64_t done, std::int64_t all)
+{
+    constexpr std::int64_t width = 40;
+    if (isatty(STDERR_FILENO) == 0)
+        return;
+    const auto filled = static_cast<std::size_t>(done * width / all);
+    std::cerr << "\r[" << std::string(filled, '#')
+              << std::string(static_cast<std::size_t>(width) - filled, '.') << "] "
+              << done * 100 / all << " %" << std::flush;
+    if (done == all)
+        std::cerr << "\r" << std::string(width + 8, ' ') << "\r" << std::flush;
+}
+
+std::string contentOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string content((std::istreambuf_iterator<char>(file)), {});
+    if (!file)
+        throw std::runtime_error(path + " cannot be read");
+    return content;
+}
+
+// The table that was asked for: a file's where there is one of that name.
+Pays paysFor(const std::string& text)
+{
+    if (text.empty())
+        return trainersPays();
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(text, error))
+        return parsePays(text);
+    try {
+        return parsePays(contentOf(text));
+    } catch (const BadPays& bad) {
+        throw BadPays(text + ": " + bad.what());
+    }
+}
+
+// Whether hands may be waiting on standard input: in a file that is not at its end, or in a pipe
+// that has something or is about to.
+bool inputWaits()
+{
+    struct stat input {
+    };
+    if (fstat(STDIN_FILENO, &input) != 0)
+        return false;
+    if (S_ISREG(input.st_mode))
+        return lseek(STDIN_FILENO, 0, SEEK_CUR) < input.st_size;
+    constexpr int patience = 50; // milliseconds
+    pollfd waiting{STDIN_FILENO, POLLIN, 0};
+    return S_ISFIFO(input.st_mode) && poll(&waiting, 1, patience) == 1 &&
+           (waiting.revents & POLLIN) != 0;
+}
+
+bool wantsColour()
+{
+    const char* none = std::getenv("NO_COLOR");
+    const char* terminal = std::getenv("TERM");
+    return isatty(STDOUT_FILENO) == 1 && (none == nullptr || *none == '\0') &&
+           terminal != nullptr && std::string_view(terminal) != "dumb";
+}
+
+charts::Chart chartIn(const std::string& path)
+{
+    try {
+        return charts::parseChart(contentOf(path));
+    } catch (const charts::BadChart& bad) {
+        throw charts::BadChart(path + ": " + bad.what());
+    }
+}
+
+void writeBestCharts(std::ostream& out, const Request& request, const HeldCards& heldCards,
+                     const Style& style)
+{
+    charts::ChartSearch search(heldCards);
+    const std::size_t all = request.mostRows - request.leastRows + 1;
+    std::vector<std::vector<Cell>> curve;
+    for (std::size_t rows = request.leastRows; rows <= request.mostRows; ++rows) {
+        const charts::Chart chart = search.best(rows, [&](double share) {
+            const double done = static_cast<double>(rows - request.leastRows) + share;
+            showProgress(static_cast<std::int64_t>(done * 1000 / static_cast<double>(all)), 1000);
+        });
+        const charts::ChartPrice price = charts::priceChart(heldCards, chart);
+        if (all == 1) {
+            writeChartFile(out, chart, price);
+            return;
+        }
+        curve.push_back({static_cast<std::int64_t>(rows), static_cast<std::int64_t>(chart.size()),
+                         Exact{price.loss(charts::Taken::worst), 6, true}});
+    }
+    writeReport(
+        out,
+        {{"best charts",
+          "What the best chart found with so many rows loses of 100 credits, when of holds\n"
+          "that fit a row the worst is taken\n\n",
+          {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}},
+          curve,
+          {}}},
+        style);
+}
+
+} // namespace
+
+void answer(const Request& request, std::istream& in, std::ostream& out)
+{
+    Style style = request.style;
+    style.colour = wantsColour();
+    switch (request.question) {
+    case Question::help:
+        out << helpText();
+        return;
+    case Question::version:
+        out << "quillet-odds " QUILLET_VERSION "\n";
+        return;
+    case Question::rowKinds:
+        reportRowKinds(out);
+        return;
+    case Question::document:
+        writeDocument(out);
+        return;
+    default:
+        break;
+    }
+    const Pays pays = paysFor(request.pays);
+    if (request.question == Question::game && inputWaits())
+        throw BadUsage("there is something on standard input; add - to have its hands answered");
+    std::array<DeckPlace, 5> places{};
+    if (request.question == Question::hand) {
+        places = parseHand(request.hand);
+        std::ranges::sort(places);
+    }
+    const charts::Chart chart =
+        request.chartFile.empty() ? charts::Chart{} : chartIn(request.chartFile);
+
+    const HeldCards heldCards(pays);
+    switch (request.question) {
+    case Question::hand:
+        writeReport(out, handReport(heldCards, DealtHand(heldCards, places), request.allHolds),
+                    style);
+        break;
+    case Question::handsFromInput:
+        answerHands(in, out, heldCards, request.allHolds, style);
+        break;
+    case Question::mistakes:
+        writeReport(out, mistakesReport(charts::mistakesOf(heldCards, charts::trainersChart())),
+                    style);
+        break;
+    case Question::chartMistakes:
+        writeReport(out, mistakesReport(charts::mistakesOf(heldCards, chart)), style);
+        break;
+    case Question::sitting:
+        writeReport(out,
+                    sittingReport(fairOdds(heldCards), pays, request.hands, request.bankroll,
+                                  isatty(STDOUT_FILENO) == 1),
+                    style);
+        break;
+    case Question::simulation: {
+        const unsigned threads = std::max(1U, std::thread::hardware_concurrency());
+        const Simulation simulation =
+            simulate(heldCards, request.seed, request.hands, threads,
+                     [&request](std::int64_t done) { showProgress(done, request.hands); });
+        writeReport(out, simulationReport(simulation, fairOdds(heldCards), pays), style);
+        break;
+    }
+    case Question::chart:
+        writeReport(out, chartReport(chart, charts::priceChart(heldCards, chart)), style);
+        break;
+    case Question::plays:
+        reportPlays(out, heldCards, chart);
+        break;
+    case Question::bestChart:
+        writeBestCharts(out, request, heldCards, style);
+        break;
+    default:
+        writeReport(out, gameReport(fairOdds(heldCards), pays), style);
+        break;
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,82 @@
+#include "odds/hand_stream.h"
+
+#include "odds/hand_text.h"
+#include "odds/reports.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+
+namespace quillet
+{
+
+namespace
+{
+
+// Worth units as credits with eight decimals. A fraction would reduce first, and there are hundreds
+// of thousands of hands a second.
+std::string credits(std::int64_t worth)
+{
+    constexpr std::int64_t decimals = 100'000'000;
+    const auto scaled = static_cast<std::int64_t>(
+        (Int128{worth} * 2 * decimals + DealtHand::worthUnit) / (2 * DealtHand::worthUnit));
+    const std::string digits = std::to_string(scaled % decimals);
+    return std::to_string(scaled / decimals) + "." + std::string(8 - digits.size(), '0') + digits;
+}
+
+void writeLine(std::ostream& out, const DealtHand& hand, Format format)
+{
+    const Hold charts = hand.bestAccepted();
+    const std::int64_t best = hand.worth[hand.bestHold];
+    struct {
+        std::string name, value;
+        bool isText;
+    } const fields[] = {{"hand", holdText(hand.places, holdAll), true},
+                        {"row", std::to_string(hand.chartCode), false},
+                        {"best", holdText(hand.places, hand.bestHold), true},
+                        {"expected", credits(best), false},
+                        {"chart", holdText(hand.places, charts), true},
+                        {"chart expected", credits(hand.worth[charts]), false},
+                        {"cost", credits(best - hand.worth[charts]), false}};
+    std::string line;
+    for (const auto& field : fields) {
+        line += line.empty() ? (format == Format::json ? "{" : "")
+                             : (format == Format::json ? ", " : ",");
+        if (format == Format::json)
+            line += "\"" + field.name + "\": ";
+        line += format == Format::json && field.isText ? "\"" + field.value + "\"" : field.value;
+    }
+    out << line << (format == Format::json ? "}\n" : "\n");
+}
+
+} // namespace
+
+void answerHands(std::istream& in, std::ostream& out, const HeldCards& heldCards, bool allHolds,
+                 const Style& style)
+{
+    if (style.format == Format::csv)
+        out << "hand,row,best,expected,chart,chart expected,cost\n";
+    std::string line;
+    bool first = true;
+    for (int number = 1; std::getline(in, line); ++number) {
+        if (line.find_first_not_of(" \t\r") == std::string::npos || line.starts_with('#'))
+            continue;
+        std::array<DeckPlace, 5> places{};
+        try {
+            places = parseHand(line);
+        } catch (const BadHand& error) {
+            throw BadHand("line " + std::to_string(number) + ": " + error.what());
+        }
+        std::ranges::sort(places);
+        const DealtHand hand(heldCards, places);
+        if (style.format != Format::text) {
+            writeLine(out, hand, style.format);
+            continue;
+        }
+        out << (first ? "" : "\n");
+        first = false;
+        writeReport(out, handReport(heldCards, hand, allHolds), style);
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,43 @@
+#include "odds/reports.h"
+
+namespace quillet
+{
+
+Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
+{
+    Table table{"mistakes",
+                "Deals in which the best hold that the chart allows is not the perfect one: its\n"
+                "row, what perfect play holds instead, what they cost of 100 credits over all\n"
+                "deals, the percentage of that and all above it, and the dearest deal\n\n",
+                {{"row", "Row"},
+                 {"instead", "Instead"},
+                 {"deals", "Deals"},
+                 {"cost", "Cost"},
+                 {"running percent", "Sum"},
+                 {"dearest deal", "Dearest", true},
+                 {"chart holds", ""},
+                 {"perfect holds", ""},
+                 {"dearest costs", ""}},
+                {},
+                {}};
+    Fraction all;
+    std::int64_t deals = 0;
+    for (const charts::Mistake& mistake : mistakes) {
+        all = all + mistake.cost;
+        deals += mistake.deals;
+    }
+    Fraction running;
+    for (const charts::Mistake& mistake : mistakes) {
+        running = running + mistake.cost;
+        table.rows.push_back(
+            {std::string(mistake.row), std::string(mistake.instead), mistake.deals,
+             Exact{mistake.cost, 5, true}, Rounded{100 * running.value() / all.value(), 0},
+             Cards{mistake.example, holdAll}, Cards{mistake.example, mistake.played},
+             Cards{mistake.example, mistake.best}, Exact{mistake.costliest, 4}});
+    }
+    table.outro = "\nIn all " + std::to_string(deals) + " deals, which cost " +
+                  (all * 100).decimals(8) + " of 100 credits.\n";
+    return {table};
+}
+
+} // namespace quillet

@@ -1,0 +1,281 @@
+#include "odds/report.h"
+
+#include "odds/hand_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <ostream>
+#include <sstream>
+
+namespace quillet
+{
+
+namespace
+{
+
+constexpr std::size_t lineWidth = 76;
+
+bool isNumber(const Cell& cell)
+{
+    return !std::holds_alternative<std::string>(cell) && !std::holds_alternative<Cards>(cell);
+}
+
+std::string plain(const Cell& cell)
+{
+    struct {
+        std::string operator()(const std::string& text) const { return text; }
+        std::string operator()(std::int64_t number) const { return std::to_string(number); }
+        std::string operator()(const Exact& exact) const
+        {
+            return (exact.inPercent ? exact.value * 100 : exact.value).decimals(exact.places);
+        }
+        std::string operator()(const Rounded& rounded) const
+        {
+            return decimals(rounded.value, rounded.places);
+        }
+        std::string operator()(const Cards& cards) const
+        {
+            return holdText(cards.places, cards.hold);
+        }
+    } const text;
+    return std::visit(text, cell);
+}
+
+std::string textOf(const Column& column, const Cell& cell)
+{
+    std::string text = plain(cell);
+    if (column.close && std::holds_alternative<Cards>(cell))
+        std::erase(text, ' ');
+    return text;
+}
+
+// Red for diamonds and hearts, each of its own; the escapes take no room.
+std::string coloured(const std::string& cards)
+{
+    std::string text;
+    for (const char c : cards) {
+        if (c == 'd')
+            text += "\x1b[33md\x1b[0m";
+        else if (c == 'h')
+            text += "\x1b[31mh\x1b[0m";
+        else
+            text += c;
+    }
+    return text;
+}
+
+void writeTextTable(std::ostream& out, const Table& table, const Style& style)
+{
+    out << table.intro;
+    std::vector<std::size_t> shown;
+    std::vector<std::size_t> widths;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].heading.empty())
+            continue;
+        std::size_t width = table.columns[i].heading.size();
+        for (const auto& row : table.rows)
+            width = std::max(width, textOf(table.columns[i], row[i]).size());
+        shown.push_back(i);
+        widths.push_back(width);
+    }
+    const auto line = [&](const auto& cellText, const auto& alignsRight) {
+        std::string text = " ";
+        std::string ahead; // blanks are written only before something
+        for (std::size_t n = 0; n < shown.size(); ++n) {
+            const std::string cell = cellText(shown[n]);
+            const std::string blanks(widths[n] - std::min(widths[n], cell.size()), ' ');
+            if (alignsRight(shown[n]))
+                ahead += blanks;
+            if (!cell.empty()) {
+                text += ahead + ' ' + cell;
+                ahead.clear();
+            } else {
+                ahead += ' ';
+            }
+            if (!alignsRight(shown[n]))
+                ahead += blanks;
+            ahead += ' ';
+        }
+        return text;
+    };
+    const auto rightColumn = [&table](std::size_t i) {
+        return std::ranges::any_of(table.rows, [i](const auto& row) { return isNumber(row[i]); });
+    };
+    if (!table.rows.empty())
+        out << line([&](std::size_t i) { return table.columns[i].heading; }, rightColumn) << "\n";
+    for (const auto& row : table.rows) {
+        std::string text =
+            line([&](std::size_t i) { return textOf(table.columns[i], row[i]); }, rightColumn);
+        if (style.colour) {
+            for (const std::size_t i : shown) {
+                if (!std::holds_alternative<Cards>(row[i]))
+                    continue;
+                const std::string cards = textOf(table.columns[i], row[i]);
+                if (const auto at = text.find(cards); at != std::string::npos && cards != "nothing")
+                    text.replace(at, cards.size(), coloured(cards));
+            }
+        }
+        out << text << "\n";
+        for (std::size_t i = 0; style.exact && i < row.size(); ++i) {
+            const auto* exact = std::get_if<Exact>(&row[i]);
+            if (exact != nullptr && !table.columns[i].heading.empty())
+                out << "      " << table.columns[i].field << " = " << exact->value.text() << "\n";
+        }
+    }
+    out << table.outro;
+}
+
+// Data keeps more decimals than a reader wants.
+std::string dataText(const Cell& cell)
+{
+    constexpr int places = 12;
+    if (const auto* exact = std::get_if<Exact>(&cell))
+        return exact->value.decimals(places);
+    const auto* rounded = std::get_if<Rounded>(&cell);
+    return rounded == nullptr ? plain(cell) : decimals(rounded->value, places);
+}
+
+std::string quoted(const std::string& text)
+{
+    if (text.find_first_of(",\"\n") == std::string::npos)
+        return text;
+    std::string result = "\"";
+    for (const char c : text)
+        result += c == '"' ? "\"\"" : std::string(1, c);
+    return result + '"';
+}
+
+std::string fractionOf(const Cell& cell)
+{
+    const auto* exact = std::get_if<Exact>(&cell);
+    return exact == nullptr ? "" : exact->value.text();
+}
+
+// Whether some cell of the column is exact, so that it takes a second field.
+bool hasFractions(const Table& table, std::size_t column)
+{
+    return std::ranges::any_of(table.rows, [column](const auto& row) {
+        return std::holds_alternative<Exact>(row[column]);
+    });
+}
+
+void writeWideCsv(std::ostream& out, const Table& table)
+{
+    std::string titles;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        titles += (i == 0 ? "" : ",") + table.columns[i].field;
+        if (hasFractions(table, i))
+            titles += "," + table.columns[i].field + " fraction";
+    }
+    out << titles << "\n";
+    for (const auto& row : table.rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            out << (i == 0 ? "" : ",") << quoted(dataText(row[i]));
+            if (hasFractions(table, i))
+                out << ',' << fractionOf(row[i]);
+        }
+        out << "\n";
+    }
+}
+
+void writeLongCsv(std::ostream& out, const Report& report)
+{
+    out << "table,row,field,value,fraction\n";
+    for (const Table& table : report) {
+        for (const auto& row : table.rows) {
+            for (std::size_t i = 1; i < row.size(); ++i)
+                out << table.name << ',' << quoted(dataText(row[0])) << ','
+                    << table.columns[i].field << ',' << quoted(dataText(row[i])) << ','
+                    << fractionOf(row[i]) << "\n";
+        }
+    }
+}
+
+std::string jsonText(const std::string& text)
+{
+    std::string result = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\')
+            result += '\\';
+        if (static_cast<unsigned char>(c) < ' ') {
+            std::array<char, 8> escape{};
+            std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(c));
+            result += escape.data();
+        } else {
+            result += c;
+        }
+    }
+    return result + '"';
+}
+
+void writeJson(std::ostream& out, const Report& report)
+{
+    out << "{";
+    const char* betweenTables = "\n";
+    for (const Table& table : report) {
+        out << betweenTables << "  " << jsonText(table.name) << ": [";
+        betweenTables = ",\n";
+        const char* betweenRows = "\n";
+        for (const auto& row : table.rows) {
+            out << betweenRows << "    {";
+            betweenRows = ",\n";
+            for (std::size_t i = 0; i < row.size(); ++i) {
+                const std::string value = dataText(row[i]);
+                out << (i == 0 ? "" : ", ") << jsonText(table.columns[i].field) << ": "
+                    << (isNumber(row[i]) ? value : jsonText(value));
+                if (std::holds_alternative<Exact>(row[i]))
+                    out << ", " << jsonText(table.columns[i].field + " fraction") << ": "
+                        << jsonText(fractionOf(row[i]));
+            }
+            out << "}";
+        }
+        out << "\n  ]";
+    }
+    out << "\n}\n";
+}
+
+} // namespace
+
+void writeReport(std::ostream& out, const Report& report, const Style& style)
+{
+    switch (style.format) {
+    case Format::text:
+        for (const Table& table : report)
+            writeTextTable(out, table, style);
+        break;
+    case Format::csv:
+        if (report.size() == 1)
+            writeWideCsv(out, report.front());
+        else
+            writeLongCsv(out, report);
+        break;
+    case Format::json:
+        writeJson(out, report);
+        break;
+    }
+}
+
+std::string wrapped(const std::string& text)
+{
+    std::string result;
+    std::string line;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        if (line.size() + word.size() + 1 > lineWidth) {
+            result += line + "\n";
+            line = "   ";
+        }
+        line += (line.empty() ? "" : " ") + word;
+    }
+    return result + line + "\n";
+}
+
+std::string decimals(double value, int places)
+{
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", places, value);
+    return text.data();
+}
+
+} // namespace quillet
