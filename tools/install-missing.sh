@@ -1,13 +1,18 @@
 #!/bin/bash
-# Installs those packages of debian-packages.txt that this machine lacks. A machine that has them
-# all is left alone and needs no network.
+# install-missing.sh PART...: installs those packages that this machine lacks of the named parts of
+# debian-packages.txt. A machine that has them all is left alone and needs no network.
 set -euo pipefail
 
 list=$(dirname -- "$(readlink -f -- "$0")")/../debian-packages.txt
+wanted() {
+    for part in "$@"; do
+        sed -n "/^\\[$part\\]/,/^\\[/p" "$list"
+    done | sed -e 's/ *#.*//' -e '/^\[/d' -e '/^$/d'
+}
 
 if ! command -v dpkg-query >/dev/null; then
     echo "This is no Debian machine. Please see to these yourself:" >&2
-    grep -v "^#" "$list" >&2
+    cat "$list" >&2
     exit 0
 fi
 
@@ -17,7 +22,7 @@ installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' 2>
 missing=()
 while read -r package; do
     grep -qxF -- "$package" <<<"$installed" || missing+=("$package")
-done < <(grep -v -e '^#' -e '^$' "$list")
+done < <(wanted "$@")
 [ ${#missing[@]} -eq 0 ] && exit 0
 
 as_root=()
@@ -30,7 +35,7 @@ if [ "$(id -u)" -ne 0 ]; then
     as_root=(sudo)
 fi
 
-echo "Installing ${missing[*]}"
+echo "These packages are missing and will be installed: ${missing[*]}"
 as_root+=(env DEBIAN_FRONTEND=noninteractive)
 if ! "${as_root[@]}" apt-get -qq update ||
     ! "${as_root[@]}" apt-get -qq -y --no-install-recommends install "${missing[@]}"; then
