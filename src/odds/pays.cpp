@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr std::size_t fullHouse = 4, flush = 5;
+constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
 std::int64_t numberIn(std::string_view word, const std::string& place)
 {
@@ -77,8 +78,11 @@ Pays parsePays(std::string_view text)
         std::string_view left = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(left.size() + 1, text.size()));
         left = left.substr(0, left.find('#'));
-        // A name before the number, such as "Full House 45". A sign is no part of a name.
-        left.remove_prefix(std::min(left.find_first_of("0123456789-+."), left.size()));
+        // Behind a name, such as "4 of a kind", the last word is the number.
+        left = left.substr(0, left.find_last_not_of(" \t\r,") + 1);
+        if (left.find_first_of(letters) != std::string_view::npos)
+            left = left.substr(left.find_last_of(" \t,") + 1);
+        left.remove_prefix(std::min(left.find_first_not_of(" \t,"), left.size()));
         while (!left.empty()) {
             const auto end = std::ranges::find_if(left, isBlank);
             const std::string_view word(left.begin(), end);

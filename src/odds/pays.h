@@ -35,8 +35,8 @@ public:
 [[nodiscard]] std::string_view outcomeName(std::size_t outcome);
 
 // Reads "9/6", the full house and the flush for one credit with the trainer's other pays, or nine
-// whole numbers for five credits, royal first, between blanks, commas or ends of lines; on a line,
-// letters before the number and what follows # are left out.
+// whole numbers for five credits, royal first, between blanks, commas or ends of lines; on a line
+// with a name the last word is the number, and what follows # is left out.
 [[nodiscard]] Pays parsePays(std::string_view text);
 
 // "4000 250 125 45 30 20 15 10 5", as parsePays reads it.

@@ -17,13 +17,13 @@ Rounded percent(double share)
     return {100 * share, 4};
 }
 
-// How the sittings spread between the 1st and the 99th hundredth.
+// How the sittings spread, without the lowest hundredth and the twentieth that royals lift.
 std::string barsOf(const Sitting& sitting)
 {
     constexpr std::int64_t lines = 16;
     constexpr double widest = 48;
     const std::int64_t low = sitting.quantile(0.01);
-    const std::int64_t width = std::max<std::int64_t>(5, (sitting.quantile(0.99) - low) / lines);
+    const std::int64_t width = std::max<std::int64_t>(5, (sitting.quantile(0.95) - low) / lines);
     std::vector<double> shares;
     for (std::int64_t line = 0; line < lines; ++line)
         shares.push_back(sitting.chanceOf(low + line * width, low + (line + 1) * width - 1));

@@ -57,8 +57,10 @@ TEST(Pays, areReadAsAPersonWritesThem)
     EXPECT_EQ(parsePays("9/6"), trainersPays());
     EXPECT_EQ(parsePays("8/5"), (Pays{0, 4000, 250, 125, 40, 25, 20, 15, 10, 5}));
     EXPECT_EQ(parsePays(paysText(parsePays("7/5"))), parsePays("7/5"));
-    EXPECT_EQ(parsePays("Royal 4000 # five coins\r\nStraight flush 250\n\n125,45 30\n20 15 10 5"),
-              trainersPays());
+    EXPECT_EQ(
+        parsePays(
+            "Royal 4000 # five coins\r\nStraight flush 250\n\n4 of a kind, 125\n45 30\n20 15 10 5"),
+        trainersPays());
     const auto complaint = [](std::string_view text) -> std::string {
         try {
             (void)parsePays(text);
