@@ -122,6 +122,7 @@ draw_with() {
     local slot=
     for slot in $1; do click_card "$slot"; done
     [[ -z $slot ]] || wait_for 5 "the hold of card $slot" held "$slot"
+    [[ -n $slot ]] || sleep 0.6 # two clicks on the deck at once are a double click, which is one
     click_deck
     [[ -z $slot ]] || wait_for 5 "the end of the holds" not_held "$slot"
     sleep 0.2 # the answer follows at once
