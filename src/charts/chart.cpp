@@ -1,5 +1,7 @@
 #include "charts/chart.h"
 
+#include <array>
+
 namespace quillet::charts
 {
 

@@ -32,16 +32,8 @@ void forEachPlayedDeal(const HeldCards& heldCards, const Chart& chart,
     const ChartPlayer player(table, chart);
     forEachClass(5, [&](const SuitSets& sets) {
         const DealtHand hand(heldCards, placesOf<5>(sets));
-        PlayedDeal deal{hand, classSize(sets), player.play(hand), 0, 0};
-        deal.bestHold = deal.worstHold = static_cast<Hold>(std::countr_zero(deal.play.fitting));
-        for (std::uint32_t left = deal.play.fitting; left != 0; left &= left - 1) {
-            const auto hold = static_cast<Hold>(std::countr_zero(left));
-            if (hand.worth[hold] > hand.worth[deal.bestHold])
-                deal.bestHold = hold;
-            if (hand.worth[hold] < hand.worth[deal.worstHold])
-                deal.worstHold = hold;
-        }
-        visit(deal);
+        const Play play = player.play(hand);
+        visit({hand, classSize(sets), play, hand.bestOf(play.fitting), hand.worstOf(play.fitting)});
     });
 }
 

@@ -40,15 +40,26 @@ OutcomeCounts DealtHand::drawOutcomes(const HeldCards& heldCards, Hold hold) con
     return counts;
 }
 
-Hold DealtHand::bestAccepted() const
+Hold DealtHand::bestOf(std::uint32_t some) const
 {
-    Hold best = static_cast<Hold>(std::countr_zero(accepted));
-    for (std::uint32_t left = accepted; left != 0; left &= left - 1) {
-        const auto hold = static_cast<Hold>(std::countr_zero(left));
+    auto best = static_cast<Hold>(std::countr_zero(some));
+    for (; some != 0; some &= some - 1) {
+        const auto hold = static_cast<Hold>(std::countr_zero(some));
         if (worth[hold] > worth[best])
             best = hold;
     }
     return best;
+}
+
+Hold DealtHand::worstOf(std::uint32_t some) const
+{
+    auto worst = static_cast<Hold>(std::countr_zero(some));
+    for (; some != 0; some &= some - 1) {
+        const auto hold = static_cast<Hold>(std::countr_zero(some));
+        if (worth[hold] < worth[worst])
+            worst = hold;
+    }
+    return worst;
 }
 
 double DealtHand::penaltyOf(const HeldCards& heldCards, Hold hold, std::size_t discard) const

@@ -40,8 +40,10 @@ struct DealtHand {
     // How often each outcome comes up among all draws to this hold.
     [[nodiscard]] OutcomeCounts drawOutcomes(const HeldCards& heldCards, Hold hold) const;
 
-    // Of the holds that the coach accepts the one that is worth most; of equals, the first.
-    [[nodiscard]] Hold bestAccepted() const;
+    // Of the holds whose bits are set the one that is worth most or least; of equals, the first.
+    [[nodiscard]] Hold bestOf(std::uint32_t some) const;
+    [[nodiscard]] Hold worstOf(std::uint32_t some) const;
+    [[nodiscard]] Hold bestAccepted() const { return bestOf(accepted); }
 
     // What the hold would be worth more if this discard were still in the deck, as a share of one
     // credit; below 0 for a card that it does not miss.

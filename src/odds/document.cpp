@@ -2,8 +2,6 @@
 
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
-#include "engine/hand_evaluation.h"
-#include "engine/pay_table.h"
 #include "odds/hand_text.h"
 #include "odds/reports.h"
 
@@ -17,6 +15,7 @@ namespace
 {
 
 constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6", "8/5", "7/5", "6/5"};
+constexpr std::size_t royal = 1; // outcome
 constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
 std::string percent(const Fraction& share, int places)
@@ -94,8 +93,7 @@ void writeSittings(std::ostream& out, const FairOdds& odds)
             out << " | " << decimals(100 * sitting.chanceOf(least, most), 2);
         for (const double share : {0.05, 0.25, 0.5, 0.75, 0.95})
             out << " | " << sitting.quantile(share);
-        const Sitting royals({{1 - one.chance[1], one.chance[1]}, {0, 5}}, hands);
-        out << " | " << decimals(100 * (1 - royals.chanceOf(-endless, -hands * wager)), 2) << " | "
+        out << " | " << decimals(100 * one.chanceOfAtLeastOne(royal, hands), 2) << " | "
             << decimals(100 * chancesOfRuin(one, hands, 500).back(), 2) << " |\n";
     }
 }

@@ -2,7 +2,6 @@
 
 #include "engine/pay_table.h"
 
-#include <algorithm>
 #include <bit>
 #include <cassert>
 #include <vector>
@@ -35,9 +34,8 @@ struct Plays {
         accepted.clear();
         for (std::uint32_t left = hand.accepted; left != 0; left &= left - 1)
             accepted.push_back(static_cast<Hold>(std::countr_zero(left)));
-        const auto worth = [&hand](Hold hold) { return hand.worth[hold]; };
-        chartBest = *std::ranges::max_element(accepted, {}, worth);
-        chartWorst = *std::ranges::min_element(accepted, {}, worth);
+        chartBest = hand.bestAccepted();
+        chartWorst = hand.worstOf(hand.accepted);
     }
 
     [[nodiscard]] PerStrategy sharesOf(Hold hold, const DealtHand& hand) const

@@ -73,14 +73,13 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
                  {"hold", "Hold"},
                  {"expected", "Expected"},
                  {"cost", "Costs"},
-                 {"marks", ""},
+                 {"marks", "Is"},
                  {"best", ""},
                  {"chart", ""},
                  {"accepted", ""},
                  {"draws", ""}},
                 {},
                 {}};
-    table.columns[4].heading = "Is";
     for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
         table.columns.push_back({std::string(outcomeName(outcome)), ""});
     table.columns.push_back({"missed discards", ""});

@@ -101,6 +101,11 @@ double OneHand::variance() const
     return sum;
 }
 
+double OneHand::chanceOfAtLeastOne(std::size_t outcome, std::int64_t hands) const
+{
+    return -std::expm1(static_cast<double>(hands) * std::log1p(-chance[outcome]));
+}
+
 std::optional<double> OneHand::handsUntilTheEdgeShows() const
 {
     const double edge = returned() - 1;
@@ -184,7 +189,7 @@ std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands, st
         return std::llround(std::min(std::ceil(bound), static_cast<double>(left * cost))) + cost;
     };
     std::array<double, 10> ruined{};
-    std::int64_t safe = std::min<std::int64_t>(safeFor(hands), hands * cost + cost);
+    std::int64_t safe = safeFor(hands);
     if (bankroll / unit > safe)
         return ruined;
     // The chance of each number of units, up to where they are safe.

@@ -19,6 +19,9 @@ struct OneHand {
     [[nodiscard]] double returned() const;
     [[nodiscard]] double variance() const;
 
+    // To get the outcome in so many hands.
+    [[nodiscard]] double chanceOfAtLeastOne(std::size_t outcome, std::int64_t hands) const;
+
     // After so many hands what is to be expected of the edge is 1.96 standard deviations of chance;
     // nothing when there is no edge.
     [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;

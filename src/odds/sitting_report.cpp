@@ -78,13 +78,10 @@ Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
                 {"chart best choice", "Chart, best choice"}},
                {},
                {}};
-    const auto atLeastOnce = [hands](double each) {
-        return percent(-std::expm1(static_cast<double>(hands) * std::log1p(-each)));
-    };
     for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
         once.rows.push_back({std::string(outcomeName(outcome)),
-                             atLeastOnce(perfectHand.chance[outcome]),
-                             atLeastOnce(chartHand.chance[outcome])});
+                             percent(perfectHand.chanceOfAtLeastOne(outcome, hands)),
+                             percent(chartHand.chanceOfAtLeastOne(outcome, hands))});
     Report report{net, once};
     if (bankroll) {
         Table ruin{"bankroll",
