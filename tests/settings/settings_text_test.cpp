@@ -56,7 +56,7 @@ TEST(SettingsText, everyTextComesBackFromWhateverCouldBeParsed)
 
 TEST(SettingsText, whatAPersonWroteIsUnderstoodAndKept)
 {
-    SettingsText text = parsed("# mine\nloose = 1\n\n [ Play ] \n;off=1\n  a = b = c # d \n"
+    SettingsText text = parsed("# mine\nloose = 1\n\n [ Play ] \n;off\n  a = b = c # d \n"
                                "path=C:\\games\\x.jpg\na=second\n\n# tail\n[Other]\nz=1");
     EXPECT_EQ(text.value("", "loose"), "1");
     EXPECT_EQ(text.value("Play", "a"), "second");
@@ -66,7 +66,7 @@ TEST(SettingsText, whatAPersonWroteIsUnderstoodAndKept)
     text.setValue("Play", "a", "third");
     text.setValue("Play", "new", "2");
     text.setValue("Last", "k", "");
-    EXPECT_EQ(text.bytes(), "# mine\nloose = 1\n\n [ Play ] \n;off=1\n  a = b = c # d \n"
+    EXPECT_EQ(text.bytes(), "# mine\nloose = 1\n\n [ Play ] \n;off\n  a = b = c # d \n"
                             "path=C:\\games\\x.jpg\na=third\nnew=2\n\n# tail\n[Other]\nz=1\n"
                             "\n[Last]\nk=\n");
     text = parsed("\xEF\xBB\xBF[A]\r\nk=1\r\n\r\n");

@@ -189,6 +189,11 @@ TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
         EXPECT_THAT(write("k", "lost"), testing::HasSubstr("cannot be stored"));
     }
     EXPECT_EQ(fileText("elsewhere"), "[Preferences]\nk=new\n") << "unreadable is not broken";
+
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_EQ(::mkfifo(path().toLocal8Bit(), 0600), 0);
+    EXPECT_EQ(read("k"), "default") << "nobody waits for its other end";
+    EXPECT_THAT(write("k", "lost"), testing::HasSubstr("It is not a file"));
 }
 
 TEST(UsersStore, liesInTheHomeOfTheUserDatabaseWhereNoneIsSet)

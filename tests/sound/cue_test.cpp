@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <sys/stat.h>
 
 namespace quillet::test
@@ -30,6 +32,42 @@ TEST(CueLibrary, whatIsNoCueIsNothing)
           folder.file("slow.wav", flatWave(0x90, 10'000, {100, 1, 1}))})
         EXPECT_FALSE(library.find(path)) << path;
     EXPECT_TRUE(library.find(folder.file("good.wav", good)));
+}
+
+TEST(CueLibrary, aFileThatChangedIsReadAgain)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("cue.wav", flatWave(1000, 100));
+    CueLibrary library;
+    const auto kept = library.find(path);
+    EXPECT_EQ(library.find(path), kept);
+    const auto written = std::filesystem::last_write_time(path);
+    std::filesystem::last_write_time(folder.file("cue.wav", flatWave(2000, 100)),
+                                     written + std::chrono::seconds(1));
+    EXPECT_EQ(library.find(path)->samples.front(), 2000);
+}
+
+TEST(CueMixer, aCueThatIsCutOffFadesOutUnderItsSuccessor)
+{
+    const auto cue = [](std::int16_t value) {
+        return std::make_shared<SoundCue>(SoundCue{std::vector<std::int16_t>(2000, value)});
+    };
+    CueMixer mixer;
+    std::vector<std::int16_t> block(100);
+    mixer.play(cue(12000));
+    mixer.render(block);
+    mixer.play(cue(300));
+    mixer.render(block);
+    EXPECT_EQ(block.front(), 12300);
+    // Of this one nothing is heard: it neither fades nor ends the fade.
+    mixer.play(cue(500));
+    mixer.play(cue(700));
+    block.resize(300);
+    mixer.render(block);
+    EXPECT_TRUE(std::ranges::is_sorted(block, std::greater()));
+    EXPECT_GT(block.front(), 700);
+    EXPECT_LT(block.front(), 12300);
+    EXPECT_EQ(block.back(), 700);
 }
 
 TEST(CuePlayer, opensRestsAndTriesAgainByTheClockAndSkipsWhatComesTooLate)

@@ -116,6 +116,9 @@ TEST(SdlSoundOutput, opensTheDeviceBeforeTheCueThatFollows)
     SdlSoundOutput output;
     output.prepare();
     EXPECT_TRUE(recorder.hears(0, 20)) << "silence";
+    output.play(folder.file("cue.wav", flatWave(1000, 200)));
+    output.prepare();
+    EXPECT_TRUE(recorder.hears(1000, 150)) << "to be ready is less than a cue that waits";
 }
 
 TEST(SdlAudioDevice, machineWithoutSoundIsNoDeviceAndNoMessage)
