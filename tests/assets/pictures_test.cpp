@@ -55,6 +55,34 @@ double difference(const QString& one, const QString& other)
     return sum / static_cast<double>(first.sizeInBytes());
 }
 
+// The sizes, in pixels, of what hangs together of the pixels that belong.
+std::vector<int> regionSizes(const QImage& image, bool (*belongs)(QRgb))
+{
+    std::vector<int> sizes;
+    QImage seen(image.size(), QImage::Format_Mono);
+    seen.fill(0);
+    std::vector<QPoint> open;
+    const auto visit = [&](const QPoint& at) {
+        if (!image.valid(at) || seen.pixelIndex(at) == 1 || !belongs(image.pixel(at)))
+            return;
+        seen.setPixel(at, 1);
+        open.push_back(at);
+    };
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        visit({i % image.width(), i / image.width()});
+        for (int size = 1; !open.empty(); ++size) {
+            const QPoint at = open.back();
+            open.pop_back();
+            if (size == 1)
+                sizes.push_back(0);
+            ++sizes.back();
+            for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+                visit(at + step);
+        }
+    }
+    return sizes;
+}
+
 QRect inPixels(const QRectF& place)
 {
     return QRectF(place.topLeft() * tableScale, place.size() * tableScale).toAlignedRect();
@@ -101,6 +129,16 @@ TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
     for (const QString& name : written)
         EXPECT_LT(difference(folder.filePath(name), assets.filePath(name)), 1)
             << name.toStdString();
+}
+
+TEST(Icon, isOneShapeWithoutStraySpecks)
+{
+    const QImage icon(assets.filePath("icons/quillet-512.png"));
+    ASSERT_EQ(icon.size(), QSize(512, 512));
+    const auto shapes = regionSizes(icon, [](QRgb pixel) { return qAlpha(pixel) > 0; });
+    EXPECT_EQ(shapes.size(), 1U);
+    for (const int size : regionSizes(icon, [](QRgb pixel) { return qGray(pixel) > 225; }))
+        EXPECT_GT(size, 40);
 }
 
 TEST(Tables, letEveryCardEdgeStandOutInTheMiddleOfItsTray)

@@ -1,9 +1,11 @@
+#include "main_window/chart_row.h"
 #include "main_window/frm_preferences.h"
 #include "screens/frm_about.h"
 #include "screens/frm_exit_no_banner.h"
 #include "screens/web_pages.h"
 #include "tests/kit/played_window.h"
 
+#include <QFontMetricsF>
 #include <QPushButton>
 
 namespace quillet::test
@@ -43,6 +45,27 @@ TEST(WindowEvents, clicksAndANewGameInAPauseDealOneFreshHand)
     doubleClick(game.part("picDeal0"));
     EXPECT_EQ(game.counters(), "-5/2/1") << "a double click on the deck is one click";
     EXPECT_TRUE(game.waitsForDraw());
+}
+
+TEST(WindowEvents, theChartStandsStillWithRoomForAWiderFont)
+{
+    struct HideCounter : QObject {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            hidden += event->type() == QEvent::Hide;
+            return false;
+        }
+        int hidden = 0;
+    } counter;
+    PlayedWindow game;
+    ASSERT_TRUE(game.start());
+    game.part("picPokerLabels").installEventFilter(&counter);
+    for (const ChartRow* row : game.window->findChildren<ChartRow*>()) {
+        const double advance = QFontMetricsF(row->font()).horizontalAdvance(row->text());
+        EXPECT_LE(1.05 * advance, row->width() - ChartRow::markRoom) << row->text().toStdString();
+    }
+    game.choose("mnuPoker");
+    EXPECT_EQ(counter.hidden, 0) << "a chart that is shown again flashes";
 }
 
 TEST(WindowEvents, automaticDealingUntickedInItsPauseStops)

@@ -15,10 +15,12 @@ from gi.repository import GLib
 PATIENCE = 20  # seconds
 CARD = re.compile(r"Card (\d): (Ace|Two|Three|Four|Five|Six|Seven|Eight|Nine|Ten|Jack|Queen|King) "
                   r"of (clubs|diamonds|hearts|spades)(, held)?$")
-heard = []  # (kind, name) of every event of the program
+heard = []  # (kind, name) of every event of the program, while no card flies
+sources = []  # of all of them
 
 
 def listen(event):
+    sources.append(event.source)
     try:
         heard.append((event.type, event.source.name))
     except GLib.Error:
@@ -107,7 +109,8 @@ class Table:
     # While a card flies the program answers nobody.
     def counter(self, caption):
         label = find(self.chart, "label", caption + r" -?\d+")
-        return label and int(label.name.split()[-1])
+        value = re.search(r"-?\d+$", label.name if label else "")
+        return value and int(value[0])
 
     def hold_only(self, slots):
         for slot, card in enumerate(self.cards()):
@@ -168,8 +171,15 @@ def a_hand_is_played(table):
         check(any(kind.startswith("object:property-change:accessible-name")
                   and name.endswith("missed best play") for kind, name in heard),
               "nobody was told of the refusal")
+    key("F1")
+    asked = len(sources)
     wait_for("the next hand", lambda: table.counter("Hands") == 2 and len(table.cards()) == 5)
     wait_for("its best play", lambda: table.chart.description.endswith(", best play"))
+    hands = find(table.chart, "label", "Hands 2")
+    check(sources.index(window("Quillet Help"), asked) < sources.index(hands, asked),
+          "a key is heard only after the pause")
+    key("Escape")
+    wait_for("the help to close", lambda: all(w.name != "Quillet Help" for w in program()))
 
 
 def tab_reaches(table):
@@ -194,7 +204,7 @@ def dialogs_are_named(table):
 def main():
     pyatspi.Registry.registerEventListener(
         listen, "object:state-changed:checked", "object:state-changed:focused",
-        "object:property-change:accessible-name")
+        "object:property-change:accessible-name", "window:activate")
     game = subprocess.Popen([sys.argv[1]], stderr=subprocess.DEVNULL)
     wait_for("the program", program)
     table = Table()
