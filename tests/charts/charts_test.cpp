@@ -5,11 +5,8 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <numeric>
-#include <random>
 
 namespace quillet::charts::test
 {
@@ -30,23 +27,6 @@ std::string complaintAbout(std::string_view text)
         return "none";
     } catch (const BadChart& error) {
         return error.what();
-    }
-}
-
-// The row and the holds that fit it, looked for without any table.
-Play playedByHand(const Chart& chart, const DealtHand& hand)
-{
-    for (std::size_t row = 0;; ++row) {
-        const RowKind& kind = rowKinds()[chart.at(row)];
-        Play play{row, 0};
-        for (Hold hold = 0; hold < holds; ++hold) {
-            const HoldFacts held = factsOf(hand, hold);
-            if (kind.fits(held) &&
-                (kind.allows == nullptr || kind.allows(held, factsOf(hand, holdAll & ~hold))))
-                play.fitting |= 1U << hold;
-        }
-        if (play.fitting != 0)
-            return play;
     }
 }
 
@@ -89,32 +69,6 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
     for (const RowPrice& row : price.rows)
         deals += row.deals;
     EXPECT_EQ(deals, 2598960);
-}
-
-TEST(Chart, playsByTheFirstRowThatFits)
-{
-    Chart every(rowKinds().size() - 31);
-    std::iota(every.begin(), every.end(), RowKindId{30});
-    std::mt19937 random(3);
-    const HoldTable table(heldCards());
-    for (int round = 0; round < 3; ++round) {
-        std::shuffle(every.begin(), every.end(), random);
-        Chart chart(every.begin(), every.begin() + 40);
-        chart.push_back(nothingRow());
-        const ChartPlayer player(table, chart);
-        for (int deal = 0; deal < 1000; ++deal) {
-            std::array<DeckPlace, 52> deck{};
-            std::iota(deck.begin(), deck.end(), DeckPlace{0});
-            std::shuffle(deck.begin(), deck.end(), random);
-            std::array<DeckPlace, 5> places{};
-            std::copy_n(deck.begin(), 5, places.begin());
-            std::ranges::sort(places);
-            const DealtHand hand(heldCards(), places);
-            const Play expected = playedByHand(chart, hand);
-            ASSERT_EQ(player.play(hand).row, expected.row) << holdText(places, holdAll);
-            ASSERT_EQ(player.play(hand).fitting, expected.fitting) << holdText(places, holdAll);
-        }
-    }
 }
 
 TEST(Mistakes, addUpToWhatTheChartLoses)
