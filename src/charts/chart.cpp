@@ -1,6 +1,10 @@
 #include "charts/chart.h"
 
+#include "charts/names.h"
+
+#include <algorithm>
 #include <array>
+#include <bit>
 
 namespace quillet::charts
 {
@@ -11,13 +15,10 @@ namespace
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::size_t suggestions = 3;
 
-std::string_view withoutCommentAndBlanks(std::string_view line)
+std::string_view withoutBlanks(std::string_view text)
 {
-    line = line.substr(0, line.find('#'));
-    const std::size_t first = line.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return line.substr(first, line.find_last_not_of(blanks) - first + 1);
+    const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
 
 [[noreturn]] void failAt(std::size_t line, const std::string& why)
@@ -25,17 +26,40 @@ std::string_view withoutCommentAndBlanks(std::string_view line)
     throw BadChart("line " + std::to_string(line) + ": " + why);
 }
 
-RowKindId rowNamed(std::string_view name, std::size_t line)
+// What stands where a name is looked for in vain.
+template <typename Kinds>
+[[noreturn]] void failAtName(std::size_t line, const char* what, std::string_view name,
+                             const Kinds& kinds)
 {
-    if (const auto found = findRowKind(name))
-        return *found;
-    std::string why = "there is no row \"" + std::string(name) + "\"; the nearest are";
+    std::string why =
+        std::string("there is no ") + what + " \"" + std::string(name) + "\"; the nearest are";
     const char* before = " ";
-    for (const std::string_view nearest : nearestRowNames(name, suggestions)) {
+    for (const std::string_view nearest : nearestNames(kinds, name, suggestions)) {
         why += before + ('"' + std::string(nearest)) + '"';
         before = ", ";
     }
     failAt(line, why);
+}
+
+Row rowIn(std::string_view text, std::size_t line)
+{
+    const std::size_t end = std::min(text.find(';'), text.size());
+    const std::string_view name = withoutBlanks(text.substr(0, end));
+    const auto kind = findRowKind(name);
+    if (!kind)
+        failAtName(line, "row", name, rowKinds());
+    Row row{*kind, 0};
+    for (text.remove_prefix(end); !text.empty();) {
+        text.remove_prefix(1);
+        const std::size_t comma = std::min(text.find(','), text.size());
+        const std::string_view asked = withoutBlanks(text.substr(0, comma));
+        text.remove_prefix(comma);
+        const auto discards = findDiscardKind(asked);
+        if (!discards)
+            failAtName(line, "condition", asked, discardKinds());
+        row.discards |= DiscardSet{1} << *discards;
+    }
+    return row;
 }
 
 } // namespace
@@ -45,20 +69,21 @@ Chart parseChart(std::string_view text)
     Chart chart;
     for (std::size_t line = 1; !text.empty(); ++line) {
         const std::size_t end = text.find('\n');
-        const std::string_view name = withoutCommentAndBlanks(text.substr(0, end));
+        std::string_view row = text.substr(0, end);
+        row = withoutBlanks(row.substr(0, row.find('#')));
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        if (name.empty())
+        if (row.empty())
             continue;
         if (chart.size() == mostRows)
             failAt(line, "a chart has no more than " + std::to_string(mostRows) + " rows");
-        chart.push_back(rowNamed(name, line));
+        chart.push_back(rowIn(row, line));
     }
     if (chart.empty())
         throw BadChart("there is no row in it");
-    if (chart.back() != nothingRow()) {
+    if (chart.back() != Row{nothingRow()}) {
         if (chart.size() == mostRows)
             throw BadChart("there is no room left for the last row, \"nothing\"");
-        chart.push_back(nothingRow());
+        chart.push_back({nothingRow()});
     }
     return chart;
 }
@@ -88,15 +113,27 @@ Chart trainersChart()
                                                     "nothing"};
     Chart chart;
     for (const std::string_view row : rows)
-        chart.push_back(*findRowKind(row));
+        chart.push_back({*findRowKind(row)});
     return chart;
+}
+
+std::string rowText(const Row& row)
+{
+    std::string text(rowKinds()[row.kind].name);
+    const char* before = "; ";
+    for (DiscardSet left = row.discards; left != 0; left &= left - 1) {
+        const auto asked = static_cast<std::size_t>(std::countr_zero(left));
+        text.append(before).append(discardKinds()[asked].name);
+        before = ", ";
+    }
+    return text;
 }
 
 std::string chartText(const Chart& chart)
 {
     std::string text;
-    for (const RowKindId row : chart)
-        text += std::string(rowKinds()[row].name) + '\n';
+    for (const Row& row : chart)
+        text += rowText(row) + '\n';
     return text;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/discard_kinds.h"
 #include "charts/row_kinds.h"
 
 #include <stdexcept>
@@ -12,9 +13,17 @@ namespace quillet::charts
 
 inline constexpr std::size_t mostRows = 64;
 
+// A row as it stands in a chart: what to keep, and what to ask about the cards thrown away.
+struct Row {
+    RowKindId kind = 0;
+    DiscardSet discards = 0;
+
+    bool operator==(const Row&) const = default;
+};
+
 // The rows of a chart, best first. A deal is played by the first row that one of its holds fits.
-// The last row keeps nothing, so that every deal is played.
-using Chart = std::vector<RowKindId>;
+// The last row keeps nothing and asks nothing, so that every deal is played.
+using Chart = std::vector<Row>;
 
 // A text that is no chart; what() says in which line and why.
 class BadChart : public std::runtime_error
@@ -23,12 +32,16 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Reads a chart: one row a line; what follows # is a comment and empty lines are none. A chart
-// that does not end with the row for nothing gets it.
+// Reads a chart: one row a line, and behind a semicolon what it asks about the cards thrown away,
+// with commas between; what follows # is a comment and empty lines are none. A chart that does not
+// end with the row for nothing gets it.
 [[nodiscard]] Chart parseChart(std::string_view text);
 
 // The trainer's own.
 [[nodiscard]] Chart trainersChart();
+
+// "4 to a flush; no high, a 10"
+[[nodiscard]] std::string rowText(const Row& row);
 
 // The rows as parseChart reads them, one a line.
 [[nodiscard]] std::string chartText(const Chart& chart);

@@ -6,6 +6,30 @@
 namespace quillet::charts
 {
 
+namespace
+{
+
+// Those cards of a deal that a hold keeps.
+class KeptCards
+{
+public:
+    KeptCards(const DealtHand& hand, Hold hold)
+    {
+        for (std::size_t i = 0; i < m_cards.size(); ++i) {
+            if ((hold >> i & 1U) != 0)
+                m_cards[m_count++] = cardAt(hand.places[i]);
+        }
+    }
+
+    [[nodiscard]] std::span<const Card> cards() const { return std::span(m_cards).first(m_count); }
+
+private:
+    std::array<Card, 5> m_cards;
+    std::size_t m_count = 0;
+};
+
+} // namespace
+
 HoldTable::HoldTable(const HeldCards& heldCards)
 {
     const std::span<const Card> none;
@@ -24,18 +48,24 @@ HoldTable::HoldTable(const HeldCards& heldCards)
 
 HoldFacts factsOf(const DealtHand& hand, Hold hold)
 {
-    std::array<Card, 5> cards;
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < cards.size(); ++i) {
-        if ((hold >> i & 1U) != 0)
-            cards[count++] = cardAt(hand.places[i]);
-    }
-    return HoldFacts(std::span(cards).first(count));
+    return HoldFacts(KeptCards(hand, hold).cards());
+}
+
+bool allows(const Row& row, const DealtHand& hand, Hold hold)
+{
+    const RowKind& kind = rowKinds()[row.kind];
+    if (kind.allows == nullptr && row.discards == 0)
+        return true;
+    const KeptCards kept(hand, hold);
+    const KeptCards thrown(hand, holdAll & ~hold);
+    return (kind.allows == nullptr ||
+            kind.allows(HoldFacts(kept.cards()), HoldFacts(thrown.cards()))) &&
+           fitAll(row.discards, DiscardFacts(kept.cards(), thrown.cards()));
 }
 
 ChartPlayer::ChartPlayer(const HoldTable& table, const Chart& chart) : m_chart(chart)
 {
-    assert(!chart.empty() && chart.size() <= mostRows && chart.back() == nothingRow());
+    assert(!chart.empty() && chart.size() <= mostRows && chart.back() == Row{nothingRow()});
     m_rowsOfClass.reserve(table.classes());
     for (std::size_t id = 0; id < table.classes(); ++id)
         m_rowsOfClass.push_back(rowsThatFit(table.facts(static_cast<HeldCards::ClassId>(id))));
@@ -45,7 +75,7 @@ ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held) const
 {
     RowSet rows = 0;
     for (std::size_t row = 0; row < m_chart.size(); ++row) {
-        if (rowKinds()[m_chart[row]].fits(held))
+        if (rowKinds()[m_chart[row].kind].fits(held))
             rows |= RowSet{1} << row;
     }
     return rows;
@@ -64,7 +94,7 @@ Play ChartPlayer::play(const DealtHand& hand) const
     for (; any != 0; any &= any - 1) {
         Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};
         for (Hold hold = 0; hold < holds; ++hold) {
-            if ((rows[hold] >> play.row & 1U) != 0 && allows(play.row, hand, hold))
+            if ((rows[hold] >> play.row & 1U) != 0 && allows(m_chart[play.row], hand, hold))
                 play.fitting |= 1U << hold;
         }
         if (play.fitting != 0)
@@ -72,13 +102,6 @@ Play ChartPlayer::play(const DealtHand& hand) const
     }
     assert(false); // the last row fits every deal
     return {};
-}
-
-bool ChartPlayer::allows(std::size_t row, const DealtHand& hand, Hold hold) const
-{
-    const RowKind& kind = rowKinds()[m_chart[row]];
-    return kind.allows == nullptr ||
-           kind.allows(factsOf(hand, hold), factsOf(hand, holdAll & ~hold));
 }
 
 } // namespace quillet::charts

@@ -42,11 +42,13 @@ private:
     static_assert(mostRows <= 64);
 
     [[nodiscard]] RowSet rowsThatFit(const HoldFacts& held) const;
-    [[nodiscard]] bool allows(std::size_t row, const DealtHand& hand, Hold hold) const;
 
     const Chart m_chart;
     std::vector<RowSet> m_rowsOfClass;
 };
+
+// Whether a hold whose cards fit the row may be held after a look at the cards thrown away.
+[[nodiscard]] bool allows(const Row& row, const DealtHand& hand, Hold hold);
 
 // The facts of those cards of a deal that a hold keeps.
 [[nodiscard]] HoldFacts factsOf(const DealtHand& hand, Hold hold);

@@ -6,7 +6,6 @@
 #include <cassert>
 #include <functional>
 #include <limits>
-#include <numeric>
 
 namespace quillet::charts
 {
@@ -51,8 +50,7 @@ void ChartSearch::findFits(const HeldCards& heldCards)
         const std::int64_t size = classSize(sets);
         const auto deal = static_cast<std::uint32_t>(m_deals++);
         const auto enter = [&](RowKindId kind, Hold hold) {
-            if (kinds[kind].allows != nullptr &&
-                !kinds[kind].allows(factsOf(hand, hold), factsOf(hand, holdAll & ~hold)))
+            if (!allows({kind}, hand, hold))
                 return;
             const Loss loss = (hand.worth[hand.bestHold] - hand.worth[hold]) * size;
             credits[kind] += static_cast<double>(hand.worth[hold] * size);
@@ -78,10 +76,12 @@ Chart ChartSearch::best(std::size_t rows, const Progress& progress)
     assert(rows >= 1 && rows <= mostRows);
     // Every row there is, the dearest holds first, plays nearly perfectly. What is needed least is
     // taken out until few enough are left.
-    Chart all(rowKinds().size() - 1);
-    std::iota(all.begin(), all.end(), RowKindId{0});
-    std::ranges::stable_sort(all, std::greater(), [this](RowKindId kind) { return m_worth[kind]; });
-    all.push_back(nothingRow());
+    Chart all;
+    for (RowKindId kind = 0; kind < nothingRow(); ++kind)
+        all.push_back({kind});
+    std::ranges::stable_sort(all, std::greater(),
+                             [this](const Row& row) { return m_worth[row.kind]; });
+    all.push_back({nothingRow()});
     stand(all);
     shrinkTo(rows);
 
@@ -115,7 +115,7 @@ void ChartSearch::kick(std::mt19937& chance)
     constexpr unsigned mostRowsPutIn = 4;
     for (unsigned left = 1 + chance() % mostRowsPutIn; left > 0; --left) {
         const RowKindId kind = chance() % nothingRow();
-        if (std::ranges::find(m_chart, kind) == m_chart.end())
+        if (std::ranges::find(m_chart, kind, &Row::kind) == m_chart.end())
             apply(bestInsertionOf(kind));
         if (chance() % 2 == 0 && m_chart.size() > 1) {
             const std::size_t out = chance() % (m_chart.size() - 1);
@@ -136,7 +136,7 @@ void ChartSearch::stand(const Chart& chart)
     m_chart = chart;
     m_standing.assign(m_deals, {nobody, nobody, 0, 0});
     for (std::size_t row = 0; row < chart.size(); ++row) {
-        for (const Fit& fit : m_fits[chart[row]]) {
+        for (const Fit& fit : m_fits[chart[row].kind]) {
             Standing& deal = m_standing[fit.deal];
             if (deal.first == nobody) {
                 deal.first = static_cast<std::uint8_t>(row);
@@ -175,7 +175,7 @@ ChartSearch::Change ChartSearch::bestInsertion() const
 {
     Change best{Change::none, Change::none, 0, std::numeric_limits<Loss>::min()};
     for (RowKindId kind = 0; kind < nothingRow(); ++kind) {
-        if (std::ranges::find(m_chart, kind) != m_chart.end())
+        if (std::ranges::find(m_chart, kind, &Row::kind) != m_chart.end())
             continue;
         const Change change = bestInsertionOf(kind);
         if (change.gain > best.gain)
@@ -223,8 +223,8 @@ ChartSearch::Change ChartSearch::bestReplacement() const
     const std::vector<Loss> removal = gainsOfRemoval();
     Change best{Change::none, Change::none, 0, std::numeric_limits<Loss>::min()};
     for (RowKindId kind = 0; kind < nothingRow(); ++kind) {
-        const auto standsAt =
-            static_cast<std::size_t>(std::ranges::find(m_chart, kind) - m_chart.begin());
+        const auto standsAt = static_cast<std::size_t>(
+            std::ranges::find(m_chart, kind, &Row::kind) - m_chart.begin());
         const Offer offer(m_fits[kind], m_standing, rows);
         for (std::size_t out = 0; out + 1 < rows; ++out) {
             if (standsAt < rows && standsAt != out)
@@ -251,7 +251,7 @@ void ChartSearch::apply(const Change& change)
         before -= before > change.out ? 1 : 0;
     }
     if (change.in != Change::none)
-        chart.insert(chart.begin() + static_cast<std::ptrdiff_t>(before), change.in);
+        chart.insert(chart.begin() + static_cast<std::ptrdiff_t>(before), {change.in});
     [[maybe_unused]] const Loss was = m_loss;
     stand(chart);
     assert(was - m_loss == change.gain);

@@ -24,7 +24,8 @@ public:
     // The best chart found with at most so many rows, 1..mostRows, the row for nothing included.
     [[nodiscard]] Chart best(std::size_t rows, const Progress& progress = {});
 
-    // Whether no row taken out, none put in another's place and none moved makes it lose less.
+    // Whether for a chart that asks nothing about discards no row taken out, none put in another's
+    // place and none moved makes it lose less.
     [[nodiscard]] bool cannotBeImproved(const Chart& chart);
 
 private:

@@ -45,4 +45,12 @@ HoldFacts::HoldFacts(std::span<const Card> held) : cards(static_cast<int>(held.s
         straightsOfTheDeck, [this](RankSet straight) { return (ranks & ~straight) == 0; }));
 }
 
+RankSet straightPartners(RankSet ranks)
+{
+    RankSet partners = 0;
+    for (const RankSet straight : straightsOfTheDeck)
+        partners |= (ranks & ~straight) == 0 ? straight : 0;
+    return partners & ~ranks;
+}
+
 } // namespace quillet::charts

@@ -39,4 +39,7 @@ struct HoldFacts {
     int straights = 0;     // how many of the ten straights have all these ranks; 0 with a pair
 };
 
+// The ranks that lie in a straight with all of these, themselves not among them.
+[[nodiscard]] RankSet straightPartners(RankSet ranks);
+
 } // namespace quillet::charts

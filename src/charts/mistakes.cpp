@@ -73,7 +73,7 @@ public:
     {
         std::vector<std::pair<Int128, Mistake>> all;
         for (auto& [key, kind] : m_kinds) {
-            kind.told.row = rowKinds()[chart[key.first]].name;
+            kind.told.row = rowText(chart[key.first]);
             kind.told.instead = key.second;
             kind.told.cost = {kind.cost, Int128{FairOdds::deals} * wager * DealtHand::worthUnit};
             kind.told.costliest = {kind.costliest, DealtHand::worthUnit};

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,7 +16,7 @@ namespace quillet::charts
 // Deals that a chart plays by the same row, and perfect play by the same other kind of hold. The
 // cost is in credits per credit paid over all deals of the game, so that kinds add up.
 struct Mistake {
-    std::string_view row;     // of the chart
+    std::string row;          // of the chart
     std::string_view instead; // what perfect play holds, in the words of charts
     std::int64_t deals = 0;
     Fraction cost;

@@ -1,10 +1,8 @@
 #include "charts/row_kinds.h"
 
-#include <algorithm>
+#include "charts/names.h"
+
 #include <array>
-#include <cctype>
-#include <string>
-#include <utility>
 
 namespace quillet::charts
 {
@@ -271,39 +269,6 @@ constexpr std::array<RowKind, 95> kinds{{
     {"nothing", "No card.", [](H h) { return h.cards == 0; }},
 }};
 
-// In lower case, each run of blanks one blank, none at the ends.
-std::string plain(std::string_view name)
-{
-    std::string text;
-    for (const char each : name) {
-        const auto letter = static_cast<unsigned char>(each);
-        if (std::isspace(letter) == 0)
-            text += static_cast<char>(std::tolower(letter));
-        else if (!text.empty() && text.back() != ' ')
-            text += ' ';
-    }
-    if (!text.empty() && text.back() == ' ')
-        text.pop_back();
-    return text;
-}
-
-// How many letters have to be changed, put in or taken out.
-std::size_t lettersApart(std::string_view one, std::string_view other)
-{
-    std::vector<std::size_t> row(other.size() + 1);
-    for (std::size_t j = 0; j < row.size(); ++j)
-        row[j] = j;
-    for (std::size_t i = 0; i < one.size(); ++i) {
-        std::size_t diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 0; j < other.size(); ++j) {
-            const std::size_t changed = diagonal + (one[i] == other[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
-        }
-    }
-    return row.back();
-}
-
 } // namespace
 
 std::span<const RowKind> rowKinds()
@@ -318,22 +283,7 @@ RowKindId nothingRow()
 
 std::optional<RowKindId> findRowKind(std::string_view name)
 {
-    const auto found = std::ranges::find(kinds, plain(name), &RowKind::name);
-    if (found == kinds.end())
-        return std::nullopt;
-    return static_cast<RowKindId>(found - kinds.begin());
-}
-
-std::vector<std::string_view> nearestRowNames(std::string_view name, std::size_t most)
-{
-    const std::string wanted = plain(name);
-    std::vector<std::string_view> names;
-    for (const RowKind& kind : kinds)
-        names.push_back(kind.name);
-    std::ranges::stable_sort(
-        names, {}, [&wanted](std::string_view each) { return lettersApart(wanted, each); });
-    names.resize(std::min(most, names.size()));
-    return names;
+    return findNamed(kinds, name);
 }
 
 } // namespace quillet::charts

@@ -6,7 +6,6 @@
 #include <optional>
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace quillet::charts
 {
@@ -30,11 +29,6 @@ using RowKindId = std::size_t;
 // The row that keeps nothing.
 [[nodiscard]] RowKindId nothingRow();
 
-// Upper and lower case and the number of blanks are all one.
 [[nodiscard]] std::optional<RowKindId> findRowKind(std::string_view name);
-
-// The names that are written most like this one, best first, no more than so many.
-[[nodiscard]] std::vector<std::string_view> nearestRowNames(std::string_view name,
-                                                            std::size_t most);
 
 } // namespace quillet::charts

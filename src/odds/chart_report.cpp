@@ -21,18 +21,22 @@ using charts::Taken;
 constexpr std::array<std::string_view, charts::waysToTake> takenNames{
     "Best of the holds that fit", "Any of them", "Worst of them"};
 
-std::string nameOf(const Chart& chart, std::size_t row)
+template <typename Kinds>
+void listKinds(std::ostream& out, const Kinds& kinds)
 {
-    return std::string(charts::rowKinds()[chart[row]].name);
+    for (const auto& kind : kinds)
+        out << kind.name << "\n"
+            << "    " << wrapped(std::string(kind.meaning));
 }
 
 } // namespace
 
 void reportRowKinds(std::ostream& out)
 {
-    for (const charts::RowKind& kind : charts::rowKinds())
-        out << kind.name << "\n"
-            << "    " << wrapped(std::string(kind.meaning));
+    listKinds(out, charts::rowKinds());
+    out << "\nBehind a row and a semicolon it may be asked about the cards thrown away, with\n"
+           "commas between, such as \"4 to a flush; no high, a 10\":\n\n";
+    listKinds(out, charts::discardKinds());
 }
 
 Report chartReport(const Chart& chart, const ChartPrice& price)
@@ -60,7 +64,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
     std::string idle;
     for (std::size_t row = 0; row < chart.size(); ++row) {
         const RowPrice& told = price.rows[row];
-        std::vector<Cell> cells{nameOf(chart, row), told.deals};
+        std::vector<Cell> cells{charts::rowText(chart[row]), told.deals};
         for (const Fraction& loss : told.loss)
             cells.emplace_back(Exact{loss, 6, true});
         const bool costs = told.costliest != Fraction();
@@ -68,7 +72,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
         cells.emplace_back(Exact{told.costliest, 4});
         rows.rows.push_back(std::move(cells));
         if (told.deals == 0)
-            idle += "  " + nameOf(chart, row) + "\n";
+            idle += "  " + charts::rowText(chart[row]) + "\n";
     }
     if (!idle.empty())
         rows.outro = "\nThese rows never play:\n" + idle;

@@ -117,8 +117,18 @@ void writeCharts(std::ostream& out, const HeldCards& heldCards, const FairOdds& 
             shown = chart;
     }
     out << "\nThe one of 24 rows, best first:\n\n";
-    for (const charts::RowKindId kind : shown)
-        out << "1. " << charts::rowKinds()[kind].name << "\n";
+    for (const charts::Row& row : shown)
+        out << "1. " << charts::rowText(row) << "\n";
+    out << "\n### Without loss\n\n"
+           "Rows may ask about the cards thrown away, too. The shortest chart found that plays\n"
+           "every deal perfectly, `assets/charts/perfect.chart`, has 34 rows, of which seven ask.\n"
+           "The search for it started from charts without loss that were gathered greedily, 82 to\n"
+           "125 rows long. Over and over it put dozens of rows in by chance, many of them rows of\n"
+           "the chart that ask something else. Then it took out, in an order of chance, each row\n"
+           "without which the others can still be put in an order that loses nothing. What came "
+           "out\n"
+           "went on if it was no longer and asked no more. Four such runs of some minutes ended\n"
+           "with 34 rows, and three in which no row asks more than two things with 35.\n";
 }
 
 } // namespace

@@ -30,10 +30,10 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
     for (const charts::Mistake& mistake : mistakes) {
         running = running + mistake.cost;
         table.rows.push_back(
-            {std::string(mistake.row), std::string(mistake.instead), mistake.deals,
-             Exact{mistake.cost, 5, true}, Rounded{100 * running.value() / all.value(), 0},
-             Cards{mistake.example, holdAll}, Cards{mistake.example, mistake.played},
-             Cards{mistake.example, mistake.best}, Exact{mistake.costliest, 4}});
+            {mistake.row, std::string(mistake.instead), mistake.deals, Exact{mistake.cost, 5, true},
+             Rounded{100 * running.value() / all.value(), 0}, Cards{mistake.example, holdAll},
+             Cards{mistake.example, mistake.played}, Cards{mistake.example, mistake.best},
+             Exact{mistake.costliest, 4}});
     }
     table.outro = "\nIn all " + std::to_string(deals) + " deals, which cost " +
                   (all * 100).decimals(8) + " of 100 credits.\n";

@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr std::size_t lineWidth = 76;
+constexpr std::size_t widestCell = 48; // a longer one stands on a line of its own
 
 bool isNumber(const Cell& cell)
 {
@@ -74,8 +75,10 @@ void writeTextTable(std::ostream& out, const Table& table, const Style& style)
         if (table.columns[i].heading.empty())
             continue;
         std::size_t width = table.columns[i].heading.size();
-        for (const auto& row : table.rows)
-            width = std::max(width, textOf(table.columns[i], row[i]).size());
+        for (const auto& row : table.rows) {
+            const std::size_t size = textOf(table.columns[i], row[i]).size();
+            width = std::max(width, size > widestCell ? 0 : size);
+        }
         shown.push_back(i);
         widths.push_back(width);
     }
@@ -87,7 +90,10 @@ void writeTextTable(std::ostream& out, const Table& table, const Style& style)
             const std::string blanks(widths[n] - std::min(widths[n], cell.size()), ' ');
             if (alignsRight(shown[n]))
                 ahead += blanks;
-            if (!cell.empty()) {
+            if (cell.size() > widths[n]) {
+                text += ahead + ' ' + cell + "\n ";
+                ahead.assign(text.size() - text.rfind('\n') + widths[n] - 1, ' ');
+            } else if (!cell.empty()) {
                 text += ahead + ' ' + cell;
                 ahead.clear();
             } else {

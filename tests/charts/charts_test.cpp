@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstring>
 #include <fstream>
 #include <iterator>
 
@@ -30,6 +31,13 @@ std::string complaintAbout(std::string_view text)
     }
 }
 
+// Of those that are shipped.
+Chart chartIn(const char* name)
+{
+    std::ifstream file(std::string(QUILLET_CHARTS_FOLDER "/") + name);
+    return parseChart(std::string((std::istreambuf_iterator<char>(file)), {}));
+}
+
 } // namespace
 
 TEST(Chart, isReadAsAPersonWritesIt)
@@ -40,6 +48,11 @@ TEST(Chart, isReadAsAPersonWritesIt)
     EXPECT_EQ(complaintAbout("ace\n4 to a flsh\n"),
               "line 2: there is no row \"4 to a flsh\"; the nearest are \"4 to a flush\", "
               "\"3 to a flush\", \"4 to a royal\"");
+    EXPECT_EQ(chartText(parseChart("4 to a flush ;A  10,no high\nnothing; no ace")),
+              "4 to a flush; no high, a 10\nnothing; no ace\nnothing\n");
+    EXPECT_EQ(complaintAbout("ace; no high, no flsh card"),
+              "line 1: there is no condition \"no flsh card\"; the nearest are \"no flush card\", "
+              "\"a flush card\", \"no straight card\"");
     EXPECT_EQ(complaintAbout("# only\n"), "there is no row in it");
     std::string long_chart;
     for (int i = 0; i < 65; ++i)
@@ -47,13 +60,37 @@ TEST(Chart, isReadAsAPersonWritesIt)
     EXPECT_EQ(complaintAbout(long_chart), "line 65: a chart has no more than 64 rows");
     for (const RowKind& kind : rowKinds())
         EXPECT_EQ(rowKinds()[*findRowKind(kind.name)].name, kind.name) << "twice";
+    for (const DiscardKind& kind : discardKinds())
+        EXPECT_EQ(discardKinds()[*findDiscardKind(kind.name)].name, kind.name) << "twice";
+}
+
+TEST(DiscardKinds, tellWhatIsThrownAway)
+{
+    const auto shown = [](std::string_view hand, Hold hold) {
+        DealtHand dealt(heldCards(), parseHand(hand));
+        std::string text;
+        for (DiscardSet asked = 1; asked < 1U << discardKinds().size(); asked <<= 1U) {
+            if (allows({nothingRow(), asked}, dealt, hold))
+                text += rowText({nothingRow(), asked}).substr(std::strlen("nothing; ")) + '|';
+        }
+        return text;
+    };
+    constexpr Hold firstTwo = 3;
+    EXPECT_EQ(shown("JcQc9c9h2d", firstTwo),
+              "a flush card|a straight card|at most 1 straight card|no high|no ace|no king|"
+              "no queen|no jack|no 10|a 9|no 8|");
+    EXPECT_EQ(shown("JcQhKcThAc", firstTwo),
+              "no flush card|a straight card|a high|an ace|a king|no queen|no jack|a 10|no 9|"
+              "no 8|no pair|");
+    EXPECT_EQ(shown("8c3cJcQc7c", 0),
+              "no flush card|no straight card|at most 1 straight card|a high|no ace|no king|"
+              "a queen|a jack|no 10|no 9|no pair|");
 }
 
 TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
 {
     const Chart chart = trainersChart();
-    std::ifstream file(QUILLET_CHARTS_FOLDER "/trainer.chart");
-    EXPECT_EQ(parseChart(std::string((std::istreambuf_iterator<char>(file)), {})), chart);
+    EXPECT_EQ(chartIn("trainer.chart"), chart);
     int otherwise = 0;
     forEachPlayedDeal(heldCards(), chart, [&otherwise](const PlayedDeal& deal) {
         otherwise += deal.play.fitting != deal.hand.accepted ||
@@ -69,6 +106,20 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
     for (const RowPrice& row : price.rows)
         deals += row.deals;
     EXPECT_EQ(deals, 2598960);
+}
+
+TEST(Chart, withoutLossPlaysAllDealsPerfectly)
+{
+    const Chart chart = chartIn("perfect.chart");
+    const ChartPrice price = priceChart(heldCards(), chart);
+    for (const Fraction& returned : price.returned)
+        EXPECT_EQ(returned.text(), "1653526326983/1661102543100");
+    for (std::size_t row = 0; row < chart.size(); ++row)
+        EXPECT_GT(price.rows[row].deals, 0) << rowText(chart[row]);
+    std::ifstream document(QUILLET_DOCUMENT);
+    EXPECT_THAT(
+        std::string((std::istreambuf_iterator<char>(document)), {}),
+        testing::HasSubstr("perfect.chart`, has " + std::to_string(chart.size()) + " rows"));
 }
 
 TEST(Mistakes, addUpToWhatTheChartLoses)

@@ -128,7 +128,8 @@ TEST(Program, keepsToEightyColumnsInText)
 {
     for (const char* arguments :
          {"", "--mistakes", "--sitting 1e4 --bankroll 1000", "--all 9cTcJcKcAd", "--simulate 1000",
-          "--rows", "--help", "--chart " QUILLET_CHARTS_FOLDER "/trainer.chart"}) {
+          "--rows", "--help", "--chart " QUILLET_CHARTS_FOLDER "/trainer.chart",
+          "--chart " QUILLET_CHARTS_FOLDER "/perfect.chart"}) {
         std::istringstream lines(run(arguments).first);
         for (std::string line; std::getline(lines, line);)
             EXPECT_LE(line.size(), 84U)
