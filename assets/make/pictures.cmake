@@ -18,7 +18,7 @@ add_library(quillet_artwork STATIC EXCLUDE_FROM_ALL
     make/pictures/table.cpp
     make/pictures/wood.cpp)
 target_include_directories(quillet_artwork PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(quillet_artwork PUBLIC quillet_options Qt6::Gui)
+target_link_libraries(quillet_artwork PUBLIC quillet_shapes Qt6::Gui)
 # A fused multiply-add rounds once where two instructions round twice, so processors would differ.
 target_compile_options(quillet_artwork PRIVATE -ffp-contract=off)
 

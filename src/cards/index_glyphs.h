@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shapes/rank_marks.h"
+
 #include <QPainterPath>
 #include <QTransform>
 
@@ -7,7 +9,7 @@ namespace quillet
 {
 
 // Height of a rank in the corner index, on the grid of 96 x 130.
-inline constexpr double rankHeight = 22;
+inline constexpr double rankHeight = rankMarkHeight;
 
 // The outline of a rank (1..13) for the corner index, in device pixels: `rankHeight` high on the
 // grid, centred on x = `centre`, its top at `top`. Stems and bars are moved onto whole device
