@@ -5,6 +5,7 @@ complete -c quillet-odds -l sitting -x -d 'What so many hands come to'
 complete -c quillet-odds -l simulate -x -d "Play hands from the trainer's shuffle"
 complete -c quillet-odds -l chart -r -F -d 'The price of a chart'
 complete -c quillet-odds -l best-chart -x -d 'The best chart with so many rows'
+complete -c quillet-odds -l card -r -F -d 'A chart as a page to print'
 complete -c quillet-odds -l rows -d 'The rows that a chart can have'
 complete -c quillet-odds -l document -d 'Everything as a page in Markdown'
 complete -c quillet-odds -l version -d 'The version'

@@ -1,10 +1,12 @@
 #include "odds/answer.h"
 
 #include "charts/chart_search.h"
+#include "odds/chart_card.h"
 #include "odds/chart_report.h"
 #include "odds/document.h"
 #include "odds/hand_stream.h"
 #include "odds/hand_text.h"
+#include "odds/output_file.h"
 #include "odds/reports.h"
 
 #include <algorithm>
@@ -15,6 +17,7 @@
 #include <iostream>
 #include <iterator>
 #include <poll.h>
+#include <sstream>
 #include <string>
 #include <sys/stat.h>
 #include <thread>
@@ -127,6 +130,19 @@ void writeBestCharts(std::ostream& out, const Request& request, const HeldCards&
         style);
 }
 
+void writeCardFile(const Request& request, const HeldCards& heldCards, const charts::Chart& asked)
+{
+    charts::Chart chart = asked.empty() ? charts::trainersChart() : asked;
+    if (request.mostRows > 0)
+        chart = charts::ChartSearch(heldCards).best(request.mostRows, [](double share) {
+            showProgress(static_cast<std::int64_t>(share * 1000), 1000);
+        });
+    std::ostringstream page;
+    writeChartCard(page, chart, charts::priceChart(heldCards, chart),
+                   charts::rowExamples(heldCards, chart), heldCards.pays());
+    writeFile(*request.cardFile, page.str());
+}
+
 } // namespace
 
 void answer(const Request& request, std::istream& in, std::ostream& out)
@@ -195,6 +211,9 @@ void answer(const Request& request, std::istream& in, std::ostream& out)
         break;
     case Question::plays:
         reportPlays(out, heldCards, chart);
+        break;
+    case Question::card:
+        writeCardFile(request, heldCards, chart);
         break;
     case Question::bestChart:
         writeBestCharts(out, request, heldCards, style);

@@ -125,6 +125,7 @@ private:
     }
 
     void takeOption();
+    void askForCard();
     void check();
 
     std::span<const std::string_view> m_left;
@@ -182,13 +183,24 @@ void Parser::takeOption()
     else if (option == "--chart") {
         ask(Question::chart);
         m_request.chartFile = value();
-    } else if (option == "--best-chart") {
+    } else if (option == "--card")
+        m_request.cardFile = value();
+    else if (option == "--best-chart") {
         ask(Question::bestChart);
         takeRows(m_request, value());
     } else
         throw BadUsage("unknown option '" + std::string(option) + "'");
     if (m_value)
         throw BadUsage(std::string(option) + " takes no value");
+}
+
+void Parser::askForCard()
+{
+    const Question question = m_request.question;
+    if (question != Question::game && question != Question::chart &&
+        (question != Question::bestChart || m_request.leastRows != m_request.mostRows))
+        throw BadUsage("--card is for one chart");
+    m_request.question = Question::card;
 }
 
 void Parser::check()
@@ -210,6 +222,8 @@ void Parser::check()
         m_request.question = Question::plays;
     if (chart && m_mistakes)
         m_request.question = Question::chartMistakes;
+    if (m_request.cardFile)
+        askForCard();
     const Question question = m_request.question;
     if (m_seed && question != Question::simulation)
         throw BadUsage("--seed is for --simulate");
@@ -249,6 +263,8 @@ Questions, one at a time
                        first; what follows # is a comment
   --best-chart ROWS    the best chart found with so many rows, as such a file;
                        1..30: what each number of rows loses
+  --card FILE          the trainer's chart, or that of --chart or --best-chart,
+                       as a page to print (SVG)
   --rows               the rows that a chart can have
   --document           all of this for six pay tables, as a Markdown page
   --version, --help

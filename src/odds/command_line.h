@@ -24,6 +24,7 @@ enum class Question {
     plays,
     chartMistakes,
     bestChart,
+    card,
     rowKinds,
     document,
     help,
@@ -43,6 +44,8 @@ struct Request {
     std::string chartFile;
     std::size_t leastRows = 0; // of best charts, one for each number of rows
     std::size_t mostRows = 0;
+    std::optional<std::string>
+        cardFile; // of a chart: the file's, the best of so many rows or the trainer's
 };
 
 // Arguments that make no sense; what() says why.

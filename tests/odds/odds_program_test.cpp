@@ -12,6 +12,7 @@
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -63,22 +64,27 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed({"--simulate", "20", "--seed", "3"}).hands, 20);
     EXPECT_EQ(parsed({"--simulate=1e6"}).hands, 1'000'000);
     EXPECT_EQ(parsed({"--sitting=10M", "--format=json"}).hands, 10'000'000);
-    const std::vector<std::vector<std::string_view>> nonsense{{"--simulate"},
-                                                              {"--simulate", "0"},
-                                                              {"--simulate=1.5"},
-                                                              {"--what"},
-                                                              {"--simulate", "9", "As"},
-                                                              {"--seed", "3"},
-                                                              {"--simulate", "-5"},
-                                                              {"--simulate", "9", "--seed"},
-                                                              {"--all"},
-                                                              {"--exact=yes"},
-                                                              {"--format", "xml"},
-                                                              {"--bankroll", "9"},
-                                                              {"--plays"},
-                                                              {"--sitting", "11M"},
-                                                              {"--best-chart", "9..3"},
-                                                              {"--best-chart", "65"}};
+    const std::vector<std::vector<std::string_view>> nonsense{
+        {"--simulate"},
+        {"--simulate", "0"},
+        {"--simulate=1.5"},
+        {"--what"},
+        {"--simulate", "9", "As"},
+        {"--seed", "3"},
+        {"--simulate", "-5"},
+        {"--simulate", "9", "--seed"},
+        {"--all"},
+        {"--exact=yes"},
+        {"--format", "xml"},
+        {"--bankroll", "9"},
+        {"--plays"},
+        {"--sitting", "11M"},
+        {"--best-chart", "9..3"},
+        {"--best-chart", "65"},
+        {"--card"},
+        {"--card", "x", "--rows"},
+        {"--card", "x", "--best-chart", "1..3"},
+        {"--card", "x", "--mistakes"}};
     for (const auto& arguments : nonsense)
         EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments.front();
 }
@@ -122,6 +128,31 @@ TEST(Program, answersHandsOnItsInputAndNeverIgnoresThem)
     EXPECT_THAT(run("-", "printf '2c2d3h4s5c\\n2c2d\\n'").first,
                 testing::HasSubstr("line 2: a hand"));
     EXPECT_EQ(run("", two).second, 2);
+}
+
+TEST(Program, writesACardWholeOrNotAtAll)
+{
+    const std::string file = testing::TempDir() + "quillet-card-" + std::to_string(getpid());
+    const auto content = [&file] {
+        std::ifstream stream(file);
+        return std::string((std::istreambuf_iterator<char>(stream)), {});
+    };
+    EXPECT_EQ(run("--card " + file), std::pair(std::string(), 0));
+    const std::string trainers = content();
+    EXPECT_THAT(trainers, testing::EndsWith("</svg>\n"));
+    EXPECT_EQ(run("--card - --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first, trainers);
+    const auto [complaint, status] =
+        run("--chart " QUILLET_CHARTS_FOLDER "/perfect.chart --card " + file,
+            "trap '' XFSZ; ulimit -f 8; true");
+    EXPECT_EQ(complaint, "quillet-odds: " + file + " cannot be written: File too large\n");
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(content(), trainers);
+    EXPECT_NE(access((file + ".part").c_str(), F_OK), 0);
+    EXPECT_EQ(run("--best-chart 3 --card " + file).second, 0);
+    EXPECT_THAT(content(), testing::HasSubstr("3 rows, best first"));
+    unlink(file.c_str());
+    EXPECT_THAT(run("--card /no/such/folder/x").first, testing::HasSubstr("No such file"));
+    EXPECT_EQ(run("--card /dev/full").second, 1);
 }
 
 TEST(Program, keepsToEightyColumnsInText)

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "odds/suit_classes.h"
+
+#include <string>
+
+namespace quillet
+{
+
+struct Box {
+    double x;
+    double y;
+    double width;
+    double height;
+};
+
+// A small card for SVG: its rank beside its suit. One to keep stands out from the others.
+[[nodiscard]] std::string drawnCard(DeckPlace place, bool kept, const Box& box);
+
+// The definitions of all ranks and suits.
+[[nodiscard]] std::string cardMarkDefinitions();
+
+} // namespace quillet

@@ -1,0 +1,213 @@
+#include "odds/chart_card.h"
+
+#include "odds/card_marks.h"
+#include "odds/lettering.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <ostream>
+
+namespace quillet
+{
+
+namespace
+{
+
+using charts::Chart;
+using charts::ChartPrice;
+using charts::RowExample;
+using charts::Taken;
+
+// Lengths are millimetres.
+constexpr double pageWidth = 210;
+constexpr double pageHeight = 297;
+constexpr double margin = 12;
+constexpr double right = pageWidth - margin;
+constexpr double plateHeight = 27;
+constexpr double rowsTop = margin + plateHeight + 4;
+constexpr double rowsBottom = pageHeight - margin - 10;
+constexpr double highestRow = 11.5;
+constexpr double cardWidth = 10.5;
+constexpr double cardGap = 0.9;
+constexpr double handWidth = 5 * cardWidth + 4 * cardGap;
+constexpr double namesRight = right - handWidth - 3;
+constexpr double namesLeft = margin + 8;
+
+constexpr std::string_view paper = "#fffdf7";
+constexpr std::string_view plate = "#22130b";
+constexpr std::string_view brass = "#f2d79a";
+constexpr std::string_view darkBrass = "#b98d45";
+constexpr std::string_view ivory = "#f8efdb";
+constexpr std::string_view wood = "#6b3a1c";
+
+// The colours of the chart beside the trainer's table, row by row.
+struct RowColours {
+    std::string_view ground;
+    std::string_view letters;
+};
+constexpr std::array<RowColours, 2> rowColours{{{"#808080", "#ffffff"}, {"#e0e0e0", "#000000"}}};
+
+std::string rectangle(double x, double y, double width, double height, std::string_view fill,
+                      std::string_view more = {})
+{
+    return "<rect x=\"" + svgNumber(x) + "\" y=\"" + svgNumber(y) + "\" width=\"" +
+           svgNumber(width) + "\" height=\"" + svgNumber(height) + "\" fill=\"" +
+           std::string(fill) + "\"" + std::string(more) + "/>\n";
+}
+
+// Smaller when it is wider than there is room for.
+Lettering fitted(Lettering line, double room)
+{
+    line.height *= std::min(1.0, room / widthOf(line));
+    return line;
+}
+
+std::string drawnFrom(double x, double y, double room, const Lettering& line,
+                      std::string_view colour)
+{
+    return drawn(fitted(line, room), x, y, colour);
+}
+
+std::string drawnTo(double x, double y, double room, const Lettering& line, std::string_view colour)
+{
+    const Lettering small = fitted(line, room);
+    return drawn(small, x - widthOf(small), y, colour);
+}
+
+std::string drawnInMiddle(double y, const Lettering& line, std::string_view colour)
+{
+    const Lettering small = fitted(line, right - margin);
+    return drawn(small, (pageWidth - widthOf(small)) / 2, y, colour);
+}
+
+// A rectangle whose corners are scooped out, as on the plate of the trainer's table.
+std::string scooped(double inset, double radius, std::string_view look)
+{
+    const double x = margin + inset;
+    const double y = margin + inset;
+    const double width = right - margin - 2 * inset - 2 * radius;
+    const double height = plateHeight - 2 * inset - 2 * radius;
+    const std::string r = svgNumber(radius);
+    const auto corner = [&r](double dx, double dy) {
+        return "a" + r + ' ' + r + " 0 0 0 " + svgNumber(dx) + ' ' + svgNumber(dy);
+    };
+    return "<path d=\"M" + svgNumber(x + radius) + ' ' + svgNumber(y) + 'h' + svgNumber(width) +
+           corner(radius, radius) + 'v' + svgNumber(height) + corner(-radius, radius) + 'h' +
+           svgNumber(-width) + corner(-radius, -radius) + 'v' + svgNumber(-height) +
+           corner(radius, -radius) + "Z\" " + std::string(look) + "/>\n";
+}
+
+std::string rowsText(const Chart& chart)
+{
+    return std::to_string(chart.size()) + (chart.size() == 1 ? " row" : " rows, best first");
+}
+
+std::string returnText(const ChartPrice& price)
+{
+    return "Returns " + (price.returned[static_cast<std::size_t>(Taken::worst)] * 100).decimals(6) +
+           " of 100";
+}
+
+std::string lossText(const ChartPrice& price)
+{
+    const Fraction loss = price.loss(Taken::worst);
+    return "Loses " + (loss == Fraction() ? "nothing" : (loss * 100).decimals(6)) +
+           " against perfect play";
+}
+
+void writePlate(std::ostream& out, const Chart& chart, const ChartPrice& price)
+{
+    constexpr double left = margin + 9;
+    constexpr double end = right - 9;
+    constexpr double half = (end - left) / 2;
+    out << scooped(0, 4, "fill=\"" + std::string(plate) + '"')
+        << scooped(1.4, 4,
+                   "fill=\"none\" stroke-width=\".35\" stroke=\"" + std::string(darkBrass) + '"')
+        << drawnFrom(left, margin + 14.6, half, {"Quillet", 8, 0.08}, ivory)
+        << drawnFrom(left + 0.6, margin + 20.4, half, {"Jacks or better", 2.9, 0.2}, brass)
+        << drawnTo(end, margin + 10, half, {rowsText(chart), 4, 0.05}, ivory)
+        << drawnTo(end, margin + 15.8, half, {returnText(price), 2.6, 0.05}, brass)
+        << drawnTo(end, margin + 20.4, half, {lossText(price), 2.6, 0.05}, brass);
+}
+
+// The cards to keep first, both parts from high to low, the ace highest.
+std::array<std::size_t, 5> orderOf(const RowExample& example)
+{
+    std::array<std::size_t, 5> order{0, 1, 2, 3, 4};
+    std::ranges::stable_sort(order, std::greater(), [&example](std::size_t i) {
+        const int rank = cardAt(example.places[i]).rank;
+        return ((example.hold >> i & 1U) != 0 ? 100 : 0) + (rank == 1 ? 14 : rank);
+    });
+    return order;
+}
+
+void writeHand(std::ostream& out, const RowExample& example, double top, double height)
+{
+    double x = right - handWidth;
+    for (const std::size_t i : orderOf(example)) {
+        out << drawnCard(example.places[i], (example.hold >> i & 1U) != 0,
+                         {x, top, cardWidth, height});
+        x += cardWidth + cardGap;
+    }
+}
+
+void writeRow(std::ostream& out, const std::string& name, std::size_t number,
+              const std::optional<RowExample>& example, double top, double height)
+{
+    const RowColours& colours = rowColours[(number - 1) % rowColours.size()];
+    const double letters = std::min(3.4, 0.42 * height);
+    const double baseline = top + (height + letters) / 2;
+    out << "<g class=\"row\"><title>" << number << ". " << name << "</title>\n"
+        << rectangle(namesLeft, top, namesRight - namesLeft, height, colours.ground)
+        << drawnTo(namesLeft - 2, baseline, namesLeft - margin - 3,
+                   {std::to_string(number), 0.9 * letters}, brass)
+        << drawnFrom(namesLeft + 2.5, baseline, namesRight - namesLeft - 4.5, {name, letters, 0.03},
+                     colours.letters);
+    constexpr double air = 0.35;
+    if (example)
+        writeHand(out, *example, top + air, height - 2 * air);
+    else
+        out << drawnFrom(right - handWidth, baseline, handWidth, {"never plays", letters}, wood);
+    out << "</g>\n";
+}
+
+std::string payLine(const Pays& pays)
+{
+    std::string text = "Pays for five credits: ";
+    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+        text += (outcome == 1 ? "" : ", ") + std::string(outcomeName(outcome)) + ' ' +
+                std::to_string(pays[outcome]);
+    return text;
+}
+
+} // namespace
+
+void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& price,
+                    const std::vector<std::optional<RowExample>>& examples, const Pays& pays)
+{
+    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"210mm\" height=\"297mm\" "
+           "viewBox=\"0 0 210 297\">\n<title>"
+        << rowsText(chart) << ". " << returnText(price) << ". " << lossText(price)
+        << ".</title>\n<desc>" << payLine(pays) << "</desc>\n<defs>\n"
+        << letterDefinitions() << cardMarkDefinitions() << "</defs>\n"
+        << rectangle(0, 0, pageWidth, pageHeight, paper);
+    writePlate(out, chart, price);
+    const double height =
+        std::min(highestRow, (rowsBottom - rowsTop) / static_cast<double>(chart.size()));
+    const double bottom = rowsTop + height * static_cast<double>(chart.size());
+    out << rectangle(margin, rowsTop, namesLeft - margin, bottom - rowsTop, wood);
+    double top = rowsTop;
+    for (std::size_t row = 0; row < chart.size(); ++row, top += height)
+        writeRow(out, charts::rowText(chart[row]), row + 1, examples[row], top, height);
+    out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none",
+                     " stroke-width=\".5\" stroke=\"" + std::string(wood) + '"')
+        << drawnInMiddle(rowsBottom + 5.4,
+                         {"Play the first row that fits and keep the bold cards. Of holds that "
+                          "fit alike the return takes the worst.",
+                          2},
+                         wood)
+        << drawnInMiddle(rowsBottom + 10, {payLine(pays), 2}, wood) << "</svg>\n";
+}
+
+} // namespace quillet
