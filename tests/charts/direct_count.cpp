@@ -130,6 +130,7 @@ SuitSets suitsOf(const Cards5& cards, Hold hold)
 std::vector<Card> heldOf(const Cards5& cards, Hold hold)
 {
     std::vector<Card> held;
+    held.reserve(cards.size());
     for (std::size_t i = 0; i < cards.size(); ++i) {
         if ((hold >> i & 1U) != 0)
             held.push_back(cards[i]);

@@ -36,24 +36,40 @@ Worths worthsOf(const std::array<OutcomeCounts, holds>& draws, const Pays& pays)
     return worths;
 }
 
-Play playedBy(const Chart& chart, const Cards5& cards)
-{
-    std::vector<HoldFacts> facts;
-    for (Hold hold = 0; hold < holds; ++hold)
-        facts.emplace_back(heldOf(cards, hold));
-    for (std::size_t row = 0;; ++row) {
-        const RowKind& kind = rowKinds()[chart.at(row).kind];
-        Play play{row, 0};
+// What every hold of a deal keeps and throws away.
+struct SeenDeal {
+    explicit SeenDeal(const Cards5& cards)
+    {
         for (Hold hold = 0; hold < holds; ++hold) {
-            if (kind.fits(facts[hold]) &&
-                (kind.allows == nullptr || kind.allows(facts[hold], facts[holdAll & ~hold])) &&
-                fitAll(chart[row].discards,
-                       DiscardFacts(heldOf(cards, hold), heldOf(cards, holdAll & ~hold))))
-                play.fitting |= 1U << hold;
+            const std::vector<Card> held = heldOf(cards, hold);
+            kept.emplace_back(held);
+            thrown.emplace_back(held, heldOf(cards, holdAll & ~hold));
         }
-        if (play.fitting != 0)
-            return play;
     }
+
+    [[nodiscard]] bool fits(const Row& row, Hold hold) const
+    {
+        const RowKind& kind = rowKinds()[row.kind];
+        return kind.fits(kept[hold]) &&
+               (kind.allows == nullptr || kind.allows(kept[hold], kept[holdAll & ~hold])) &&
+               fitAll(row.discards, thrown[hold]);
+    }
+
+    std::vector<HoldFacts> kept;
+    std::vector<DiscardFacts> thrown;
+};
+
+Play playedBy(const Chart& chart, const SeenDeal& deal)
+{
+    Play play;
+    for (const Row& row : chart) {
+        for (Hold hold = 0; hold < holds; ++hold)
+            play.fitting |= deal.fits(row, hold) ? 1U << hold : 0;
+        if (play.fitting != 0)
+            break;
+        ++play.row;
+    }
+    return play;
 }
 
 // Losses in shares of a unit: with the best of the holds that fit, any of them and the worst.
@@ -93,10 +109,10 @@ public:
     {
     }
 
-    void add(const Cards5& cards, const std::array<OutcomeCounts, holds>& draws, int members)
+    void add(const SeenDeal& deal, const std::array<OutcomeCounts, holds>& draws, int members)
     {
         const Worths worths = worthsOf(draws, m_pays);
-        const Play play = playedBy(m_chart, cards);
+        const Play play = playedBy(m_chart, deal);
         const auto losses = lossesOf(play, worths);
         Row& row = m_rows[play.row];
         row.deals += members;
@@ -138,7 +154,7 @@ private:
         if (row.deals == 0)
             return;
         const Cards5 example = cardsAt(told.example);
-        const Play play = playedBy(m_chart, example);
+        const Play play = playedBy(m_chart, SeenDeal(example));
         EXPECT_EQ(play.row, i) << name;
         EXPECT_EQ(lossesOf(play, worthsOf(DirectCount().draws(example), m_pays))[2], row.costliest)
             << name;
@@ -212,8 +228,9 @@ TEST(ChartPrice, isThatOfAllDealsAndTheirDraws)
     DirectCount count;
     forEachDirectDeal([&](const Cards5& cards, int members) {
         const auto draws = count.draws(cards);
+        const SeenDeal deal(cards);
         for (DirectPrice& price : prices)
-            price.add(cards, draws, members);
+            price.add(deal, draws, members);
     });
     for (const DirectPrice& price : prices)
         price.expectPrinted();
