@@ -108,7 +108,7 @@ void writeCharts(std::ostream& out, const HeldCards& heldCards, const FairOdds& 
         << percent(trainers, 4) << ".\n\n| rows | loses |\n|---|---|\n";
     charts::ChartSearch search(heldCards);
     charts::Chart shown;
-    for (const std::size_t rows : {12, 16, 21, 24, 30}) {
+    for (const std::size_t rows : {12U, 16U, 21U, 24U, 30U}) {
         const charts::Chart chart = search.best(rows);
         out << "| " << rows << " | "
             << percent(charts::priceChart(heldCards, chart).loss(charts::Taken::worst), 4)
