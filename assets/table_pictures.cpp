@@ -3,6 +3,7 @@
 
 #include "engine/deck.h"
 #include "engine/hand_evaluation.h"
+#include "engine/random.h"
 #include "main_window/frm_main.h"
 #include "platform/desktop_shell.h"
 #include "platform/event_clock.h"
@@ -114,12 +115,13 @@ private:
     MessageErrorBox m_errorBox;
     EventClock m_clock;
     BlendingRandom m_random = seeded(seedOfTheHand());
+    ShuffledDecks m_decks{m_random};
     Desktop m_desktop{m_store,
                       m_shell,
                       m_sound,
                       m_errorBox,
                       m_clock,
-                      m_random,
+                      m_decks,
                       {},
                       QUILLET_PROGRAM_FOLDER,
                       [this](std::int32_t delayTime, const auto&) { pause(delayTime); },

@@ -2,6 +2,7 @@
 // is named (0 leaves the counting loops out, so the difference is theirs). A real display shows
 // the real cost; without one it is played off screen.
 #include "coach/hold_judgement.h"
+#include "engine/random.h"
 #include "main_window/frm_main.h"
 #include "platform/desktop_shell.h"
 #include "platform/event_clock.h"
@@ -52,9 +53,10 @@ void hand(benchmark::State& state)
     MessageErrorBox errorBox;
     EventClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
+    ShuffledDecks decks(random);
     Desktop desktop{store,      shell,
                     sound,      errorBox,
-                    clock,      random,
+                    clock,      decks,
                     {},         QUILLET_PROGRAM_FOLDER,
                     shortDelay, [](int code) { std::_Exit(code); }};
     frmMain window(desktop);

@@ -1,5 +1,6 @@
 #include "engine/deck.h"
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -25,16 +26,25 @@ void shuffleDeck(PokerDeck& deck, RandomSource& random)
     }
 }
 
-std::array<int, 5> dealOrder(bool& dealReversed)
+PokerDeck ShuffledDecks::nextDeck()
 {
-    const bool reversed = std::exchange(dealReversed, !dealReversed);
-    return reversed ? std::array{4, 3, 2, 1, 0} : std::array{0, 1, 2, 3, 4};
+    PokerDeck deck{};
+    shuffleDeck(deck, m_random);
+    return deck;
+}
+
+std::array<Slot, 5> dealOrder(bool& dealReversed)
+{
+    std::array<Slot, 5> order = allSlots;
+    if (std::exchange(dealReversed, !dealReversed))
+        std::ranges::reverse(order);
+    return order;
 }
 
 std::array<Card, 5> dealHand(const PokerDeck& deck)
 {
     std::array<Card, 5> hand;
-    for (std::size_t slot = 0; slot < hand.size(); ++slot)
+    for (const Slot slot : allSlots)
         hand[slot] = makeCard(deck[slot]);
     return hand;
 }
@@ -43,7 +53,7 @@ void drawReplacements(std::array<Card, 5>& hand, const PokerDeck& deck,
                       const std::array<bool, 5>& holdFlags)
 {
     // Each slot has a replacement of its own, whatever the other slots do.
-    for (std::size_t slot = 0; slot < hand.size(); ++slot) {
+    for (const Slot slot : allSlots) {
         if (!holdFlags[slot])
             hand[slot] = makeCard(deck[slot + 5]);
     }

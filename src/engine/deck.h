@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/card.h"
+#include "engine/slot.h"
 
 #include <array>
 #include <cstdint>
@@ -32,9 +33,28 @@ public:
 // Builds the deck anew and shuffles it.
 void shuffleDeck(PokerDeck& deck, RandomSource& random);
 
+// Where the deck of each hand comes from.
+class DeckSource
+{
+public:
+    virtual ~DeckSource() = default;
+    [[nodiscard]] virtual PokerDeck nextDeck() = 0;
+};
+
+// The decks of the game. The source of chances outlives them.
+class ShuffledDecks : public DeckSource
+{
+public:
+    explicit ShuffledDecks(RandomSource& random) : m_random(random) {}
+    [[nodiscard]] PokerDeck nextDeck() override;
+
+private:
+    RandomSource& m_random;
+};
+
 // The slots in the order in which their cards arrive: left to right and right to left in turn,
 // so it flips dealReversed.
-[[nodiscard]] std::array<int, 5> dealOrder(bool& dealReversed);
+[[nodiscard]] std::array<Slot, 5> dealOrder(bool& dealReversed);
 
 [[nodiscard]] std::array<Card, 5> dealHand(const PokerDeck& deck);
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "engine/hand_state.h"
+
 #include <cstdint>
-#include <string_view>
 
 namespace quillet
 {
 
-// What a hand asks of the coach, who reads and writes the same hand state.
+// What a player learns of a hand from the coach, who shows it on the chart.
 class HandCoach
 {
 public:
@@ -14,13 +15,10 @@ public:
 
     virtual void resetChartColors() = 0;
     virtual void highlightWinner(std::int16_t playCode) = 0;
-    // After a deal: lights the best play if the player wants to see it.
-    virtual void showBestPlay() = 0;
-    // Whether the hold may be drawn to. A refusal is dealt with completely: feedback given,
-    // holds cleared, the hand waiting for the next attempt.
-    [[nodiscard]] virtual bool acceptHold() = 0;
-    // The cue's name begins with a backslash: "\wavs\deal.wav". Never fails.
-    virtual void playSoundCue(std::string_view fileName) = 0;
+    // After a deal: lights its best play if the player wants to see it.
+    virtual void showBestPlay(std::int16_t playCode) = 0;
+    // Whether the hold may be drawn to. If not, the chart shows the play that was missed.
+    [[nodiscard]] virtual bool acceptHold(const HandState& state) = 0;
 };
 
 } // namespace quillet

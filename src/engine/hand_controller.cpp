@@ -1,7 +1,10 @@
 #include "engine/hand_controller.h"
 
 #include "engine/hand_evaluation.h"
+#include "engine/pay_table.h"
 
+#include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace quillet
@@ -11,29 +14,37 @@ namespace
 {
 
 constexpr std::int16_t programsOwnCall = 3;
-constexpr std::int32_t overlayBack = 53;
-constexpr std::string_view dealCue = "\\wavs\\deal.wav";
 constexpr int fadeSteps = 25;
+
+std::string_view wrongCue(std::ptrdiff_t cardsHeld)
+{
+    switch (cardsHeld) {
+    case 1:
+        return cues::wrongOne;
+    case 2:
+        return cues::wrongTwo;
+    default:
+        return cues::wrong;
+    }
+}
 
 } // namespace
 
-HandController::HandController(HandState& state, Counters& counters, const Preferences& preferences,
-                               HandTable& table, HandCoach& coach, RandomSource& random,
-                               ErrorBox& errorBox)
-    : m_state(state), m_counters(counters), m_preferences(preferences), m_table(table),
-      m_coach(coach), m_random(random), m_errorBox(errorBox)
+HandController::HandController(HandState& state, Counters& counters, const bool& prfPokerAutoDeal,
+                               GamePorts ports)
+    : m_state(state), m_counters(counters), m_prfPokerAutoDeal(prfPokerAutoDeal), m_ports(ports)
 {
 }
 
 template <typename Body>
 void HandController::runSequence(Body body)
 {
-    if (m_ended)
+    if (m_next == Next::end)
         return;
     ++m_sequencesRunning;
     body();
-    while (m_sequencesRunning == 1 && m_newGameWanted) {
-        m_newGameWanted = false;
+    while (m_sequencesRunning == 1 && m_next == Next::newGame) {
+        m_next = Next::nothing;
         runNewGame();
     }
     --m_sequencesRunning;
@@ -43,7 +54,7 @@ void HandController::initPokerScreen()
 {
     runSequence([this] {
         abandonHand();
-        m_newGameWanted = true;
+        m_next = Next::newGame;
     });
 }
 
@@ -51,12 +62,13 @@ void HandController::runNewGame()
 {
     const std::uint32_t epoch = m_state.epoch;
     m_firstDealComing = true;
-    const bool done = guarded(m_errorBox, "initPokerScreen", [&] {
-        m_table.layOutGame();
+    const bool done = guarded(m_ports.errorBox, "initPokerScreen", [&] {
+        m_ports.screen.layOutGame();
         m_state.handDealt = false;
+        m_state.judgePending = false;
         m_state.holdFlags.fill(false);
         for (int step = 1; step <= fadeSteps; ++step) {
-            m_table.fadeStatusText(step);
+            m_ports.screen.fadeStatusText(step);
             if (!pause(epoch, 20))
                 return;
         }
@@ -71,21 +83,19 @@ void HandController::runNewGame()
 void HandController::picDeal_Click(std::int16_t Index)
 {
     runSequence([&] {
-        if (!guarded(m_errorBox, "picDeal_Click", [&] { clickDeck(Index); }))
+        if (!guarded(m_ports.errorBox, "picDeal_Click", [&] { clickDeck(Index); }))
             recover();
     });
 }
 
 void HandController::clickDeck(std::int16_t index)
 {
-    m_table.placeFlyingCard();
-    m_table.paintFlyingCard(m_preferences.prfPKBackFace);
-    m_table.paintDeckIntoTable();
+    m_ports.table.showDeck();
     // A game that has been asked for deals by itself, as soon as the interrupted sequence is over.
-    if (m_state.handBusy || m_newGameWanted)
+    if (m_state.handBusy || m_next == Next::newGame)
         return;
 
-    const bool handComesByItself = m_preferences.prfPokerAutoDeal && m_firstDealComing;
+    const bool handComesByItself = m_prfPokerAutoDeal && m_firstDealComing;
     if (index == programsOwnCall || m_state.handDealt || !handComesByItself)
         showPokerHand();
 }
@@ -104,102 +114,90 @@ void HandController::toggleHold(std::int16_t index)
 {
     if (!m_state.handDealt)
         return;
-    bool& held = m_state.holdFlags.at(static_cast<std::size_t>(index));
-    held = !held;
-    m_table.showHoldOutline(index, held);
+    assert(index >= 0 && index < 5);
+    const auto slot = static_cast<Slot>(index);
+    m_state.holdFlags[slot] = !m_state.holdFlags[slot];
+    m_ports.table.showHold(slot, m_state.holdFlags[slot]);
 }
 
 void HandController::showPokerHand()
 {
-    if (!guarded(m_errorBox, "showPokerHand", [&] { dealOrDraw(); }))
+    if (!guarded(m_ports.errorBox, "showPokerHand", [&] { dealOrDraw(); }))
         recover();
 }
 
 void HandController::dealOrDraw()
 {
-    const bool cardsWereShowing = m_table.cardShowing(0);
+    const bool cardsWereShowing = m_ports.table.isCardShowing(0);
     if (m_state.handDealt) {
-        m_table.placeFlyingCard();
         m_state.handBusy = true;
         draw(cardsWereShowing);
         return;
     }
-    shuffleDeck(m_state.pokerDeck, m_random);
-    const std::array<int, 5> order = dealOrder(m_state.dealReversed);
-    m_table.placeFlyingCard();
+    m_state.pokerDeck = m_ports.decks.nextDeck();
+    const std::array<Slot, 5> order = dealOrder(m_state.dealReversed);
     m_state.handBusy = true;
     deal(order, cardsWereShowing);
 }
 
-void HandController::deal(const std::array<int, 5>& order, bool cardsWereShowing)
+void HandController::deal(const std::array<Slot, 5>& order, bool cardsWereShowing)
 {
     const std::uint32_t epoch = ++m_state.epoch;
     endFade();
-    for (int slot = 0; slot < 5; ++slot) {
-        m_table.hideCard(slot);
-        m_table.showHoldOutline(slot, false);
+    for (const Slot slot : allSlots) {
+        m_ports.table.takeAway(slot);
+        m_ports.table.showHold(slot, false);
     }
     m_state.holdFlags.fill(false);
-    m_coach.resetChartColors();
+    m_ports.coach.resetChartColors();
     if (cardsWereShowing && !pause(epoch, 600))
         return;
     charge();
 
-    for (const int slot : order)
+    for (const Slot slot : order)
         dealCardTo(slot);
-    m_table.endFlights();
     if (!pause(epoch, 650))
         return;
 
     m_state.hand = dealHand(m_state.pokerDeck);
-    for (int slot = 0; slot < 5; ++slot) {
-        m_table.paintFace(slot, m_state.hand.at(static_cast<std::size_t>(slot)).cardId);
-        m_table.refreshCard(slot);
-    }
+    for (const Slot slot : allSlots)
+        m_ports.table.showFace(slot, m_state.hand[slot].cardId, false);
     m_state.handDealt = true;
     m_state.judgePending = true;
     m_state.handCode = EvaluatePokerHand(m_state.hand, false);
-    m_coach.showBestPlay();
+    m_ports.coach.showBestPlay(m_state.handCode);
     m_state.handBusy = false;
 }
 
-void HandController::dealCardTo(int slot)
+void HandController::dealCardTo(Slot slot)
 {
-    // The player may have chosen another back since the last flight.
-    m_table.paintFlyingCard(m_preferences.prfPKBackFace);
-    m_table.flyCardTo(slot);
-    m_table.showBack(slot);
-    m_coach.playSoundCue(dealCue);
+    m_ports.table.flyCardTo(slot);
+    m_ports.cues.playSoundCue(cues::deal);
 }
 
 void HandController::draw(bool cardsWereShowing)
 {
     const std::uint32_t epoch = m_state.epoch;
     m_state.handDealt = false;
-    for (int slot = 0; slot < 5; ++slot)
-        m_table.showHoldOutline(slot, false);
-    if (!m_coach.acceptHold())
+    for (const Slot slot : allSlots)
+        m_ports.table.showHold(slot, false);
+    if (!m_ports.coach.acceptHold(m_state)) {
+        refuseHold();
         return;
-
+    }
     m_state.handBusy = true;
     std::array<bool, 5> replaced{};
-    for (int slot = 0; slot < 5; ++slot) {
-        const auto i = static_cast<std::size_t>(slot);
-        replaced[i] = !m_state.holdFlags[i];
-        if (replaced[i])
-            m_table.hideCard(slot);
+    for (const Slot slot : allSlots) {
+        replaced[slot] = !m_state.holdFlags[slot];
+        if (replaced[slot])
+            m_ports.table.takeAway(slot);
     }
     drawReplacements(m_state.hand, m_state.pokerDeck, m_state.holdFlags);
     m_state.handCode = EvaluatePokerHand(m_state.hand, true);
 
-    m_table.paintFlyingCard(overlayBack);
-    for (int slot = 0; slot < 5; ++slot) {
-        if (replaced[static_cast<std::size_t>(slot)])
-            continue;
-        m_table.layOverlay(slot);
-        m_table.refreshCard(slot);
-    }
-    m_table.paintFlyingCard(m_preferences.prfPKBackFace);
+    for (const Slot slot : allSlots)
+        if (!replaced[slot])
+            m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
     if (cardsWereShowing && !pause(epoch, 600))
         return;
 
@@ -207,24 +205,27 @@ void HandController::draw(bool cardsWereShowing)
         dealNextHandByItself(epoch);
 }
 
+// The hand goes on waiting, and the player holds anew.
+void HandController::refuseHold()
+{
+    const auto cardsHeld = std::ranges::count(m_state.holdFlags, true);
+    m_state.handDealt = true;
+    m_state.holdFlags.fill(false);
+    m_ports.cues.playSoundCue(wrongCue(cardsHeld));
+    m_state.handBusy = false;
+}
+
 bool HandController::flyReplacements(std::uint32_t epoch, const std::array<bool, 5>& replaced)
 {
-    for (int slot = 0; slot < 5; ++slot)
-        if (replaced[static_cast<std::size_t>(slot)])
+    for (const Slot slot : allSlots)
+        if (replaced[slot])
             dealCardTo(slot);
-    m_table.endFlights();
     if (!pause(epoch, 250))
         return false;
 
-    m_table.paintFlyingCard(overlayBack);
-    for (int slot = 0; slot < 5; ++slot) {
-        const auto i = static_cast<std::size_t>(slot);
-        if (!replaced[i])
-            continue;
-        m_table.paintFace(slot, m_state.hand[i].cardId);
-        m_table.layOverlay(slot);
-        m_table.refreshCard(slot);
-    }
+    for (const Slot slot : allSlots)
+        if (replaced[slot])
+            m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
     return pause(epoch, 200);
 }
 
@@ -234,13 +235,13 @@ bool HandController::pay(std::uint32_t epoch)
     if (payout == nullptr)
         return true;
 
-    m_coach.resetChartColors();
+    m_ports.coach.resetChartColors();
     const std::int16_t target = addStopping(m_counters.total, payout->pays);
     m_payTarget = target;
-    m_coach.highlightWinner(m_state.handCode);
+    m_ports.coach.highlightWinner(m_state.handCode);
     while (m_counters.total < target) {
         addCredits(std::min(payout->step, static_cast<std::int16_t>(target - m_counters.total)));
-        m_coach.playSoundCue(payout->cue);
+        m_ports.cues.playSoundCue(payout->cue);
         if (!pause(epoch, payout->pause))
             return false;
     }
@@ -253,16 +254,16 @@ void HandController::finishPaying()
     m_counters.total = *m_payTarget;
     m_counters.won = addStopping(m_counters.won, 1);
     m_payTarget.reset();
-    m_table.showCounters(m_counters);
+    m_ports.screen.showCounters(m_counters);
 }
 
 void HandController::dealNextHandByItself(std::uint32_t epoch)
 {
-    if (m_preferences.prfPokerAutoDeal && !pause(epoch, 2500))
+    if (m_prfPokerAutoDeal && !pause(epoch, 2500))
         return;
     m_state.handBusy = false;
     // The player may have unticked it meanwhile.
-    if (!m_preferences.prfPokerAutoDeal)
+    if (!m_prfPokerAutoDeal)
         return;
     m_state.judgePending = false;
     picDeal_Click(programsOwnCall);
@@ -271,20 +272,20 @@ void HandController::dealNextHandByItself(std::uint32_t epoch)
 void HandController::endFade()
 {
     if (std::exchange(m_firstDealComing, false))
-        m_table.fadeStatusText(fadeSteps);
+        m_ports.screen.fadeStatusText(fadeSteps);
 }
 
 void HandController::charge()
 {
     m_counters.total = addStopping(m_counters.total, -wager);
     m_counters.hands = addStopping(m_counters.hands, 1);
-    m_table.showCounters(m_counters);
+    m_ports.screen.showCounters(m_counters);
 }
 
 void HandController::addCredits(std::int16_t credits)
 {
     m_counters.total = addStopping(m_counters.total, credits);
-    m_table.showCounters(m_counters);
+    m_ports.screen.showCounters(m_counters);
 }
 
 void HandController::abandonHand()
@@ -305,19 +306,18 @@ void HandController::recover()
     m_state.handBusy = false;
     m_state.handDealt = false;
     m_state.holdFlags.fill(false);
-    m_table.recover();
+    m_ports.table.recover();
 }
 
 void HandController::endGame()
 {
     ++m_state.epoch;
-    m_ended = true;
-    m_newGameWanted = false;
+    m_next = Next::end;
 }
 
 bool HandController::pause(std::uint32_t epoch, std::int32_t delayTime)
 {
-    m_table.shortDelay(delayTime);
+    m_ports.screen.shortDelay(delayTime);
     return m_state.epoch == epoch;
 }
 

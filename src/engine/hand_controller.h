@@ -1,26 +1,40 @@
 #pragma once
 
+#include "engine/card_table.h"
 #include "engine/counters.h"
+#include "engine/cue_output.h"
 #include "engine/deck.h"
+#include "engine/game_screen.h"
 #include "engine/hand_coach.h"
 #include "engine/hand_state.h"
-#include "engine/hand_table.h"
-#include "engine/pay_table.h"
-#include "engine/preferences.h"
 #include "faults/run_time_error.h"
 
+#include <array>
+#include <cstdint>
 #include <optional>
 
 namespace quillet
 {
 
-// Runs the game: what happens in which order, from a new table to the paid hand. How it looks
-// is the table's affair. The referenced objects outlive the controller.
+// What a game is seen, heard and judged by, and where its decks come from. All outlive the game.
+struct GamePorts {
+    CardTable& table;
+    GameScreen& screen;
+    HandCoach& coach;
+    CueOutput& cues;
+    DeckSource& decks;
+    ErrorBox& errorBox;
+};
+
+// Runs the game: what happens in which order, from a new table to the paid hand. It alone writes
+// the hand's state and the counters.
 class HandController
 {
 public:
-    HandController(HandState& state, Counters& counters, const Preferences& preferences,
-                   HandTable& table, HandCoach& coach, RandomSource& random, ErrorBox& errorBox);
+    // The player may change prfPokerAutoDeal at any time. All that is referenced outlives the
+    // controller.
+    HandController(HandState& state, Counters& counters, const bool& prfPokerAutoDeal,
+                   GamePorts ports);
 
     // Sets up the table, fades the status text in and deals. A hand that is running is
     // abandoned, a win that is being counted up is credited at once. Called in the middle of a
@@ -49,9 +63,10 @@ private:
     void clickDeck(std::int16_t index);
     void toggleHold(std::int16_t index);
     void dealOrDraw();
-    void deal(const std::array<int, 5>& order, bool cardsWereShowing);
+    void deal(const std::array<Slot, 5>& order, bool cardsWereShowing);
     void draw(bool cardsWereShowing);
-    void dealCardTo(int slot);
+    void refuseHold();
+    void dealCardTo(Slot slot);
     [[nodiscard]] bool flyReplacements(std::uint32_t epoch, const std::array<bool, 5>& replaced);
     [[nodiscard]] bool pay(std::uint32_t epoch);
     void finishPaying();
@@ -67,17 +82,17 @@ private:
 
     HandState& m_state;
     Counters& m_counters;
-    const Preferences& m_preferences;
-    HandTable& m_table;
-    HandCoach& m_coach;
-    RandomSource& m_random;
-    ErrorBox& m_errorBox;
+    const bool& m_prfPokerAutoDeal;
+    GamePorts m_ports;
 
-    int m_sequencesRunning = 0;
-    bool m_newGameWanted = false;
-    bool m_firstDealComing = false; // a new game is about to deal by itself
-    bool m_ended = false;
-    std::optional<std::int16_t> m_payTarget; // the total when the win is counted up, in credits
+    // What has been asked for in a pause and follows the sequence that was running.
+    enum class Next { nothing, newGame, end };
+    Next m_next = Next::nothing;
+    int m_sequencesRunning = 0; // one within another's pause
+    // A new game is about to deal by itself: no hand is dealt, none runs.
+    bool m_firstDealComing = false;
+    // The total when the win is counted up, in credits; only while it is.
+    std::optional<std::int16_t> m_payTarget;
 };
 
 } // namespace quillet

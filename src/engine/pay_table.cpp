@@ -1,5 +1,7 @@
 #include "engine/pay_table.h"
 
+#include "engine/cue_output.h"
+
 #include <algorithm>
 #include <array>
 
@@ -9,20 +11,16 @@ namespace quillet
 namespace
 {
 
-constexpr std::string_view cue1 = "\\wavs\\pokerwin1.wav";
-constexpr std::string_view cue2 = "\\wavs\\pokerwin2.wav";
-constexpr std::string_view cue3 = "\\wavs\\pokerwin3.wav";
-
 constexpr std::array<Payout, 9> payouts{{
-    {1, 4000, 25, cue3, 500},
-    {2, 250, 25, cue3, 500},
-    {3, 125, 25, cue3, 500},
-    {4, 45, 25, cue3, 500},
-    {6, 30, 15, cue3, 500},
-    {7, 20, 10, cue2, 500},
-    {8, 15, 15, cue1, 500},
-    {10, 10, 10, cue1, 500},
-    {11, 5, 5, cue1, 200},
+    {1, 4000, 25, cues::greatWin, 500},
+    {2, 250, 25, cues::greatWin, 500},
+    {3, 125, 25, cues::greatWin, 500},
+    {4, 45, 25, cues::greatWin, 500},
+    {6, 30, 15, cues::greatWin, 500},
+    {7, 20, 10, cues::middleWin, 500},
+    {8, 15, 15, cues::smallWin, 500},
+    {10, 10, 10, cues::smallWin, 500},
+    {11, 5, 5, cues::smallWin, 200},
 }};
 
 } // namespace

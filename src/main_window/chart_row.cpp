@@ -91,17 +91,17 @@ void ChartRow::show(ChartRowColors colors, ChartRowState state)
 QColor ChartRow::textColor() const
 {
     if (m_colors.text != windowTextColor)
-        return colorOf(m_colors.text);
+        return colourOf(m_colors.text);
     // Not the row's own palette, which follows the black panel.
     const QColor fromDesktop = QGuiApplication::palette().color(QPalette::WindowText);
-    const bool readable = contrast(fromDesktop, colorOf(m_colors.background)) >= leastContrast;
+    const bool readable = contrast(fromDesktop, colourOf(m_colors.background)) >= leastContrast;
     return readable ? fromDesktop : QColor(Qt::black);
 }
 
 void ChartRow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), colorOf(m_colors.background));
+    painter.fillRect(rect(), colourOf(m_colors.background));
     painter.setPen(textColor());
     // A caption that is as wide as its row makes room for the mark.
     const bool inTheWay = fontMetrics().horizontalAdvance(text()) > width() - 2 * markRoom;
@@ -118,22 +118,6 @@ void ChartRow::changeEvent(QEvent* event)
     if (event->type() == QEvent::PaletteChange)
         update();
     QLabel::changeEvent(event);
-}
-
-QColor colorOf(std::uint32_t bgr)
-{
-    constexpr std::uint32_t namesDesktopColour = 0x80000000;
-    if ((bgr & namesDesktopColour) != 0)
-        return desktopColour(bgr & ~namesDesktopColour);
-    return {static_cast<int>(bgr & 0xff), static_cast<int>((bgr >> 8) & 0xff),
-            static_cast<int>((bgr >> 16) & 0xff)};
-}
-
-std::uint32_t bgrOf(const QColor& color)
-{
-    return static_cast<std::uint32_t>(color.red()) |
-           static_cast<std::uint32_t>(color.green()) << 8 |
-           static_cast<std::uint32_t>(color.blue()) << 16;
 }
 
 } // namespace quillet

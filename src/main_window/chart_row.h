@@ -31,10 +31,4 @@ private:
     ChartRowState m_state = ChartRowState::base;
 };
 
-// A colour 0x00BBGGRR; with the top bit set, the one that the desktop has under the number in the
-// rest.
-[[nodiscard]] QColor colorOf(std::uint32_t bgr);
-// The same way back.
-[[nodiscard]] std::uint32_t bgrOf(const QColor& color);
-
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/random.h"
+#include "engine/deck.h"
 #include "faults/run_time_error.h"
 #include "platform/clock.h"
 #include "platform/screen_metrics.h"
@@ -22,7 +22,7 @@ struct Desktop {
     SoundOutput& sound;
     ErrorBox& errorBox;
     Clock& clock;
-    RandomSource& random;
+    DeckSource& decks;
     ScreenMetrics metrics;
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
     // Waits for so many milliseconds while events run, or until the question is answered with yes.

@@ -1,146 +1,166 @@
 #include "main_window/frm_main.h"
 
+#include "main_window/calibration_splash.h"
 #include "main_window/chart_panel.h"
-#include "main_window/chart_row.h"
+#include "main_window/frm_preferences.h"
+#include "main_window/main_menus.h"
 #include "main_window/status_bar.h"
-#include "platform/file_exists.h"
 #include "platform/number_keys.h"
-#include "table/accessible_widgets.h"
-#include "table/card_names.h"
-#include "table/picture_box.h"
+#include "screens/frm_about.h"
+#include "screens/frm_exit_no_banner.h"
+#include "screens/help_viewer.h"
+#include "screens/run_shell_execute.h"
+#include "screens/web_pages.h"
+#include "settings/preferences_store.h"
 #include "table/table_canvas.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace quillet
 {
 
-frmMain::frmMain(Desktop& desktop)
-    : m_desktop(desktop), m_layout(desktop.metrics, true), m_pile(m_pictures, m_library),
-      m_painter(m_pictures, m_library, m_pile),
-      m_flight(m_pictures, m_library, *this, desktop.errorBox),
-      m_coach(m_state, *this, m_chart, *this, desktop.programFolder),
-      m_controller(m_state, m_counters, *this, *this, m_coach, desktop.random, desktop.errorBox)
+namespace
 {
-    installAccessibleWidgets();
+
+// No box may hold up the end of the session. If that does close the window, it reports the error.
+struct NoErrorBox : ErrorBox {
+    void showError(const std::string&) override {}
+};
+
+QString backgroundPath(const Desktop& desktop, const Preferences& preferences)
+{
+    return QString::fromStdString(desktop.programFolder + "/pics/" + preferences.prfPKBackground);
+}
+
+// It stands where the game stood.
+void showExitScreen(frmMain& window, const Desktop& desktop)
+{
+    frmExitNoBanner screen(desktop.shell);
+    screen.adjustSize();
+    screen.move(window.geometry().center() - screen.rect().center());
+    QObject::connect(&screen, &frmExitNoBanner::unloadMainWindow, &window, &QWidget::close);
+    QObject::connect(&screen, &frmExitNoBanner::endProgram, &window,
+                     [&desktop] { desktop.endProcess(0); });
+    screen.exec();
+}
+
+} // namespace
+
+frmMain::frmMain(Desktop& desktop)
+    : m_desktop(desktop), m_layout(desktop.metrics, true), m_place(*this),
+      m_sessionEnd(desktop.clock,
+                   [this] {
+                       NoErrorBox nobody;
+                       // Before the first game the delays may be half measured.
+                       if (m_firstHandStarted && !m_unloading)
+                           guarded(nobody, "Form_Unload",
+                                   [this] { savePreferences(*this, m_desktop.store); });
+                   }),
+      m_table(*this, desktop.errorBox, this), m_coach(m_chart, prfShowPokerPlay),
+      m_cues(prfSound, desktop.programFolder, desktop.sound),
+      m_controller(m_state, m_counters, prfPokerAutoDeal,
+                   {m_table, *this, m_coach, m_cues, desktop.decks, desktop.errorBox}),
+      picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
+      picStatusBar(new StatusBar(&m_table.canvas()))
+{
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
     setContextMenuPolicy(Qt::NoContextMenu);
-    m_pictures.canvas = new TableCanvas(this);
-    m_pictures.canvas->setObjectName(QStringLiteral("table"));
-    m_pictures.canvas->setAccessibleName(tr("Card table"));
-    m_pictures.canvas->setFocusPolicy(Qt::ClickFocus);
     // A tiling window manager may give the window more room than the table has.
     auto* middle = new QWidget(this);
+    middle->setAutoFillBackground(true);
+    QPalette colours = middle->palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    middle->setPalette(colours);
     auto* column = new QVBoxLayout(middle);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(m_pictures.canvas, 0, Qt::AlignCenter);
+    column->addWidget(&m_table.canvas(), 0, Qt::AlignCenter);
     setCentralWidget(middle);
-    makeMenus();
-    makeBoxes();
-    picPokerLabels = new ChartPanel(m_chart, m_pictures.canvas);
-    picStatusBar = new StatusBar(m_pictures.canvas);
+    makeMenus(*this);
+
+    connect(&m_table, &PokerTable::deckClicked, this, &frmMain::picDeal_Click);
+    connect(&m_table, &PokerTable::cardPressed, this,
+            [this](Slot slot) { picPoker_MouseDown(static_cast<std::int16_t>(slot)); });
+    connect(&m_table, &PokerTable::cardDoubleClicked, this,
+            [this](Slot slot) { picPoker_DblClick(static_cast<std::int16_t>(slot)); });
+    connect(&m_table.canvas(), &TableCanvas::scaleChanged, picStatusBar, &StatusBar::makePointer);
     connect(picStatusBar, &StatusBar::clicked, this, &frmMain::picStatusBar_Click);
-    connect(m_pictures.canvas, &TableCanvas::scaleChanged, this, &frmMain::followScale);
-    watchSession();
-    m_pictures.canvas->setFocus();
+    m_table.canvas().setFocus();
 }
 
-frmMain::~frmMain() = default;
-
-void frmMain::makeBoxes()
+bool frmMain::Form_Load()
 {
-    TableCanvas& canvas = *m_pictures.canvas;
-    // Index 0 comes last and so lies on top: the player's clicks carry it.
-    for (std::size_t i = m_pictures.picDeal.size(); i-- > 0;) {
-        auto* deck = new PictureBox(canvas);
-        m_pictures.picDeal[i] = deck;
-        deck->setObjectName(QStringLiteral("picDeal%1").arg(i));
-        if (i > 0)
-            hideFromReaders(*deck); // beneath the first
-        deck->setAccessibleName(tr("Deck"));
-        connect(deck, &PictureBox::clicked, this,
-                [this, i] { picDeal_Click(static_cast<std::int16_t>(i)); });
-    }
-    m_pictures.picDeal[0]->setFocusPolicy(Qt::TabFocus);
-    for (std::size_t i = 0; i < m_pictures.picPoker.size(); ++i) {
-        auto* place = new PictureBox(canvas);
-        m_pictures.picPoker[i] = place;
-        place->setObjectName(QStringLiteral("picPoker%1").arg(i));
-        place->setFocusPolicy(Qt::TabFocus);
-        place->setCheckable(true);
-        const auto index = static_cast<std::int16_t>(i);
-        connect(place, &PictureBox::mouseDown, this, [this, index] { picPoker_MouseDown(index); });
-        connect(place, &PictureBox::doubleClicked, this,
-                [this, index] { picPoker_DblClick(index); });
-        describeSlot(index);
-    }
-    canvas.setOverlays([this](QPainter& painter, double scale) { paintOutlines(painter, scale); });
+    const bool built = guarded(m_desktop.errorBox, "Form_Load", [this] {
+        QDir::setCurrent(QString::fromStdString(m_desktop.programFolder));
+        m_table.library().cdtInit(cWidth, cHeight);
+        loadPreferences(m_desktop.store, *this);
+
+        if (m_table.loadBackground(backgroundPath(m_desktop, *this)))
+            AutoSizeToPicture(m_table.background());
+        else
+            setOuterSize(m_layout.outerTwips(designedInnerSize));
+        m_table.makePictures();
+        if (prfAnimationDelay < 0) {
+            CalibrationSplash splash;
+            splash.show();
+            splash.advance();
+            m_table.measureDelays(*this, m_desktop.clock,
+                                  QSizeF(statusBarWidth, picStatusBar->height()),
+                                  [&splash] { splash.advance(); });
+        }
+        FirstInit();
+    });
+    // A step may have shown its own error. Without a window nobody could play on, or end it.
+    return built && (isVisible() || m_unloading);
 }
 
-// Shape1 lies around the card, Shape2 and Shape3 inside its left and right edge.
-void frmMain::paintOutlines(QPainter& painter, double scale) const
+void frmMain::FirstInit()
 {
-    const QColor color = colorOf(static_cast<std::uint32_t>(prfCardOutlineColor));
-    for (std::size_t slot = 0; slot < m_outlineShowing.size(); ++slot) {
-        if (!m_outlineShowing[slot])
-            continue;
-        const QRectF card = m_pictures.picPoker[slot]->devicePlace();
-        const double width = deviceSize(3, scale);
-        const double marker = deviceSize(2, scale);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(color, width));
-        painter.setBrush(Qt::NoBrush);
-        const double out = width / 2;
-        const double radius = 6 * scale + out;
-        painter.drawRoundedRect(card.adjusted(-out, -out, out, out), radius, radius);
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setClipRect(card, Qt::IntersectClip);
-        painter.fillRect(QRectF(card.left(), card.top(), marker, card.height()), color);
-        painter.fillRect(QRectF(card.right() - marker, card.top(), marker, card.height()), color);
-        painter.setClipping(false);
-    }
+    guarded(m_desktop.errorBox, "FirstInit", [this] {
+        m_table.paintFirstTable();
+        placeChartAndStatusBar();
+        if (m_firstHandStarted)
+            return;
+        m_firstHandStarted = true;
+        m_table.shuffleCards();
+        mnuPoker_Click();
+    });
 }
 
-void frmMain::describeSlot(int slot)
+void frmMain::Form_Unload()
 {
-    const auto i = static_cast<std::size_t>(slot);
-    box(slot).setChecked(m_outlineShowing[i]);
-    box(slot).setAccessibleName(spokenCard(slot, m_cards[i], m_outlineShowing[i]));
+    if (m_unloading)
+        return;
+    m_unloading = true;
+    m_controller.endGame();
+    const bool saved = guarded(m_desktop.errorBox, "Form_Unload", [this] {
+        m_table.close();
+        savePreferences(*this, m_desktop.store);
+        hide();
+        // A desktop session that is ending does not wait for a farewell.
+        if (!m_sessionEnd.isComing())
+            showExitScreen(*this, m_desktop);
+    });
+    hide();
+    m_desktop.endProcess(saved ? 0 : 1);
 }
 
-bool frmMain::FileExists(const std::string& thePath)
+void frmMain::initPokerScreen()
 {
-    return quillet::FileExists(thePath);
-}
-
-void frmMain::sndPlaySound(const std::string& path)
-{
-    m_desktop.sound.play(path);
+    m_controller.initPokerScreen();
 }
 
 void frmMain::picDeal_Click(std::int16_t Index)
 {
-    prepareSound();
+    m_cues.prepare();
     m_controller.picDeal_Click(Index);
-}
-
-// Cards land a second or more after the click, so that the first cue after a rest is not late even
-// where the device takes that long to open.
-void frmMain::prepareSound()
-{
-    if (prfSound)
-        m_desktop.sound.prepare();
 }
 
 void frmMain::picPoker_MouseDown(std::int16_t Index)
@@ -153,40 +173,50 @@ void frmMain::picPoker_DblClick(std::int16_t Index)
     m_controller.picPoker_DblClick(Index);
 }
 
+void frmMain::picStatusBar_Click()
+{
+    guardedWithText(m_desktop.errorBox, "statusclick", "",
+                    [this] { openWebPage(m_desktop.shell, onlinePokerPage()); });
+}
+
+void frmMain::mnuPoker_Click()
+{
+    initPokerScreen();
+}
+
+void frmMain::mnuPref_Click()
+{
+    frmPreferences dialog({*this, m_table.library(), m_desktop.errorBox, QSize(cWidth, cHeight),
+                           m_desktop.metrics.twipsPerPixelX, [this] { m_table.DrawDealDeck(); },
+                           [this] { m_table.canvas().update(); }},
+                          this);
+    dialog.exec();
+}
+
+void frmMain::mnuExit_Click()
+{
+    close();
+}
+
+void frmMain::mnuSites_Click(int)
+{
+    openWebPage(m_desktop.shell, onlinePokerPage());
+}
+
+void frmMain::mnuContents_Click()
+{
+    HelpViewer::present(this, m_desktop.shell, QString::fromStdString(m_desktop.helpFile));
+}
+
+void frmMain::mnuAbout_Click()
+{
+    frmAbout::present(this, m_desktop.shell);
+}
+
 void frmMain::closeEvent(QCloseEvent* event)
 {
     Form_Unload();
     event->accept();
-}
-
-// A window manager that is about to fill the screen may move the window first and tell of its state
-// afterwards, so a place counts only when it has lasted.
-void frmMain::moveEvent(QMoveEvent* event)
-{
-    QMainWindow::moveEvent(event);
-    const QPoint place = geometry().topLeft();
-    if (m_comingBack) {
-        if (m_place && place != *m_place)
-            windowHandle()->setPosition(*m_place);
-        return;
-    }
-    constexpr int lasting = 250; // milliseconds
-    QTimer::singleShot(lasting, this, [this, place] {
-        const bool filling = isMaximized() || isFullScreen() || isMinimized();
-        if (isVisible() && !filling && !m_comingBack && geometry().topLeft() == place)
-            m_place = place;
-    });
-}
-
-// A window that is shown anew is placed anew, some time after that. For a moment it insists on the
-// place where it was.
-void frmMain::comeBack()
-{
-    constexpr int insistence = 1000; // milliseconds
-    if (m_place)
-        windowHandle()->setPosition(*m_place);
-    m_comingBack = true;
-    QTimer::singleShot(insistence, this, [this] { m_comingBack = false; });
 }
 
 void frmMain::resizeEvent(QResizeEvent* event)
@@ -202,34 +232,58 @@ void frmMain::changeEvent(QEvent* event)
         Form_Resize();
 }
 
-// Seen only around the table, where the window has more room than that.
-void frmMain::paintEvent(QPaintEvent* event)
-{
-    QPainter(this).fillRect(event->rect(), Qt::black);
-}
-
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
     const std::optional<int> digit = digitOfKey(*event, QGuiApplication::platformName());
     const int key = event->key();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (event->isAutoRepeat() || (!digit && !plain)) {
+    if (event->isAutoRepeat() || (!digit && !plain))
         QMainWindow::keyPressEvent(event);
-        return;
-    }
-    if (digit && *digit >= 1 && *digit <= 5) {
+    else if (digit && *digit >= 1 && *digit <= 5)
         picPoker_MouseDown(static_cast<std::int16_t>(*digit - 1));
-        return;
-    }
-    for (std::int16_t slot = 0; slot < 5; ++slot)
-        if (key == Qt::Key_Space && box(slot).hasFocus()) {
-            picPoker_MouseDown(slot);
-            return;
-        }
-    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+    else if (const std::optional<Slot> slot = m_table.focusedSlot(); slot && key == Qt::Key_Space)
+        picPoker_MouseDown(static_cast<std::int16_t>(*slot));
+    else if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
         picDeal_Click(0);
     else
         QMainWindow::keyPressEvent(event);
+}
+
+void frmMain::layOutGame()
+{
+    if (m_table.loadBackground(backgroundPath(m_desktop, *this)))
+        AutoSizeToPicture(m_table.background());
+    isPoker = true;
+    m_chart.resetChartColors();
+    placeChartAndStatusBar();
+    inLayout = true;
+    showAndWaitUntilExposed(*this);
+    inLayout = false;
+    if (m_layout.isTooNarrow(m_layout.innerPixels(m_outerSize))) {
+        inLayout = true;
+        setOuterSize(m_layout.widened(m_outerSize));
+        inLayout = false;
+        placeChartAndStatusBar();
+    }
+    m_table.shuffleCards();
+    m_table.resetGraphics();
+    m_cues.prepare();
+}
+
+void frmMain::fadeStatusText(int step)
+{
+    picStatusBar->setTextColor(QColor(10 * step, 7 * step, 8 * step));
+}
+
+void frmMain::showCounters(const Counters& counters)
+{
+    picPokerLabels->showCounters(counters);
+}
+
+void frmMain::shortDelay(std::int32_t delayTime)
+{
+    const std::uint32_t epoch = m_state.epoch;
+    m_desktop.shortDelay(delayTime, [this, epoch] { return m_state.epoch != epoch; });
 }
 
 } // namespace quillet

@@ -2,7 +2,7 @@
 
 #include "main_window/animation_speed.h"
 #include "main_window/back_preview.h"
-#include "main_window/chart_row.h"
+#include "platform/desktop_colours.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -250,7 +250,7 @@ void frmPreferences::Combo1_Click()
 void frmPreferences::cmdChangeColor_Click()
 {
     QColorDialog chooser(
-        colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
+        colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
     chooser.setObjectName(QStringLiteral("CommonDialog1"));
     chooser.setWindowTitle(tr("Colour of the hold outline"));
     if (chooser.exec() != QDialog::Accepted)
@@ -265,7 +265,7 @@ void frmPreferences::showOutlineColor()
 {
     QPalette colors = lblColor->palette();
     const QColor color =
-        colorOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
+        colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
     colors.setColor(QPalette::Window, color);
     lblColor->setPalette(colors);
     lblColor->setAccessibleName(tr("Hold outline colour %1").arg(color.name()));

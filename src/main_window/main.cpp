@@ -57,12 +57,13 @@ int main(int argc, char* argv[])
     MessageErrorBox errorBox;
     EventClock clock;
     BlendingRandom random(timeOfDay);
+    ShuffledDecks decks(random);
     Desktop desktop{store,
                     shell,
                     sound,
                     errorBox,
                     clock,
-                    random,
+                    decks,
                     {},
                     QCoreApplication::applicationDirPath().toStdString(),
                     shortDelay,

@@ -20,13 +20,13 @@ namespace quillet
 namespace
 {
 
-struct Slot {
+struct DealtCard {
     DeckPlace place = 0;
     std::size_t number = 0;
 };
 
 std::size_t playedOutcome(std::array<Card, 5> hand, const PokerDeck& deck,
-                          const std::array<Slot, 5>& slots, Hold hold)
+                          const std::array<DealtCard, 5>& slots, Hold hold)
 {
     std::array<bool, 5> holdFlags{};
     for (std::size_t i = 0; i < slots.size(); ++i)
@@ -73,12 +73,12 @@ Simulation playHands(const HeldCards& heldCards, RandomSource& random, std::int6
     for (std::int64_t done = 0; done < hands; ++done) {
         shuffleDeck(deck, random);
         const std::array<Card, 5> hand = dealHand(deck);
-        std::array<Slot, 5> slots;
+        std::array<DealtCard, 5> slots;
         for (std::size_t i = 0; i < slots.size(); ++i)
             slots[i] = {placeOf(hand[i]), i};
-        std::ranges::sort(slots, {}, &Slot::place);
+        std::ranges::sort(slots, {}, &DealtCard::place);
         std::array<DeckPlace, 5> places{};
-        std::ranges::transform(slots, places.begin(), &Slot::place);
+        std::ranges::transform(slots, places.begin(), &DealtCard::place);
 
         const DealtHand dealt(heldCards, places);
         ++result.perfect.count[playedOutcome(hand, deck, slots, dealt.bestHold)];

@@ -44,4 +44,20 @@ QColor desktopColour(std::uint32_t number)
                                             roles[number < roles.size() ? number : windowText]);
 }
 
+QColor colourOf(std::uint32_t bgr)
+{
+    constexpr std::uint32_t namesDesktopColour = 0x80000000;
+    if ((bgr & namesDesktopColour) != 0)
+        return desktopColour(bgr & ~namesDesktopColour);
+    return {static_cast<int>(bgr & 0xff), static_cast<int>((bgr >> 8) & 0xff),
+            static_cast<int>((bgr >> 16) & 0xff)};
+}
+
+std::uint32_t bgrOf(const QColor& colour)
+{
+    return static_cast<std::uint32_t>(colour.red()) |
+           static_cast<std::uint32_t>(colour.green()) << 8 |
+           static_cast<std::uint32_t>(colour.blue()) << 16;
+}
+
 } // namespace quillet

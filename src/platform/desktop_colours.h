@@ -11,4 +11,10 @@ namespace quillet
 // unknown number is that, too.
 [[nodiscard]] QColor desktopColour(std::uint32_t number);
 
+// A colour 0x00BBGGRR; with the top bit set, the one that the desktop has under the number in the
+// rest.
+[[nodiscard]] QColor colourOf(std::uint32_t bgr);
+// The same way back.
+[[nodiscard]] std::uint32_t bgrOf(const QColor& colour);
+
 } // namespace quillet

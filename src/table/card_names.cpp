@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <cassert>
 
 namespace quillet
 {
@@ -17,17 +18,18 @@ QString translated(const char* text)
 
 } // namespace
 
-QString cardName(std::int32_t cardId)
+QString cardName(std::int32_t cardNumber)
 {
     static constexpr std::array<const char*, 13> ranks{"Ace",  "Two",   "Three", "Four", "Five",
                                                        "Six",  "Seven", "Eight", "Nine", "Ten",
                                                        "Jack", "Queen", "King"};
     static constexpr std::array<const char*, 4> suits{"clubs", "diamonds", "hearts", "spades"};
-    const auto id = static_cast<std::size_t>(cardId);
-    return translated("%1 of %2").arg(translated(ranks.at(id / 4)), translated(suits.at(id % 4)));
+    assert(cardNumber >= 0 && cardNumber < 52);
+    const auto number = static_cast<std::size_t>(cardNumber);
+    return translated("%1 of %2").arg(translated(ranks[number / 4]), translated(suits[number % 4]));
 }
 
-QString spokenCard(int slot, const CardOnTable& card, bool held)
+QString spokenCard(Slot slot, const CardOnTable& card, bool held)
 {
     QString what = translated("empty");
     if (card.side == CardOnTable::Side::back)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/slot.h"
 #include "table/card_on_table.h"
 
 #include <QString>
@@ -8,9 +9,9 @@ namespace quillet
 {
 
 // A face's name, "Queen of hearts"; card number 0..51.
-[[nodiscard]] QString cardName(std::int32_t cardId);
+[[nodiscard]] QString cardName(std::int32_t cardNumber);
 
 // What a screen reader says of a card place, "Card 2: Queen of hearts, held".
-[[nodiscard]] QString spokenCard(int slot, const CardOnTable& card, bool held);
+[[nodiscard]] QString spokenCard(Slot slot, const CardOnTable& card, bool held);
 
 } // namespace quillet

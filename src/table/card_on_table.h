@@ -12,7 +12,7 @@ struct CardOnTable {
 
     Side side = Side::none;
     std::int32_t number = 0; // card number of the back or face
-    bool overlaid = false;   // carries the crosshatch of a finished hand
+    bool hatched = false;    // carries the crosshatch of a finished hand
 };
 
 } // namespace quillet

@@ -4,6 +4,9 @@
 #include "table/delay_calibration.h"
 #include "table/table_canvas.h"
 
+#include <QLinearGradient>
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,6 +25,17 @@ constexpr double trail = 10;
 // In milliseconds, for all rounds together. An idle machine needs half of it.
 constexpr std::int64_t patience = 2800;
 
+QImage bannerPicture(QSize size)
+{
+    QImage banner(size, QImage::Format_ARGB32_Premultiplied);
+    QLinearGradient shine(0, 0, size.width(), 0);
+    shine.setColorAt(0.0, Qt::black);
+    shine.setColorAt(0.5, QColor(0xc8, 0x10, 0x2e));
+    shine.setColorAt(1.0, Qt::black);
+    QPainter(&banner).fillRect(banner.rect(), shine);
+    return banner;
+}
+
 } // namespace
 
 DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
@@ -31,9 +45,12 @@ DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preference
 {
 }
 
-void DelayMeter::InitAnimDelay()
+void DelayMeter::InitAnimDelay(QSizeF strip)
 {
-    guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [this] {
+    guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [&] {
+        const double scale = m_pictures.canvas->scale();
+        picStatusBar = Surface(strip, scale);
+        picBanner3 = bannerPicture((strip * scale).toSize());
         m_started = m_clock.milliseconds();
         m_preferences.prfAnimationDelay = 0;
         const double unit = secondsPerDelayUnit();
@@ -46,7 +63,6 @@ void DelayMeter::InitAnimDelay()
                         [this](std::int32_t delay) {
                             return whileTimeIsLeft([&] { return bannerRound(delay); });
                         });
-        m_pictures.picStatusBar = Surface();
     });
 }
 
@@ -83,10 +99,9 @@ double DelayMeter::flightRound(std::int32_t delay)
 
 double DelayMeter::bannerRound(std::int32_t delay)
 {
-    const QImage& banner = m_pictures.picBanner3;
     const double start = m_clock.processorSeconds();
     for (std::int32_t k = bannerTop; k <= 0; ++k) {
-        m_pictures.picStatusBar.drawPixels(banner, QPointF(0, k));
+        picStatusBar.drawPixels(picBanner3, QPointF(0, k));
         countingLoop(delay);
     }
     const double elapsed = m_clock.processorSeconds() - start;

@@ -22,9 +22,10 @@ public:
     DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
                Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound);
 
-    // Sets prfAnimationDelay, prfBannerDelay and prfScrollVal. An error is shown in a box; the
-    // delays keep the values they had reached.
-    void InitAnimDelay();
+    // Sets prfAnimationDelay, prfBannerDelay (that of a banner that slides into a strip of this
+    // size, in logical pixels) and prfScrollVal. An error is shown in a box; the delays keep the
+    // values they had reached.
+    void InitAnimDelay(QSizeF strip);
 
 private:
     // Nothing when the player has waited long enough.
@@ -40,6 +41,8 @@ private:
     Clock& m_clock;
     ErrorBox& m_errorBox;
     std::function<void()> m_afterRound;
+    Surface picStatusBar;         // the strip
+    QImage picBanner3;            // what slides into it
     std::int64_t m_started = 0;   // milliseconds of the clock
     std::int64_t m_lastRound = 0; // milliseconds that it took
 };

@@ -157,11 +157,16 @@ void TablePainter::copyTableBehind(OffScreenBox& box)
     box.picture.copyFrom(m_pictures.canvas->kept(), box.place.topLeft(), box.place.size(), {0, 0});
 }
 
+void TablePainter::paintHatch(Surface& picture)
+{
+    picture.fill(Qt::white);
+    m_library.cdtDraw(picture, 0, 0, hatchBack, drawBack, whiteColor);
+}
+
 void TablePainter::layHatches()
 {
     Surface& hatch = m_pictures.picAnimate.picture;
-    hatch.fill(Qt::white);
-    m_library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
+    paintHatch(hatch);
     const PixelRect whole = wholeOf(hatch);
 
     Surface& table = m_pictures.canvas->keptForDrawing();

@@ -11,7 +11,7 @@ namespace quillet
 {
 
 // Paints the table: background, frame, deck and the hatched places of the cards. It knows the
-// pictures only; chart, counters and flags are the window's affair.
+// pictures only.
 class TablePainter
 {
 public:
@@ -29,6 +29,10 @@ public:
     void paintFirstTable(const TableMeasures& table);
     // Before each game: everything but the cards.
     void repaint(const TableMeasures& table, std::int32_t backNumber);
+
+    // The crosshatch on white, which is what an overlay lets through, outside its rounded corners,
+    // too.
+    void paintHatch(Surface& picture);
 
 private:
     void placeDeck(const TableMeasures& table);

@@ -20,8 +20,8 @@ struct OffScreenBox {
     Surface picture;
 };
 
-// The pictures the table is made of. The main window owns them all; the boxes and the canvas are
-// widgets and belong to it as such.
+// The pictures the table is made of. The boxes and the canvas are
+// widgets and belong to the window as such.
 struct TablePictures {
     TableCanvas* canvas = nullptr;
     std::array<PictureBox*, 4> picDeal{};  // the deck; index 0 lies on top
@@ -35,8 +35,6 @@ struct TablePictures {
     OffScreenBox picReject;            // the reject pile, never shown
     OffScreenBox picRejectBack;
     OffScreenBox picDealBack; // the table behind the deck
-    Surface picStatusBar;     // the status strip, while the banner is slid into it
-    QImage picBanner3;        // the banner of the calibration
 };
 
 } // namespace quillet

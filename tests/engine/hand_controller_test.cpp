@@ -1,4 +1,4 @@
-#include "tests/kit/fake_table.h"
+#include "tests/kit/played_game.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,25 +20,24 @@ TEST(HandController, aDealRunsInItsOrder)
 {
     Game game;
     game.deal(jacks);
-    EXPECT_EQ(game.table.logged(),
+    EXPECT_EQ(game.log.text(),
               "total-5 fly0 deal.wav fly1 deal.wav fly2 deal.wav fly3 deal.wav fly4 deal.wav "
               "pause650 face0 face1 face2 face3 face4");
     EXPECT_EQ(game.state.hand, hand("Jc Jd 4h 7s 9c"));
     EXPECT_EQ(game.state.handCode, 11);
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
     EXPECT_EQ(game.counters.hands, 1);
-    EXPECT_EQ(game.random.reseeds, 52);
 }
 
 TEST(HandController, aDrawRunsInItsOrder)
 {
     Game game;
     game.deal(jacksToTrips);
-    game.table.log.clear();
+    game.log.clear();
     game.draw("12");
-    EXPECT_EQ(game.table.logged(),
+    EXPECT_EQ(game.log.text(),
               "hide2 hide3 hide4 hatch0 hatch1 pause600 fly2 deal.wav fly3 deal.wav fly4 deal.wav "
-              "pause250 face2 hatch2 face3 hatch3 face4 hatch4 pause200 "
+              "pause250 hatch2 hatch3 hatch4 pause200 "
               "total10 pokerwin1.wav pause500 total10");
     EXPECT_EQ(game.state.hand, hand("Jc Jd Jh 6s 8c"));
     EXPECT_EQ(game.counters.won, 1);
@@ -50,8 +49,8 @@ TEST(HandController, aNewGameFadesItsTextInAndDeals)
 {
     Game game;
     game.controller.initPokerScreen();
-    EXPECT_EQ(game.table.logged().substr(0, 32), "layOut pause1000 total-5 fly0 de");
-    EXPECT_EQ(game.table.now(), 25 * 20 + 1000 + 650);
+    EXPECT_EQ(game.log.text().substr(0, 32), "layOut pause1000 total-5 fly0 de");
+    EXPECT_EQ(game.clock.now, 25 * 20 + 1000 + 650);
 }
 
 TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
@@ -59,13 +58,13 @@ TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
     Game game;
     game.deal(jacks);
     game.draw("12");
-    game.table.log.clear();
+    game.log.clear();
     EXPECT_EQ(game.chart.state(10), ChartRowState::winner);
     game.deal(jacks);
     EXPECT_EQ(game.chart.state(10), ChartRowState::base);
     EXPECT_THAT(game.state.holdFlags, testing::Each(false));
-    EXPECT_EQ(game.table.logged().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
-    EXPECT_THAT(game.table.logged(), testing::HasSubstr("fly4 deal.wav fly3"));
+    EXPECT_EQ(game.log.text().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
+    EXPECT_THAT(game.log.text(), testing::HasSubstr("fly4 deal.wav fly3"));
     game.controller.initPokerScreen();
     EXPECT_TRUE(game.state.dealReversed) << "a new game goes on in turn";
 }
@@ -74,28 +73,27 @@ TEST(HandController, cardsAreHeldOnlyWhileTheHandWaits)
 {
     Game game;
     game.controller.picPoker_MouseDown(0);
-    game.table.in(300, [&] { game.controller.picPoker_MouseDown(0); });
+    game.in(300, [&] { game.controller.picPoker_MouseDown(0); });
     game.deal(jacks);
     EXPECT_THAT(game.state.holdFlags, testing::Each(false));
 
     game.controller.picPoker_MouseDown(3);
-    EXPECT_TRUE(game.state.holdFlags[3] && game.table.outlines[3]);
+    EXPECT_TRUE(game.state.holdFlags[3] && game.table.holds[3]);
     game.controller.picPoker_DblClick(3);
-    EXPECT_FALSE(game.state.holdFlags[3] || game.table.outlines[3]);
+    EXPECT_FALSE(game.state.holdFlags[3] || game.table.holds[3]);
 
-    game.table.in(100, [&] { game.controller.picPoker_MouseDown(4); });
+    game.in(100, [&] { game.controller.picPoker_MouseDown(4); });
     game.draw("12");
-    EXPECT_FALSE(game.table.outlines[4]);
+    EXPECT_FALSE(game.table.holds[4]);
 }
 
-TEST(HandController, thePlayersWishesForSoundAndHintsAreKept)
+TEST(HandController, theBestPlayIsShownToWhoWantsIt)
 {
     for (const bool wished : {true, false}) {
         Game game;
-        game.preferences.prfSound = game.preferences.prfShowPokerPlay = wished;
+        game.prfShowPokerPlay = wished;
         game.deal("2h 4s 6c 8d Th 3c 5d 7h 9s Kc");
         EXPECT_EQ(game.chart.state(20) == ChartRowState::bestPlay, wished);
-        EXPECT_EQ(game.table.count("deal.wav"), wished ? 5 : 0);
         game.draw("");
         EXPECT_EQ(game.chart.state(20), ChartRowState::base) << "a lost hand lights nothing";
     }
@@ -112,12 +110,12 @@ TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
                                      {"123", "wrong.wav"},
                                      {"1234", "wrong.wav"},
                                      {"12345", "wrong.wav"}}) {
-        game.table.log.clear();
+        game.log.clear();
         game.draw(slots);
-        EXPECT_EQ(game.table.logged(), cue) << slots;
+        EXPECT_EQ(game.log.text(), cue) << slots;
         EXPECT_EQ(game.chart.state(10), ChartRowState::missedPlay);
         EXPECT_THAT(game.state.holdFlags, testing::Each(false));
-        EXPECT_THAT(game.table.outlines, testing::Each(false));
+        EXPECT_THAT(game.table.holds, testing::Each(false));
         EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
     }
     game.draw("12");
@@ -131,11 +129,11 @@ TEST(HandController, allFiveHeldFliesNothingAndKeepsThePauses)
 {
     Game game;
     game.deal(fullHouse);
-    game.table.log.clear();
+    game.log.clear();
     game.draw("12345");
-    EXPECT_EQ(game.table.logged(), "hatch0 hatch1 hatch2 hatch3 hatch4 pause600 pause250 pause200 "
-                                   "total20 pokerwin3.wav pause500 "
-                                   "total40 pokerwin3.wav pause500 total40");
+    EXPECT_EQ(game.log.text(), "hatch0 hatch1 hatch2 hatch3 hatch4 pause600 pause250 pause200 "
+                               "total20 pokerwin3.wav pause500 "
+                               "total40 pokerwin3.wav pause500 total40");
 }
 
 TEST(HandController, everyRowPaysInItsSteps)
@@ -164,12 +162,12 @@ TEST(HandController, everyRowPaysInItsSteps)
     for (const Row& row : rows) {
         Game game;
         game.deal(row.dealt);
-        const int start = game.table.now();
+        const std::int64_t start = game.clock.now;
         game.draw(row.held);
         EXPECT_EQ(game.counters.total, row.pays - 5) << row.dealt;
         EXPECT_EQ(game.counters.won, row.pays > 0 ? 1 : 0) << row.dealt;
-        EXPECT_EQ(game.table.count(row.cue), row.steps) << row.dealt;
-        EXPECT_EQ(game.table.now() - start, 600 + 250 + 200 + row.steps * row.pause) << row.dealt;
+        EXPECT_EQ(game.log.count(row.cue), row.steps) << row.dealt;
+        EXPECT_EQ(game.clock.now - start, 600 + 250 + 200 + row.steps * row.pause) << row.dealt;
     }
 }
 
@@ -190,10 +188,10 @@ TEST(HandController, countersStopAtTheirLimits)
 TEST(HandController, automaticDealingDealsTheNextHand)
 {
     Game game;
-    game.preferences.prfPokerAutoDeal = true;
+    game.prfPokerAutoDeal = true;
     game.controller.initPokerScreen();
     EXPECT_EQ(game.counters.hands, 1);
-    game.table.in(600 + 250 + 200 + 2400, [&] {
+    game.in(600 + 250 + 200 + 2400, [&] {
         EXPECT_EQ(game.counters.hands, 1);
         game.click();
         EXPECT_EQ(game.counters.hands, 1) << "a click is deaf in the long pause";
@@ -201,7 +199,7 @@ TEST(HandController, automaticDealingDealsTheNextHand)
     game.state.judgePending = false;
     game.draw("");
     EXPECT_EQ(game.counters.hands, 2);
-    EXPECT_EQ(game.table.count("pause2500"), 1);
+    EXPECT_EQ(game.log.count("pause2500"), 1);
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
 }
 

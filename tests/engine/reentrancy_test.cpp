@@ -1,4 +1,4 @@
-#include "tests/kit/fake_table.h"
+#include "tests/kit/played_game.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,8 +18,8 @@ void expectOneFreshDeal(const Game& game, int hands)
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
     EXPECT_THAT(game.state.holdFlags, testing::Each(false));
     EXPECT_EQ(game.counters.hands, hands);
-    EXPECT_TRUE(game.table.errors.empty());
-    EXPECT_EQ(game.table.count("wrong.wav"), 0) << "nobody asked to draw";
+    EXPECT_TRUE(game.errors.texts.empty());
+    EXPECT_EQ(game.log.count("wrong.wav"), 0) << "nobody asked to draw";
 }
 
 } // namespace
@@ -27,12 +27,12 @@ void expectOneFreshDeal(const Game& game, int hands)
 TEST(Reentrancy, newGameWhileDealingLosesTheHandAndDealsOnce)
 {
     Game game;
-    game.table.in(300, [&] { game.controller.initPokerScreen(); });
+    game.in(300, [&] { game.controller.initPokerScreen(); });
     game.deal(jacks);
     expectOneFreshDeal(game, 2);
     EXPECT_EQ(game.counters.total, -10);
-    EXPECT_EQ(game.table.count("layOut"), 1);
-    EXPECT_EQ(game.table.count("face0"), 1) << "the lost hand stays face down";
+    EXPECT_EQ(game.log.count("layOut"), 1);
+    EXPECT_EQ(game.log.count("face0"), 1) << "the lost hand stays face down";
 }
 
 TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
@@ -40,12 +40,12 @@ TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
     for (const int moment : {300, 700, 950}) {
         Game game;
         game.deal(jacks);
-        game.table.in(moment, [&] { game.controller.initPokerScreen(); });
+        game.in(moment, [&] { game.controller.initPokerScreen(); });
         game.draw("12");
         expectOneFreshDeal(game, 2);
         EXPECT_EQ(game.counters.total, -10) << moment;
         EXPECT_EQ(game.counters.won, 0) << moment;
-        EXPECT_EQ(game.table.count("face2"), moment < 950 ? 2 : 3) << moment;
+        EXPECT_EQ(game.log.count("hatch2"), moment < 950 ? 0 : 1) << moment;
     }
 }
 
@@ -53,7 +53,7 @@ TEST(Reentrancy, newGameWhileAWinIsCountedCreditsTheRestAtOnce)
 {
     Game game;
     game.deal(royal);
-    game.table.in(1050 + 2250, [&] {
+    game.in(1050 + 2250, [&] {
         EXPECT_EQ(game.counters.total, -5 + 5 * 25);
         game.controller.initPokerScreen();
         EXPECT_EQ(game.counters.total, 3995);
@@ -69,16 +69,16 @@ TEST(Reentrancy, newGameInTheFadeOrTheLongPausesDealsOnce)
 {
     for (const int moment : {100, 800, 1400}) {
         Game game;
-        game.table.in(moment, [&] { game.controller.initPokerScreen(); });
+        game.in(moment, [&] { game.controller.initPokerScreen(); });
         game.controller.initPokerScreen();
         expectOneFreshDeal(game, 1);
-        EXPECT_EQ(game.table.count("layOut"), 2);
+        EXPECT_EQ(game.log.count("layOut"), 2);
     }
     Game game;
-    game.preferences.prfPokerAutoDeal = true;
+    game.prfPokerAutoDeal = true;
     game.controller.initPokerScreen();
     game.state.judgePending = false;
-    game.table.in(1050 + 1000, [&] { game.controller.initPokerScreen(); });
+    game.in(1050 + 1000, [&] { game.controller.initPokerScreen(); });
     game.draw("");
     expectOneFreshDeal(game, 2);
 }
@@ -87,8 +87,8 @@ TEST(Reentrancy, aClickRightAfterAskingForANewGameDealsNoHandInBetween)
 {
     for (const bool automatic : {false, true}) {
         Game game;
-        game.preferences.prfPokerAutoDeal = automatic;
-        game.table.in(300, [&] {
+        game.prfPokerAutoDeal = automatic;
+        game.in(300, [&] {
             game.controller.initPokerScreen();
             game.click();
         });
@@ -101,7 +101,7 @@ TEST(Reentrancy, gamesAskedForOneAfterAnotherDoNotPileUp)
 {
     Game game;
     for (int i = 1; i <= 2000; ++i)
-        game.table.in(10 * i, [&] { game.controller.initPokerScreen(); });
+        game.in(10 * i, [&] { game.controller.initPokerScreen(); });
     game.controller.initPokerScreen();
     EXPECT_TRUE(game.state.handDealt);
     EXPECT_LE(game.counters.hands, 20);
@@ -111,10 +111,10 @@ TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
 {
     for (const int moment : {100, 900}) {
         Game game;
-        game.table.in(moment, [&] {
+        game.in(moment, [&] {
             game.click();
             EXPECT_TRUE(game.state.handDealt) << "the click is heard";
-            EXPECT_EQ(game.table.fadeStep, 25) << "the text does not stay dark";
+            EXPECT_EQ(game.screen.fadeStep, 25) << "the text does not stay dark";
         });
         game.controller.initPokerScreen();
         expectOneFreshDeal(game, 1);
@@ -124,22 +124,13 @@ TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
 TEST(Reentrancy, aDeckClickBeforeTheFirstDealWaitsForTheAutomaticOne)
 {
     Game game;
-    game.preferences.prfPokerAutoDeal = true;
-    game.table.in(900, [&] {
+    game.prfPokerAutoDeal = true;
+    game.in(900, [&] {
         game.click();
         EXPECT_EQ(game.counters.hands, 0);
     });
     game.controller.initPokerScreen();
     expectOneFreshDeal(game, 1);
-}
-
-TEST(Reentrancy, aBackChosenInAPauseIsTheOneThatFlies)
-{
-    Game game;
-    game.deal(jacks);
-    game.table.in(300, [&] { game.preferences.prfPKBackFace = 60; });
-    game.table.in(700, [&] { EXPECT_EQ(game.table.flyingBack, 60); });
-    game.draw("12");
 }
 
 } // namespace quillet::test

@@ -12,10 +12,10 @@ namespace quillet::test
 
 PlayedWindow::PlayedWindow()
     : desktop{store,
-              *this,
-              *this,
-              *this,
-              *this,
+              pages,
+              sounds,
+              errors,
+              m_desktopClock,
               *this,
               {},
               QUILLET_PROGRAM_FOLDER,
@@ -33,7 +33,7 @@ PlayedWindow::PlayedWindow()
 
 bool PlayedWindow::start(std::string_view tenCards)
 {
-    random.stack(tenCards);
+    decks.stack(tenCards);
     window = std::make_unique<frmMain>(desktop);
     return window->Form_Load();
 }
@@ -41,15 +41,13 @@ bool PlayedWindow::start(std::string_view tenCards)
 void PlayedWindow::pause(std::int32_t delayTime, const std::function<bool()>& cutShort)
 {
     QCoreApplication::processEvents();
-    const std::int64_t until = now + delayTime;
-    while (!m_due.empty() && m_due.begin()->first <= until && !cutShort()) {
-        auto next = m_due.extract(m_due.begin());
-        now = std::max(now, next.key());
-        next.mapped()();
-        QCoreApplication::processEvents();
-    }
-    if (!cutShort())
-        now = std::max(now, until);
+    clock.pass(delayTime, cutShort, [] { QCoreApplication::processEvents(); });
+}
+
+PokerDeck PlayedWindow::nextDeck()
+{
+    failing.at("decks");
+    return decks.nextDeck();
 }
 
 QString PlayedWindow::useOwnFolder()
@@ -120,28 +118,17 @@ std::string PlayedWindow::rowColor(int playCode)
     return picture().pixelColor(row.topLeft() + QPoint(2, 2)).name().toStdString();
 }
 
-void PlayedWindow::play(const std::string& path)
+void RecordedPages::open(const std::string&, const std::string& file, const std::string&,
+                         const std::string&, int)
 {
-    sounds.push_back(path.substr(path.find_last_of('/') + 1));
+    fault.at("open");
+    addresses.push_back(file);
 }
 
-void PlayedWindow::open(const std::string&, const std::string& file, const std::string&,
-                        const std::string&, int)
+double PlayedClock::processorSeconds()
 {
-    failIf("open");
-    opened.push_back(file);
-}
-
-double PlayedWindow::processorSeconds()
-{
-    failIf("clock");
-    return static_cast<double>(now += 500) / 1000;
-}
-
-void PlayedWindow::failIf(const std::string& port) const
-{
-    if (port == failing)
-        throw RunTimeError("the wind");
+    fault.at("clock");
+    return static_cast<double>(clock.now += 500) / 1000;
 }
 
 } // namespace quillet::test

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "main_window/frm_main.h"
-#include "tests/kit/fake_table.h"
 #include "tests/kit/memory_store.h"
+#include "tests/kit/played_game.h"
 #include "tests/kit/presented.h"
 #include "tests/kit/window_driving.h"
 
@@ -11,7 +11,6 @@
 #include <QTimer>
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,22 +18,56 @@
 namespace quillet::test
 {
 
+// Lets one port of the desktop fail.
+struct Fault {
+    void at(const std::string& name) const
+    {
+        if (name == port)
+            throw RunTimeError("the wind");
+    }
+    std::string port; // "clock", "decks" or "open"
+};
+
+struct RecordedSounds : SoundOutput {
+    void prepare() override {}
+    void play(const std::string& path) override
+    {
+        names.push_back(path.substr(path.find_last_of('/') + 1));
+    }
+    std::vector<std::string> names;
+};
+
+struct RecordedPages : ShellOpen {
+    explicit RecordedPages(const Fault& toFail) : fault(toFail) {}
+    void open(const std::string& verb, const std::string& file, const std::string& parameters,
+              const std::string& directory, int showCommand) override;
+
+    const Fault& fault;
+    std::vector<std::string> addresses;
+};
+
+struct PlayedClock : Clock {
+    PlayedClock(VirtualClock& played, const Fault& toFail) : clock(played), fault(toFail) {}
+    std::int64_t milliseconds() override { return clock.now; }
+    double processorSeconds() override; // moves on with every look, as on a very slow machine
+
+    VirtualClock& clock;
+    const Fault& fault;
+};
+
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,
 // fire the input that falls due meanwhile and let the toolkit's events run. Unless a test stores
 // something else, dealing is by hand, cards do not fly and the delays are known.
-class PlayedWindow : public ErrorBox,
-                     public SoundOutput,
-                     public ShellOpen,
-                     public Clock,
-                     public RandomSource
+class PlayedWindow : private DeckSource
 {
 public:
     PlayedWindow();
+    virtual ~PlayedWindow() = default;
 
     // Loads the window, whose first hand has these ten cards (see StackedDeck).
     bool start(std::string_view tenCards = jacks);
     // Runs the act when the virtual clock has come so many milliseconds further.
-    void in(int milliseconds, std::function<void()> act) { m_due.emplace(now + milliseconds, act); }
+    void in(int milliseconds, std::function<void()> act) { clock.in(milliseconds, std::move(act)); }
     // A folder of its own, empty but for what the test puts there, in place of the program's.
     QString useOwnFolder();
     // There, a plain background of this size; without a size, one that cannot be read.
@@ -59,35 +92,26 @@ public:
     // The background of a chart row, "#rrggbb".
     [[nodiscard]] std::string rowColor(int playCode);
 
-    void showError(const std::string& text) override { errors.push_back(text); }
-    void prepare() override {}
-    void play(const std::string& path) override;
-    void open(const std::string& verb, const std::string& file, const std::string& parameters,
-              const std::string& directory, int showCommand) override;
-    std::int64_t milliseconds() override { return now; }
-    double processorSeconds() override; // moves on with every look, as on a very slow machine
-    void reseed() override { failIf("random"); }
-    double next() override { return random.next(); }
-
     static constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
 
     MemoryStore store;
-    StackedDeck random;
-    std::string failing; // the port that throws
-    std::vector<std::string> errors, sounds, opened;
+    StackedDeck decks;
+    Fault failing;
+    RecordedErrors errors;
+    RecordedSounds sounds;
+    RecordedPages pages{failing};
+    VirtualClock clock;
     std::vector<int> ended; // the codes with which the process was to end
-    std::int64_t now = 0;
     Desktop desktop;
     std::unique_ptr<frmMain> window;
 
 protected:
     virtual void pause(std::int32_t delayTime, const std::function<bool()>& cutShort);
+    PokerDeck nextDeck() override;
 
 private:
-    void failIf(const std::string& port) const;
-
+    PlayedClock m_desktopClock{clock, failing};
     QTemporaryDir m_ownFolder;
-    std::multimap<std::int64_t, std::function<void()>> m_due;
 };
 
 // Opens a modal window and lets the act work in it. One that the act leaves open is closed.

@@ -67,20 +67,20 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     PlayedWindow game;
     ASSERT_TRUE(game.start());
     EXPECT_EQ(game.rowColor(11), grey) << "the best play is kept secret";
-    game.sounds.clear();
+    game.sounds.names.clear();
     game.draw("1");
     EXPECT_EQ(game.rowColor(11), red);
     EXPECT_EQ(game.part("pkLabel10").accessibleName(), "High Pair, missed best play");
-    EXPECT_EQ(game.sounds, std::vector<std::string>{"wrong2.wav"});
+    EXPECT_EQ(game.sounds.names, std::vector<std::string>{"wrong2.wav"});
     EXPECT_FALSE(outlined(game, 0, Qt::green));
     EXPECT_EQ(game.counters(), "-5/1/0");
     EXPECT_TRUE(game.waitsForDraw());
 
-    game.sounds.clear();
+    game.sounds.names.clear();
     game.draw("12");
     EXPECT_EQ(game.rowColor(11), green);
     EXPECT_EQ(game.counters(), "0/1/1");
-    EXPECT_EQ(game.sounds,
+    EXPECT_EQ(game.sounds.names,
               (std::vector<std::string>{"deal.wav", "deal.wav", "deal.wav", "pokerwin1.wav"}));
     EXPECT_EQ(game.cards(), "Jack of clubs; Jack of diamonds; Five of hearts; Six of spades; "
                             "Eight of clubs");

@@ -208,11 +208,11 @@ TEST(PresentedTable, deckAndChartNeverFlash)
         EXPECT_NE(shown.pixel(middle), old);
     };
     const FrameWatch table(game.part("table"), look), panel(game.part("picPokerLabels"), look);
-    game.random.stack(PlayedWindow::jacks);
+    game.decks.stack(PlayedWindow::jacks);
     game.choose("mnuPoker");
     const QImage before = game.picture();
     game.window->prfPKBackFace = beach;
-    game.window->DrawDealDeck();
+    control<PokerTable>(*game.window, "pokerTable").DrawDealDeck();
     EXPECT_NE(game.picture().pixel(middle), before.pixel(middle));
     old = before.pixel(middle);
     game.draw("12");
@@ -231,7 +231,7 @@ TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
     };
     const auto before = corners();
     game.window->prfPKBackFace = hatch;
-    game.window->DrawDealDeck();
+    control<PokerTable>(*game.window, "pokerTable").DrawDealDeck();
     game.in(700, [&] { EXPECT_EQ(corners(), before) << "face down"; });
     game.draw("12");
     EXPECT_EQ(corners(), before);

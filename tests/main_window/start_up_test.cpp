@@ -20,9 +20,9 @@ TEST(StartUp, theFirstHandIsDealt)
                             "Nine of clubs");
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
-    EXPECT_EQ(game.sounds, std::vector<std::string>(5, "deal.wav"));
+    EXPECT_EQ(game.sounds.names, std::vector<std::string>(5, "deal.wav"));
     EXPECT_EQ(QDir::currentPath().toStdString(), game.desktop.programFolder);
-    EXPECT_TRUE(game.errors.empty());
+    EXPECT_TRUE(game.errors.texts.empty());
     EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
 }
 
@@ -31,19 +31,19 @@ TEST(StartUp, theFirstStartMeasuresTheDelaysOrTellsWhyNot)
     for (const bool fails : {false, true}) {
         PlayedWindow game;
         game.store.texts = {{"prfSound", "False"}, {"prfAnimation", "False"}};
-        game.failing = fails ? "clock" : "";
+        game.failing.port = fails ? "clock" : "";
         ASSERT_TRUE(game.start());
         EXPECT_EQ(game.window->prfAnimationDelay, 0);
         EXPECT_EQ(game.window->prfScrollVal, fails ? 0 : 1000);
         EXPECT_EQ(game.counters(), "-5/1/0");
-        EXPECT_EQ(game.errors,
+        EXPECT_EQ(game.errors.texts,
                   std::vector<std::string>(fails ? 1 : 0, "Error in InitAnimDelay the wind"));
     }
     PlayedWindow fastest;
     fastest.store.texts["prfAnimationDelay"] = "0";
-    fastest.failing = "clock";
+    fastest.failing.port = "clock";
     ASSERT_TRUE(fastest.start());
-    EXPECT_TRUE(fastest.errors.empty()) << "a delay of 0 is known, too";
+    EXPECT_TRUE(fastest.errors.texts.empty()) << "a delay of 0 is known, too";
 }
 
 TEST(StartUp, anErrorBeforeTheWindowShowsEndsIt)
@@ -58,8 +58,8 @@ TEST(StartUp, anErrorBeforeTheWindowShowsEndsIt)
         game.store.texts[key] = text;
         EXPECT_FALSE(game.start()) << key;
         EXPECT_FALSE(game.window->isVisible());
-        ASSERT_EQ(game.errors.size(), 1u) << key;
-        EXPECT_TRUE(game.errors[0].starts_with("Error  in  Form_Load (  " + cause));
+        ASSERT_EQ(game.errors.texts.size(), 1u) << key;
+        EXPECT_TRUE(game.errors.texts[0].starts_with("Error  in  Form_Load (  " + cause));
         EXPECT_EQ(game.store.log.find('='), std::string::npos) << "nothing is saved";
     }
 }
@@ -71,8 +71,8 @@ TEST(StartUp, aMissingOrEmptyPictureLeavesADarkTable)
         QFile file(game.useOwnFolder() + "/pics/vpokerwood.jpg");
         ASSERT_TRUE(!empty || file.open(QIODevice::WriteOnly));
         ASSERT_TRUE(game.start());
-        EXPECT_TRUE(game.errors.empty());
-        EXPECT_TRUE(game.sounds.empty()) << "cues are missing, too";
+        EXPECT_TRUE(game.errors.texts.empty());
+        EXPECT_TRUE(game.sounds.names.empty()) << "cues are missing, too";
         EXPECT_EQ(game.part("table").size(), QSize(800, 514));
         EXPECT_EQ(game.picture().pixelColor(game.placeOf("picDeal0").topLeft() - QPoint(40, 0)),
                   QColor(Qt::black));
@@ -95,7 +95,7 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         QCoreApplication::processEvents();
         EXPECT_FALSE(game.window->isMaximized());
         EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
-        EXPECT_TRUE(game.errors.empty());
+        EXPECT_TRUE(game.errors.texts.empty());
         // A tiling window manager gives more room than that.
         QWidget& middle = *game.window->centralWidget();
         middle.resize(1200, 900);

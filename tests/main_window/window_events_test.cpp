@@ -102,7 +102,7 @@ TEST(WindowEvents, closingInAnyPauseEndsEverything)
         EXPECT_FALSE(game.window->isVisible());
         game.choose("mnuPoker");
         EXPECT_EQ(game.counters(), counters);
-        EXPECT_TRUE(game.errors.empty());
+        EXPECT_TRUE(game.errors.texts.empty());
     }
 }
 
@@ -132,7 +132,7 @@ TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
         ASSERT_FALSE(game.ended.empty());
         EXPECT_EQ(game.ended[0], 0);
         EXPECT_EQ(game.store.log, saved) << "once";
-        EXPECT_TRUE(game.opened.empty());
+        EXPECT_TRUE(game.pages.addresses.empty());
     }
 }
 
@@ -142,7 +142,8 @@ TEST(WindowEvents, aStoreThatFailsIsReportedAndNoExitScreenFollows)
     ASSERT_TRUE(game.start());
     game.store.failingKey = "prfAnimation";
     game.window->close();
-    EXPECT_EQ(game.errors, std::vector<std::string>{"Error  in  Form_Unload (  Disk full  )"});
+    EXPECT_EQ(game.errors.texts,
+              std::vector<std::string>{"Error  in  Form_Unload (  Disk full  )"});
     EXPECT_EQ(game.ended, std::vector<int>{1});
     EXPECT_FALSE(game.window->isVisible());
     EXPECT_FALSE(game.store.texts.contains("prfShowHide"));
@@ -156,9 +157,9 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
         game.choose(entry);
     QTest::mouseClick(game.window->windowHandle(), Qt::LeftButton, {},
                       game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
-    EXPECT_EQ(game.opened, std::vector<std::string>(6, onlinePokerPage()));
+    EXPECT_EQ(game.pages.addresses, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
-    EXPECT_EQ(game.opened.size(), 6u) << "the text in the bar is no link";
+    EXPECT_EQ(game.pages.addresses.size(), 6u) << "the text in the bar is no link";
     // A button let go beside what it was pressed on has not clicked it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {
@@ -166,9 +167,9 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
         QTest::mousePress(display, Qt::LeftButton, {}, place.topLeft() + QPoint(5, 5));
         QTest::mouseRelease(display, Qt::LeftButton, {}, place.topLeft() - QPoint(5, 5));
     }
-    EXPECT_EQ(game.opened.size(), 6u);
+    EXPECT_EQ(game.pages.addresses.size(), 6u);
     EXPECT_TRUE(game.waitsForDraw());
-    EXPECT_TRUE(game.sounds.size() == 5u) << "nobody asked to draw";
+    EXPECT_TRUE(game.sounds.names.size() == 5u) << "nobody asked to draw";
 
     game.choose("mnuAbout");
     game.choose("mnuAbout");

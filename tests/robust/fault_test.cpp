@@ -27,7 +27,7 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
         game.waitsForDraw() ? game.choose("mnuPoker") : game.clickDeck();
     };
     const Row rows[] = {
-        {"random", newGame, 1, "Error  in  showPokerHand (  the wind  )"},
+        {"decks", newGame, 1, "Error  in  showPokerHand (  the wind  )"},
         {"open", [](auto& game) { game.window->picStatusBar_Click(); }, 1, "statusclickthe wind"},
         {"",
          [&](auto& game) {
@@ -47,12 +47,12 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
         PlayedWindow game;
         game.usePicture({674, 354});
         ASSERT_TRUE(game.start());
-        game.failing = failing;
+        game.failing.port = failing;
         act(game);
-        EXPECT_EQ(game.errors.size(), boxes);
-        EXPECT_THAT(game.errors, testing::Each(testing::StartsWith(text)));
+        EXPECT_EQ(game.errors.texts.size(), boxes);
+        EXPECT_THAT(game.errors.texts, testing::Each(testing::StartsWith(text)));
         EXPECT_TRUE(control<PictureBox>(*game.window, "picDeal0").isShowing());
-        game.failing.clear();
+        game.failing.port.clear();
         const int hands = game.window->counters().hands;
         newGame(game);
         EXPECT_EQ(game.window->counters().hands, hands + 1);
@@ -72,7 +72,7 @@ TEST(Fault, anEndingSessionStoresTheSettingsAndShowsNoFarewellUnlessItGoesOn)
         EXPECT_EQ(game.store.texts["prfSound"], "False");
         EXPECT_TRUE(game.ended.empty());
         const auto close = [&game] { game.window->close(); };
-        game.now += goesOn ? 120'000 : 0;
+        game.clock.now += goesOn ? 120'000 : 0;
         goesOn ? whileOpen<frmExitNoBanner>(close, [](auto&) {}) : close();
         EXPECT_EQ(game.ended, std::vector{0});
     }

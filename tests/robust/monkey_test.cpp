@@ -46,12 +46,17 @@ public:
             EXPECT_EQ(window->counters().hands, hands + 1) << "the deck is dead";
         }
         close();
-        EXPECT_TRUE(errors.empty()) << errors.front();
+        EXPECT_TRUE(errors.texts.empty()) << errors.texts.front();
         EXPECT_EQ(ended, std::vector{0});
         EXPECT_EQ(std::ranges::count(store.log, '='), 12) << "every setting is stored once";
     }
 
-    double next() override { return std::uniform_real_distribution<>(0, 1)(m_random); }
+    PokerDeck nextDeck() override
+    {
+        PokerDeck deck = buildDeck();
+        std::ranges::shuffle(deck, m_random);
+        return deck;
+    }
 
     std::string story;
 
@@ -64,7 +69,7 @@ private:
     {
         const bool fading = delay == 20;
         m_gameAsked = m_gameAsked && !fading; // it has begun
-        EXPECT_FALSE(m_closed && sounds.size() != m_soundsAtEnd) << "it went on";
+        EXPECT_FALSE(m_closed && sounds.names.size() != m_soundsAtEnd) << "it went on";
         ++m_depth;
         if (!m_closed && !m_quiet && m_depth < 7)
             for (int more = fading ? 2 : 18; chanceOf(more) && m_eventsLeft > 0; more = 60)
@@ -155,7 +160,7 @@ private:
         if (m_closed)
             return;
         m_closed = true;
-        m_soundsAtEnd = sounds.size();
+        m_soundsAtEnd = sounds.names.size();
         whileOpen<frmExitNoBanner>(
             [this] { chanceOf(50) ? void(window->close()) : window->mnuExit_Click(); },
             [this](auto&) { EXPECT_FALSE(window->isVisible()); });
@@ -190,7 +195,7 @@ private:
             EXPECT_EQ(cards, buildDeck()) << "every card once";
             m_deckClicks = 0;
         }
-        const bool refused = !sounds.empty() && sounds.back().starts_with("wrong");
+        const bool refused = !sounds.names.empty() && sounds.names.back().starts_with("wrong");
         EXPECT_FALSE(refused && m_wasDealt && m_deckClicks == 0) << "nobody asked to draw";
         m_wasDealt = state.handDealt;
         for (std::size_t slot = 0; slot < 5; ++slot) {

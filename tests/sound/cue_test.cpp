@@ -1,5 +1,6 @@
 #include "sound/cue_library.h"
 #include "sound/cue_player.h"
+#include "sound/game_cues.h"
 #include "tests/sound/sound_files.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,28 @@ TEST(CueLibrary, aFileThatChangedIsReadAgain)
     std::filesystem::last_write_time(folder.file("cue.wav", flatWave(2000, 100)),
                                      written + std::chrono::seconds(1));
     EXPECT_EQ(library.find(path)->samples.front(), 2000);
+}
+
+TEST(GameCues, areFilesBelowTheProgramsFolderForWhoWantsThem)
+{
+    struct : SoundOutput {
+        void prepare() override { heard += "ready "; }
+        void play(const std::string& path) override { heard += path + ' '; }
+        std::string heard;
+    } output;
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.file("wavs"));
+    const std::string deal = folder.file("wavs/deal.wav", flatWave(1000, 100));
+    bool prfSound = false;
+    GameCues game(prfSound, folder.file(""), output);
+    game.prepare();
+    game.playSoundCue(cues::deal);
+    EXPECT_EQ(output.heard, "");
+    prfSound = true;
+    game.prepare();
+    game.playSoundCue(cues::deal);
+    game.playSoundCue(cues::wrong);
+    EXPECT_EQ(output.heard, "ready " + deal + ' ') << "and silence for what is missing";
 }
 
 TEST(CueMixer, aCueThatIsCutOffFadesOutUnderItsSuccessor)

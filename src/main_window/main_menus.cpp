@@ -1,0 +1,65 @@
+#include "main_window/main_menus.h"
+
+#include "main_window/frm_main.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace quillet
+{
+
+namespace
+{
+
+// The window's handler answers it.
+template <typename Handler>
+QAction* addEntry(QMenu& menu, const QString& name, const QString& caption, frmMain& window,
+                  Handler handler)
+{
+    QAction* entry = menu.addAction(caption);
+    entry->setObjectName(name);
+    // The captions are to stay where they are, whatever the desktop thinks they mean.
+    entry->setMenuRole(QAction::NoRole);
+    QObject::connect(entry, &QAction::triggered, &window, handler);
+    return entry;
+}
+
+QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption)
+{
+    QMenu* menu = bar.addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+} // namespace
+
+void makeMenus(frmMain& window)
+{
+    const auto tr = [](const char* caption) { return frmMain::tr(caption); };
+    QMenuBar& bar = *window.menuBar();
+    bar.setNativeMenuBar(false);
+    QMenu& game = *addMenu(bar, QStringLiteral("mnuGame"), tr("&Game"));
+    addEntry(game, QStringLiteral("mnuPoker"), tr("Play &Video Poker"), window,
+             &frmMain::mnuPoker_Click);
+    addEntry(game, QStringLiteral("mnuPref"), tr("Preferences"), window, &frmMain::mnuPref_Click);
+    game.addSeparator()->setObjectName(QStringLiteral("mnuSeparator"));
+    addEntry(game, QStringLiteral("mnuExit"), tr("E&xit"), window, &frmMain::mnuExit_Click);
+
+    QMenu& sites = *addMenu(bar, QStringLiteral("mnuCasinoSites"), tr("Casino Games"));
+    int index = 0;
+    for (const char* caption : {"Video Poker", "BlackJack", "Roulette", "Craps", "Slots"}) {
+        addEntry(sites, QStringLiteral("mnuSites%1").arg(index), tr(caption), window,
+                 [&window, index] { window.mnuSites_Click(index); });
+        ++index;
+    }
+
+    QMenu& help = *addMenu(bar, QStringLiteral("mnuHelp"), tr("&Help"));
+    addEntry(help, QStringLiteral("mnuContents"), tr("&Contents"), window,
+             &frmMain::mnuContents_Click)
+        ->setShortcut(QKeySequence::HelpContents);
+    addEntry(help, QStringLiteral("mnuAbout"), tr("About Quillet"), window,
+             &frmMain::mnuAbout_Click);
+}
+
+} // namespace quillet

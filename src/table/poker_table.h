@@ -1,0 +1,108 @@
+#pragma once
+
+#include "engine/card_table.h"
+#include "engine/preferences.h"
+#include "faults/run_time_error.h"
+#include "platform/clock.h"
+#include "table/card_flight.h"
+#include "table/card_library.h"
+#include "table/card_on_table.h"
+#include "table/deck_pile.h"
+#include "table/table_painter.h"
+#include "table/table_pictures.h"
+
+#include <QObject>
+#include <QString>
+
+#include <array>
+#include <functional>
+#include <optional>
+
+class QPainter;
+
+namespace quillet
+{
+
+// The painted table with all that lies on it: what every place shows, looks like and is called,
+// and how cards get there. It tells what is clicked, and answers those who play on it.
+class PokerTable : public QObject, public CardTable
+{
+    Q_OBJECT
+
+public:
+    // The canvas is a child of the parent. The preferences may change at any time; they and the
+    // error box outlive the table.
+    PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent);
+
+    // The widget to look at; chart and status bar lie on it.
+    [[nodiscard]] TableCanvas& canvas() { return *m_pictures.canvas; }
+    // Is to be open (cdtInit) before anything is painted.
+    [[nodiscard]] CardLibrary& library() { return m_library; }
+    // The place of a card that has the keyboard.
+    [[nodiscard]] std::optional<Slot> focusedSlot() const;
+
+    // Whether there is a file at this path, which then is the background. It is read again only
+    // when it has changed. Throws RunTimeError for one that is no picture.
+    [[nodiscard]] bool loadBackground(const QString& path);
+    [[nodiscard]] const LoadedPicture& background() const { return m_pictures.thePic; }
+
+    // Sizes the canvas; all places follow from the measures at the next painting.
+    void setMeasures(const TableMeasures& measures);
+    [[nodiscard]] const TableMeasures& measures() const { return m_measures; }
+    void makePictures();
+    // Before the first game.
+    void paintFirstTable();
+    // Paints everything anew for a game: no card, the deck in place.
+    void resetGraphics();
+    // Paints the pile in the chosen back.
+    void DrawDealDeck();
+    void shuffleCards();
+
+    // Measures the speed of flights and of a banner in a strip of this size; see DelayMeter.
+    void measureDelays(Preferences& preferences, Clock& clock, QSizeF strip,
+                       std::function<void()> afterRound);
+
+    // The program is about to end; nothing is painted any more.
+    void close();
+
+    [[nodiscard]] bool isCardShowing(Slot slot) const override;
+    void takeAway(Slot slot) override;
+    void flyCardTo(Slot slot) override;
+    void showFace(Slot slot, std::int16_t cardId, bool finished) override;
+    void showHold(Slot slot, bool held) override;
+    void showDeck() override;
+    void recover() override;
+
+signals:
+    void deckClicked(std::int16_t picture); // 0..3, of picDeal
+    void cardPressed(Slot slot);
+    void cardDoubleClicked(Slot slot);
+
+private:
+    void makeDeck();
+    void makePlaces();
+    void paintOutlines(QPainter& painter, double scale) const;
+    void show(Slot slot, const CardOnTable& card);
+    void paintCard(Slot slot);
+    void layHatch(Slot slot);
+    void describe(Slot slot);
+    void followScale();
+
+    const Preferences& m_preferences;
+    ErrorBox& m_errorBox;
+
+    TableMeasures m_measures;
+    TablePictures m_pictures;
+    std::array<CardOnTable, 5> m_cards; // what the places show
+    std::array<bool, 5> m_held{};       // whose Shape1, Shape2 and Shape3 show
+    QString m_backgroundPath;
+    QString m_backgroundVersion; // of the file and the scale that thePic was read for
+    bool m_closed = false;
+
+    CardLibrary m_library;
+    DeckPile m_pile;
+    TablePainter m_painter;
+    CardFlight m_flight;
+};
+
+} // namespace quillet
