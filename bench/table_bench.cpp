@@ -89,14 +89,11 @@ void firstStartCalibration(benchmark::State& state)
 {
     const BusyLoad load(state.range(0));
     Painted painted(1.0);
-    painted.pictures.picStatusBar = Surface({468, 60}, 1.0);
-    painted.pictures.picBanner3 = QImage(468, 60, QImage::Format_ARGB32_Premultiplied);
-    painted.pictures.picBanner3.fill(Qt::red);
     for (auto step : state) {
         painted.preferences.prfBannerDelay = 0;
         DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock,
                    painted.errorBox, [] {})
-            .InitAnimDelay();
+            .InitAnimDelay({468, 60});
     }
     state.counters["flight delay"] = painted.preferences.prfAnimationDelay;
     state.counters["banner delay"] = painted.preferences.prfBannerDelay;
