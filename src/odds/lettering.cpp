@@ -14,8 +14,6 @@ namespace quillet
 namespace
 {
 
-constexpr double blank = 0.42;
-
 struct Glyph {
     LetterOutlines outlines;
     double left; // white to leave before the outline's origin
@@ -26,12 +24,12 @@ Glyph cut(char sign, const char* code)
 {
     const LetterOutlines outlines(code);
     const LetterEdges edges(outlines);
-    constexpr double white = 0.25;
-    constexpr double share = 0.72;
     const bool spaced = std::isalnum(static_cast<unsigned char>(sign)) != 0;
-    const double left =
-        white / 2 - (spaced ? share * edges.opennessOfLeft() : 0.06) - edges.leftmost();
-    const double right = white / 2 - (spaced ? share * edges.opennessOfRight() : 0.02);
+    const double left = whiteBetweenLetters / 2 -
+                        (spaced ? shareOfOpenSides * edges.opennessOfLeft() : 0.06) -
+                        edges.leftmost();
+    const double right =
+        whiteBetweenLetters / 2 - (spaced ? shareOfOpenSides * edges.opennessOfRight() : 0.02);
     return {outlines, left, left + edges.rightmost() + right};
 }
 
@@ -72,7 +70,7 @@ double layOut(const Lettering& line, const Visit& visit)
     double x = 0;
     for (const char letter : line.text) {
         if (letter == ' ') {
-            x += blank + line.tracking;
+            x += blankBetweenWords + line.tracking;
             continue;
         }
         const char sign = capital(letter);

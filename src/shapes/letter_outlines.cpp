@@ -13,51 +13,40 @@ namespace
 using Point = LetterOutlines::Point;
 
 constexpr double weight = LetterOutlines::weight;
-constexpr double deepest = 0.30; // white that a gap borrows
 
-template <std::size_t Count>
-std::array<double, Count> numbers(std::istringstream& code)
-{
-    std::array<double, Count> values{};
-    for (double& value : values)
-        code >> value;
-    return values;
-}
-
-// A point of the letter's box on the way of a pen that stays inside.
 Point inside(double x, double y)
 {
-    return {x + weight / 2, weight / 2 + y * (1 - weight)};
+    return penAt(x, y, weight);
 }
 
 } // namespace
 
 LetterOutlines::LetterOutlines(const char* code)
 {
-    std::istringstream input(code);
-    char command = 0;
     bool penDown = false;
-    while (input >> command) {
+    for (const PenMove& move : penMoves(code)) {
+        const char command = move.command;
         if (command == 'M' || (command == 'A' && !penDown) || command == 'O')
             m_strokes.emplace_back();
         if (command == 'M' || command == 'L') {
-            const auto [x, y] = numbers<2>(input);
-            m_strokes.back().push_back(inside(x, y));
+            m_strokes.back().push_back(inside(move.numbers[0], move.numbers[1]));
         } else if (command == 'C') {
-            addCurve(input);
+            addCurve(move);
         } else if (command == 'A' || command == 'O') {
-            addArc(input, command == 'O');
+            addArc(move);
         } else if (command == 'D') {
-            addSlant(input);
+            const auto corners = slantCorners(move, weight);
+            m_slants.emplace_back(corners.begin(), corners.end());
         }
         penDown = command != 'O' && command != 'D';
     }
 }
 
-void LetterOutlines::addArc(std::istringstream& code, bool whole)
+void LetterOutlines::addArc(const PenMove& arc)
 {
-    const auto [cx, cy, rx, ry] = numbers<4>(code);
-    const auto [from, sweep] = whole ? std::array<double, 2>{0, 360} : numbers<2>(code);
+    const auto [cx, cy, rx, ry, start, part] = arc.numbers;
+    const double from = arc.command == 'O' ? 0 : start;
+    const double sweep = arc.command == 'O' ? 360 : part;
     constexpr int steps = 32;
     for (int step = 0; step <= steps; ++step) {
         const double angle = (from + sweep * step / steps) * std::numbers::pi / 180;
@@ -65,10 +54,10 @@ void LetterOutlines::addArc(std::istringstream& code, bool whole)
     }
 }
 
-void LetterOutlines::addCurve(std::istringstream& code)
+void LetterOutlines::addCurve(const PenMove& curve)
 {
     const Point a = m_strokes.back().back();
-    const auto [x1, y1, x2, y2, x3, y3] = numbers<6>(code);
+    const auto [x1, y1, x2, y2, x3, y3] = curve.numbers;
     const Point b = inside(x1, y1);
     const Point c = inside(x2, y2);
     const Point d = inside(x3, y3);
@@ -82,15 +71,6 @@ void LetterOutlines::addCurve(std::istringstream& code)
         };
         m_strokes.back().push_back({between(&Point::x), between(&Point::y)});
     }
-}
-
-void LetterOutlines::addSlant(std::istringstream& code)
-{
-    const auto [x1, y1, x2, y2] = numbers<4>(code);
-    const double half = weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
-    const double left1 = x1 + weight / 2 - half;
-    const double left2 = x2 + weight / 2 - half;
-    m_slants.push_back({{left1, y1}, {left1 + 2 * half, y1}, {left2 + 2 * half, y2}, {left2, y2}});
 }
 
 LetterEdges::LetterEdges(const LetterOutlines& outlines)
@@ -122,7 +102,7 @@ double LetterEdges::opennessOfLeft() const
 {
     double white = 0;
     for (const double left : m_left)
-        white += std::min(left - leftmost(), deepest);
+        white += std::min(left - leftmost(), deepestOpening);
     return white / rows;
 }
 
@@ -130,7 +110,7 @@ double LetterEdges::opennessOfRight() const
 {
     double white = 0;
     for (const double right : m_right)
-        white += std::min(rightmost() - right, deepest);
+        white += std::min(rightmost() - right, deepestOpening);
     return white / rows;
 }
 

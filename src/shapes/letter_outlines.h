@@ -1,7 +1,8 @@
 #pragma once
 
+#include "shapes/letters.h"
+
 #include <array>
-#include <sstream>
 #include <vector>
 
 namespace quillet
@@ -12,10 +13,7 @@ namespace quillet
 class LetterOutlines
 {
 public:
-    struct Point {
-        double x = 0;
-        double y = 0;
-    };
+    using Point = LetterPoint;
     using Points = std::vector<Point>;
 
     static constexpr double weight = 0.15; // of the pen
@@ -27,9 +25,8 @@ public:
     [[nodiscard]] const std::vector<Points>& slants() const { return m_slants; }
 
 private:
-    void addArc(std::istringstream& code, bool whole);
-    void addCurve(std::istringstream& code);
-    void addSlant(std::istringstream& code);
+    void addArc(const PenMove& arc);
+    void addCurve(const PenMove& curve);
 
     std::vector<Points> m_strokes;
     std::vector<Points> m_slants;

@@ -1,5 +1,8 @@
 #include "shapes/letters.h"
 
+#include <cmath>
+#include <sstream>
+
 namespace quillet
 {
 
@@ -55,6 +58,35 @@ const std::map<char, const char*>& letterStrokes()
         {'\'', "D .04 0 0 .27"},
     };
     return table;
+}
+
+std::vector<PenMove> penMoves(const char* code)
+{
+    const auto count = [](char command) -> std::size_t {
+        if (command == 'C' || command == 'A')
+            return 6;
+        return command == 'M' || command == 'L' ? 2 : 4;
+    };
+    std::vector<PenMove> moves;
+    std::istringstream text(code);
+    for (PenMove move; text >> move.command; moves.push_back(move))
+        for (std::size_t i = 0; i < count(move.command); ++i)
+            text >> move.numbers[i];
+    return moves;
+}
+
+LetterPoint penAt(double x, double y, double weight)
+{
+    return {x + weight / 2, weight / 2 + y * (1 - weight)};
+}
+
+std::array<LetterPoint, 4> slantCorners(const PenMove& slant, double weight)
+{
+    const auto& [x1, y1, x2, y2, unused, unusedToo] = slant.numbers;
+    const double half = weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
+    const double left1 = x1 + weight / 2 - half;
+    const double left2 = x2 + weight / 2 - half;
+    return {{{left1, y1}, {left1 + 2 * half, y1}, {left2 + 2 * half, y2}, {left2, y2}}};
 }
 
 } // namespace quillet

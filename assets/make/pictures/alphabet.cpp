@@ -5,25 +5,11 @@
 
 #include <QTransform>
 
-#include <array>
-#include <cmath>
-#include <sstream>
-#include <stdexcept>
-
 namespace quillet
 {
 
 namespace
 {
-
-template <std::size_t count>
-std::array<double, count> numbers(std::istringstream& code)
-{
-    std::array<double, count> values{};
-    for (double& value : values)
-        code >> value;
-    return values;
-}
 
 // Joins the strokes of one letter. Every part turns clockwise, as Qt's stroker does; if one turned
 // the other way, its overlaps with the rest would be holes.
@@ -37,11 +23,12 @@ public:
 private:
     [[nodiscard]] QPointF inside(double x, double y) const
     {
-        return {x + m_weight / 2, m_weight / 2 + y * (1 - m_weight)};
+        const LetterPoint at = penAt(x, y, m_weight);
+        return {at.x, at.y};
     }
-    void addArc(std::istringstream& code);
-    void addEllipse(std::istringstream& code);
-    void addSlant(std::istringstream& code);
+    void addArc(const PenMove& arc);
+    void addEllipse(const PenMove& ellipse);
+    void addSlant(const PenMove& slant);
     void finishStroke();
 
     double m_weight;
@@ -51,57 +38,51 @@ private:
 
 QPainterPath Pen::write(const char* code)
 {
-    std::istringstream input(code);
-    char command = 0;
-    while (input >> command) {
-        if (command == 'M') {
+    for (const PenMove& move : penMoves(code)) {
+        const auto& [x1, y1, x2, y2, x3, y3] = move.numbers;
+        if (move.command == 'M') {
             finishStroke();
-            const auto [x, y] = numbers<2>(input);
-            m_stroke.moveTo(inside(x, y));
-        } else if (command == 'L') {
-            const auto [x, y] = numbers<2>(input);
-            m_stroke.lineTo(inside(x, y));
-        } else if (command == 'C') {
-            const auto [x1, y1, x2, y2, x, y] = numbers<6>(input);
-            m_stroke.cubicTo(inside(x1, y1), inside(x2, y2), inside(x, y));
-        } else if (command == 'A') {
-            addArc(input);
-        } else if (command == 'O') {
-            addEllipse(input);
-        } else if (command == 'D') {
-            addSlant(input);
+            m_stroke.moveTo(inside(x1, y1));
+        } else if (move.command == 'L') {
+            m_stroke.lineTo(inside(x1, y1));
+        } else if (move.command == 'C') {
+            m_stroke.cubicTo(inside(x1, y1), inside(x2, y2), inside(x3, y3));
+        } else if (move.command == 'A') {
+            addArc(move);
+        } else if (move.command == 'O') {
+            addEllipse(move);
+        } else if (move.command == 'D') {
+            addSlant(move);
         }
     }
     finishStroke();
     return m_outline;
 }
 
-void Pen::addArc(std::istringstream& code)
+void Pen::addArc(const PenMove& arc)
 {
-    const auto [cx, cy, rx, ry, from, sweep] = numbers<6>(code);
+    const auto& [cx, cy, rx, ry, from, sweep] = arc.numbers;
     const QRectF box(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry));
     if (m_stroke.elementCount() == 0)
         m_stroke.arcMoveTo(box, from);
     m_stroke.arcTo(box, from, sweep);
 }
 
-void Pen::addEllipse(std::istringstream& code)
+void Pen::addEllipse(const PenMove& ellipse)
 {
-    const auto [cx, cy, rx, ry] = numbers<4>(code);
+    const auto& [cx, cy, rx, ry, unused, unusedToo] = ellipse.numbers;
     finishStroke();
     m_stroke.addEllipse(QRectF(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry)));
     finishStroke();
 }
 
-void Pen::addSlant(std::istringstream& code)
+void Pen::addSlant(const PenMove& slant)
 {
-    const auto [x1, y1, x2, y2] = numbers<4>(code);
     finishStroke();
-    const double half = m_weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
-    const double left1 = x1 + m_weight / 2 - half;
-    const double left2 = x2 + m_weight / 2 - half;
-    m_outline.addPolygon(
-        QPolygonF{{left1, y1}, {left1 + 2 * half, y1}, {left2 + 2 * half, y2}, {left2, y2}});
+    QPolygonF corners;
+    for (const LetterPoint& corner : slantCorners(slant, m_weight))
+        corners << QPointF(corner.x, corner.y);
+    m_outline.addPolygon(corners);
     m_outline.closeSubpath();
 }
 
@@ -127,13 +108,12 @@ struct Glyph {
 double openness(const Mask& mask, bool leftSide)
 {
     const QRect area = mask.bounds();
-    constexpr double deepest = 0.30;
     double white = 0;
     for (int y = area.top() + 1; y < area.bottom(); ++y) {
         int x = 0;
         while (x < area.width() && mask.at(leftSide ? area.left() + x : area.right() - x, y) < 0.5F)
             ++x;
-        white += std::min((x - 1) / 100.0, deepest);
+        white += std::min((x - 1) / 100.0, deepestOpening);
     }
     return white / (area.height() - 2);
 }
@@ -145,8 +125,7 @@ Glyph cut(char letter, const Lettering& lettering)
     const Canvas ruler(QSize(3, 3), 100);
     const QPainterPath moved = glyph.outline.translated(1, 1);
     const Mask mask = ruler.mask(moved);
-    const double white = 0.25 + lettering.tracking;
-    const double shape = 0.72;
+    const double white = whiteBetweenLetters + lettering.tracking;
     const QRectF box = glyph.outline.boundingRect();
     if (letter >= '0' && letter <= '9') {
         // Figures stand in columns.
@@ -154,8 +133,8 @@ Glyph cut(char letter, const Lettering& lettering)
         glyph.left = (glyph.advance - box.width()) / 2 - box.left();
         return glyph;
     }
-    glyph.left = white / 2 - shape * openness(mask, true) - box.left();
-    glyph.advance = glyph.left + box.right() + white / 2 - shape * openness(mask, false);
+    glyph.left = white / 2 - shareOfOpenSides * openness(mask, true) - box.left();
+    glyph.advance = glyph.left + box.right() + white / 2 - shareOfOpenSides * openness(mask, false);
     return glyph;
 }
 
@@ -168,7 +147,7 @@ QPainterPath letteringPath(std::string_view text, const Lettering& lettering)
     double x = 0;
     for (const char letter : text) {
         if (letter == ' ') {
-            x += 0.42 + lettering.tracking;
+            x += blankBetweenWords + lettering.tracking;
             continue;
         }
         const Glyph glyph = cut(letter, lettering);
