@@ -2,6 +2,7 @@
 
 #include "coach/hold_coach.h"
 #include "engine/hand_controller.h"
+#include "tests/kit/recorded_errors.h"
 #include "tests/kit/stacked_deck.h"
 #include "tests/kit/virtual_clock.h"
 
@@ -77,11 +78,6 @@ public:
 
 private:
     GameLog& m_log;
-};
-
-struct RecordedErrors : ErrorBox {
-    void showError(const std::string& text) override { texts.push_back(text); }
-    std::vector<std::string> texts;
 };
 
 // A whole game without a window. Dealing is by hand, and the best play is not shown.

@@ -4,6 +4,7 @@
 #include "table/table_painter.h"
 #include "tests/cards/card_pixels.h"
 #include "tests/kit/presented.h"
+#include "tests/kit/recorded_errors.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -16,13 +17,6 @@ namespace quillet::test
 
 namespace
 {
-
-class RecordingErrorBox : public ErrorBox
-{
-public:
-    void showError(const std::string& text) override { texts.push_back(text); }
-    std::vector<std::string> texts;
-};
 
 // A painted table with a card in the air, off screen.
 class CardFlightTest : public testing::TestWithParam<double>
@@ -89,7 +83,7 @@ protected:
     std::int32_t width = 0;
     std::int32_t height = 0;
     Preferences preferences;
-    RecordingErrorBox errorBox;
+    RecordedErrors errorBox;
     TableCanvas canvas;
     TablePictures pictures;
     CardLibrary library;

@@ -3,6 +3,7 @@
 #include "table/table_canvas.h"
 #include "tests/cards/card_pixels.h"
 #include "tests/kit/presented.h"
+#include "tests/kit/recorded_errors.h"
 
 #include <gtest/gtest.h>
 
@@ -13,11 +14,6 @@ namespace quillet::test
 
 namespace
 {
-
-struct RecordedErrors : ErrorBox {
-    void showError(const std::string& text) override { texts.push_back(text); }
-    std::vector<std::string> texts;
-};
 
 class PokerTableTest : public testing::Test
 {
