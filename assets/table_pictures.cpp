@@ -26,11 +26,6 @@ using namespace quillet;
 constexpr std::int16_t twoPair = 10;
 constexpr std::int16_t fullHouse = 4;
 
-BlendingRandom seeded(std::uint64_t seed)
-{
-    return BlendingRandom([] { return std::uint64_t{0}; }, seed);
-}
-
 // The two pairs of a hand that is drawn to a full house.
 std::array<bool, 5> pairsOf(const std::array<Card, 5>& hand)
 {
@@ -40,11 +35,8 @@ std::array<bool, 5> pairsOf(const std::array<Card, 5>& hand)
     return paired;
 }
 
-bool makesTheHand(std::uint64_t seed)
+bool makesTheHand(const PokerDeck& deck)
 {
-    BlendingRandom random = seeded(seed);
-    PokerDeck deck{};
-    shuffleDeck(deck, random);
     std::array<Card, 5> hand = dealHand(deck);
     if (EvaluatePokerHand(hand, false) != twoPair)
         return false;
@@ -52,13 +44,22 @@ bool makesTheHand(std::uint64_t seed)
     return EvaluatePokerHand(hand, true) == fullHouse;
 }
 
-std::uint64_t seedOfTheHand()
+// The deck of the hand that is photographed.
+class PhotographedDeck : public DeckSource
 {
-    std::uint64_t seed = 1;
-    while (!makesTheHand(seed))
-        ++seed;
-    return seed;
-}
+public:
+    PhotographedDeck()
+    {
+        for (std::uint64_t seed = 1; !makesTheHand(m_deck); ++seed) {
+            BlendingRandom random([] { return std::uint64_t{0}; }, seed);
+            shuffleDeck(m_deck, random);
+        }
+    }
+    [[nodiscard]] PokerDeck nextDeck() override { return m_deck; }
+
+private:
+    PokerDeck m_deck = buildDeck();
+};
 
 class Photographer
 {
@@ -114,8 +115,7 @@ private:
     SdlSoundOutput m_sound;
     MessageErrorBox m_errorBox;
     EventClock m_clock;
-    BlendingRandom m_random = seeded(seedOfTheHand());
-    ShuffledDecks m_decks{m_random};
+    PhotographedDeck m_decks;
     Desktop m_desktop{m_store,
                       m_shell,
                       m_sound,
