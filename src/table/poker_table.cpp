@@ -134,8 +134,6 @@ void PokerTable::resetGraphics()
         const QSizeF inner(m_measures.innerWidth, m_measures.innerHeight);
         if (canvas().innerSize() != inner || canvas().scale() != canvas().devicePixelRatioF())
             makePictures();
-        for (PictureBox* deck : m_pictures.picDeal)
-            deck->setShowing(false);
         for (const Slot slot : allSlots) {
             takeAway(slot);
             showHold(slot, false);
