@@ -6,6 +6,7 @@
 #include "main_window/main_menus.h"
 #include "main_window/status_bar.h"
 #include "platform/number_keys.h"
+#include "platform/window_exposure.h"
 #include "screens/frm_about.h"
 #include "screens/frm_exit_no_banner.h"
 #include "screens/help_viewer.h"
@@ -51,7 +52,7 @@ void showExitScreen(frmMain& window, const Desktop& desktop)
 } // namespace
 
 frmMain::frmMain(Desktop& desktop)
-    : m_desktop(desktop), m_layout(desktop.metrics, true), m_place(*this),
+    : m_desktop(desktop), m_layout(desktop.metrics, true),
       m_sessionEnd(desktop.clock,
                    [this] {
                        NoErrorBox nobody;

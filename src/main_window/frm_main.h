@@ -10,7 +10,6 @@
 #include "main_window/desktop.h"
 #include "main_window/window_layout.h"
 #include "platform/session_end.h"
-#include "platform/window_place.h"
 #include "sound/game_cues.h"
 #include "table/poker_table.h"
 
@@ -83,7 +82,6 @@ private:
 
     Desktop& m_desktop;
     WindowLayout m_layout;
-    WindowPlace m_place;
     SessionEnd m_sessionEnd;
 
     HandState m_state;

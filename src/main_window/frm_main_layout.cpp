@@ -35,11 +35,10 @@ void frmMain::setOuterSize(QSizeF twips)
 void frmMain::Form_Resize()
 {
     guarded(m_desktop.errorBox, "Form_Resize", [this] {
-        if (isMaximized() || isFullScreen()) {
-            hide();
+        // The window manager still knows where the window was. Hidden and shown anew, it would be
+        // placed anew, or filled again by the state that the manager had not yet taken off.
+        if (isMaximized() || isFullScreen())
             showNormal();
-            m_place.comeBack();
-        }
         if (isMinimized() || isMaximized())
             return;
         const bool sizeIsRight = size() == sizeHint();

@@ -12,7 +12,7 @@ import time
 import pyatspi
 from gi.repository import GLib
 
-PATIENCE = 20  # seconds
+PATIENCE = 60  # seconds: cards fly slowly on a busy machine
 CARD = re.compile(r"Card (\d): (Ace|Two|Three|Four|Five|Six|Seven|Eight|Nine|Ten|Jack|Queen|King) "
                   r"of (clubs|diamonds|hearts|spades)(, held)?$")
 heard = []  # (kind, name) of every event of the program, while no card flies

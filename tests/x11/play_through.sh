@@ -20,9 +20,10 @@ fail() {
     exit 1
 }
 
-# wait_for SECONDS WHAT COMMAND...: until the command succeeds.
+# wait_for SECONDS WHAT COMMAND...: until the command succeeds. A busy machine takes three times the
+# seconds.
 wait_for() {
-    local deadline=$((SECONDS + $1)) what=$2
+    local deadline=$((SECONDS + 3 * $1)) what=$2
     shift 2
     until "$@"; do
         ((SECONDS < deadline)) || fail "waited in vain for $what"
@@ -220,9 +221,8 @@ cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
 start
 xdotool windowmove "$window" 60 40
 wait_for 5 "the move" moved_from "$left,$top"
-sleep 1 # only a place that lasts is the window's own
 place=$(place_of_window)
-for state in fullscreen maximized_vert,maximized_horz; do
+for state in fullscreen maximized_vert,maximized_horz fullscreen; do
     wmctrl -i -r "$window" -b "add,$state"
     wait_for 10 "the end of $state" is_back_at "$place"
 done

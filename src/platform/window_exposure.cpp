@@ -1,0 +1,26 @@
+#include "platform/window_exposure.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+namespace quillet
+{
+
+void showAndWaitUntilExposed(QWidget& window)
+{
+    constexpr int longestExposure = 1000; // milliseconds
+    if (window.isVisible())
+        return;
+    window.show();
+    // Its timeout is an event, too, which ends the last waiting for one.
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(longestExposure);
+    while (!window.windowHandle()->isExposed() && patience.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
+                                        QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace quillet
