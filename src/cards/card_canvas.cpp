@@ -71,7 +71,9 @@ void CardCanvas::turnUpperHalf(double slope)
     const double middleX = (width - 1) / 2.0;
     const double middleY = (m_image.height() - 1) / 2.0;
     for (int i = 0; i < count / 2; ++i) {
-        const double below = i / width - middleY - slope * (i % width - middleX);
+        const int row = i / width;
+        const int column = i % width;
+        const double below = row - middleY - slope * (column - middleX);
         QRgb& here = pixels[i];
         QRgb& opposite = pixels[count - 1 - i];
         (below <= 0 ? opposite : here) = below <= 0 ? here : opposite;

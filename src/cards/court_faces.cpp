@@ -65,8 +65,8 @@ void paintSash(QPainter& painter, const Palette& palette)
 void paintFrame(CardCanvas& canvas)
 {
     const int line = canvas.lineWidth(1);
-    const int left = static_cast<int>(canvas.snappedX(courtLeft) * canvas.scaleX() + 0.5);
-    const int top = static_cast<int>(canvas.snappedY(courtTop) * canvas.scaleY() + 0.5);
+    const int left = qRound(canvas.snappedX(courtLeft) * canvas.scaleX());
+    const int top = qRound(canvas.snappedY(courtTop) * canvas.scaleY());
     const QSize size(canvas.image().width() - 2 * left, canvas.image().height() - 2 * top);
     QPainter painter;
     canvas.beginInPixels(painter);

@@ -107,20 +107,20 @@ QTransform reflectionIn(double axis)
 Palette::Palette(std::initializer_list<std::pair<char, QRgb>> colours)
 {
     for (const auto& [letter, colour] : colours)
-        m_colours[static_cast<std::size_t>(letter)] = colour;
+        m_colours[static_cast<unsigned char>(letter)] = colour;
 }
 
 Palette Palette::with(std::initializer_list<std::pair<char, QRgb>> colours) const
 {
     Palette changed = *this;
     for (const auto& [letter, colour] : colours)
-        changed.m_colours[static_cast<std::size_t>(letter)] = colour;
+        changed.m_colours[static_cast<unsigned char>(letter)] = colour;
     return changed;
 }
 
 QRgb Palette::operator[](char letter) const
 {
-    return m_colours[static_cast<std::size_t>(letter)];
+    return m_colours[static_cast<unsigned char>(letter)];
 }
 
 QPainterPath readPath(std::string_view text)

@@ -21,7 +21,7 @@ inline constexpr RankSet royalRanks = highRanks | ten;
 
 // What cards that are kept together show: all that the rows of a chart ask of them.
 struct HoldFacts {
-    explicit HoldFacts(std::span<const Card> cards);
+    explicit HoldFacts(std::span<const Card> held);
 
     // Cards of different ranks and of one suit.
     [[nodiscard]] bool suitedRun(int count) const { return suited && run(count); }

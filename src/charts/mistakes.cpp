@@ -81,6 +81,7 @@ public:
         }
         std::ranges::stable_sort(all, std::greater(), &std::pair<Int128, Mistake>::first);
         std::vector<Mistake> sorted;
+        sorted.reserve(all.size());
         for (const auto& entry : all)
             sorted.push_back(entry.second);
         return sorted;

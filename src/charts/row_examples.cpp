@@ -36,13 +36,12 @@ RowExample withMixedSuits(const RowExample& example, std::mt19937& chance)
     struct Dealt {
         unsigned place;
         Hold kept;
-        auto operator<=>(const Dealt&) const = default;
     };
     std::array<Dealt, 5> cards{};
     for (std::size_t i = 0; i < cards.size(); ++i)
         cards[i] = {suits[example.places[i] / 13U] * 13 + example.places[i] % 13U,
                     example.hold >> i & 1U};
-    std::ranges::sort(cards);
+    std::ranges::sort(cards, {}, &Dealt::place);
     RowExample mixed;
     for (std::size_t i = 0; i < cards.size(); ++i) {
         mixed.places[i] = static_cast<DeckPlace>(cards[i].place);

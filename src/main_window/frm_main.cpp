@@ -238,9 +238,11 @@ void frmMain::keyPressEvent(QKeyEvent* event)
     const std::optional<int> digit = digitOfKey(*event, QGuiApplication::platformName());
     const int key = event->key();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (event->isAutoRepeat() || (!digit && !plain))
+    if (event->isAutoRepeat() || (!digit && !plain)) {
         QMainWindow::keyPressEvent(event);
-    else if (digit && *digit >= 1 && *digit <= 5)
+        return;
+    }
+    if (digit && *digit >= 1 && *digit <= 5)
         picPoker_MouseDown(static_cast<std::int16_t>(*digit - 1));
     else if (const std::optional<Slot> slot = m_table.focusedSlot(); slot && key == Qt::Key_Space)
         picPoker_MouseDown(static_cast<std::int16_t>(*slot));

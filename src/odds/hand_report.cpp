@@ -14,6 +14,11 @@ namespace
 
 constexpr std::size_t shownByDefault = 6;
 
+std::int64_t asNumber(bool truth)
+{
+    return truth ? 1 : 0;
+}
+
 // What the draws to a hold come to: "1 Royal Flush, 8 Flush of 47".
 std::string waysText(const OutcomeCounts& counts)
 {
@@ -100,9 +105,9 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
                               Exact{hand.expectedCredits(hold), 8},
                               Exact{best - hand.expectedCredits(hold), 8},
                               marks(hand, hold),
-                              std::int64_t{hand.worth[hold] == hand.worth[hand.bestHold]},
-                              std::int64_t{hold == charts},
-                              std::int64_t{hand.isAccepted(hold)},
+                              asNumber(hand.worth[hold] == hand.worth[hand.bestHold]),
+                              asNumber(hold == charts),
+                              asNumber(hand.isAccepted(hold)),
                               std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
         for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
             row.emplace_back(std::int64_t{counts[outcome]});

@@ -4,6 +4,7 @@
 #include "odds/reports.h"
 
 #include <algorithm>
+#include <array>
 #include <istream>
 #include <ostream>
 
@@ -19,7 +20,7 @@ std::string credits(std::int64_t worth)
 {
     constexpr std::int64_t decimals = 100'000'000;
     const auto scaled = static_cast<std::int64_t>(
-        (Int128{worth} * 2 * decimals + DealtHand::worthUnit) / (2 * DealtHand::worthUnit));
+        (Int128{2} * worth * decimals + DealtHand::worthUnit) / (Int128{2} * DealtHand::worthUnit));
     const std::string digits = std::to_string(scaled % decimals);
     return std::to_string(scaled / decimals) + "." + std::string(8 - digits.size(), '0') + digits;
 }
@@ -28,16 +29,18 @@ void writeLine(std::ostream& out, const DealtHand& hand, Format format)
 {
     const Hold charts = hand.bestAccepted();
     const std::int64_t best = hand.worth[hand.bestHold];
-    struct {
+    struct Field {
         std::string name, value;
         bool isText;
-    } const fields[] = {{"hand", holdText(hand.places, holdAll), true},
-                        {"row", std::to_string(hand.chartCode), false},
-                        {"best", holdText(hand.places, hand.bestHold), true},
-                        {"expected", credits(best), false},
-                        {"chart", holdText(hand.places, charts), true},
-                        {"chart expected", credits(hand.worth[charts]), false},
-                        {"cost", credits(best - hand.worth[charts]), false}};
+    };
+    const auto fields =
+        std::to_array<Field>({{"hand", holdText(hand.places, holdAll), true},
+                              {"row", std::to_string(hand.chartCode), false},
+                              {"best", holdText(hand.places, hand.bestHold), true},
+                              {"expected", credits(best), false},
+                              {"chart", holdText(hand.places, charts), true},
+                              {"chart expected", credits(hand.worth[charts]), false},
+                              {"cost", credits(best - hand.worth[charts]), false}});
     std::string line;
     for (const auto& field : fields) {
         line += line.empty() ? (format == Format::json ? "{" : "")

@@ -66,68 +66,89 @@ std::string coloured(const std::string& cards)
     return text;
 }
 
+struct TextColumn {
+    std::size_t index; // in the table
+    std::size_t width; // characters
+    bool alignsRight;
+};
+
+std::vector<TextColumn> textColumns(const Table& table)
+{
+    std::vector<TextColumn> columns;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        TextColumn column{i, table.columns[i].heading.size(), false};
+        if (column.width == 0)
+            continue;
+        for (const auto& row : table.rows) {
+            const std::size_t size = textOf(table.columns[i], row[i]).size();
+            column.width = std::max(column.width, size > widestCell ? 0 : size);
+            column.alignsRight = column.alignsRight || isNumber(row[i]);
+        }
+        columns.push_back(column);
+    }
+    return columns;
+}
+
+// cellText(i) is what column i of the table holds in this line.
+template <typename CellText>
+std::string textLine(const std::vector<TextColumn>& columns, const CellText& cellText)
+{
+    std::string text = " ";
+    std::string ahead; // blanks are written only before something
+    for (const TextColumn& column : columns) {
+        const std::string cell = cellText(column.index);
+        const std::string blanks(column.width - std::min(column.width, cell.size()), ' ');
+        if (column.alignsRight)
+            ahead += blanks;
+        if (cell.size() > column.width) {
+            text += ahead;
+            text += ' ' + cell + "\n ";
+            ahead.assign(text.size() - text.rfind('\n') + column.width - 1, ' ');
+        } else if (!cell.empty()) {
+            text += ahead;
+            text += ' ' + cell;
+            ahead.clear();
+        } else {
+            ahead += ' ';
+        }
+        if (!column.alignsRight)
+            ahead += blanks;
+        ahead += ' ';
+    }
+    return text;
+}
+
+void colourCards(std::string& text, const Column& column, const Cell& cell)
+{
+    if (!std::holds_alternative<Cards>(cell))
+        return;
+    const std::string cards = textOf(column, cell);
+    if (const auto at = text.find(cards); at != std::string::npos && cards != "nothing")
+        text.replace(at, cards.size(), coloured(cards));
+}
+
+void writeExact(std::ostream& out, const Column& column, const Cell& cell)
+{
+    const auto* exact = std::get_if<Exact>(&cell);
+    if (exact != nullptr && !column.heading.empty())
+        out << "      " << column.field << " = " << exact->value.text() << "\n";
+}
+
 void writeTextTable(std::ostream& out, const Table& table, const Style& style)
 {
     out << table.intro;
-    std::vector<std::size_t> shown;
-    std::vector<std::size_t> widths;
-    for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        if (table.columns[i].heading.empty())
-            continue;
-        std::size_t width = table.columns[i].heading.size();
-        for (const auto& row : table.rows) {
-            const std::size_t size = textOf(table.columns[i], row[i]).size();
-            width = std::max(width, size > widestCell ? 0 : size);
-        }
-        shown.push_back(i);
-        widths.push_back(width);
-    }
-    const auto line = [&](const auto& cellText, const auto& alignsRight) {
-        std::string text = " ";
-        std::string ahead; // blanks are written only before something
-        for (std::size_t n = 0; n < shown.size(); ++n) {
-            const std::string cell = cellText(shown[n]);
-            const std::string blanks(widths[n] - std::min(widths[n], cell.size()), ' ');
-            if (alignsRight(shown[n]))
-                ahead += blanks;
-            if (cell.size() > widths[n]) {
-                text += ahead + ' ' + cell + "\n ";
-                ahead.assign(text.size() - text.rfind('\n') + widths[n] - 1, ' ');
-            } else if (!cell.empty()) {
-                text += ahead + ' ' + cell;
-                ahead.clear();
-            } else {
-                ahead += ' ';
-            }
-            if (!alignsRight(shown[n]))
-                ahead += blanks;
-            ahead += ' ';
-        }
-        return text;
-    };
-    const auto rightColumn = [&table](std::size_t i) {
-        return std::ranges::any_of(table.rows, [i](const auto& row) { return isNumber(row[i]); });
-    };
+    const std::vector<TextColumn> columns = textColumns(table);
     if (!table.rows.empty())
-        out << line([&](std::size_t i) { return table.columns[i].heading; }, rightColumn) << "\n";
+        out << textLine(columns, [&](std::size_t i) { return table.columns[i].heading; }) << "\n";
     for (const auto& row : table.rows) {
         std::string text =
-            line([&](std::size_t i) { return textOf(table.columns[i], row[i]); }, rightColumn);
-        if (style.colour) {
-            for (const std::size_t i : shown) {
-                if (!std::holds_alternative<Cards>(row[i]))
-                    continue;
-                const std::string cards = textOf(table.columns[i], row[i]);
-                if (const auto at = text.find(cards); at != std::string::npos && cards != "nothing")
-                    text.replace(at, cards.size(), coloured(cards));
-            }
-        }
+            textLine(columns, [&](std::size_t i) { return textOf(table.columns[i], row[i]); });
+        for (std::size_t i = 0; style.colour && i < row.size(); ++i)
+            if (!table.columns[i].heading.empty())
+                colourCards(text, table.columns[i], row[i]);
         out << text << "\n";
-        for (std::size_t i = 0; style.exact && i < row.size(); ++i) {
-            const auto* exact = std::get_if<Exact>(&row[i]);
-            if (exact != nullptr && !table.columns[i].heading.empty())
-                out << "      " << table.columns[i].field << " = " << exact->value.text() << "\n";
-        }
+        for (std::size_t i = 0; style.exact && i < row.size(); ++i)
+            writeExact(out, table.columns[i], row[i]);
     }
     out << table.outro;
 }

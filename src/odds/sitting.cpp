@@ -34,7 +34,8 @@ double cumulant(const OneHand& hand, std::int64_t unit, double slope)
 {
     double largest = 0; // nothing wins nothing
     const auto power = [&](std::size_t outcome) {
-        return slope * static_cast<double>(hand.pays[outcome] / unit);
+        const std::int64_t units = hand.pays[outcome] / unit;
+        return slope * static_cast<double>(units);
     };
     for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
         largest = std::max(largest, hand.chance[outcome] > 0 ? power(outcome) : 0);
@@ -134,7 +135,7 @@ Sitting::Sitting(const OneHand& hand, std::int64_t hands)
         roots[i] =
             std::polar(1.0L, 2 * std::numbers::pi_v<long double> * static_cast<long double>(i) /
                                  static_cast<long double>(size));
-    const auto turn = [&](std::uint64_t steps) { return roots[steps % size]; };
+    const auto turn = [&](std::uint64_t steps) { return roots[steps & (size - 1)]; };
     std::vector<Complex> values(size);
     for (std::size_t k = 0; k <= size / 2; ++k) {
         Complex one = 0;

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace quillet
 {
 
@@ -20,7 +22,7 @@ struct Offering {
     const char* text;
 };
 
-constexpr Offering offerings[] = {
+constexpr auto offerings = std::to_array<Offering>({
     {"Label1", "Rules of Texas Hold'em, step by step"},
     {"Label2", "Starting hands, seat by seat"},
     {"Label4", "Pot odds without a calculator"},
@@ -33,7 +35,7 @@ constexpr Offering offerings[] = {
     {"Label11", "Books worth reading"},
     {"Label12", "Questions and answers from players"},
     {"lblLink", "More free programs to download"},
-};
+});
 
 QPushButton* namedButton(const char* name, const QString& text)
 {

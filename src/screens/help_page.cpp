@@ -13,7 +13,7 @@ namespace quillet
 namespace
 {
 
-const char documentAddress[] = "quillet-help:/quillet.hlp";
+constexpr const char* documentAddress = "quillet-help:/quillet.hlp";
 
 } // namespace
 
@@ -66,7 +66,7 @@ void HelpPage::searchOnFromHere()
 HelpPage::Found HelpPage::search(const QString& text, QTextDocument::FindFlags direction)
 {
     if (find(text, direction))
-        return Found::Onward;
+        return Found::onward;
     const QTextCursor before = textCursor();
     const int scrolledTo = verticalScrollBar()->value();
     QTextCursor otherEnd(document());
@@ -74,10 +74,10 @@ HelpPage::Found HelpPage::search(const QString& text, QTextDocument::FindFlags d
         otherEnd.movePosition(QTextCursor::End);
     setTextCursor(otherEnd);
     if (find(text, direction))
-        return Found::AfterWrapping;
+        return Found::afterWrapping;
     setTextCursor(before);
     verticalScrollBar()->setValue(scrolledTo);
-    return Found::Nowhere;
+    return Found::nowhere;
 }
 
 HelpPage::Found HelpPage::searchWhileTyping(const QString& text)

@@ -12,7 +12,7 @@ class HelpPage : public QTextBrowser
     Q_OBJECT
 
 public:
-    enum class Found { Onward, AfterWrapping, Nowhere };
+    enum class Found { onward, afterWrapping, nowhere };
 
     explicit HelpPage(QWidget* parent = nullptr);
 

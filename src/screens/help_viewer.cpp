@@ -185,15 +185,15 @@ void HelpViewer::searchNext(QTextDocument::FindFlags direction)
         return;
     }
     switch (m_page->search(text, direction)) {
-    case HelpPage::Found::Onward:
+    case HelpPage::Found::onward:
         tell({});
         break;
-    case HelpPage::Found::AfterWrapping:
+    case HelpPage::Found::afterWrapping:
         tell(direction.testFlag(QTextDocument::FindBackward)
                  ? "Reached the top; the search went on from the end."
                  : "Reached the end; the search went on from the top.");
         break;
-    case HelpPage::Found::Nowhere:
+    case HelpPage::Found::nowhere:
         tell(notFound(text));
     }
 }
@@ -201,7 +201,7 @@ void HelpViewer::searchNext(QTextDocument::FindFlags direction)
 void HelpViewer::searchTyped(const QString& text)
 {
     const bool missing =
-        !text.isEmpty() && m_page->searchWhileTyping(text) == HelpPage::Found::Nowhere;
+        !text.isEmpty() && m_page->searchWhileTyping(text) == HelpPage::Found::nowhere;
     tell(missing ? notFound(text) : QString());
 }
 

@@ -54,7 +54,8 @@ std::string escaped(std::string_view text, std::string_view misread)
             result += "\\r";
         else if (c == '\t')
             result += "\\t";
-        else if (isControl(c) || outerBlank || looseByte || misread.find(c) != misread.npos)
+        else if (isControl(c) || outerBlank || looseByte ||
+                 misread.find(c) != std::string_view::npos)
             result += byteEscape(c);
         else
             result += c;
@@ -79,7 +80,8 @@ std::optional<char> hexByte(std::string_view text)
 
 std::string unescaped(std::string_view text)
 {
-    constexpr std::string_view letters = "nrt\\", meanings = "\n\r\t\\";
+    constexpr std::string_view letters = "nrt\\";
+    constexpr std::string_view meanings = "\n\r\t\\";
     std::string result;
     while (!text.empty()) {
         const char next = text.size() > 1 ? text[1] : '\0';

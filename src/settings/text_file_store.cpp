@@ -23,7 +23,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr qint64 largestFile = 1024 * 1024;
+constexpr qint64 largestFile = 1'048'576;
 
 // A write takes milliseconds. Who waits is the player, with a closing window.
 constexpr auto lockPatience = 2s;
@@ -52,7 +52,7 @@ QString absoluteFolder(const char* variable)
 
 QString userConfigFolder()
 {
-    if (const QString folder = absoluteFolder("XDG_CONFIG_HOME"); !folder.isEmpty())
+    if (QString folder = absoluteFolder("XDG_CONFIG_HOME"); !folder.isEmpty())
         return folder;
     QString home = absoluteFolder("HOME");
     if (const passwd* user = home.isEmpty() ? ::getpwuid(::getuid()) : nullptr)

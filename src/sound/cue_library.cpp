@@ -38,7 +38,8 @@ std::vector<char> contentsOf(const std::string& path, std::uintmax_t size)
 // file that was cut short, and set aside 4 GB where a chunk claims to be that large.
 bool isWhole(const std::vector<char>& contents)
 {
-    constexpr std::size_t riffHeader = 12, chunkHeader = 8;
+    constexpr std::size_t riffHeader = 12;
+    constexpr std::size_t chunkHeader = 8;
     std::size_t chunk = riffHeader;
     while (chunk + chunkHeader <= contents.size()) {
         Uint32 length = 0;

@@ -116,8 +116,8 @@ void CardFlight::prepareTable()
     if (board.size() != canvas.innerSize() || board.scale() != canvas.scale())
         board = Surface(canvas.innerSize(), canvas.scale());
     board.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
-    for (auto box = m_pictures.picDeal.rbegin(); box != m_pictures.picDeal.rend(); ++box)
-        (*box)->setShowing(false);
+    for (PictureBox* box : m_pictures.picDeal)
+        box->setShowing(false);
     // No event is handled on the way, so that what is uncovered meanwhile waits for the next card.
     canvas.presentWholeWindowWithNextFrame();
     canvas.refresh();

@@ -181,7 +181,7 @@ void PokerTable::flyCardTo(Slot slot)
 {
     // The deck's picture in the table is what is seen during the flight.
     showDeck();
-    const std::int32_t back = m_preferences.prfPKBackFace;
+    const std::int32_t backNumber = m_preferences.prfPKBackFace;
     const QPointF start = m_pictures.picDeal[0]->place().topLeft() + flyingCardOffset;
     const QPoint from = start.toPoint();
     const QPoint to = m_pictures.picPoker[slot]->place().topLeft().toPoint();
@@ -189,15 +189,15 @@ void PokerTable::flyCardTo(Slot slot)
     card.place.moveTopLeft(start);
     // Where the card lands, its rounded corners show the table of that place.
     card.picture.copyFrom(canvas().kept(), to, card.place.size(), {0, 0});
-    m_library.cdtDraw(card.picture, 0, 0, back, drawBack, whiteColor);
+    m_library.cdtDraw(card.picture, 0, 0, backNumber, drawBack, whiteColor);
     std::int32_t x = from.x();
     std::int32_t y = from.y();
-    m_flight.AnimateCard(x, y, to.x(), to.y(), 1, back, drawBack);
+    m_flight.AnimateCard(x, y, to.x(), to.y(), 1, backNumber, drawBack);
 
     // A flight that broke off has left the table to be drawn on directly, and the deck hidden.
     canvas().setPersistentImage(true);
     m_pictures.picDeal[0]->setShowing(true);
-    show(slot, {CardOnTable::Side::back, back, false});
+    show(slot, {CardOnTable::Side::back, backNumber, false});
     canvas().refresh();
 }
 

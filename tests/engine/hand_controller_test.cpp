@@ -146,7 +146,7 @@ TEST(HandController, everyRowPaysInItsSteps)
         const char* cue;
         int pause = 500;
     };
-    const Row rows[] = {
+    const auto rows = std::to_array<Row>({
         {royal, "12345", 4000, 160, "pokerwin3.wav"},
         {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav"},
         {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav"},
@@ -158,7 +158,7 @@ TEST(HandController, everyRowPaysInItsSteps)
         {jacks, "12", 5, 1, "pokerwin1.wav", 200},
         {"Tc Td 4h 7s 9c 2c 3d 5h 6s 8c", "12", 0, 0, "", 0},
         {"2h 4s 6c 8d Th 3c 5d 7h 9s Jc", "", 0, 0, "", 0},
-    };
+    });
     for (const Row& row : rows) {
         Game game;
         game.deal(row.dealt);

@@ -66,8 +66,9 @@ public:
         int count = 0;
         for (int y = 0; y < m_picture.height(); ++y)
             for (int x = 0; x < m_picture.width(); ++x)
-                count += qAlpha(m_picture.pixel(x, y)) == 255 &&
-                         m_picture.pixel(x, y) != shown.pixel(x, y);
+                if (qAlpha(m_picture.pixel(x, y)) == 255 &&
+                    m_picture.pixel(x, y) != shown.pixel(x, y))
+                    ++count;
         return count;
     }
 
@@ -82,14 +83,15 @@ private:
         const TableMeasures table{800, 514, 96, 130, 60, 169};
         auto frame = tableFrame(table);
         frame.push_back(chartFrame(table));
-        const char* names[] = {"top", "bottom", "side1", "side2"};
+        constexpr std::array names{"top", "bottom", "side1", "side2"};
         const auto paintPiece = [this](const QImage& piece, const QRectF& place) {
             const QRect to = deviceRect(place, m_scale);
             paint(piece.scaled(to.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
                   to.topLeft());
         };
         for (const FramePlace& place : frame)
-            paintPiece(QImage(QString(":/frame/%1.png").arg(names[int(place.piece)])), place.rect);
+            paintPiece(QImage(QString(":/frame/%1.png").arg(names[std::size_t(place.piece)])),
+                       place.rect);
         // The gilt edge of the left piece, at the chart's.
         const QImage left(":/frame/side1.png");
         const QImage edge = left.copy(left.width() * 9 / 13, 0, left.width(), left.height());
@@ -154,7 +156,7 @@ TEST(PresentedTable, aHandOnTwoDisplaysLooksAsItShould)
         for (int row = 0; row < 21; ++row) {
             const auto part = "pkLabel" + std::to_string(row);
             EXPECT_EQ(colours(part, 9).size() > 1, row == 10) << "the mark";
-            EXPECT_GT(colours(part, 160).size(), 2u) << "the caption";
+            EXPECT_GT(colours(part, 160).size(), 2U) << "the caption";
         }
     }
 }
@@ -184,7 +186,8 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     const QRect middle = back.rect().adjusted(9, 9, -9, -9);
     bool seen = false;
     for (int step = 0; step < 273; ++step) {
-        const QRectF at(209 + step, 95 + step * 189 / 273, 96, 130);
+        const int down = step * 189 / 273;
+        const QRectF at(209 + step, 95 + down, 96, 130);
         const QPoint place = known.origin() + deviceRect(at, 1.5).topLeft();
         seen = seen || look.copy(middle.translated(place)) == back.copy(middle);
     }
@@ -199,7 +202,8 @@ TEST(PresentedTable, deckAndChartNeverFlash)
     game.window->prfAnimation = true;
     game.window->prfAnimationDelay = 0;
     const QPoint deck = game.placeOf("picDeal0").topLeft();
-    const QPoint border = deck + QPoint(1, 8), middle = deck + QPoint(54, 68);
+    const QPoint border = deck + QPoint(1, 8);
+    const QPoint middle = deck + QPoint(54, 68);
     const QPoint chart = game.placeOf("pkLabel1").topLeft() + QPoint(3, 3);
     QRgb old = 0;
     const auto look = [&](const QImage& shown) {
@@ -207,7 +211,8 @@ TEST(PresentedTable, deckAndChartNeverFlash)
         EXPECT_EQ(shown.pixelColor(chart), QColor(0xe0, 0xe0, 0xe0));
         EXPECT_NE(shown.pixel(middle), old);
     };
-    const FrameWatch table(game.part("table"), look), panel(game.part("picPokerLabels"), look);
+    const FrameWatch table(game.part("table"), look);
+    const FrameWatch panel(game.part("picPokerLabels"), look);
     game.decks.stack(PlayedWindow::jacks);
     game.choose("mnuPoker");
     const QImage before = game.picture();
