@@ -1,7 +1,7 @@
 #include "main_window/chart_panel.h"
 
 #include "main_window/chart_row.h"
-#include "table/accessible_widgets.h"
+#include "platform/accessible_widgets.h"
 
 #include <QFontMetricsF>
 

@@ -1,7 +1,7 @@
 #include "main_window/status_bar.h"
 
 #include "main_window/window_layout.h"
-#include "table/accessible_widgets.h"
+#include "platform/accessible_widgets.h"
 #include "table/surface.h"
 
 #include <QCursor>

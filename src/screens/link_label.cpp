@@ -1,6 +1,7 @@
 #include "screens/link_label.h"
 
-#include <QAccessibleWidget>
+#include "platform/accessible_widgets.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,46 +9,10 @@
 namespace quillet
 {
 
-namespace
-{
-
-// Tells a screen reader that the text is a link and lets it be followed from there.
-class LinkLabelAccess : public QAccessibleWidget
-{
-public:
-    explicit LinkLabelAccess(LinkLabel* label) : QAccessibleWidget(label, QAccessible::Link) {}
-
-    [[nodiscard]] QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Name ? label()->text() : QAccessibleWidget::text(kind);
-    }
-    [[nodiscard]] QStringList actionNames() const override
-    {
-        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString& actionName) override
-    {
-        if (actionName == pressAction())
-            emit label()->clicked();
-        else
-            QAccessibleWidget::doAction(actionName);
-    }
-
-private:
-    [[nodiscard]] LinkLabel* label() const { return static_cast<LinkLabel*>(widget()); }
-};
-
-QAccessibleInterface* accessForLinkLabels(const QString& /*className*/, QObject* object)
-{
-    auto* label = qobject_cast<LinkLabel*>(object);
-    return label == nullptr ? nullptr : new LinkLabelAccess(label);
-}
-
-} // namespace
-
 LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
-    QAccessible::installFactory(accessForLinkLabels);
+    presentAsLink(*this);
+    setAccessibleName(text);
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);

@@ -71,10 +71,8 @@ void PictureBox::activate()
 {
     if (!m_showing)
         return;
-    if (m_checkable)
-        emit mouseDown();
-    else
-        emit clicked();
+    emit mouseDown();
+    emit clicked();
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event)

@@ -16,6 +16,7 @@ class TableCanvas;
 class PictureBox : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool checked READ isChecked)
 
 public:
     explicit PictureBox(TableCanvas& canvas);
@@ -42,11 +43,11 @@ public:
     void setShowing(bool showing);
     [[nodiscard]] bool isShowing() const { return m_showing; }
 
-    // What a screen reader is told: a checkable picture is a check box, any other a button.
-    void setCheckable(bool checkable) { m_checkable = checkable; }
-    [[nodiscard]] bool isCheckable() const { return m_checkable; }
+    // To a screen reader, a picture that can be checked is a check box.
     void setChecked(bool checked);
     [[nodiscard]] bool isChecked() const { return m_checked; }
+
+public slots:
     // The same as a click, from a screen reader.
     void activate();
 
@@ -70,7 +71,6 @@ private:
     Surface m_behind;
     bool m_showing = false;
     bool m_pressed = false;
-    bool m_checkable = false;
     bool m_checked = false;
 };
 

@@ -1,8 +1,8 @@
 #include "table/poker_table.h"
 
+#include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
 #include "platform/file_exists.h"
-#include "table/accessible_widgets.h"
 #include "table/card_names.h"
 #include "table/init_anim_delay.h"
 #include "table/masked_blit.h"
@@ -37,7 +37,6 @@ PokerTable::PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidg
       m_flight(m_pictures, m_library, preferences, errorBox)
 {
     setObjectName(QStringLiteral("pokerTable"));
-    installAccessibleWidgets();
     m_pictures.canvas = new TableCanvas(parent);
     canvas().setObjectName(QStringLiteral("table"));
     canvas().setAccessibleName(tr("Card table"));
@@ -61,6 +60,8 @@ void PokerTable::makeDeck()
         deck->setObjectName(QStringLiteral("picDeal%1").arg(i));
         if (i > 0)
             hideFromReaders(*deck); // beneath the first
+        else
+            presentAsButton(*deck);
         deck->setAccessibleName(tr("Deck"));
         connect(deck, &PictureBox::clicked, this,
                 [this, i] { emit deckClicked(static_cast<std::int16_t>(i)); });
@@ -75,7 +76,7 @@ void PokerTable::makePlaces()
         m_pictures.picPoker[slot] = place;
         place->setObjectName(QStringLiteral("picPoker%1").arg(slot));
         place->setFocusPolicy(Qt::TabFocus);
-        place->setCheckable(true);
+        presentAsCheckBox(*place);
         connect(place, &PictureBox::mouseDown, this, [this, slot] { emit cardPressed(slot); });
         connect(place, &PictureBox::doubleClicked, this,
                 [this, slot] { emit cardDoubleClicked(slot); });
