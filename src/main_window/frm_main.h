@@ -6,10 +6,10 @@
 #include "engine/game_screen.h"
 #include "engine/hand_controller.h"
 #include "engine/hand_state.h"
-#include "engine/preferences.h"
 #include "main_window/desktop.h"
 #include "main_window/window_layout.h"
 #include "platform/session_end.h"
+#include "settings/preferences.h"
 #include "sound/game_cues.h"
 #include "table/poker_table.h"
 

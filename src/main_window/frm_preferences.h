@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/preferences.h"
 #include "faults/run_time_error.h"
 #include "main_window/indicator_style.h"
+#include "settings/preferences.h"
 #include "table/card_library.h"
 #include "table/surface.h"
 

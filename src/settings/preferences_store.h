@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/preferences.h"
+#include "settings/preferences.h"
 #include "settings/settings_store.h"
 
 namespace quillet

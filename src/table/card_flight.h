@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/preferences.h"
 #include "faults/run_time_error.h"
+#include "settings/preferences.h"
 #include "table/card_library.h"
 #include "table/table_pictures.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "engine/card_table.h"
-#include "engine/preferences.h"
 #include "faults/run_time_error.h"
 #include "platform/clock.h"
+#include "settings/preferences.h"
 #include "table/card_flight.h"
 #include "table/card_library.h"
 #include "table/card_on_table.h"

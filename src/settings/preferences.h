@@ -7,18 +7,18 @@ namespace quillet
 {
 
 // What the player has chosen, as it stands before anything is read from the store. Truth values
-// and widths are those of the store's rules; see shell/preferences_store.h.
+// and widths are those of the store's rules; see preferences_store.h.
 struct Preferences {
     std::int32_t prfCardOutlineColor = 0; // 0x00BBGGRR
-    std::int32_t prfPKBackFace = 0;       // card-back design, 53..65
+    std::int32_t prfPKBackFace = 0;       // card-back design
     bool prfShowPokerPlay = false;        // light the best play after the deal
     bool prfPokerAutoDeal = false;
     bool isPoker = false;
     bool prfShowHide = false; // carried from load to unload, otherwise unused
     bool prfAnimation = false;
     bool prfSound = false;
-    std::int32_t prfAnimationDelay =
-        0;                           // thousands of loop passes per frame; negative: not measured
+    // Thousands of loop passes per frame; negative: not measured.
+    std::int32_t prfAnimationDelay = 0;
     std::int32_t prfBannerDelay = 0; // the same unit
     std::string prfPKBackground;     // file name below pics/
     std::int16_t prfScrollVal = 0;   // 0..1000, position of the speed slider
