@@ -3,6 +3,7 @@
 //   build/release/assets/contact_sheet FOLDER 2
 
 #include "cards/card_art.h"
+#include "cards/card_numbers.h"
 
 #include <QDir>
 #include <QImage>
@@ -22,7 +23,7 @@ constexpr int rows = 5;
 // One row for each suit, aces first, and a last one of backs.
 int cardAt(int row, int column)
 {
-    return row < 4 ? column * 4 + row : 53 + column;
+    return row < 4 ? column * 4 + row : quillet::firstBack + column;
 }
 
 QImage sheetAt(int scale)

@@ -1,4 +1,5 @@
 #include "cards/card_art.h"
+#include "cards/card_numbers.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,7 +16,7 @@ void allCards(benchmark::State& state)
     for ([[maybe_unused]] auto unused : state) {
         for (int card = 0; card < 52; ++card)
             benchmark::DoNotOptimize(renderCard(card, size));
-        for (int back = 53; back <= 65; ++back)
+        for (int back = firstBack; isBack(back); ++back)
             benchmark::DoNotOptimize(renderCard(back, size));
     }
 }
@@ -27,7 +28,12 @@ void oneCard(benchmark::State& state)
         benchmark::DoNotOptimize(
             renderCard(static_cast<int>(state.range(0)), QSize(cardArtWidth, cardArtHeight)));
 }
-BENCHMARK(oneCard)->Arg(36)->Arg(44)->Arg(48)->DenseRange(53, 65)->Unit(benchmark::kMicrosecond);
+BENCHMARK(oneCard)
+    ->Arg(36)
+    ->Arg(44)
+    ->Arg(48)
+    ->DenseRange(firstBack, sleeveBack)
+    ->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace quillet

@@ -17,7 +17,7 @@ namespace
 
 using namespace quillet;
 
-constexpr TableMeasures table{800, 514, 96, 130, 60, 169};
+constexpr TableMeasures table = designedTable;
 
 class SilentBox : public ErrorBox
 {

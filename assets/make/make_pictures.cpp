@@ -10,7 +10,7 @@ int main(int argc, char** argv)
         return 2;
     }
     try {
-        quillet::writePictures(QString::fromLocal8Bit(argv[1]));
+        quillet::artwork::writePictures(QString::fromLocal8Bit(argv[1]));
     } catch (const std::exception& error) {
         std::cerr << "make_pictures: " << error.what() << '\n';
         return 1;

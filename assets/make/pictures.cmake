@@ -18,13 +18,10 @@ add_library(quillet_artwork STATIC EXCLUDE_FROM_ALL
     make/pictures/table.cpp
     make/pictures/wood.cpp)
 target_include_directories(quillet_artwork PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(quillet_artwork PUBLIC quillet_shapes Qt6::Gui)
+target_link_libraries(quillet_artwork PUBLIC quillet_table)
 # A fused multiply-add rounds once where two instructions round twice, so processors would differ.
 target_compile_options(quillet_artwork PRIVATE -ffp-contract=off)
 
 add_executable(make_pictures EXCLUDE_FROM_ALL make/make_pictures.cpp)
 target_link_libraries(make_pictures PRIVATE quillet_artwork)
 quillet_asset_maker(make_pictures ${CMAKE_CURRENT_SOURCE_DIR})
-
-add_executable(preview_table EXCLUDE_FROM_ALL make/preview_table.cpp)
-target_link_libraries(preview_table PRIVATE quillet_artwork)

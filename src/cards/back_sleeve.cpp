@@ -10,7 +10,7 @@ namespace
 {
 
 // Four aces, in the order in which they lie over each other.
-constexpr std::array<int, 4> fan = {Clubs, Diamonds, Spades, Hearts};
+constexpr std::array<int, 4> fan = {clubs, diamonds, spades, hearts};
 constexpr double firstAngle = -38;
 constexpr double angleStep = 22;
 
@@ -62,7 +62,7 @@ void paintDamask(QPainter& painter, QRgb colour)
 {
     for (int row = 0; row < 13; ++row)
         for (int column = 0; column < 9; ++column)
-            paintPip(painter, Diamonds, {column * 12.0 + (row % 2 == 0 ? 0 : 6), 5 + row * 10.0},
+            paintPip(painter, diamonds, {column * 12.0 + (row % 2 == 0 ? 0 : 6), 5 + row * 10.0},
                      6.5, colour);
 }
 

@@ -2,6 +2,7 @@
 
 #include "cards/back_field.h"
 #include "cards/card_art.h"
+#include "cards/card_numbers.h"
 
 #include <QPainterPath>
 #include <QPen>
@@ -37,30 +38,30 @@ void paintField(CardCanvas& canvas, QRgb ground, QRgb frame,
     painter.drawRoundedRect(area.adjusted(insetX, insetY, -insetX, -insetY), radius, radius);
 }
 
-void paintBack(CardCanvas& canvas, int cardNumber)
+void paintBack(CardCanvas& canvas, std::int32_t cardNumber)
 {
     switch (cardNumber) {
-    case 54:
+    case plaidBack:
         return paintPlaid(canvas);
-    case 55:
+    case weaveBack:
         return paintWeave(canvas);
-    case 56:
+    case robotBack:
         return paintRobot(canvas);
-    case 57:
+    case rosesBack:
         return paintRoses(canvas);
-    case 58:
-    case 59:
-        return paintIvy(canvas, cardNumber == 59);
-    case 60:
-    case 61:
-        return paintFish(canvas, cardNumber == 61);
-    case 62:
+    case ivyBlackBack:
+    case ivyBlueBack:
+        return paintIvy(canvas, cardNumber == ivyBlueBack);
+    case fishCyanBack:
+    case fishBlueBack:
+        return paintFish(canvas, cardNumber == fishBlueBack);
+    case shellBack:
         return paintShell(canvas);
-    case 63:
+    case castleBack:
         return paintCastle(canvas);
-    case 64:
+    case beachBack:
         return paintBeach(canvas);
-    case 65:
+    case sleeveBack:
         return paintSleeve(canvas);
     default:
         return;

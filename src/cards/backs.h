@@ -2,15 +2,15 @@
 
 #include "cards/card_canvas.h"
 
+#include <cstdint>
+
 namespace quillet
 {
-
-inline constexpr int hatchBack = 53;
 
 // The see-through overlay: white and one ink, pixel by pixel.
 [[nodiscard]] QImage hatchPicture(QSize deviceSize);
 
-// Backs 54..65; any other number leaves the card as it is.
-void paintBack(CardCanvas& canvas, int cardNumber);
+// Any back but the hatch; another number leaves the card as it is.
+void paintBack(CardCanvas& canvas, std::int32_t cardNumber);
 
 } // namespace quillet

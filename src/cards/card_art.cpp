@@ -2,17 +2,18 @@
 
 #include "cards/backs.h"
 #include "cards/card_canvas.h"
+#include "cards/card_numbers.h"
 #include "cards/faces.h"
 
 namespace quillet
 {
 
-QImage renderCard(int cardNumber, QSize deviceSize)
+QImage renderCard(std::int32_t cardNumber, QSize deviceSize)
 {
     if (cardNumber == hatchBack)
         return hatchPicture(deviceSize);
     CardCanvas canvas(deviceSize);
-    if (cardNumber >= 0 && cardNumber < 52) {
+    if (isFace(cardNumber)) {
         const int rank = cardNumber / 4 + 1;
         const int suit = cardNumber % 4;
         if (rank <= 10)

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QSize>
 
+#include <cstdint>
+
 namespace quillet
 {
 
@@ -10,10 +12,9 @@ namespace quillet
 inline constexpr int cardArtWidth = 96;
 inline constexpr int cardArtHeight = 130;
 
-// The picture of a card, exactly `deviceSize` pixels, ARGB32 premultiplied: faces are 0..51
-// ((rank - 1) * 4 + suit; clubs, diamonds, hearts, spades), backs 53..65. Outside the rounded
-// corners it is transparent, inside the edge opaque. Back 53, the see-through overlay, holds exact
-// white and one ink colour only. A number that names no card gives a blank one.
-[[nodiscard]] QImage renderCard(int cardNumber, QSize deviceSize);
+// The picture of a card, exactly `deviceSize` pixels, ARGB32 premultiplied. Outside the rounded
+// corners it is transparent, inside the edge opaque. The hatch, the see-through overlay, holds
+// exact white and one ink colour only. A number that names no card gives a blank one.
+[[nodiscard]] QImage renderCard(std::int32_t cardNumber, QSize deviceSize);
 
 } // namespace quillet

@@ -30,8 +30,8 @@ void paintCloth(QPainter& painter, std::string_view outline, int suit, const Pal
     painter.save();
     painter.setClipPath(area, Qt::IntersectClip);
     const QRectF bounds = area.boundingRect();
-    const bool staggered = suit == Clubs || suit == Hearts;
-    const double rowHeight = suit == Diamonds ? pitch : pitch * 0.72;
+    const bool staggered = suit == clubs || suit == hearts;
+    const double rowHeight = suit == diamonds ? pitch : pitch * 0.72;
     for (int row = 0; 40 + row * rowHeight < bounds.bottom() + pitch; ++row) {
         const double shift = staggered && row % 2 == 1 ? pitch / 2 : 0;
         for (double x = 15.5 + shift; x < bounds.right() + pitch; x += pitch) {

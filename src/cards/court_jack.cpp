@@ -97,7 +97,7 @@ void paintJack(QPainter& painter, int suit, const Palette& palette)
 {
     const auto index = static_cast<std::size_t>(suit);
     paintCloth(painter, doublet, suit, palette);
-    const bool profile = suit == Hearts || suit == Spades;
+    const bool profile = suit == hearts || suit == spades;
     paintPicture(painter, profile ? profileHead : frontHead, palette, axis);
     paintPicture(painter, trimmings, palette, axis);
     paintPicture(painter, caps[index], palette, axis);

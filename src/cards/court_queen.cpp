@@ -101,8 +101,8 @@ constexpr std::string_view face = R"(
 void paintQueen(QPainter& painter, int suit, const Palette& palette)
 {
     const auto index = static_cast<std::size_t>(suit);
-    paintPicture(painter, suit == Clubs ? collar : veil, palette, axis);
-    paintPicture(painter, suit == Clubs ? hairUp : hair, palette, axis);
+    paintPicture(painter, suit == clubs ? collar : veil, palette, axis);
+    paintPicture(painter, suit == clubs ? hairUp : hair, palette, axis);
     paintCloth(painter, gown, suit, palette);
     paintPicture(painter, bodice, palette, axis);
     paintPicture(painter, face, palette, axis);

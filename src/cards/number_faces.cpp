@@ -75,7 +75,7 @@ void paintCrispPip(CardCanvas& canvas, int suit, QPointF place, double height)
 void paintAce(CardCanvas& canvas, int suit)
 {
     canvas.turnUpperHalf();
-    if (suit != Spades)
+    if (suit != spades)
         return paintCrispPip(canvas, suit, {middle, centre}, 44);
     QPainter painter;
     canvas.begin(painter);

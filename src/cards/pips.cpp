@@ -38,7 +38,7 @@ void paintPip(QPainter& painter, int suit, QPointF centre, double height, QRgb c
 {
     painter.save();
     painter.translate(centre);
-    painter.scale(height / 18, height / 18);
+    painter.scale(height / suitMarkHeight, height / suitMarkHeight);
     painter.fillPath(pipOutline(suit), QColor::fromRgba(colour));
     painter.restore();
 }

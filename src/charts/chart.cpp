@@ -1,6 +1,7 @@
 #include "charts/chart.h"
 
 #include "charts/names.h"
+#include "engine/hand_evaluation.h"
 
 #include <algorithm>
 #include <array>
@@ -90,27 +91,27 @@ Chart parseChart(std::string_view text)
 
 Chart trainersChart()
 {
-    constexpr std::array<std::string_view, 21> rows{"royal",
-                                                    "straight flush",
-                                                    "4 of a kind",
-                                                    "full house",
-                                                    "4 to a royal",
-                                                    "flush",
-                                                    "straight",
-                                                    "3 of a kind",
-                                                    "4 to a straight flush, no gap",
-                                                    "2 pair",
-                                                    "high pair",
-                                                    "3 to a royal",
-                                                    "4 to a flush",
-                                                    "low pair",
-                                                    "4 to an outside straight",
-                                                    "2 high, suited",
-                                                    "3 to a straight flush, no gap",
-                                                    "2 high",
-                                                    "10 and face, suited",
-                                                    "1 high",
-                                                    "nothing"};
+    constexpr std::array<std::string_view, playCodes> rows{"royal",
+                                                           "straight flush",
+                                                           "4 of a kind",
+                                                           "full house",
+                                                           "4 to a royal",
+                                                           "flush",
+                                                           "straight",
+                                                           "3 of a kind",
+                                                           "4 to a straight flush, no gap",
+                                                           "2 pair",
+                                                           "high pair",
+                                                           "3 to a royal",
+                                                           "4 to a flush",
+                                                           "low pair",
+                                                           "4 to an outside straight",
+                                                           "2 high, suited",
+                                                           "3 to a straight flush, no gap",
+                                                           "2 high",
+                                                           "10 and face, suited",
+                                                           "1 high",
+                                                           "nothing"};
     Chart chart;
     for (const std::string_view row : rows)
         chart.push_back({*findRowKind(row)});

@@ -1,5 +1,7 @@
 #include "coach/strategy_chart.h"
 
+#include <cassert>
+
 namespace quillet
 {
 
@@ -39,11 +41,17 @@ constexpr ChartRowColors straightFlushWinner{0x00FF00, black};
 constexpr ChartRowColors otherWinner{0x00C000, black};
 constexpr int straightFlushRow = 1;
 
+std::size_t placeOf(int row)
+{
+    assert(row >= 0 && row < chartRows);
+    return static_cast<std::size_t>(row);
+}
+
 } // namespace
 
 std::string_view StrategyChart::caption(int row)
 {
-    return captions.at(static_cast<std::size_t>(row));
+    return captions[placeOf(row)];
 }
 
 std::array<ChartRowPlace, chartRows> StrategyChart::layoutChartRows(double panelHeight)
@@ -81,7 +89,7 @@ void StrategyChart::highlightWinner(std::int16_t playCode)
 
 ChartRowState StrategyChart::state(int row) const
 {
-    return m_states.at(static_cast<std::size_t>(row));
+    return m_states[placeOf(row)];
 }
 
 ChartRowColors StrategyChart::colors(int row) const
@@ -107,7 +115,7 @@ void StrategyChart::highlight(std::int16_t playCode, ChartRowState state)
 
 void StrategyChart::setState(int row, ChartRowState state)
 {
-    ChartRowState& current = m_states.at(static_cast<std::size_t>(row));
+    ChartRowState& current = m_states[placeOf(row)];
     if (current == state)
         return;
     current = state;

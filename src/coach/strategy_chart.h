@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/hand_evaluation.h"
+
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -8,7 +10,7 @@
 namespace quillet
 {
 
-inline constexpr int chartRows = 21;
+inline constexpr int chartRows = playCodes;
 
 // A colour 0x00BBGGRR; with the top bit set, the number of a desktop colour.
 using ChartColor = std::uint32_t;

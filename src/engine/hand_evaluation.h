@@ -9,7 +9,10 @@
 namespace quillet
 {
 
-// The number, 1..21, of the first row of the strategy chart that the five cards contain. A final
+// The rows of the strategy chart, and so the highest play code; the lowest is 1.
+inline constexpr std::int16_t playCodes = 21;
+
+// The play code: the number of the first row of the chart that the five cards contain. A final
 // hand is classed by what it pays. The cards may come in any order; cards not held are fillers.
 // Only ranks and suits are read; ranks lie in 0..300.
 [[nodiscard]] std::int16_t EvaluatePokerHand(std::span<const Card, 5> cards, bool finalHand);
@@ -17,7 +20,7 @@ namespace quillet
 // How many cards the play keeps; 0 for a code that keeps none, so callers need no special case.
 [[nodiscard]] std::int16_t CardsToHand(std::int16_t playCode);
 
-// The play's name in plain words, for lists and reports; empty outside 1..21.
+// The play's name in plain words, for lists and reports; empty for a code of no row.
 [[nodiscard]] std::string_view playName(std::int16_t playCode);
 
 // What stands in place `place`, 0..4, of a hand while no card is held there.

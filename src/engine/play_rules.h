@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/card.h"
+#include "engine/hand_evaluation.h"
 
 #include <algorithm>
 #include <array>
@@ -163,7 +164,7 @@ struct PlayRule {
 // The chart, best play first. A hand's play code is the number of the first row that it
 // contains, counted from 1. The two draws that stand above paying hands are left out once the
 // hand is final, so that it is classed by what it pays.
-inline constexpr std::array<PlayRule, 21> chart{{
+inline constexpr std::array<PlayRule, playCodes> chart{{
     {"Royal", 5, [](const HandFacts& hand) { return hand.flush && hand.tenToAce; }},
     {"Straight flush", 5, [](const HandFacts& hand) { return hand.suitedRun == 5; }},
     {"Four of a kind", 4, [](const HandFacts& hand) { return hand.fourAlike; }},

@@ -106,7 +106,8 @@ bool frmMain::Form_Load()
         if (m_table.loadBackground(backgroundPath(m_desktop, *this)))
             AutoSizeToPicture(m_table.background());
         else
-            setOuterSize(m_layout.outerTwips(designedInnerSize));
+            setOuterSize(
+                m_layout.outerTwips({designedTable.innerWidth, designedTable.innerHeight}));
         m_table.makePictures();
         if (prfAnimationDelay < 0) {
             CalibrationSplash splash;

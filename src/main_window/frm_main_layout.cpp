@@ -28,7 +28,7 @@ void frmMain::setOuterSize(QSizeF twips)
     m_outerSize = twips;
     const QSizeF inner = m_layout.innerPixels(twips);
     m_table.setMeasures({inner.width(), inner.height(), double(cWidth), double(cHeight),
-                         double(picStatusBar->height()), chartWidth});
+                         double(picStatusBar->height()), designedTable.chartWidth});
     setFixedSize(sizeHint());
 }
 

@@ -1,5 +1,6 @@
 #include "main_window/frm_preferences.h"
 
+#include "cards/card_numbers.h"
 #include "main_window/animation_speed.h"
 #include "main_window/back_preview.h"
 #include "platform/desktop_colours.h"
@@ -30,8 +31,6 @@ namespace quillet
 
 namespace
 {
-
-constexpr int backs = 13;
 
 // Styles draw no focus on scroll bars, which elsewhere do not take it.
 class SpeedBar : public QScrollBar
@@ -142,9 +141,8 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     auto* caption = add<QLabel>(page, QStringLiteral("Label2"), tr("Select Card Image"));
     Combo1 = new QComboBox(&page);
     Combo1->setObjectName(QStringLiteral("Combo1"));
-    for (const char* name : {"Hatch", "Plaid", "Weave", "Robot", "Roses", "IvyBlack", "IvyBlue",
-                             "FishCyan", "FishBlue", "Shell", "Castle", "Beach", "Sleeve"})
-        Combo1->addItem(QString::fromLatin1(name));
+    for (const std::string_view name : backNames)
+        Combo1->addItem(QString::fromLatin1(name.data(), qsizetype(name.size())));
     Combo1->setCurrentIndex(-1);
     caption->setBuddy(Combo1);
     picBacks = new BackPreview(&page);
@@ -228,10 +226,9 @@ void frmPreferences::Form_Activate()
             option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
         ckAnimation->setChecked(now.prfAnimation);
         ckSounds->setChecked(now.prfSound);
-        const std::int32_t entry = now.prfPKBackFace - firstBack;
-        if (entry < 0 || entry >= backs)
+        if (!isBack(now.prfPKBackFace))
             throw RunTimeError("Invalid property value");
-        Combo1->setCurrentIndex(entry);
+        Combo1->setCurrentIndex(now.prfPKBackFace - firstBack);
     });
 }
 
@@ -285,9 +282,9 @@ void frmPreferences::cmdSave_Click()
         fields.prfShowPokerPlay = opAlwaysShow->isChecked();
         fields.prfAnimation = ckAnimation->isChecked();
         fields.prfSound = ckSounds->isChecked();
-        const int entry = Combo1->currentIndex();
-        if (entry >= 0 && entry < backs && firstBack + entry != fields.prfPKBackFace) {
-            fields.prfPKBackFace = firstBack + entry;
+        const std::int32_t chosen = firstBack + Combo1->currentIndex();
+        if (isBack(chosen) && chosen != fields.prfPKBackFace) {
+            fields.prfPKBackFace = chosen;
             m_host.DrawDealDeck();
         }
         fields.prfScrollVal = static_cast<std::int16_t>(HScroll1->value());

@@ -11,9 +11,7 @@ namespace quillet
 inline constexpr double statusBarDesignedHeight = 720; // twips
 inline constexpr double statusBarNormalHeight = 900;   // twips
 inline constexpr double statusBarWidth = 468;          // pixels
-inline constexpr double chartWidth = 169;              // pixels
 inline constexpr double windowMinimumWidth = 640;      // pixels, frame included
-inline const QSizeF designedInnerSize{800, 514};       // pixels, with no picture to follow
 
 // How the main window's size follows from the picture. All sizes in twips, frame and menu bar
 // included, unless said otherwise.

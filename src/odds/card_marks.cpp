@@ -13,8 +13,6 @@ namespace quillet
 namespace
 {
 
-constexpr double suitMarkHeight = 18;
-
 // SVG knows the commands of an outline but for the circle and the rectangle.
 std::string svgPath(const char* outline)
 {

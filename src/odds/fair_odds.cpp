@@ -87,8 +87,8 @@ private:
     const HeldCards& m_heldCards;
     std::vector<PerStrategy> m_timesAsked;
     std::array<PerStrategy, outcomes> m_asDealt{};
-    std::array<std::array<Int128, strategies>, 21> m_loss{};
-    std::array<std::int64_t, 21> m_costliest{};
+    std::array<std::array<Int128, strategies>, playCodes> m_loss{};
+    std::array<std::int64_t, playCodes> m_costliest{};
     Plays m_plays;
     FairOdds m_odds;
 };

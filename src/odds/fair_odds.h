@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/hand_evaluation.h"
 #include "odds/dealt_hand.h"
 #include "odds/fraction.h"
 
@@ -28,7 +29,7 @@ struct FairOdds {
 
     std::array<Fraction, strategies> returned; // credits won per credit paid
     std::array<std::array<Fraction, outcomes>, strategies> chances;
-    std::array<RowOdds, 21> rows;
+    std::array<RowOdds, playCodes> rows;
     std::int64_t dealsWithAChoice = 0;     // those for which several holds are accepted
     std::int64_t dealsPlayedPerfectly = 0; // those for which the best accepted hold costs nothing
 

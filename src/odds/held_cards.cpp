@@ -14,12 +14,15 @@ namespace
 
 constexpr std::size_t classesUpToFour = 1 + 13 + 169 + 1755 + 16432;
 
-std::array<std::uint8_t, 22> outcomesByCode()
+// By play code; there is no code 0.
+using OutcomeByCode = std::array<std::uint8_t, playCodes + 1>;
+
+OutcomeByCode outcomesByCode()
 {
-    std::array<std::uint8_t, 22> table{};
+    OutcomeByCode table{};
     std::uint8_t outcome = 0;
     for (const Payout& payout : payTable())
-        table.at(static_cast<std::size_t>(payout.playCode)) = ++outcome;
+        table[static_cast<std::size_t>(payout.playCode)] = ++outcome;
     return table;
 }
 
@@ -85,7 +88,7 @@ void HeldCards::numberClasses(int size)
 
 void HeldCards::countHandsOfFours()
 {
-    const std::array<std::uint8_t, 22> outcomeOfCode = outcomesByCode();
+    const OutcomeByCode outcomeOfCode = outcomesByCode();
     forEachClass(5, [&](const SuitSets& sets) {
         const auto hand = placesOf<5>(sets);
         const auto code = static_cast<std::size_t>(EvaluatePokerHand(overFillers(hand), true));

@@ -4,6 +4,7 @@
 #include "shapes/letters.h"
 
 #include <array>
+#include <cassert>
 #include <cctype>
 #include <cstdio>
 #include <map>
@@ -74,9 +75,10 @@ double layOut(const Lettering& line, const Visit& visit)
             continue;
         }
         const char sign = capital(letter);
-        const Glyph& glyph = glyphs().at(sign);
-        visit(sign, x + glyph.left + line.tracking / 2);
-        x += glyph.advance + line.tracking;
+        const auto glyph = glyphs().find(sign);
+        assert(glyph != glyphs().end());
+        visit(sign, x + glyph->second.left + line.tracking / 2);
+        x += glyph->second.advance + line.tracking;
     }
     return x;
 }

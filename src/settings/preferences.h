@@ -6,6 +6,8 @@
 namespace quillet
 {
 
+inline constexpr std::int32_t usualBackFace = 65;
+
 // What the player has chosen, as it stands before anything is read from the store. Truth values
 // and widths are those of the store's rules; see preferences_store.h.
 struct Preferences {

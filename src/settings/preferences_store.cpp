@@ -15,7 +15,6 @@ constexpr const char* application = "Quillet";
 constexpr const char* section = "Preferences";
 
 constexpr std::int32_t outlineGreen = 0x0000FF00;
-constexpr std::int32_t usualBackFace = 65;
 constexpr const char* usualBackground = "vpokerwood.jpg";
 
 class Reader
@@ -75,7 +74,8 @@ void loadPreferences(SettingsStore& store, Preferences& preferences)
     Reader reader(store);
     preferences.prfCardOutlineColor =
         outlineColor(reader.text("prfCardOutlineColor", "&H0000FF00&"));
-    preferences.prfPKBackFace = reader.converted("prfPKBackFace", "65", backFace);
+    preferences.prfPKBackFace =
+        reader.converted("prfPKBackFace", std::to_string(usualBackFace), backFace);
     preferences.prfShowPokerPlay = reader.truth("prfShowPokerPlay");
     preferences.prfPokerAutoDeal = reader.truth("prfPokerAutoDeal");
     static_cast<void>(reader.truth("isPoker")); // there is one game, whatever was stored

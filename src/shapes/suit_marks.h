@@ -5,8 +5,11 @@
 namespace quillet
 {
 
-// A suit's mark: upright, 18 high, centred on the origin. Its outline lies on one side of the line
-// x = 0, from the line to the line, and its reflection on the other; circles may stand beside it.
+inline constexpr double suitMarkHeight = 18;
+
+// A suit's mark: upright, suitMarkHeight high, centred on the origin. Its outline lies on one side
+// of the line x = 0, from the line to the line, and its reflection on the other; circles may stand
+// beside it.
 struct SuitMark {
     const char* whole;
     const char* half;

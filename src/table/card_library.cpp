@@ -1,6 +1,7 @@
 #include "table/card_library.h"
 
 #include "cards/card_art.h"
+#include "cards/card_numbers.h"
 #include "faults/run_time_error.h"
 
 namespace quillet
@@ -22,12 +23,10 @@ void CardLibrary::cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int3
 {
     if (!m_ready)
         throw RunTimeError("The card library is closed");
-    const bool isFace = drawMode == drawFace && cardNumber >= 0 && cardNumber < 52;
-    const bool isBack = drawMode == drawBack;
     // An edited settings file can name a back that does not exist.
-    if (isBack && (cardNumber < firstBack || cardNumber > lastBack))
+    if (drawMode == drawBack && !isBack(cardNumber))
         cardNumber = usualBack;
-    if (isFace || isBack)
+    if (drawMode == drawBack || (drawMode == drawFace && isFace(cardNumber)))
         dc.drawPixels(card(cardNumber, dc.scale()), QPointF(x, y));
 }
 

@@ -15,12 +15,6 @@ namespace quillet
 inline constexpr std::int32_t drawFace = 0;
 inline constexpr std::int32_t drawBack = 1;
 
-inline constexpr std::int32_t firstBack = 53;
-inline constexpr std::int32_t lastBack = 65;
-inline constexpr std::int32_t usualBack = 65;
-// The crosshatch that is laid over card places and finished hands.
-inline constexpr std::int32_t hatchBack = 53;
-
 inline constexpr std::uint32_t whiteColor = 0xFFFFFF;
 
 // Paints cards on pictures. Each card is drawn once per scale factor and then copied.
@@ -34,8 +28,8 @@ public:
     // Makes the library ready and tells the card size in logical pixels.
     void cdtInit(std::int32_t& width, std::int32_t& height);
 
-    // Paints a face (0..51) or a back (53..65) with its top left corner at (x, y); for a back that
-    // does not exist the usual one, for any other number nothing. The corners let what is there
+    // Paints a face or a back with its top left corner at (x, y); for a back that does not exist
+    // the usual one, for any other number nothing. The corners let what is there
     // show through. Throws RunTimeError outside cdtInit and cdtTerm.
     void cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int32_t cardNumber,
                  std::int32_t drawMode, std::uint32_t backgroundColor);

@@ -1,5 +1,7 @@
 #include "table/card_names.h"
 
+#include "cards/card_numbers.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -24,7 +26,7 @@ QString cardName(std::int32_t cardNumber)
                                                        "Six",  "Seven", "Eight", "Nine", "Ten",
                                                        "Jack", "Queen", "King"};
     static constexpr std::array<const char*, 4> suits{"clubs", "diamonds", "hearts", "spades"};
-    assert(cardNumber >= 0 && cardNumber < 52);
+    assert(isFace(cardNumber));
     const auto number = static_cast<std::size_t>(cardNumber);
     return translated("%1 of %2").arg(translated(ranks[number / 4]), translated(suits[number % 4]));
 }

@@ -16,7 +16,7 @@ public:
     {
     }
 
-    // Paints the pile with this back, 53..65.
+    // Paints the pile with this back.
     void DrawDealDeck(std::int32_t backNumber);
     // Makes the pile ready for a game; the cards themselves are shuffled at each deal.
     void shuffleCards(std::int32_t backNumber) { DrawDealDeck(backNumber); }

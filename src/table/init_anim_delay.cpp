@@ -1,5 +1,6 @@
 #include "table/init_anim_delay.h"
 
+#include "cards/card_numbers.h"
 #include "table/counting_loop.h"
 #include "table/delay_calibration.h"
 #include "table/table_canvas.h"
@@ -19,7 +20,6 @@ namespace
 constexpr int flightFrames = 150;
 constexpr std::int32_t bannerTop = -60;
 constexpr int bannerFrames = 61;
-constexpr std::int32_t beachBack = 64;
 constexpr double trail = 10;
 
 // In milliseconds, for all rounds together. An idle machine needs half of it.

@@ -1,6 +1,7 @@
 #include "table/masked_blit.h"
 
 #include "faults/run_time_error.h"
+#include "platform/desktop_colours.h"
 
 #include <cmath>
 #include <limits>
@@ -17,12 +18,6 @@ int sixteenBits(std::int64_t size)
     if (size < Limits::min() || size > Limits::max())
         throw overflowError();
     return static_cast<int>(size);
-}
-
-constexpr QRgb opaqueRgb(std::uint32_t color)
-{
-    return qRgb(static_cast<int>(color & 0xff), static_cast<int>((color >> 8) & 0xff),
-                static_cast<int>((color >> 16) & 0xff));
 }
 
 } // namespace
@@ -47,7 +42,7 @@ void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
     const QRect area = (from & hdcSrc.image().rect()).translated(shift) & hdcDest.image().rect() &
                        hdcBack.image().rect();
 
-    const QRgb transparent = opaqueRgb(transColor);
+    const QRgb transparent = colourOf(transColor).rgb();
     for (int y = area.top(); y <= area.bottom(); ++y) {
         const auto* source =
             reinterpret_cast<const QRgb*>(hdcSrc.image().constScanLine(y - shift.y()));

@@ -1,5 +1,6 @@
 #include "table/poker_table.h"
 
+#include "cards/card_numbers.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
 #include "platform/file_exists.h"
@@ -23,10 +24,12 @@ namespace quillet
 namespace
 {
 
-QImage framePicture(const QString& name)
+static_assert(usualBackFace == usualBack);
+
+QImage framePicture(FramePiece piece)
 {
-    QImage piece(QStringLiteral(":/frame/%1.png").arg(name));
-    return piece.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage picture(QStringLiteral(":/frame/%1.png").arg(QLatin1String(fileName(piece))));
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace
@@ -46,9 +49,8 @@ PokerTable::PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidg
     connect(&canvas(), &TableCanvas::scaleChanged, this, &PokerTable::followScale);
     makeDeck();
     makePlaces();
-    m_pictures.framePieces = {
-        framePicture(QStringLiteral("top")), framePicture(QStringLiteral("bottom")),
-        framePicture(QStringLiteral("side1")), framePicture(QStringLiteral("side2"))};
+    for (const FramePiece piece : allFramePieces)
+        m_pictures.framePieces[static_cast<std::size_t>(piece)] = framePicture(piece);
 }
 
 void PokerTable::makeDeck()

@@ -20,8 +20,13 @@ struct TableMeasures {
     double chartWidth = 0;
 };
 
+// The table of the pictures that come with the program, on a normal screen.
+inline constexpr TableMeasures designedTable{800, 514, 96, 130, 60, 169};
+
 // The frame pieces, as designed; a painted piece is stretched in its long direction.
 enum class FramePiece { picTop, picBottom, picSide1, picSide2 };
+inline constexpr std::array allFramePieces{FramePiece::picTop, FramePiece::picBottom,
+                                           FramePiece::picSide1, FramePiece::picSide2};
 inline constexpr double frameEdgeHeight = 14; // picTop, picBottom
 inline constexpr double frameSideWidth = 13;  // picSide1, picSide2
 
@@ -31,6 +36,11 @@ struct FramePlace {
     friend bool operator==(const FramePlace&, const FramePlace&) = default;
 };
 
+// The name of a piece's file below frame/, without its end.
+[[nodiscard]] const char* fileName(FramePiece piece);
+
+// What each card of the pile keeps from the one below it.
+inline constexpr QPointF pileStep{2, 1};
 // What the flying card keeps from the deck's top left corner.
 inline constexpr QPointF flyingCardOffset{8, 4};
 

@@ -1,5 +1,6 @@
 #include "table/table_painter.h"
 
+#include "cards/card_numbers.h"
 #include "table/masked_blit.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"

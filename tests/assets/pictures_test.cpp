@@ -85,7 +85,8 @@ std::vector<int> regionSizes(const QImage& image, bool (*belongs)(QRgb))
 
 QRect inPixels(const QRectF& place)
 {
-    return QRectF(place.topLeft() * tableScale, place.size() * tableScale).toAlignedRect();
+    return QRectF(place.topLeft() * artwork::tableScale, place.size() * artwork::tableScale)
+        .toAlignedRect();
 }
 
 // The least contrast of white to the pixels of a narrow band round the rectangle.
@@ -123,7 +124,7 @@ int distanceToLine(const QImage& table, const QRect& cards, int way)
 TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
 {
     const QTemporaryDir folder;
-    writePictures(folder.path());
+    artwork::writePictures(folder.path());
     const QStringList written = filesBelow(folder.path());
     EXPECT_EQ(written, filesBelow(assets));
     for (const QString& name : written)
@@ -150,11 +151,11 @@ TEST(Tables, letEveryCardEdgeStandOutInTheMiddleOfItsTray)
         const QImage table(tables.filePath(name));
         EXPECT_EQ(table.size(), QSize(1600, 880));
         EXPECT_EQ(table.dotsPerMeterX(), 7559) << "twice its size";
-        EXPECT_GE(whiteEdgeContrast(table, inPixels(deckSeen)), 3);
-        for (const QRectF& place : cardPlaces())
+        EXPECT_GE(whiteEdgeContrast(table, inPixels(artwork::deckSeen())), 3);
+        for (const QRectF& place : artwork::cardPlaces())
             EXPECT_GE(whiteEdgeContrast(table, inPixels(place)), 3) << place.left();
 
-        const QRect cards = inPixels(cardPlaces().front() | cardPlaces().back());
+        const QRect cards = inPixels(artwork::cardPlaces().front() | artwork::cardPlaces().back());
         const int above = distanceToLine(table, cards, -1);
         EXPECT_LE(above, 14);
         EXPECT_NEAR(above, distanceToLine(table, cards, 1), 2) << "in the middle of the tray";

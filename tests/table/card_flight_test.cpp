@@ -1,3 +1,4 @@
+#include "cards/card_numbers.h"
 #include "table/card_flight.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"

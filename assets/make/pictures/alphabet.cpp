@@ -5,7 +5,7 @@
 
 #include <QTransform>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -165,4 +165,4 @@ QPainterPath centredLettering(std::string_view text, const Lettering& lettering,
     return line.translated(middleOfBaseline.x() - box.center().x(), middleOfBaseline.y());
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

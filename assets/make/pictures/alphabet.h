@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // How a line of capitals is cut. Lengths are shares of the height of the capitals.
@@ -21,4 +21,4 @@ struct Lettering {
 [[nodiscard]] QPainterPath centredLettering(std::string_view text, const Lettering& lettering,
                                             QPointF middleOfBaseline);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -198,4 +198,4 @@ QPainterPath stroked(const QPainterPath& path, double width, Qt::PenCapStyle cap
     return stroker.createStroke(path);
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 struct Color {
@@ -92,4 +92,4 @@ private:
                                    Qt::PenCapStyle cap = Qt::FlatCap,
                                    Qt::PenJoinStyle join = Qt::MiterJoin);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 Color Felt::at(double x, double y) const
@@ -44,4 +44,4 @@ Color Leather::at(double x, double y) const
     return lit(m_color, 0.88 + 0.14 * here + 0.12 * slope + 0.07 * wear);
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

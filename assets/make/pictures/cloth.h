@@ -3,7 +3,7 @@
 #include "assets/make/pictures/canvas.h"
 #include "assets/make/pictures/noise.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // Fulled wool: no weave to be seen, only short hairs in every direction.
@@ -34,4 +34,4 @@ private:
     Noise m_noise;
 };
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -75,14 +75,14 @@ void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area)
     const auto mark = [&](Suit suit, double dx, double dy, const InlayMaterial& material) {
         inlay(canvas, suitMark(suit, centre + QPointF(dx, dy) * orbit, radius * 0.36), material);
     };
-    mark(Suit::spade, 0.42, -0.98, ornament.metal);
-    mark(Suit::heart, 1.04, -0.30, ornament.redSuit);
-    mark(Suit::diamond, -1.04, 0.30, ornament.redSuit);
-    mark(Suit::club, -0.42, 0.98, ornament.metal);
+    mark(spades, 0.42, -0.98, ornament.metal);
+    mark(hearts, 1.04, -0.30, ornament.redSuit);
+    mark(diamonds, -1.04, 0.30, ornament.redSuit);
+    mark(clubs, -0.42, 0.98, ornament.metal);
 
     paintQuill(canvas, ornament, centre + QPointF(0.83, 0.97) * radius,
                centre + QPointF(-0.88, -1.0) * radius);
     paintName(canvas, ornament, {area.center().x(), area.bottom() - 34});
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

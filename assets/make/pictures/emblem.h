@@ -2,7 +2,7 @@
 
 #include "assets/make/pictures/inlay.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // What the pictures on a table are made of.
@@ -16,4 +16,4 @@ struct Ornament {
 // The letter Q made of a ring and a quill, the four suits inside, the name below.
 void paintEmblem(Canvas& canvas, const Ornament& ornament, const QRectF& area);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -1,6 +1,6 @@
 #include "assets/make/pictures/flat_drawing.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -65,4 +65,4 @@ QByteArray toSvg(const FlatDrawing& drawing)
     return svg + "</svg>\n";
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // A drawing in plain colours, its parts from the lowest to the topmost, in a square box.
@@ -23,4 +23,4 @@ struct FlatDrawing {
 [[nodiscard]] Canvas toPixels(const FlatDrawing& drawing, int size);
 [[nodiscard]] QByteArray toSvg(const FlatDrawing& drawing);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -6,16 +6,14 @@
 #include <array>
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
 {
 
-constexpr double windowWidth = 800;
-constexpr double windowHeight = 514;
-constexpr double sideWidth = 13;
-constexpr double railHeight = 14;
+constexpr double windowWidth = designedTable.innerWidth;
+constexpr double windowHeight = designedTable.innerHeight;
 
 enum class Matter { wood, brass, joint };
 
@@ -50,8 +48,8 @@ struct Rail {
 
 Rail railAt(double x, double y)
 {
-    const double side = std::min(x, windowWidth - x) / sideWidth;
-    const double end = std::min(y, windowHeight - y) / railHeight;
+    const double side = std::min(x, windowWidth - x) / frameSideWidth;
+    const double end = std::min(y, windowHeight - y) / frameEdgeHeight;
     const double joint = std::abs(side - end) * 9;
     if (side < end)
         return {side, y + (x < windowWidth / 2 ? 2000 : 4000), x < windowWidth / 2 ? 0.8 : -0.8,
@@ -74,7 +72,8 @@ Color frameColor(const Wood& wood, double x, double y)
                 return lit(rgb(0x1a0d06), seam);
             if (facet.matter == Matter::brass)
                 return lit(mix(rgb(0x8a6428), rgb(0xf6dfa6), 0.5 + 0.5 * light), seam);
-            return lit(wood.at(rail.along, rail.inward * sideWidth), (1 + 0.62 * light) * seam);
+            return lit(wood.at(rail.along, rail.inward * frameSideWidth),
+                       (1 + 0.62 * light) * seam);
         }
         from = facet.until;
     }
@@ -85,12 +84,12 @@ Color frameColor(const Wood& wood, double x, double y)
 
 Canvas framePiece(FramePiece piece)
 {
-    const bool lying = piece == FramePiece::top || piece == FramePiece::bottom;
+    const bool lying = piece == FramePiece::picTop || piece == FramePiece::picBottom;
     const QSize size = lying ? QSize(566, 14) : QSize(13, 461);
     const double stretchX = lying ? windowWidth / size.width() : 1;
     const double stretchY = lying ? 1 : windowHeight / size.height();
-    const double left = piece == FramePiece::right ? windowWidth - sideWidth : 0;
-    const double top = piece == FramePiece::bottom ? windowHeight - railHeight : 0;
+    const double left = piece == FramePiece::picSide2 ? windowWidth - frameSideWidth : 0;
+    const double top = piece == FramePiece::picBottom ? windowHeight - frameEdgeHeight : 0;
     const Wood wood({.light = rgb(0x8d5330),
                      .dark = rgb(0x45220f),
                      .bandWidth = 5,
@@ -107,4 +106,4 @@ Canvas framePiece(FramePiece piece)
     return canvas;
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

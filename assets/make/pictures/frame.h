@@ -1,14 +1,13 @@
 #pragma once
 
 #include "assets/make/pictures/canvas.h"
+#include "table/table_geometry.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
-// The four pieces of the table's frame. The window stretches each along its length, to 800 and
-// 514; they are drawn so that the corners are right after that.
-enum class FramePiece { top, bottom, left, right };
-
+// A piece of the table's frame. The window stretches each along its length; they are drawn so that
+// the corners are right after that.
 [[nodiscard]] Canvas framePiece(FramePiece piece);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -6,7 +6,7 @@
 
 #include <QTransform>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -57,7 +57,7 @@ FlatDrawing fullDrawing()
     addCard(drawing, {9, 9, 35, 49}, 4.2, -7, 1.5, paper);
     const QTransform leaning =
         QTransform::fromTranslate(26.5, 33.5).rotate(-7).translate(-26.5, -33.5);
-    drawing.shapes.push_back({leaning.map(suitMark(Suit::heart, {27, 23}, 20)), suitRed});
+    drawing.shapes.push_back({leaning.map(suitMark(hearts, {27, 23}, 20)), suitRed});
     addQuill(drawing, quill({55, 61.5}, {2.2, 25}, 1.15), 1.2, true);
     return drawing;
 }
@@ -87,7 +87,7 @@ FlatDrawing smallDrawing(const SmallIcon& small)
     if (!small.back.isEmpty())
         addCard(drawing, small.back, small.radius, 0, 1, wine);
     addCard(drawing, small.front, small.radius, 0, 1, paper);
-    drawing.shapes.push_back({suitMark(Suit::heart, small.heart, small.heartHeight), suitRed});
+    drawing.shapes.push_back({suitMark(hearts, small.heart, small.heartHeight), suitRed});
     addQuill(drawing, quill(small.point, small.tip, 1.7), 0.8, false);
     return drawing;
 }
@@ -102,4 +102,4 @@ FlatDrawing iconDrawing(int size)
     return fullDrawing();
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

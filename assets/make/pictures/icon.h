@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 inline constexpr std::array iconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
@@ -12,4 +12,4 @@ inline constexpr std::array iconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
 // Two cards and a quill. Below 48 pixels it is drawn anew with less in it.
 [[nodiscard]] FlatDrawing iconDrawing(int size);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 InlayMaterial brass()
@@ -86,4 +86,4 @@ QPainterPath between(const QPainterPath& outer, const QPainterPath& inner)
     return band;
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include "assets/make/pictures/canvas.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // What lines, letters and marks are made of.
@@ -35,4 +35,4 @@ void castShadow(Canvas& canvas, const QPainterPath& shape, double distance, doub
 // The band between two outlines.
 [[nodiscard]] QPainterPath between(const QPainterPath& outer, const QPainterPath& inner);
 
-} // namespace quillet
+} // namespace quillet::artwork

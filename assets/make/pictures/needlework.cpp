@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 void sew(Canvas& canvas, const QPainterPath& line, const Color& thread)
@@ -53,4 +53,4 @@ void tool(Canvas& canvas, const QRectF& rectangle, const InlayMaterial& foil)
     inlay(canvas, lozenges, foil);
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

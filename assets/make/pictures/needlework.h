@@ -2,7 +2,7 @@
 
 #include "assets/make/pictures/inlay.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // A seam of short stitches along the lines, each lying in a dent of its own.
@@ -11,4 +11,4 @@ void sew(Canvas& canvas, const QPainterPath& line, const Color& thread);
 // A border pressed into leather: two lines along the rectangle's edge and a row of lozenges.
 void tool(Canvas& canvas, const QRectF& rectangle, const InlayMaterial& foil);
 
-} // namespace quillet
+} // namespace quillet::artwork

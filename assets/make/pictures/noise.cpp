@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -77,4 +77,4 @@ double Noise::cell(int x, int y) const
     return mixed(x, y, m_seed) / 4294967296.0;
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // Smooth noise with a fixed seed: the same numbers on every machine and every run.
@@ -24,4 +24,4 @@ private:
     std::uint32_t m_seed;
 };
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,26 +2,23 @@
 
 #include "assets/make/pictures/alphabet.h"
 #include "assets/make/pictures/suits.h"
+#include "engine/pay_table.h"
 
 #include <array>
+#include <cassert>
+#include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
 {
 
-struct PayLine {
-    std::string_view hand;
-    std::string_view credits;
-};
-
-constexpr std::array payLines{
-    PayLine{"ROYAL", "4000"},     PayLine{"STRAIGHT FLUSH", "250"}, PayLine{"4 OF A KIND", "125"},
-    PayLine{"FULL HOUSE", "45"},  PayLine{"FLUSH", "30"},           PayLine{"STRAIGHT", "20"},
-    PayLine{"3 OF A KIND", "15"}, PayLine{"2 PAIR", "10"},          PayLine{"HIGH PAIR", "5"},
-};
+// As the plate names the hands of the pay table.
+constexpr std::array<std::string_view, 9> handNames{"ROYAL",       "STRAIGHT FLUSH", "4 OF A KIND",
+                                                    "FULL HOUSE",  "FLUSH",          "STRAIGHT",
+                                                    "3 OF A KIND", "2 PAIR",         "HIGH PAIR"};
 
 constexpr Lettering lineLettering{10, 0.15, 0.07};
 constexpr Lettering titleLettering{8, 0.155, 0.24};
@@ -53,7 +50,7 @@ void paintTitle(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
     rule.addRect(QRectF(left, y - 0.25, middle - 12 - left, 0.75));
     rule.addRect(QRectF(middle + 12, y - 0.25, right - middle - 12, 0.75));
     inlay(canvas, rule, ornament.metal);
-    inlay(canvas, suitMark(Suit::diamond, {middle, y}, 7.5), ornament.metal);
+    inlay(canvas, suitMark(diamonds, {middle, y}, 7.5), ornament.metal);
 }
 
 // Dots from the name of a hand to its credits. All lines share one grid, so that their dots stand
@@ -75,11 +72,12 @@ void paintLines(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
     const double right = plate.right() - 20;
     double baseline = plate.top() + 56;
     QPainterPath dots;
-    for (const PayLine& line : payLines) {
-        const bool best = &line == &payLines.front();
-        const InlayMaterial& material = best ? ornament.accent : ornament.metal;
-        const QPainterPath hand = letteringPath(line.hand, lineLettering);
-        const QPainterPath credits = letteringPath(line.credits, lineLettering);
+    assert(payTable().size() == handNames.size());
+    for (std::size_t line = 0; line < handNames.size(); ++line) {
+        const InlayMaterial& material = line == 0 ? ornament.accent : ornament.metal;
+        const QPainterPath hand = letteringPath(handNames[line], lineLettering);
+        const QPainterPath credits =
+            letteringPath(std::to_string(payTable()[line].pays), lineLettering);
         const double handRight = left + hand.boundingRect().right();
         const double creditsLeft = right - credits.boundingRect().width();
         inlay(canvas, hand.translated(left - hand.boundingRect().left(), baseline), material);
@@ -102,4 +100,4 @@ void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate
     paintLines(canvas, ornament, plate);
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

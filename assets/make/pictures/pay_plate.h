@@ -2,10 +2,10 @@
 
 #include "assets/make/pictures/emblem.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // The pay table for five credits, on a dark plate let into the table.
 void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -10,7 +10,7 @@
 
 #include <stdexcept>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -57,14 +57,9 @@ void writeText(const QString& path, const QByteArray& text)
 
 void writeFrame(const QString& folder)
 {
-    const auto write = [&](const char* name, FramePiece piece) {
-        writePng(inFolder(folder, name),
+    for (const FramePiece piece : allFramePieces)
+        writePng(inFolder(folder, QString("%1.png").arg(fileName(piece))),
                  framePiece(piece).toImage().convertToFormat(QImage::Format_RGB888));
-    };
-    write("top.png", FramePiece::top);
-    write("bottom.png", FramePiece::bottom);
-    write("side1.png", FramePiece::left);
-    write("side2.png", FramePiece::right);
 }
 
 void writeIcons(const QString& folder)
@@ -93,4 +88,4 @@ void writePictures(const QString& folder)
     writePng(inFolder(folder + "/pointer", "hand@2x.png"), pointingHand(2).toImage());
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

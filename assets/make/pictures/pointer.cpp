@@ -1,6 +1,6 @@
 #include "assets/make/pictures/pointer.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -50,4 +50,4 @@ Canvas pointingHand(double scale)
     return canvas;
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

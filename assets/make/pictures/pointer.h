@@ -2,7 +2,7 @@
 
 #include "assets/make/pictures/canvas.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // A hand that points upwards, 32 units square; the tip of its finger is the hot spot.
@@ -10,4 +10,4 @@ inline constexpr QPoint handHotSpot{12, 9};
 
 [[nodiscard]] Canvas pointingHand(double scale);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -121,4 +121,4 @@ Quill quill(QPointF point, QPointF tip, double breadth)
             place.map(nib(breadth))};
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

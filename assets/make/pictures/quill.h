@@ -2,7 +2,7 @@
 
 #include <QPainterPath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // A writing quill, in parts so that each can have its own colour.
@@ -17,4 +17,4 @@ struct Quill {
 // than life, for small pictures.
 [[nodiscard]] Quill quill(QPointF point, QPointF tip, double breadth = 1);
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include <QTransform>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
@@ -75,16 +75,16 @@ QPainterPath suitMark(Suit suit, QPointF centre, double height)
 {
     QPainterPath mark;
     switch (suit) {
-    case Suit::spade:
+    case spades:
         mark = spade();
         break;
-    case Suit::heart:
+    case hearts:
         mark = heart();
         break;
-    case Suit::club:
+    case clubs:
         mark = club();
         break;
-    case Suit::diamond:
+    case diamonds:
         mark = diamond();
         break;
     }
@@ -93,4 +93,4 @@ QPainterPath suitMark(Suit suit, QPointF centre, double height)
         .map(mark);
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -8,41 +8,43 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 namespace
 {
 
-constexpr QRectF wholeTable{0, 0, 800, 440};
+const QRectF wholeTable(QPointF(0, 0), tableSize);
 
 // The tray is a part of the field, with a line of its own as far above the cards as the nearest
 // line lies below them.
 double trayTop(double nextLineBelow)
 {
-    return cardsTop - (nextLineBelow - (cardsTop + cardSize.height()));
+    const QRectF card = cardPlaces().front();
+    return card.top() - (nextLineBelow - card.bottom());
 }
 
 QRectF tray(double top)
 {
-    return {QPointF(playField.left(), top), playField.bottomRight()};
+    return {QPointF(playField().left(), top), playField().bottomRight()};
 }
 
 // Crossbanding: a narrow band round the field whose grain runs across it, mitred at the corners.
 void paintRim(Canvas& canvas, const Wood& wood)
 {
-    const double middle = framedArea.center().x();
+    const QRectF area = framedArea();
+    const double middle = area.center().x();
     canvas.shade(rectanglePath(wholeTable), [&](double x, double y) {
-        const double across = std::min(x - framedArea.left(), framedArea.right() - x);
-        const double down = std::min(y - framedArea.top(), framedArea.bottom() - y);
-        const bool upright = across < down && x < framedArea.right();
+        const double across = std::min(x - area.left(), area.right() - x);
+        const double down = std::min(y - area.top(), area.bottom() - y);
+        const bool upright = across < down && x < area.right();
         return upright ? wood.at(x < middle ? x : x + 400, y) : wood.at(y, x + 900);
     });
 }
 
 void paintLines(Canvas& canvas, const InlayMaterial& metal)
 {
-    const QRectF field = playField;
+    const QRectF field = playField();
     const double line = 1.5;
     QPainterPath lines =
         between(rectanglePath(field.adjusted(-line, -line, line, line)), rectanglePath(field));
@@ -53,7 +55,7 @@ void paintLines(Canvas& canvas, const InlayMaterial& metal)
 // A fine frame round the deck, so that its place is there when the deck is in the air.
 void paintDeckFrame(Canvas& canvas, const InlayMaterial& metal)
 {
-    const QRectF frame = deckSeen.adjusted(-9, -9, 9, 9);
+    const QRectF frame = deckSeen().adjusted(-9, -9, 9, 9);
     inlay(canvas, between(scoopedPath(frame, 4), scoopedPath(frame.adjusted(1, 1, -1, -1), 4)),
           metal);
 }
@@ -68,7 +70,7 @@ void paintLight(Canvas& canvas, double strength)
         const double away = std::min(1.0, dx * dx + dy * dy);
         return rgb(0x080301, strength * away);
     });
-    sink(canvas, rectanglePath(framedArea), 5, 0.7);
+    sink(canvas, rectanglePath(framedArea()), 5, 0.7);
 }
 
 Wood rimWood(Color light, Color dark, std::uint32_t seed)
@@ -83,8 +85,8 @@ Canvas coveredTable(const Wood& rim, const Cover& cover)
 {
     Canvas canvas(tableSize, tableScale);
     paintRim(canvas, rim);
-    canvas.shade(rectanglePath(playField), [&](double x, double y) { return cover.at(x, y); });
-    sink(canvas, rectanglePath(playField), 6, 0.8);
+    canvas.shade(rectanglePath(playField()), [&](double x, double y) { return cover.at(x, y); });
+    sink(canvas, rectanglePath(playField()), 6, 0.8);
     paintLight(canvas, 0.45);
     return canvas;
 }
@@ -116,8 +118,8 @@ Canvas woodTable()
                      .pores = 1,
                      .seed = 37});
     paintRim(canvas, rim);
-    const QPainterPath lower = rectanglePath(tray(trayTop(playField.bottom())));
-    canvas.shade(rectanglePath(playField), [&](double x, double y) { return field.at(x, y); });
+    const QPainterPath lower = rectanglePath(tray(trayTop(playField().bottom())));
+    canvas.shade(rectanglePath(playField()), [&](double x, double y) { return field.at(x, y); });
     canvas.shade(lower, [&](double x, double y) { return sunk.at(x, y); });
     sink(canvas, lower, 7, 0.7);
     paintLight(canvas, 0.42);
@@ -130,7 +132,7 @@ Canvas feltTable()
 {
     Canvas canvas =
         coveredTable(rimWood(rgb(0x9a5c36), rgb(0x4a2612), 41), Felt(rgb(0x1f6b45), 43));
-    const QRectF sewn = playField.adjusted(2, 2, -2, -2);
+    const QRectF sewn = playField().adjusted(2, 2, -2, -2);
     const double top = trayTop(sewn.bottom());
     QPainterPath seam = rectanglePath(sewn);
     seam.moveTo(sewn.left(), top);
@@ -147,7 +149,7 @@ Canvas nightTable()
     const InlayMaterial wornFoil{rgb(0xa9b3c4), rgb(0x6f7a8e), 0.6};
     // The rows of lozenges leave the cards too little air, so the tray has a plain line.
     const double line = 0.8;
-    const QRectF tooled = playField.adjusted(1, 1, -1, -1);
+    const QRectF tooled = playField().adjusted(1, 1, -1, -1);
     const double top = trayTop(tooled.bottom() - line);
     const QRectF plain(QPointF(tooled.left(), top - line), tooled.bottomRight());
     tool(canvas, {tooled.topLeft(), QPointF(tooled.right(), top)}, wornFoil);
@@ -158,4 +160,4 @@ Canvas nightTable()
     return canvas;
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include "assets/make/pictures/canvas.h"
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // The three tables that a player can choose from.
@@ -10,4 +10,4 @@ namespace quillet
 [[nodiscard]] Canvas feltTable();
 [[nodiscard]] Canvas nightTable();
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -1,32 +1,54 @@
 #pragma once
 
+#include "table/table_geometry.h"
+
 #include <QRectF>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <vector>
 
-namespace quillet
+namespace quillet::artwork
 {
 
-// Where things lie on the table, in the picture's units; the program puts them there.
-inline constexpr QSize tableSize{800, 440};
+// Where things lie on the table, in the picture's units: where the program puts them.
+inline const QSize tableSize =
+    QSizeF(designedTable.innerWidth,
+           designedTable.innerHeight - designedTable.statusBarHeight - frameEdgeHeight)
+        .toSize();
 inline constexpr double tableScale = 2; // the pictures are kept at twice their size
-
-inline constexpr QRectF playField{20, 21, 579, 400};
-inline constexpr QSizeF cardSize{96, 130};
-inline constexpr double cardsTop = 284.3;
-inline constexpr QRectF deckSeen{201, 91, 102, 133}; // the pile of four, not its box
-inline constexpr QRectF emblemArea{23, 24, 168, 248};
-inline constexpr QRectF payPlate{326, 34, 262, 228};
 
 [[nodiscard]] inline std::array<QRectF, 5> cardPlaces()
 {
-    std::array<QRectF, 5> places;
-    for (int i = 0; i < 5; ++i)
-        places[static_cast<std::size_t>(i)] = QRectF(QPointF(40 + 110.4 * i, cardsTop), cardSize);
-    return places;
+    return quillet::cardPlaces(designedTable);
 }
 
-// What the frame's pieces leave free: the play area lies left of the chart's own frame piece.
-inline constexpr QRectF framedArea{13, 14, 593, 414};
+// The pile of four, not its box.
+[[nodiscard]] inline QRectF deckSeen()
+{
+    const QPointF corner = deckPlace(designedTable).topLeft();
+    return {std::nearbyint(corner.x()), std::nearbyint(corner.y()),
+            designedTable.cardWidth + 3 * pileStep.x(),
+            designedTable.cardHeight + 3 * pileStep.y()};
+}
 
-} // namespace quillet
+// What the frame's pieces leave free, up to the piece at the chart's left.
+[[nodiscard]] inline QRectF framedArea()
+{
+    const std::vector<FramePlace> frame = tableFrame(designedTable);
+    const auto bottom = std::ranges::find(frame, FramePiece::picBottom, &FramePlace::piece);
+    return {QPointF(frameSideWidth, frameEdgeHeight),
+            QPointF(chartFrame(designedTable).rect.left(), bottom->rect.top())};
+}
+
+// The covered part of it.
+[[nodiscard]] inline QRectF playField()
+{
+    return framedArea().adjusted(7, 7, -7, -7);
+}
+
+inline constexpr QRectF emblemArea{23, 24, 168, 248};
+inline constexpr QRectF payPlate{326, 34, 262, 228};
+
+} // namespace quillet::artwork

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 Wood::Wood(const WoodLook& look) : m_look(look), m_warp(look.seed), m_fibre(look.seed + 7919) {}
@@ -61,4 +61,4 @@ Color Wood::at(double along, double across) const
     return lit(wood, 1 - 0.26 * m_look.pores * pores(along, across, ring));
 }
 
-} // namespace quillet
+} // namespace quillet::artwork

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace quillet
+namespace quillet::artwork
 {
 
 // The character of one piece of wood. Widths are in the picture's units.
@@ -37,4 +37,4 @@ private:
     Noise m_fibre;
 };
 
-} // namespace quillet
+} // namespace quillet::artwork
