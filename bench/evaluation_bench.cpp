@@ -51,7 +51,7 @@ void classify(benchmark::State& state, const std::vector<std::array<Card, 5>>& h
               bool finalHand)
 {
     std::size_t next = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto step : state) {
         benchmark::DoNotOptimize(EvaluatePokerHand(hands[next], finalHand));
         next = (next + 1) % handCount;
     }
@@ -82,7 +82,7 @@ void judgements(benchmark::State& state)
     for (const auto& hand : hands)
         plays.push_back(EvaluatePokerHand(hand, false));
     std::size_t next = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto step : state) {
         const std::array<bool, 5> held{(next & 1) != 0, (next & 2) != 0, (next & 4) != 0,
                                        (next & 8) != 0, (next & 16) != 0};
         benchmark::DoNotOptimize(judgeHold(hands[next], held, plays[next]));
@@ -95,7 +95,7 @@ void shuffles(benchmark::State& state)
 {
     BlendingRandom random(stoppedClock, 3);
     PokerDeck deck{};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto step : state) {
         shuffleDeck(deck, random);
         benchmark::DoNotOptimize(deck);
     }

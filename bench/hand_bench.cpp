@@ -69,7 +69,7 @@ void hand(benchmark::State& state)
         window.picDeal_Click(0);
     };
     draw(); // the first hand has been dealt with the start
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         window.picDeal_Click(0);
         draw();
     }

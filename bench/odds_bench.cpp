@@ -14,14 +14,14 @@ namespace
 // What quillet-odds works out before it prints: every deal, every hold, every draw.
 void theWholeGame(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(fairOdds(HeldCards()));
 }
 BENCHMARK(theWholeGame)->Unit(benchmark::kMillisecond);
 
 void countsOfHeldCards(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(HeldCards());
 }
 BENCHMARK(countsOfHeldCards)->Unit(benchmark::kMillisecond);
@@ -30,7 +30,7 @@ void oneDeal(benchmark::State& state)
 {
     const HeldCards heldCards;
     const std::array<DeckPlace, 5> places{8, 9, 10, 12, 13};
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(DealtHand(heldCards, places));
 }
 BENCHMARK(oneDeal);
@@ -40,7 +40,7 @@ void simulatedHands(benchmark::State& state)
     const HeldCards heldCards;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     constexpr std::int64_t hands = 10000;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(playHands(heldCards, random, hands));
     state.SetItemsProcessed(state.iterations() * hands);
 }
@@ -58,7 +58,7 @@ OneHand perfectHand()
 void aSitting(benchmark::State& state)
 {
     const OneHand one = perfectHand();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(Sitting(one, state.range(0)).quantile(0.5));
 }
 BENCHMARK(aSitting)->Arg(600)->Arg(100'000)->Unit(benchmark::kMillisecond);
@@ -66,7 +66,7 @@ BENCHMARK(aSitting)->Arg(600)->Arg(100'000)->Unit(benchmark::kMillisecond);
 void aBankroll(benchmark::State& state)
 {
     const OneHand one = perfectHand();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto step : state)
         benchmark::DoNotOptimize(chancesOfRuin(one, state.range(0), 500));
 }
 BENCHMARK(aBankroll)->Arg(1000)->Arg(100'000)->Unit(benchmark::kMillisecond);

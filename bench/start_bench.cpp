@@ -88,7 +88,7 @@ void startToVisibleTable(benchmark::State& state, Start start)
 {
     const BusyLoad load(state.range(0));
     double processor = 0;
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         QElapsedTimer waited;
         waited.start();
         const Trainer trainer(start);
@@ -104,7 +104,7 @@ void startToVisibleTable(benchmark::State& state, Start start)
 // From the moment when the first hand lies on the table.
 void aMinuteOfWaiting(benchmark::State& state)
 {
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         const Trainer trainer(Start::second);
         QThread::sleep(8);
         const double before = trainer.processorTime();

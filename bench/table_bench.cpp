@@ -62,7 +62,7 @@ void flight(benchmark::State& state)
 {
     Painted painted(static_cast<double>(state.range(0)));
     painted.preferences.prfAnimation = true;
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         std::int32_t x = 209;
         std::int32_t y = 95;
         painted.flight.AnimateCard(x, y, 482, 284, 1, 65, drawBack);
@@ -74,13 +74,13 @@ void flight(benchmark::State& state)
 void repaintOfTheTable(benchmark::State& state)
 {
     Painted painted(static_cast<double>(state.range(0)));
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         painted.painter.repaint(table, 65);
 }
 
 void oneDelayUnit(benchmark::State& state)
 {
-    for (auto step : state)
+    for ([[maybe_unused]] auto step : state)
         countingLoop(1);
 }
 
@@ -89,7 +89,7 @@ void firstStartCalibration(benchmark::State& state)
 {
     const BusyLoad load(state.range(0));
     Painted painted(1.0);
-    for (auto step : state) {
+    for ([[maybe_unused]] auto step : state) {
         painted.preferences.prfBannerDelay = 0;
         DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock,
                    painted.errorBox, [] {})

@@ -5,8 +5,8 @@
 namespace quillet
 {
 
-inline constexpr char siteHost[] = "www.quillet.example";
-inline constexpr char downloadHost[] = "downloads.quillet.example";
+inline constexpr const char* siteHost = "www.quillet.example";
+inline constexpr const char* downloadHost = "downloads.quillet.example";
 
 [[nodiscard]] inline std::string homePage()
 {

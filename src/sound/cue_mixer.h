@@ -18,7 +18,8 @@ inline constexpr int soundChannels = 2;
 struct SoundCue {
     [[nodiscard]] std::chrono::milliseconds length() const
     {
-        return std::chrono::milliseconds(samples.size() * 1000 / (soundRate * soundChannels));
+        constexpr std::size_t samplesPerSecond = std::size_t{soundRate} * soundChannels;
+        return std::chrono::milliseconds(samples.size() * 1000 / samplesPerSecond);
     }
 
     std::vector<std::int16_t> samples;

@@ -33,7 +33,8 @@ void ring(std::vector<double>& channel, std::size_t start, double hertz, double 
     const double decay = decayPerFrame(seconds);
     const std::complex<double> turn{decay * settled(std::cos(angle)),
                                     decay * settled(std::sin(angle))};
-    double real = level, imaginary = 0;
+    double real = level;
+    double imaginary = 0;
     for (std::size_t i = start; i < channel.size(); ++i) {
         channel[i] += imaginary;
         const double next = real * turn.real() - imaginary * turn.imag();
@@ -112,7 +113,8 @@ void puff(SoundBuffer& buffer, const Puff& noise)
 
 void pluckHarp(SoundBuffer& buffer, const Note& note)
 {
-    constexpr double stiffness = 0.0004, pluckedAt = 0.28;
+    constexpr double stiffness = 0.0004;
+    constexpr double pluckedAt = 0.28;
     std::array<Mode, 9> modes{};
     for (std::size_t i = 0; i < 8; ++i) {
         const auto n = static_cast<double>(i + 1);
