@@ -1,13 +1,10 @@
 // What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
 #include "bench/busy_load.h"
 #include "platform/event_clock.h"
-#include "table/card_flight.h"
 #include "table/counting_loop.h"
 #include "table/init_anim_delay.h"
-#include "table/picture_box.h"
 #include "table/picture_file.h"
-#include "table/table_canvas.h"
-#include "table/table_painter.h"
+#include "tests/kit/painted_table.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
@@ -17,44 +14,16 @@ namespace
 
 using namespace quillet;
 
-constexpr TableMeasures table = designedTable;
-
-class SilentBox : public ErrorBox
-{
-public:
-    void showError(const std::string&) override {}
-};
-
-struct Painted {
+// In the shipped wood, with a card to fly.
+struct Painted : test::PaintedTable {
     explicit Painted(double scale)
     {
-        std::int32_t width = 0;
-        std::int32_t height = 0;
-        library.cdtInit(width, height);
-        pictures.canvas = &canvas;
-        for (PictureBox*& box : pictures.picDeal)
-            box = new PictureBox(canvas);
-        for (PictureBox*& box : pictures.picPoker)
-            box = new PictureBox(canvas);
-        canvas.setFixedSize(800, 514);
-        pictures.thePic =
-            loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"), scale);
-        painter.sizePictures(table, scale);
-        painter.repaint(table, 65);
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
-        canvas.show();
+        paint(loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"), scale), scale);
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColor);
         QApplication::processEvents();
     }
 
-    Preferences preferences;
-    SilentBox errorBox;
     EventClock clock;
-    TableCanvas canvas;
-    TablePictures pictures;
-    CardLibrary library;
-    DeckPile pile{pictures, library};
-    TablePainter painter{pictures, library, pile};
-    CardFlight flight{pictures, library, preferences, errorBox};
 };
 
 // Without any delay; the time of one frame is told beside that of the flight.
@@ -65,7 +34,7 @@ void flight(benchmark::State& state)
     for ([[maybe_unused]] auto step : state) {
         std::int32_t x = 209;
         std::int32_t y = 95;
-        painted.flight.AnimateCard(x, y, 482, 284, 1, 65, drawBack);
+        painted.flight.AnimateCard(x, y, 482, 284, 1, Painted::sleeve, drawBack);
     }
     state.counters["frame"] = benchmark::Counter(
         273, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
@@ -75,7 +44,7 @@ void repaintOfTheTable(benchmark::State& state)
 {
     Painted painted(static_cast<double>(state.range(0)));
     for ([[maybe_unused]] auto step : state)
-        painted.painter.repaint(table, 65);
+        painted.painter.repaint(Painted::measures, Painted::sleeve);
 }
 
 void oneDelayUnit(benchmark::State& state)
@@ -91,8 +60,8 @@ void firstStartCalibration(benchmark::State& state)
     Painted painted(1.0);
     for ([[maybe_unused]] auto step : state) {
         painted.preferences.prfBannerDelay = 0;
-        DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock,
-                   painted.errorBox, [] {})
+        DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock, painted,
+                   [] {})
             .InitAnimDelay({468, 60});
     }
     state.counters["flight delay"] = painted.preferences.prfAnimationDelay;

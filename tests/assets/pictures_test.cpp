@@ -1,6 +1,7 @@
 #include "assets/make/pictures/pictures.h"
 #include "assets/make/pictures/table_geometry.h"
 #include "platform/colour_contrast.h"
+#include "tests/kit/pixels.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -53,34 +54,6 @@ double difference(const QString& one, const QString& other)
     for (qsizetype i = 0; i < first.sizeInBytes(); ++i)
         sum += std::abs(first.constBits()[i] - second.constBits()[i]);
     return sum / static_cast<double>(first.sizeInBytes());
-}
-
-// The sizes, in pixels, of what hangs together of the pixels that belong.
-std::vector<int> regionSizes(const QImage& image, bool (*belongs)(QRgb))
-{
-    std::vector<int> sizes;
-    QImage seen(image.size(), QImage::Format_Mono);
-    seen.fill(0);
-    std::vector<QPoint> open;
-    const auto visit = [&](const QPoint& at) {
-        if (!image.valid(at) || seen.pixelIndex(at) == 1 || !belongs(image.pixel(at)))
-            return;
-        seen.setPixel(at, 1);
-        open.push_back(at);
-    };
-    for (int i = 0; i < image.width() * image.height(); ++i) {
-        visit({i % image.width(), i / image.width()});
-        for (int size = 1; !open.empty(); ++size) {
-            const QPoint at = open.back();
-            open.pop_back();
-            if (size == 1)
-                sizes.push_back(0);
-            ++sizes.back();
-            for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
-                visit(at + step);
-        }
-    }
-    return sizes;
 }
 
 QRect inPixels(const QRectF& place)
@@ -136,10 +109,9 @@ TEST(Icon, isOneShapeWithoutStraySpecks)
 {
     const QImage icon(assets.filePath("icons/quillet-512.png"));
     ASSERT_EQ(icon.size(), QSize(512, 512));
-    const auto shapes = regionSizes(icon, [](QRgb pixel) { return qAlpha(pixel) > 0; });
-    EXPECT_EQ(shapes.size(), 1U);
-    for (const int size : regionSizes(icon, [](QRgb pixel) { return qGray(pixel) > 225; }))
-        EXPECT_GT(size, 40);
+    EXPECT_EQ(regions(icon, [](QRgb pixel) { return qAlpha(pixel) > 0; }).size(), 1U);
+    for (const Region& white : regions(icon, [](QRgb pixel) { return qGray(pixel) > 225; }))
+        EXPECT_GT(white.pixels, 40);
 }
 
 TEST(Tables, letEveryCardEdgeStandOutInTheMiddleOfItsTray)

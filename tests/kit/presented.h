@@ -37,12 +37,9 @@ inline QRect difference(const QImage& first, const QImage& second)
         const auto* other = reinterpret_cast<const QRgb*>(second.constScanLine(y));
         if (std::memcmp(one, other, std::size_t(first.width()) * sizeof(QRgb)) == 0)
             continue;
-        int left = 0, right = first.width() - 1;
-        while (one[left] == other[left])
-            ++left;
-        while (one[right] == other[right])
-            --right;
-        found |= QRect(QPoint(left, y), QPoint(right, y));
+        for (int x = 0; x < first.width(); ++x)
+            if (one[x] != other[x])
+                found |= QRect(x, y, 1, 1);
     }
     return found;
 }

@@ -1,11 +1,6 @@
-#include "cards/card_numbers.h"
-#include "table/card_flight.h"
-#include "table/picture_box.h"
-#include "table/table_canvas.h"
-#include "table/table_painter.h"
-#include "tests/cards/card_pixels.h"
+#include "tests/kit/painted_table.h"
+#include "tests/kit/pixels.h"
 #include "tests/kit/presented.h"
-#include "tests/kit/recorded_errors.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -19,51 +14,37 @@ namespace quillet::test
 namespace
 {
 
-// A painted table with a card in the air, off screen.
-class CardFlightTest : public testing::TestWithParam<double>
+class CardFlightTest : public testing::TestWithParam<double>, protected PaintedTable
 {
 protected:
     void SetUp() override
     {
-        library.cdtInit(width, height);
-        pictures.canvas = &canvas;
-        for (std::size_t i = pictures.picDeal.size(); i-- > 0;)
-            pictures.picDeal[i] = new PictureBox(canvas);
-        for (PictureBox*& box : pictures.picPoker)
-            box = new PictureBox(canvas);
-        canvas.setFixedSize(800, 514);
-        canvas.show();
+        preferences.prfAnimation = true;
         ASSERT_TRUE(moveToScale(canvas, GetParam()));
-        painter.sizePictures(table, GetParam());
         QImage wood(800, 440, QImage::Format_RGB32);
         for (int y = 0; y < wood.height(); ++y)
             for (int x = 0; x < wood.width(); ++x)
                 wood.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
-        pictures.thePic = {wood, QSizeF(800, 440)};
-        painter.repaint(table, 65);
+        paint({wood, QSizeF(800, 440)}, GetParam());
         const PictureBox& deck = *pictures.picDeal[0];
         canvas.keptForDrawing().copyPixels(deck.picture(), deck.picture().image().rect(),
                                            deck.devicePlace().topLeft());
-        for (const int slot : {1, 2, 3})
-            showCard(slot);
+        for (const std::size_t slot : {1U, 2U, 3U}) {
+            library.cdtDraw(pictures.picPoker.at(slot)->picture(), 0, 0, sleeve, drawBack,
+                            whiteColor);
+            pictures.picPoker.at(slot)->setShowing(true);
+        }
         canvas.refresh();
         bare = presented(canvas);
-    }
-
-    void showCard(int slot)
-    {
-        PictureBox& box = *pictures.picPoker[std::size_t(slot)];
-        library.cdtDraw(box.picture(), 0, 0, 65, drawBack, whiteColor);
-        box.setShowing(true);
     }
 
     void fly(QPoint from, QPoint to)
     {
         pictures.picAnimate.picture.copyFrom(canvas.kept(), to, QSizeF(96, 130), {0, 0});
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, 65, drawBack, whiteColor);
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColor);
         std::int32_t x = from.x();
         std::int32_t y = from.y();
-        flight.AnimateCard(x, y, to.x(), to.y(), 1, 65, drawBack);
+        flight.AnimateCard(x, y, to.x(), to.y(), 1, sleeve, drawBack);
         EXPECT_LE(std::abs(x - to.x()), 1);
         EXPECT_LE(std::abs(y - to.y()), 1);
     }
@@ -75,22 +56,11 @@ protected:
         if (changed.isEmpty())
             return {};
         QImage expected = bare.copy(changed);
-        QPainter(&expected).drawImage(0, 0, cardAt(65, GetParam()));
+        QPainter(&expected).drawImage(0, 0, cardAt(sleeve, GetParam()));
         EXPECT_TRUE(difference(shown.copy(changed), expected).isEmpty()) << "not a whole card";
         return changed.topLeft();
     }
 
-    TableMeasures table{800, 514, 96, 130, 60, 169};
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    Preferences preferences;
-    RecordedErrors errorBox;
-    TableCanvas canvas;
-    TablePictures pictures;
-    CardLibrary library;
-    DeckPile pile{pictures, library};
-    TablePainter painter{pictures, library, pile};
-    CardFlight flight{pictures, library, preferences, errorBox};
     QImage bare; // the display without a flying card
 };
 
@@ -98,7 +68,6 @@ protected:
 
 TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
 {
-    preferences.prfAnimation = true;
     const QPoint from(300, 100);
     std::vector<std::pair<QPoint, QPoint>> flights;
     for (const QPoint way :
@@ -130,16 +99,15 @@ TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
         canvas.refresh();
         EXPECT_EQ(presented(canvas), bare);
     }
-    EXPECT_TRUE(errorBox.texts.empty());
+    EXPECT_TRUE(errors.empty());
 }
 
 TEST_P(CardFlightTest, theMinorAxisRoundsDown)
 {
-    preferences.prfAnimation = true;
     const auto lastFrame = [this](QPoint to, std::int16_t step) {
         std::int32_t x = 0;
         std::int32_t y = 100;
-        flight.AnimateCard(x, y, to.x(), to.y(), step, 65, drawBack);
+        flight.AnimateCard(x, y, to.x(), to.y(), step, sleeve, drawBack);
         return QPoint(x, y);
     };
     EXPECT_EQ(lastFrame({8, 98}, 1), QPoint(8, 98));
@@ -149,16 +117,15 @@ TEST_P(CardFlightTest, theMinorAxisRoundsDown)
 
 TEST_P(CardFlightTest, errorsHaveTheirOwnWords)
 {
-    preferences.prfAnimation = true;
     std::int32_t x = 0;
     std::int32_t y = 0;
-    flight.AnimateCard(x, y, 40000, 0, 1, 65, drawBack);
-    flight.AnimateCard(x, y, 5, 0, 0, 65, drawBack);
+    flight.AnimateCard(x, y, 40000, 0, 1, sleeve, drawBack);
+    flight.AnimateCard(x, y, 5, 0, 0, sleeve, drawBack);
     preferences.prfAnimationDelay = 3'000'000;
-    flight.AnimateCard(x, y, 5, 0, 1, 65, drawBack);
-    EXPECT_EQ(errorBox.texts, (std::vector<std::string>{"Error in AnimateCard  Overflow",
-                                                        "Error in AnimateCard  Division by zero",
-                                                        "Error in AnimateCard  Overflow"}));
+    flight.AnimateCard(x, y, 5, 0, 1, sleeve, drawBack);
+    EXPECT_EQ(errors, (std::vector<std::string>{"Error in AnimateCard  Overflow",
+                                                "Error in AnimateCard  Division by zero",
+                                                "Error in AnimateCard  Overflow"}));
 }
 
 TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
@@ -167,13 +134,9 @@ TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
     hatch.fill(Qt::white);
     library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
     for (const PictureBox* place : pictures.picPoker) {
-        const QImage shown = canvas.kept().image().copy(place->devicePlace());
-        const QImage empty = pictures.BoardBuffer.image().copy(place->devicePlace());
-        for (int y = 0; y < shown.height(); ++y)
-            for (int x = 0; x < shown.width(); ++x) {
-                const QRgb ink = hatch.image().pixel(x, y);
-                ASSERT_EQ(shown.pixel(x, y), ink == qRgb(255, 255, 255) ? empty.pixel(x, y) : ink);
-            }
+        QImage expected = pictures.BoardBuffer.image().copy(place->devicePlace());
+        QPainter(&expected).drawImage(0, 0, inkOf(hatch.image()));
+        EXPECT_EQ(canvas.kept().image().copy(place->devicePlace()), expected);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "table/picture_box.h"
 #include "table/poker_table.h"
 #include "table/table_canvas.h"
-#include "tests/cards/card_pixels.h"
+#include "tests/kit/pixels.h"
 #include "tests/kit/presented.h"
 #include "tests/kit/recorded_errors.h"
 

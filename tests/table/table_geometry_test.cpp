@@ -11,34 +11,26 @@ namespace
 constexpr TableMeasures ours{800, 514, 96, 130, 60, 169};
 constexpr TableMeasures small{674, 428, 71, 96, 60, 169};
 
-void expectRect(const QRectF& rect, double left, double top, double width, double height)
-{
-    EXPECT_NEAR(rect.x(), left, 1e-9);
-    EXPECT_NEAR(rect.y(), top, 1e-9);
-    EXPECT_NEAR(rect.width(), width, 1e-9);
-    EXPECT_NEAR(rect.height(), height, 1e-9);
-}
-
 } // namespace
 
 TEST(TableGeometry, placesOfOurCards)
 {
-    expectRect(deckPlace(ours), 200.6, 91.25, 105.6, 143);
+    EXPECT_EQ(deckPlace(ours), QRectF(200.6, 91.25, 105.6, 143));
     const auto cards = cardPlaces(ours);
     for (std::size_t i = 0; i < cards.size(); ++i)
-        expectRect(cards[i], 40 + 110.4 * static_cast<double>(i), 284.3, 96, 130);
-    expectRect(chartPlace(ours), 619, 12, 169, 490);
+        EXPECT_EQ(cards[i], QRectF(40 + 110.4 * static_cast<double>(i), 284.3, 96, 130));
+    EXPECT_EQ(chartPlace(ours), QRectF(619, 12, 169, 490));
     EXPECT_EQ(statusBarPosition(ours), QPointF(12, 442));
-    expectRect(firstRejectPlace(ours), 138, 185.5, 124.8, 143);
-    expectRect(firstDeckPlace(ours), 231.6, 149.75, 105.6, 143);
+    EXPECT_EQ(firstRejectPlace(ours), QRectF(138, 185.5, 124.8, 143));
+    EXPECT_EQ(firstDeckPlace(ours), QRectF(231.6, 149.75, 105.6, 143));
 }
 
 TEST(TableGeometry, placesOfSmallerCards)
 {
-    expectRect(rejectPlace(small), 107, 97, 92.3, 105.6);
-    expectRect(deckPlace(small), 107 + 69.225, 97 - 26.4 + 30, 78.1, 105.6);
-    expectRect(cardPlaces(small)[4], 40 + 4 * 81.65, 100.6 + 142.56, 71, 96);
-    expectRect(chartPlace(small), 493, 12, 169, 404);
+    EXPECT_EQ(rejectPlace(small), QRectF(107, 97, 92.3, 105.6));
+    EXPECT_EQ(deckPlace(small), QRectF(107 + 69.225, 97 - 26.4 + 30, 78.1, 105.6));
+    EXPECT_EQ(cardPlaces(small)[4], QRectF(40 + 4 * 81.65, 100.6 + 142.56, 71, 96));
+    EXPECT_EQ(chartPlace(small), QRectF(493, 12, 169, 404));
     EXPECT_EQ(statusBarPosition(small), QPointF(12, 356));
 }
 

@@ -1,0 +1,166 @@
+#include "platform/colour_contrast.h"
+#include "tests/kit/pixels.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <map>
+#include <sstream>
+#include <string>
+
+namespace quillet::test
+{
+namespace
+{
+
+constexpr int hatch = 53;
+constexpr QRect index(3, 4, 18, 50); // upper left, at the cards' own size
+
+bool isInk(QRgb pixel)
+{
+    return qGray(pixel) < 230;
+}
+
+bool hasInk(const QImage& card, const QRect& place)
+{
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
+            if (isInk(card.pixel(x, y)))
+                return true;
+    return false;
+}
+
+} // namespace
+
+TEST(CardFaces, differInGreyAtThumbnailSize)
+{
+    std::vector<QImage> thumbnails;
+    for (int number = 0; number <= 51; ++number)
+        thumbnails.push_back(renderCard(number, QSize(35, 48)));
+    for (std::size_t first = 0; first < 52; ++first)
+        for (std::size_t second = first + 1; second < 52; ++second)
+            EXPECT_GE(greyDifference(thumbnails[first], thumbnails[second], 64), 20)
+                << first << " and " << second;
+}
+
+TEST(CardFaces, blackQueensDifferInTheirOutline)
+{
+    const QRect side(32, 28, 9, 17); // of the head, on the left below the suit's mark
+    EXPECT_GE(greyDifference(cardAt(44, 1).copy(side), cardAt(47, 1).copy(side), 64),
+              side.width() * side.height() / 2);
+}
+
+TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
+{
+    for (int number = 4; number <= 39; ++number) {
+        const int rank = number / 4 + 1;
+        int pips = 0;
+        int lowest = 99;
+        int indexPip = 0;
+        const QImage card = cardAt(number, 1).copy(2, 2, cardArtWidth - 4, cardArtHeight - 4);
+        for (const Region& mark : regions(card, [](QRgb pixel) { return qGray(pixel) <= 160; }))
+            if (mark.around.center().x() < index.right() + 1)
+                indexPip = mark.around.height(); // the suit stands below the rank
+            else if (mark.around.center().x() < cardArtWidth - index.right() - 5) {
+                ++pips;
+                lowest = std::min(lowest, mark.around.height());
+            }
+        EXPECT_EQ(pips, rank) << number;
+        EXPECT_GE(lowest, 1.4 * indexPip) << number;
+    }
+}
+
+TEST(CardFaces, indexStaysReadableUnderTheHatch)
+{
+    const QImage overlay = cardAt(hatch, 1);
+    for (int number = 0; number <= 51; ++number) {
+        const QImage card = cardAt(number, 1);
+        std::array<int, 2> grey{}; // of the paper and of the ink
+        std::array<int, 2> pixels{};
+        for (int y = index.top(); y <= index.bottom(); ++y)
+            for (int x = index.left(); x <= index.right(); ++x) {
+                const bool covered = overlay.pixel(x, y) != qRgb(255, 255, 255);
+                const std::size_t ink = isInk(card.pixel(x, y)) ? 1 : 0;
+                grey[ink] += qGray((covered ? overlay : card).pixel(x, y));
+                ++pixels[ink];
+            }
+        const auto paper = QColor::fromHsv(0, 0, grey[0] / pixels[0]);
+        const auto ink = QColor::fromHsv(0, 0, grey[1] / pixels[1]);
+        EXPECT_GE(contrast(ink, paper), 3) << number;
+    }
+}
+
+TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
+{
+    for (int number = 0; number <= 51; ++number) {
+        const QImage card = cardAt(number, 1);
+        std::string lines; // of the index, with a blank for each without ink
+        for (int y = index.top(); y <= index.bottom(); ++y)
+            lines += hasInk(card, {index.left(), y, index.width(), 1}) ? '#' : ' ';
+        std::istringstream text(lines);
+        const std::vector<std::string> marks{std::istream_iterator<std::string>(text), {}};
+        ASSERT_EQ(marks.size(), 2U) << number << ": a rank and a suit";
+        EXPECT_GE(marks[0].size(), 22U) << number;
+        EXPECT_GE(marks[1].size(), 14U) << number;
+
+        QRgb darkest = 0xffffffff;
+        for (int y = index.top(); y <= index.bottom(); ++y)
+            for (int x = index.left(); x <= index.right(); ++x)
+                if (qGray(card.pixel(x, y)) < qGray(darkest))
+                    darkest = card.pixel(x, y);
+        const bool red = number % 4 == 1 || number % 4 == 2;
+        EXPECT_EQ(qRed(darkest) > 150, red) << number;
+
+        // Columns side by side without ink part the index from the body; from pips, which look
+        // like its suit, more of them.
+        const int wanted = number >= 12 && number < 40 ? 4 : 2;
+        int clear = 0;
+        for (int x = index.center().x(); clear < wanted && x <= index.right() + 5; ++x)
+            clear = hasInk(card, {x, index.top(), 1, index.height()}) ? 0 : clear + 1;
+        EXPECT_EQ(clear, wanted) << number;
+    }
+}
+
+TEST(CardBacks, areAllDifferentAndNoneIsBlank)
+{
+    for (int first = 53; first <= 66; ++first)
+        for (int second = first + 1; second <= 66; ++second)
+            EXPECT_GT(greyDifference(cardAt(first, 1), cardAt(second, 1), 0), 1500)
+                << first << " and " << second;
+}
+
+TEST(Hatch, isASparseExactlyWhiteRoundedGroundWithOneInkAndAnOutline)
+{
+    constexpr QRgb white = 0xffffffff;
+    for (const double factor : {0.74, 1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+        SCOPED_TRACE(factor);
+        const QImage picture = cardAt(hatch, factor);
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 1;
+        const int corner = static_cast<int>(std::ceil(6 * factor));
+        std::map<QRgb, int> areas;
+        bool outlined = true;
+        for (int y = 0; y <= bottom; ++y)
+            for (int x = 0; x <= right; ++x) {
+                ++areas[picture.pixel(x, y)];
+                const bool side = (x % right == 0 && std::min(y, bottom - y) >= corner) ||
+                                  (y % bottom == 0 && std::min(x, right - x) >= corner);
+                outlined = outlined && !(side && picture.pixel(x, y) == white);
+            }
+        EXPECT_TRUE(outlined);
+        ASSERT_EQ(areas.size(), 3U);
+        EXPECT_EQ(qAlpha(std::next(areas.begin())->first), 255);
+        EXPECT_EQ(picture.pixel(0, 0), 0U) << "as any other back";
+        EXPECT_EQ(picture.pixel(right, bottom), 0U);
+        // Little ink leaves a face below readable.
+        const double share =
+            double(std::next(areas.begin())->second) / (picture.width() * picture.height());
+        EXPECT_GT(share, 0.10);
+        EXPECT_LT(share, 0.21);
+    }
+}
+
+} // namespace quillet::test
