@@ -1,4 +1,5 @@
 #include "assets/make/sounds/cues.h"
+#include "tests/kit/file_text.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +9,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <numbers>
 #include <numeric>
@@ -105,11 +104,8 @@ int strikes(const std::vector<double>& samples)
 
 TEST(Sounds, makerWritesTheCommittedFiles)
 {
-    for (const Cue& cue : makeCues()) {
-        std::ifstream file(folder + cue.fileName, std::ios::binary);
-        const std::string committed((std::istreambuf_iterator<char>(file)), {});
-        EXPECT_TRUE(cue.bytes == committed) << cue.fileName;
-    }
+    for (const Cue& cue : makeCues())
+        EXPECT_TRUE(cue.bytes == fileText(folder + cue.fileName)) << cue.fileName;
 }
 
 TEST(Sounds, everyCueFitsItsUseAndTheOthers)

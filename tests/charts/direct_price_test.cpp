@@ -1,39 +1,120 @@
 #include "charts/chart_price.h"
+#include "engine/hand_evaluation.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
-#include "tests/charts/direct_count.h"
+#include "tests/kit/cards.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <bit>
 #include <fstream>
-#include <numeric>
 #include <random>
+#include <unordered_map>
 
+// Deals, draws and prices once more without any table of the program's odds.
 namespace quillet::charts::test
 {
 
 namespace
 {
 
+using quillet::test::forEachChoice;
+
+using Cards5 = std::array<Card, 5>;
 using Worths = std::array<std::int64_t, holds>;
 
 constexpr std::int64_t unit = 7669695; // every number of draws divides it
 constexpr std::int64_t shares = 2520;  // every number of fitting holds divides it
 
-// The worth of each hold, in units.
-Worths worthsOf(const std::array<OutcomeCounts, holds>& draws, const Pays& pays)
+std::size_t outcomeOf(const Cards5& hand)
 {
-    Worths worths{};
-    for (Hold hold = 0; hold < holds; ++hold) {
-        const OutcomeCounts& paths = draws[hold];
-        const std::int64_t all = std::accumulate(paths.begin(), paths.end(), std::int64_t{0});
-        worths[hold] =
-            unit / all *
-            std::inner_product(paths.begin(), paths.end(), pays.begin(), std::int64_t{0});
+    // By the play code of a final hand.
+    constexpr std::array<std::size_t, 22> outcome{0, 1, 2, 3, 4, 0, 5, 6, 7, 0, 8, 9};
+    return outcome.at(static_cast<std::size_t>(EvaluatePokerHand(hand, true)));
+}
+
+void forEachHand(const std::function<void(const Cards5&)>& visit)
+{
+    forEachChoice(5, [&visit](const std::vector<Card>& chosen) {
+        Cards5 hand;
+        std::ranges::copy(chosen, hand.begin());
+        visit(hand);
+    });
+}
+
+// Calls visit for one deal of each class, and with the number of deals in the class.
+void forEachClass(const std::function<void(const Cards5&, int members)>& visit)
+{
+    forEachHand([&visit](const Cards5& hand) {
+        std::array<unsigned, 4> suits{};
+        for (const Card& card : hand)
+            suits.at(static_cast<std::size_t>(card.suit)) |= 1U << card.rank;
+        if (!std::ranges::is_sorted(suits))
+            return;
+        int members = 1;
+        while (std::ranges::next_permutation(suits).found)
+            ++members;
+        visit(hand, members);
+    });
+}
+
+// What all hands pay together that contain the same cards.
+class PaidHands
+{
+public:
+    explicit PaidHands(const Pays& toPay) : pays(toPay)
+    {
+        forEachHand([&](const Cards5& hand) {
+            const std::int64_t pay = pays[outcomeOf(hand)];
+            for (Hold hold = 0; pay > 0 && hold < holds; ++hold)
+                m_paid[setOf(hand, hold)] += pay;
+        });
     }
-    return worths;
+
+    // The worth of each hold of a deal, in units: what the hands with the held cards pay, but for
+    // those that contain a card thrown away.
+    [[nodiscard]] Worths worthsOf(const Cards5& deal) const
+    {
+        constexpr std::array<std::int64_t, 6> draws{1533939, 178365, 16215, 1081, 47, 1};
+        Worths worths{};
+        for (Hold hold = 0; hold < holds; ++hold) {
+            for (Hold more = hold; more < holds; more = (more + 1) | hold) {
+                const auto paid = m_paid.find(setOf(deal, more));
+                const int sign = std::popcount(more ^ hold) % 2 == 0 ? 1 : -1;
+                worths[hold] += paid == m_paid.end() ? 0 : sign * paid->second;
+            }
+            worths[hold] *= unit / draws.at(static_cast<std::size_t>(std::popcount(hold)));
+        }
+        return worths;
+    }
+
+    const Pays pays;
+
+private:
+    using CardSet = std::uint64_t;
+
+    static CardSet setOf(const Cards5& cards, Hold hold)
+    {
+        CardSet set = 0;
+        for (const Card& card : cards) {
+            set |= CardSet{hold & 1U} << card.cardId;
+            hold >>= 1U;
+        }
+        return set;
+    }
+
+    std::unordered_map<CardSet, std::int64_t> m_paid;
+};
+
+std::vector<Card> heldOf(const Cards5& cards, Hold hold)
+{
+    std::vector<Card> held;
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        if ((hold >> i & 1U) != 0)
+            held.push_back(cards[i]);
+    }
+    return held;
 }
 
 // What every hold of a deal keeps and throws away.
@@ -55,22 +136,22 @@ struct SeenDeal {
                fitAll(row.discards, thrown[hold]);
     }
 
+    [[nodiscard]] Play playedBy(const Chart& chart) const
+    {
+        Play play;
+        for (const Row& row : chart) {
+            for (Hold hold = 0; hold < holds; ++hold)
+                play.fitting |= fits(row, hold) ? 1U << hold : 0;
+            if (play.fitting != 0)
+                break;
+            ++play.row;
+        }
+        return play;
+    }
+
     std::vector<HoldFacts> kept;
     std::vector<DiscardFacts> thrown;
 };
-
-Play playedBy(const Chart& chart, const SeenDeal& deal)
-{
-    Play play;
-    for (const Row& row : chart) {
-        for (Hold hold = 0; hold < holds; ++hold)
-            play.fitting |= deal.fits(row, hold) ? 1U << hold : 0;
-        if (play.fitting != 0)
-            break;
-        ++play.row;
-    }
-    return play;
-}
 
 // Losses in shares of a unit: with the best of the holds that fit, any of them and the worst.
 std::array<std::int64_t, waysToTake> lossesOf(const Play& play, const Worths& worths)
@@ -88,13 +169,6 @@ std::array<std::int64_t, waysToTake> lossesOf(const Play& play, const Worths& wo
     return losses;
 }
 
-Cards5 cardsAt(const std::array<DeckPlace, 5>& places)
-{
-    Cards5 cards{};
-    std::ranges::transform(places, cards.begin(), cardAt);
-    return cards;
-}
-
 Fraction perCreditPaid(Int128 sum)
 {
     return {sum, Int128{FairOdds::deals} * 5 * unit * shares};
@@ -104,15 +178,15 @@ Fraction perCreditPaid(Int128 sum)
 class DirectPrice
 {
 public:
-    DirectPrice(const Chart& chart, const Pays& pays)
-        : m_chart(chart), m_pays(pays), m_rows(chart.size())
+    DirectPrice(const Chart& chart, const PaidHands& paid)
+        : m_chart(chart), m_paid(paid), m_rows(chart.size())
     {
     }
 
-    void add(const SeenDeal& deal, const std::array<OutcomeCounts, holds>& draws, int members)
+    void add(const SeenDeal& seen, const Cards5& deal, int members)
     {
-        const Worths worths = worthsOf(draws, m_pays);
-        const Play play = playedBy(m_chart, deal);
+        const Worths worths = m_paid.worthsOf(deal);
+        const Play play = seen.playedBy(m_chart);
         const auto losses = lossesOf(play, worths);
         Row& row = m_rows[play.row];
         row.deals += members;
@@ -124,16 +198,29 @@ public:
 
     void expectPrinted() const
     {
-        const ChartPrice price = priceChart(HeldCards(m_pays), m_chart);
+        const ChartPrice price = priceChart(HeldCards(m_paid.pays), m_chart);
         EXPECT_EQ(price.perfect, perCreditPaid(m_perfect));
-        std::array<Int128, waysToTake> lost{};
+        std::array<Int128, waysToTake> won{m_perfect, m_perfect, m_perfect};
         for (std::size_t i = 0; i < m_rows.size(); ++i) {
-            expectRow(i, price.rows[i]);
-            for (std::size_t way = 0; way < waysToTake; ++way)
-                lost[way] += m_rows[i].losses[way];
+            SCOPED_TRACE(rowText(m_chart[i]));
+            const Row& row = m_rows[i];
+            const RowPrice& told = price.rows[i];
+            EXPECT_EQ(told.deals, row.deals);
+            EXPECT_EQ(told.costliest, Fraction(row.costliest, Int128{unit} * shares));
+            for (std::size_t way = 0; way < waysToTake; ++way) {
+                EXPECT_EQ(told.loss[way].text(), perCreditPaid(row.losses[way]).text());
+                won[way] -= row.losses[way];
+            }
+            if (row.deals == 0)
+                continue;
+            Cards5 example;
+            std::ranges::transform(told.example, example.begin(), cardAt);
+            const Play play = SeenDeal(example).playedBy(m_chart);
+            EXPECT_EQ(play.row, i);
+            EXPECT_EQ(lossesOf(play, m_paid.worthsOf(example))[2], row.costliest);
         }
         for (std::size_t way = 0; way < waysToTake; ++way)
-            EXPECT_EQ(price.returned[way].text(), perCreditPaid(m_perfect - lost[way]).text());
+            EXPECT_EQ(price.returned[way].text(), perCreditPaid(won[way]).text());
     }
 
 private:
@@ -143,25 +230,8 @@ private:
         std::int64_t costliest = 0;
     };
 
-    void expectRow(std::size_t i, const RowPrice& told) const
-    {
-        const Row& row = m_rows[i];
-        const std::string name = rowText(m_chart[i]);
-        EXPECT_EQ(told.deals, row.deals) << name;
-        EXPECT_EQ(told.costliest, Fraction(row.costliest, unit * shares)) << name;
-        for (std::size_t way = 0; way < waysToTake; ++way)
-            EXPECT_EQ(told.loss[way].text(), perCreditPaid(row.losses[way]).text()) << name;
-        if (row.deals == 0)
-            return;
-        const Cards5 example = cardsAt(told.example);
-        const Play play = playedBy(m_chart, SeenDeal(example));
-        EXPECT_EQ(play.row, i) << name;
-        EXPECT_EQ(lossesOf(play, worthsOf(DirectCount().draws(example), m_pays))[2], row.costliest)
-            << name;
-    }
-
     Chart m_chart;
-    Pays m_pays;
+    const PaidHands& m_paid;
     std::vector<Row> m_rows;
     Int128 m_perfect = 0;
 };
@@ -180,34 +250,25 @@ Chart documentedChart()
 
 } // namespace
 
-TEST(DirectCount, isThatOfTheDrawsOneByOneAndOfTheTables)
+TEST(DealtHand, drawsAreTheHandsThatShareJustTheHeldCardsWithTheDeal)
 {
     const HeldCards heldCards;
-    std::mt19937 random(15);
-    for (int deal = 0; deal < 40; ++deal) {
-        std::array<DeckPlace, 52> deck{};
-        std::iota(deck.begin(), deck.end(), DeckPlace{0});
-        // Every other deal is one of clubs and low diamonds, for flushes and straights.
-        std::shuffle(deck.begin(), deck.begin() + (deal % 2 == 0 ? 52 : 18), random);
-        std::sort(deck.begin(), deck.begin() + 5);
-        std::array<DeckPlace, 5> places{};
-        std::copy_n(deck.begin(), 5, places.begin());
-        std::vector<Card> cards(deck.size());
-        std::ranges::transform(deck, cards.begin(), cardAt);
-        Cards5 dealt{};
-        std::copy_n(cards.begin(), 5, dealt.begin());
-
-        const DealtHand hand(heldCards, places);
-        const auto draws = DirectCount().draws(dealt);
-        // Few deals with the many draws to no card or one.
-        for (Hold hold = 0; hold < holds; ++hold) {
-            if (std::popcount(hold) < std::min(deal, 2))
-                continue;
-            const OutcomeCounts oneByOne =
-                drawsOneByOne(heldOf(dealt, hold), std::span(cards).subspan(5));
-            EXPECT_EQ(draws[hold], oneByOne) << holdText(places, hold);
-            EXPECT_EQ(hand.drawOutcomes(heldCards, hold), oneByOne) << holdText(places, hold);
-        }
+    for (const char* text :
+         {"2d 3d 4d 5d 6d", "9c Tc Jc Kc Ad", "7c 7d 7s 8h 9s", "3c 3h 5d 8s Kh"}) {
+        std::array<DeckPlace, 5> deal = parseHand(text);
+        std::ranges::sort(deal);
+        std::array<OutcomeCounts, holds> draws{};
+        forEachHand([&](const Cards5& hand) {
+            Hold held = 0;
+            for (const Card& card : hand) {
+                const auto found = std::ranges::find(deal, placeOf(card));
+                held |= found == deal.end() ? 0 : 1U << (found - deal.begin());
+            }
+            ++draws[held][outcomeOf(hand)];
+        });
+        const DealtHand dealt(heldCards, deal);
+        for (Hold hold = 0; hold < holds; ++hold)
+            EXPECT_EQ(dealt.drawOutcomes(heldCards, hold), draws[hold]) << holdText(deal, hold);
     }
 }
 
@@ -222,15 +283,14 @@ TEST(ChartPrice, isThatOfAllDealsAndTheirDraws)
     std::shuffle(mixed.begin(), mixed.end(), random);
     mixed.resize(45);
     mixed.push_back({nothingRow()});
-    std::vector<DirectPrice> prices{{trainersChart(), trainersPays()},
-                                    {documentedChart(), trainersPays()},
-                                    {mixed, parsePays("8/5")}};
-    DirectCount count;
-    forEachDirectDeal([&](const Cards5& cards, int members) {
-        const auto draws = count.draws(cards);
-        const SeenDeal deal(cards);
+    const PaidHands trainers(trainersPays());
+    const PaidHands lower(parsePays("8/5"));
+    std::vector<DirectPrice> prices{
+        {trainersChart(), trainers}, {documentedChart(), trainers}, {mixed, lower}};
+    forEachClass([&](const Cards5& deal, int members) {
+        const SeenDeal seen(deal);
         for (DirectPrice& price : prices)
-            price.add(deal, draws, members);
+            price.add(seen, deal, members);
     });
     for (const DirectPrice& price : prices)
         price.expectPrinted();

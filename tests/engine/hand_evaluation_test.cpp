@@ -1,10 +1,9 @@
 #include "engine/hand_evaluation.h"
-#include "tests/kit/card_text.h"
+#include "tests/kit/cards.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <bit>
 #include <vector>
 
 namespace quillet::test
@@ -24,45 +23,11 @@ Hand overFillers(std::span<const Card> held)
     return cards;
 }
 
-// Calls visit for every choice of so many cards of the deck, in ascending order.
-template <typename Visit>
-void forEachChoice(std::vector<Card>& chosen, std::size_t count, const Visit& visit,
-                   std::int16_t from = 0)
-{
-    if (chosen.size() == count) {
-        visit(chosen);
-        return;
-    }
-    for (std::int16_t cardId = from; cardId < 52; ++cardId) {
-        chosen.push_back(makeCard(cardId));
-        forEachChoice(chosen, count, visit, static_cast<std::int16_t>(cardId + 1));
-        chosen.pop_back();
-    }
-}
-
 using Counts = std::array<int, 21>; // by play code, 1 first
 
 void count(Counts& counts, std::int16_t code)
 {
     ++counts.at(static_cast<std::size_t>(code - 1));
-}
-
-// The coach takes a hold whose code is the dealt hand's and which keeps as many cards as that
-// code does.
-bool hasAnAcceptedHold(const Hand& cards, std::int16_t code)
-{
-    for (unsigned hold = 0; hold < 32; ++hold) {
-        if (std::popcount(hold) != CardsToHand(code))
-            continue;
-        std::vector<Card> held;
-        for (unsigned slot = 0; slot < 5; ++slot) {
-            if ((hold >> slot & 1U) != 0)
-                held.push_back(cards[slot]);
-        }
-        if (EvaluatePokerHand(overFillers(held), false) == code)
-            return true;
-    }
-    return false;
 }
 
 struct Row {
@@ -100,11 +65,10 @@ TEST(EvaluatePokerHand, everyHandOfTheDeckIsClassedAndCanBePlayed)
     Counts dealt{};
     Counts final{};
     bool playable = true;
-    std::vector<Card> chosen;
-    forEachChoice(chosen, 5, [&](const std::vector<Card>& cards) {
+    forEachChoice(5, [&](const std::vector<Card>& cards) {
         const Hand five = overFillers(cards);
         const auto code = EvaluatePokerHand(five, false);
-        playable = playable && hasAnAcceptedHold(five, code);
+        playable = playable && acceptedHold(five, code);
         count(dealt, code);
         count(final, EvaluatePokerHand(five, true));
     });
@@ -124,9 +88,8 @@ TEST(EvaluatePokerHand, everyHandOfTheDeckIsClassedAndCanBePlayed)
 TEST(EvaluatePokerHand, everyHoldIsClassedOverFillers)
 {
     Counts held{};
-    std::vector<Card> chosen;
     for (std::size_t cards = 0; cards <= 4; ++cards)
-        forEachChoice(chosen, cards, [&](const std::vector<Card>& hold) {
+        forEachChoice(cards, [&](const std::vector<Card>& hold) {
             count(held, EvaluatePokerHand(overFillers(hold), false));
         });
     EXPECT_EQ(held, (Counts{0,    0,    13,    0,    20,    0,   0,     2548, 36,    2808, 26520,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "tests/kit/card_text.h"
+#include "tests/kit/cards.h"
 
 #include <algorithm>
 #include <string_view>

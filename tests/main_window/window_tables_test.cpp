@@ -2,7 +2,7 @@
 #include "engine/hand_evaluation.h"
 #include "main_window/animation_speed.h"
 #include "main_window/window_layout.h"
-#include "tests/kit/card_text.h"
+#include "tests/kit/cards.h"
 
 #include <QFile>
 #include <QRegularExpression>

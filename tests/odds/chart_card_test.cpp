@@ -1,16 +1,17 @@
 #include "charts/chart_player.h"
 #include "odds/chart_card.h"
+#include "tests/kit/file_text.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace quillet::test
 {
+
+using testing::HasSubstr;
 
 namespace
 {
@@ -26,13 +27,12 @@ const HeldCards& heldCards()
 // The trainer's, the one without loss, and one of all rows, long and with many that never play.
 std::vector<Chart> someCharts()
 {
-    std::ifstream file(QUILLET_CHARTS_FOLDER "/perfect.chart");
     Chart all;
     for (charts::RowKindId kind = charts::nothingRow() + 1 - charts::mostRows;
          kind <= charts::nothingRow(); ++kind)
         all.push_back({kind});
     return {charts::trainersChart(),
-            charts::parseChart(std::string((std::istreambuf_iterator<char>(file)), {})), all};
+            charts::parseChart(fileText(QUILLET_CHARTS_FOLDER "/perfect.chart")), all};
 }
 
 std::string cardOf(const Chart& chart)
@@ -106,10 +106,10 @@ TEST(ChartCard, hasEveryRowOnThePage)
         EXPECT_EQ(countOf("class=\"kept\"", page), kept);
         EXPECT_EQ(countOf("class=\"thrown\"", page), 5 * hands - kept);
         for (const charts::Row& row : chart)
-            EXPECT_THAT(page, testing::HasSubstr(". " + rowText(row) + "</title>"));
+            EXPECT_THAT(page, HasSubstr(". " + rowText(row) + "</title>"));
     }
     EXPECT_THAT(cardOf(charts::trainersChart()),
-                testing::HasSubstr("Returns 99.294918 of 100. Loses 0.248986 against perfect"));
+                HasSubstr("Returns 99.294918 of 100. Loses 0.248986 against perfect"));
 }
 
 TEST(ChartCard, keepsItsLettersWithinTheirColumns)

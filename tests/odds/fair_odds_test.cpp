@@ -15,9 +15,6 @@ const FairOdds& odds()
     return theOdds;
 }
 
-constexpr std::array allStrategies{Strategy::perfect, Strategy::chartBest, Strategy::chartAverage,
-                                   Strategy::chartWorst};
-
 } // namespace
 
 // These figures have been published again and again.
@@ -40,7 +37,8 @@ TEST(FairOdds, perfectPlayComesOutAsPublished)
 
 TEST(FairOdds, chancesAddUpToTheReturn)
 {
-    for (const Strategy strategy : allStrategies) {
+    for (const Strategy strategy :
+         {Strategy::perfect, Strategy::chartBest, Strategy::chartAverage, Strategy::chartWorst}) {
         Fraction chances;
         Fraction credits;
         for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {

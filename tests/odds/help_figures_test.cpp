@@ -1,6 +1,10 @@
 #include "charts/mistakes.h"
+#include "coach/hold_judgement.h"
+#include "engine/hand_evaluation.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
+#include "tests/kit/cards.h"
+#include "tests/kit/file_text.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +12,8 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <numeric>
+#include <regex>
 #include <span>
 #include <string>
 
@@ -19,12 +22,6 @@ namespace quillet::test
 
 namespace
 {
-
-std::string helpText()
-{
-    std::ifstream file(QUILLET_HELP_FILE);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // The text of the help's element of this class.
 std::string figure(const std::string& help, const std::string& name)
@@ -61,9 +58,9 @@ std::string handsPerRoyal(const FairOdds& odds, Strategy strategy)
 std::array<std::array<double, 52>, 52> placesAfterTheShuffle()
 {
     std::array<std::array<double, 52>, 52> chances{};
-    for (std::size_t card = 0; card < chances.size(); ++card) {
-        std::array<double, 52>& place = chances[card];
-        place[card] = 1.0;
+    for (std::size_t number = 0; number < chances.size(); ++number) {
+        std::array<double, 52>& place = chances[number];
+        place[number] = 1.0;
         for (std::size_t i = 0; i < place.size(); ++i) {
             const double here = place[i];
             for (double& chance : place)
@@ -86,38 +83,36 @@ std::string inPercent(double share)
 
 TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
 {
-    const std::string help = helpText();
+    const std::string help = fileText(QUILLET_HELP_FILE);
     const auto chances = placesAfterTheShuffle();
     std::array<double, 52> dealt{};
     std::array<double, 52> drawn{};
     double least = 1;
     double most = 0;
     double highCards = 0;
-    for (std::size_t card = 0; card < 52; ++card) {
-        const auto& place = chances[card];
-        dealt[card] = std::accumulate(place.begin(), place.begin() + 5, 0.0);
-        drawn[card] = std::accumulate(place.begin() + 5, place.begin() + 10, 0.0);
+    for (std::size_t number = 0; number < 52; ++number) {
+        const auto& place = chances[number];
+        dealt[number] = std::accumulate(place.begin(), place.begin() + 5, 0.0);
+        drawn[number] = std::accumulate(place.begin() + 5, place.begin() + 10, 0.0);
         least = std::min(least, *std::ranges::min_element(place));
         most = std::max(most, *std::ranges::max_element(place));
-        highCards += card < 4 || card >= 40 ? dealt[card] : 0.0;
+        highCards += number < 4 || number >= 40 ? dealt[number] : 0.0;
     }
     const auto moreOften = [&dealt](std::size_t rank) {
         const auto first = dealt.begin() + static_cast<std::ptrdiff_t>(4 * (rank - 1));
         const double change = std::accumulate(first, first + 4, 0.0) / (4 * 5.0 / 52) - 1;
         return std::to_string(std::abs(std::lround(change * 100)));
     };
-    constexpr std::size_t kingOfSpades = 51;
-    constexpr std::size_t twoOfDiamonds = 5;
-    constexpr std::size_t threeOfHearts = 10;
+    const auto kingOfSpades = static_cast<std::size_t>(card("Ks").cardId);
     EXPECT_EQ(figure(help, "shuffle-least"), inPercent(least));
     EXPECT_EQ(figure(help, "shuffle-most"), inPercent(most));
-    EXPECT_EQ(std::ranges::min_element(dealt) - dealt.begin(), kingOfSpades);
-    EXPECT_EQ(std::ranges::max_element(dealt) - dealt.begin(), twoOfDiamonds);
-    EXPECT_EQ(std::ranges::max_element(drawn) - drawn.begin(), threeOfHearts);
+    EXPECT_EQ(std::ranges::min_element(dealt) - dealt.begin(), card("Ks").cardId);
+    EXPECT_EQ(std::ranges::max_element(dealt) - dealt.begin(), card("2d").cardId);
+    EXPECT_EQ(std::ranges::max_element(drawn) - drawn.begin(), card("3h").cardId);
     EXPECT_EQ(figure(help, "dealt-least"), inPercent(dealt[kingOfSpades]));
-    EXPECT_EQ(figure(help, "dealt-most"), inPercent(dealt[twoOfDiamonds]));
+    EXPECT_EQ(figure(help, "dealt-most"), inPercent(std::ranges::max(dealt)));
     EXPECT_EQ(figure(help, "drawn-least"), inPercent(drawn[kingOfSpades]));
-    EXPECT_EQ(figure(help, "drawn-most"), inPercent(drawn[threeOfHearts]));
+    EXPECT_EQ(figure(help, "drawn-most"), inPercent(std::ranges::max(drawn)));
     EXPECT_EQ(figure(help, "twos"), moreOften(2));
     EXPECT_EQ(figure(help, "kings"), moreOften(13));
     EXPECT_EQ(figure(help, "aces"), moreOften(1));
@@ -126,7 +121,7 @@ TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
 
 TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
 {
-    const std::string help = helpText();
+    const std::string help = fileText(QUILLET_HELP_FILE);
     const FairOdds odds = fairOdds(HeldCards());
     EXPECT_EQ(figure(help, "worth-perfect"), inHundred(odds.returnOf(Strategy::perfect)));
     EXPECT_EQ(figure(help, "worth-best"), inHundred(odds.returnOf(Strategy::chartBest)));
@@ -148,6 +143,27 @@ TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
     EXPECT_NE(help.find(dearest), std::string::npos) << dearest;
     EXPECT_EQ(figure(help, "worth-lowest"),
               ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3));
+}
+
+TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
+{
+    const std::string help = fileText(QUILLET_HELP_FILE);
+    const std::regex example("<tr id=\"row(\\d+)\">[^]*?<span class=\"hand\">([^<]*)</span>"
+                             "[^]*?<span class=\"hold\">([^<]*)</span>");
+    int rows = 0;
+    for (std::sregex_iterator row(help.begin(), help.end(), example), end; row != end; ++row) {
+        const std::string dealt = row->str(2);
+        const std::string kept = row->str(3);
+        const auto cards = hand(dealt);
+        std::array<bool, 5> held{};
+        for (std::size_t slot = 0; slot < held.size(); ++slot)
+            held[slot] = kept.find(dealt.substr(3 * slot, 2)) != std::string::npos;
+        const std::int16_t play = EvaluatePokerHand(cards, false);
+        EXPECT_EQ(row->str(1), std::to_string(++rows));
+        EXPECT_EQ(play, rows) << dealt;
+        EXPECT_TRUE(judgeHold(cards, held, play).correct) << dealt << ": " << kept;
+    }
+    EXPECT_EQ(rows, 21);
 }
 
 } // namespace quillet::test

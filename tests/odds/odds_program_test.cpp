@@ -2,12 +2,11 @@
 #include "odds/command_line.h"
 #include "odds/hand_text.h"
 #include "odds/simulation.h"
+#include "tests/kit/file_text.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -19,12 +18,17 @@
 namespace quillet::test
 {
 
+using testing::HasSubstr;
+
 namespace
 {
 
-Request parsed(std::vector<std::string_view> arguments)
+Request parsed(const std::string& commandLine)
 {
-    return parseArguments(arguments);
+    std::istringstream words(commandLine);
+    const std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+    const std::vector<std::string_view> views(arguments.begin(), arguments.end());
+    return parseArguments(views);
 }
 
 // What the program prints, and its exit status.
@@ -59,34 +63,32 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(holdText(parseHand("  9C10c,jcKC\taD "), 0b10010), "Tc Ad");
     EXPECT_EQ(holdText(parseHand("9\u266310\u2663J\u2666K\u2665A\u2660"), holdAll),
               "9c Tc Jd Kh As");
-    EXPECT_EQ(parsed({"9c", "Tc", "--csv"}).hand, "9c Tc ");
-    EXPECT_EQ(parsed({"--", "9c", "--csv"}).hand, "9c --csv ");
-    EXPECT_EQ(parsed({"--simulate", "20", "--seed", "3"}).hands, 20);
-    EXPECT_EQ(parsed({"--simulate=1e6"}).hands, 1'000'000);
-    EXPECT_EQ(parsed({"--sitting=10M", "--format=json"}).hands, 10'000'000);
-    const std::vector<std::vector<std::string_view>> nonsense{
-        {"--simulate"},
-        {"--simulate", "0"},
-        {"--simulate=1.5"},
-        {"--what"},
-        {"--simulate", "9", "As"},
-        {"--seed", "3"},
-        {"--simulate", "-5"},
-        {"--simulate", "9", "--seed"},
-        {"--all"},
-        {"--exact=yes"},
-        {"--format", "xml"},
-        {"--bankroll", "9"},
-        {"--plays"},
-        {"--sitting", "11M"},
-        {"--best-chart", "9..3"},
-        {"--best-chart", "65"},
-        {"--card"},
-        {"--card", "x", "--rows"},
-        {"--card", "x", "--best-chart", "1..3"},
-        {"--card", "x", "--mistakes"}};
-    for (const auto& arguments : nonsense)
-        EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments.front();
+    EXPECT_EQ(parsed("9c Tc --csv").hand, "9c Tc ");
+    EXPECT_EQ(parsed("-- 9c --csv").hand, "9c --csv ");
+    EXPECT_EQ(parsed("--simulate 20 --seed 3").hands, 20);
+    EXPECT_EQ(parsed("--simulate=1e6").hands, 1'000'000);
+    EXPECT_EQ(parsed("--sitting=10M --format=json").hands, 10'000'000);
+    for (const char* arguments : {"--simulate",
+                                  "--simulate 0",
+                                  "--simulate=1.5",
+                                  "--what",
+                                  "--simulate 9 As",
+                                  "--seed 3",
+                                  "--simulate -5",
+                                  "--simulate 9 --seed",
+                                  "--all",
+                                  "--exact=yes",
+                                  "--format xml",
+                                  "--bankroll 9",
+                                  "--plays",
+                                  "--sitting 11M",
+                                  "--best-chart 9..3",
+                                  "--best-chart 65",
+                                  "--card",
+                                  "--card x --rows",
+                                  "--card x --best-chart 1..3",
+                                  "--card x --mistakes"})
+        EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments;
 }
 
 TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
@@ -96,25 +98,25 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     for (const char* figure :
          {"99.54390437\n      return = 1653526326983/1661102543100\n", "Of the 2598960 deals",
           "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
-        EXPECT_THAT(game, testing::HasSubstr(figure));
+        EXPECT_THAT(game, HasSubstr(figure));
     EXPECT_THAT(run("--csv").first,
                 testing::StartsWith("table,row,field,value,fraction\n"
                                     "returns,Perfect play,return,0.995439043695,"));
     const auto [hand, handStatus] = run("9c Tc Jc Kc Ad");
-    EXPECT_THAT(hand, testing::HasSubstr("Tc Jc Kc      6.56799260  5.77243293  the chart's\n"));
-    EXPECT_THAT(hand, testing::HasSubstr(
-                          "1 Straight flush, 8 Flush, 3 Straight, 6 High pair of\n    47 draws"));
-    EXPECT_THAT(hand, testing::HasSubstr("more: 9c 0.2405."));
+    EXPECT_THAT(hand, HasSubstr("Tc Jc Kc      6.56799260  5.77243293  the chart's\n"));
+    EXPECT_THAT(hand,
+                HasSubstr("1 Straight flush, 8 Flush, 3 Straight, 6 High pair of\n    47 draws"));
+    EXPECT_THAT(hand, HasSubstr("more: 9c 0.2405."));
     EXPECT_EQ(run("Ad Jc 9c Kc Tc").first, hand) << "in any order";
     EXPECT_THAT(run("--format json 9cTcJcKcAd").first,
-                testing::HasSubstr("\"cost\": 5.772432932470, \"cost fraction\": \"6240/1081\""));
+                HasSubstr("\"cost\": 5.772432932470, \"cost fraction\": \"6240/1081\""));
     EXPECT_THAT(run("--chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
-                testing::HasSubstr("99.29491793"));
-    EXPECT_THAT(run("--pays 8/5").first, testing::HasSubstr("97.29843375"));
-    EXPECT_THAT(run("--pays 8/x").first, testing::HasSubstr("'x' is not a number"));
+                HasSubstr("99.29491793"));
+    EXPECT_THAT(run("--pays 8/5").first, HasSubstr("97.29843375"));
+    EXPECT_THAT(run("--pays 8/x").first, HasSubstr("'x' is not a number"));
     EXPECT_THAT(run("--sitting 2400").first, testing::ContainsRegex("ahead +30\\.3451"));
     EXPECT_EQ(run("9c Tc").second, 2);
-    EXPECT_THAT(run("'9x\u2663'").first, testing::HasSubstr("'9x\u2663' is not a card"));
+    EXPECT_THAT(run("'9x\u2663'").first, HasSubstr("'9x\u2663' is not a card"));
     EXPECT_THAT(run("9c Tc Jc Kc Ad >/dev/full").second, 1) << "a full disk";
 }
 
@@ -125,20 +127,15 @@ TEST(Program, answersHandsOnItsInputAndNeverIgnoresThem)
               "hand,row,best,expected,chart,chart expected,cost\n"
               "9c Tc Jc Kc Ad,12,9c Tc Jc Kc,12.34042553,Tc Jc Kc,6.56799260,5.77243293\n"
               "2c 5c 2d 3h 4s,14,2c 2d,4.11840888,2c 2d,4.11840888,0.00000000\n");
-    EXPECT_THAT(run("-", "printf '2c2d3h4s5c\\n2c2d\\n'").first,
-                testing::HasSubstr("line 2: a hand"));
+    EXPECT_THAT(run("-", "printf '2c2d3h4s5c\\n2c2d\\n'").first, HasSubstr("line 2: a hand"));
     EXPECT_EQ(run("", two).second, 2);
 }
 
 TEST(Program, writesACardWholeOrNotAtAll)
 {
     const std::string file = testing::TempDir() + "quillet-card-" + std::to_string(getpid());
-    const auto content = [&file] {
-        std::ifstream stream(file);
-        return std::string((std::istreambuf_iterator<char>(stream)), {});
-    };
     EXPECT_EQ(run("--card " + file), std::pair(std::string(), 0));
-    const std::string trainers = content();
+    const std::string trainers = fileText(file);
     EXPECT_THAT(trainers, testing::EndsWith("</svg>\n"));
     EXPECT_EQ(run("--card - --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first, trainers);
     const auto [complaint, status] =
@@ -146,12 +143,12 @@ TEST(Program, writesACardWholeOrNotAtAll)
             "trap '' XFSZ; ulimit -f 8; true");
     EXPECT_EQ(complaint, "quillet-odds: " + file + " cannot be written: File too large\n");
     EXPECT_EQ(status, 1);
-    EXPECT_EQ(content(), trainers);
+    EXPECT_EQ(fileText(file), trainers);
     EXPECT_NE(access((file + ".part").c_str(), F_OK), 0);
     EXPECT_EQ(run("--best-chart 3 --card " + file).second, 0);
-    EXPECT_THAT(content(), testing::HasSubstr("3 rows, best first"));
+    EXPECT_THAT(fileText(file), HasSubstr("3 rows, best first"));
     unlink(file.c_str());
-    EXPECT_THAT(run("--card /no/such/folder/x").first, testing::HasSubstr("No such file"));
+    EXPECT_THAT(run("--card /no/such/folder/x").first, HasSubstr("No such file"));
     EXPECT_EQ(run("--card /dev/full").second, 1);
 }
 
@@ -170,8 +167,7 @@ TEST(Program, keepsToEightyColumnsInText)
 
 TEST(Program, wroteTheDocument)
 {
-    std::ifstream file(QUILLET_DOCUMENT);
-    EXPECT_EQ(run("--document").first, std::string((std::istreambuf_iterator<char>(file)), {}))
+    EXPECT_EQ(run("--document").first, fileText(QUILLET_DOCUMENT))
         << "write it again: cmake --build --preset release --target documentation";
 }
 

@@ -1,5 +1,6 @@
 #include "sound/sdl_audio_device.h"
 #include "sound/sdl_sound_output.h"
+#include "tests/kit/file_text.h"
 #include "tests/sound/sound_files.h"
 
 #include <gtest/gtest.h>
@@ -7,8 +8,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -38,8 +37,7 @@ public:
     // How many milliseconds of samples with this value have been heard.
     [[nodiscard]] int heard(std::int16_t value) const
     {
-        std::ifstream file(m_path, std::ios::binary);
-        const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+        const std::string bytes = fileText(m_path);
         std::vector<std::int16_t> samples(bytes.size() / 2);
         std::copy_n(bytes.begin(), samples.size() * 2, reinterpret_cast<char*>(samples.data()));
         return static_cast<int>(std::count(samples.begin(), samples.end(), value) / 96);
