@@ -10,6 +10,7 @@ namespace
 {
 
 constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
+constexpr auto trash = "2h 4s 6c 8d Th 3c 5d 7h 9s Kc";
 constexpr auto royal = "As Ks Qs Js Ts 2c 3d 5h 6s 8c";
 
 // One hand is on the table and waits, whatever came before.
@@ -24,28 +25,41 @@ void expectOneFreshDeal(const Game& game, int hands)
 
 } // namespace
 
-TEST(Reentrancy, newGameWhileDealingLosesTheHandAndDealsOnce)
+TEST(Reentrancy, newGameInAnyPauseDealsOnce)
 {
-    Game game;
-    game.in(300, [&] { game.controller.initPokerScreen(); });
-    game.deal(jacks);
-    expectOneFreshDeal(game, 2);
-    EXPECT_EQ(game.counters.total, -10);
-    EXPECT_EQ(game.log.count("layOut"), 1);
-    EXPECT_EQ(game.log.count("face0"), 1) << "the lost hand stays face down";
-}
-
-TEST(Reentrancy, newGameInEveryPauseOfADrawDealsOnce)
-{
-    for (const int moment : {300, 700, 950}) {
+    enum { start, deal, draw, automatic };
+    struct Row {
+        int during, moment, hands;
+        int layOuts, flights, faces, replacements; // seen
+    };
+    for (const Row& row :
+         std::vector<Row>{{start, 100, 1, 2, 5, 1, 0},
+                          {start, 800, 1, 2, 5, 1, 0},
+                          {start, 1400, 1, 2, 5, 1, 0},
+                          {deal, 300, 2, 1, 10, 1, 0}, // the lost hand stays face down
+                          {draw, 300, 2, 1, 10, 2, 0},
+                          {draw, 700, 2, 1, 13, 2, 0},
+                          {draw, 950, 2, 1, 13, 2, 1},
+                          {automatic, 2050, 2, 1, 15, 2, 1}}) {
+        SCOPED_TRACE(testing::Message() << row.during << " at " << row.moment);
         Game game;
-        game.deal(jacks);
-        game.in(moment, [&] { game.controller.initPokerScreen(); });
-        game.draw("12");
-        expectOneFreshDeal(game, 2);
-        EXPECT_EQ(game.counters.total, -10) << moment;
-        EXPECT_EQ(game.counters.won, 0) << moment;
-        EXPECT_EQ(game.log.count("hatch2"), moment < 950 ? 0 : 1) << moment;
+        game.prfPokerAutoDeal = row.during == automatic;
+        if (row.during >= draw)
+            game.deal(row.during == draw ? jacks : trash);
+        game.in(row.moment, [&] { game.controller.initPokerScreen(); });
+        if (row.during == start)
+            game.controller.initPokerScreen();
+        else if (row.during == deal)
+            game.deal(jacks);
+        else
+            game.draw(row.during == draw ? "12" : "");
+        expectOneFreshDeal(game, row.hands);
+        EXPECT_EQ(game.counters.total, -5 * row.hands);
+        EXPECT_EQ(game.counters.won, 0);
+        EXPECT_EQ(game.log.count("layOut"), row.layOuts);
+        EXPECT_EQ(game.log.count("deal.wav"), row.flights);
+        EXPECT_EQ(game.log.count("face0"), row.faces);
+        EXPECT_EQ(game.log.count("hatch2"), row.replacements);
     }
 }
 
@@ -63,24 +77,6 @@ TEST(Reentrancy, newGameWhileAWinIsCountedCreditsTheRestAtOnce)
     expectOneFreshDeal(game, 2);
     EXPECT_EQ(game.counters.total, 3990);
     EXPECT_EQ(game.counters.won, 1);
-}
-
-TEST(Reentrancy, newGameInTheFadeOrTheLongPausesDealsOnce)
-{
-    for (const int moment : {100, 800, 1400}) {
-        Game game;
-        game.in(moment, [&] { game.controller.initPokerScreen(); });
-        game.controller.initPokerScreen();
-        expectOneFreshDeal(game, 1);
-        EXPECT_EQ(game.log.count("layOut"), 2);
-    }
-    Game game;
-    game.prfPokerAutoDeal = true;
-    game.controller.initPokerScreen();
-    game.state.judgePending = false;
-    game.in(1050 + 1000, [&] { game.controller.initPokerScreen(); });
-    game.draw("");
-    expectOneFreshDeal(game, 2);
 }
 
 TEST(Reentrancy, aClickRightAfterAskingForANewGameDealsNoHandInBetween)
@@ -107,30 +103,20 @@ TEST(Reentrancy, gamesAskedForOneAfterAnotherDoNotPileUp)
     EXPECT_LE(game.counters.hands, 20);
 }
 
-TEST(Reentrancy, aDeckClickBeforeTheFirstDealDealsOnceWhenDealingByHand)
+TEST(Reentrancy, aDeckClickBeforeTheFirstDealIsHeardWhenDealingIsByHand)
 {
-    for (const int moment : {100, 900}) {
+    for (const auto& [moment, automatic] : {std::pair{100, false}, {900, false}, {900, true}}) {
         Game game;
-        game.in(moment, [&] {
+        game.prfPokerAutoDeal = automatic;
+        game.in(moment, [&, byHand = !automatic] {
             game.click();
-            EXPECT_TRUE(game.state.handDealt) << "the click is heard";
-            EXPECT_EQ(game.screen.fadeStep, 25) << "the text does not stay dark";
+            EXPECT_EQ(game.state.handDealt, byHand);
+            EXPECT_EQ(game.counters.hands, byHand ? 1 : 0);
+            EXPECT_EQ(game.table.fadeStep, 25) << "the text does not stay dark";
         });
         game.controller.initPokerScreen();
         expectOneFreshDeal(game, 1);
     }
-}
-
-TEST(Reentrancy, aDeckClickBeforeTheFirstDealWaitsForTheAutomaticOne)
-{
-    Game game;
-    game.prfPokerAutoDeal = true;
-    game.in(900, [&] {
-        game.click();
-        EXPECT_EQ(game.counters.hands, 0);
-    });
-    game.controller.initPokerScreen();
-    expectOneFreshDeal(game, 1);
 }
 
 } // namespace quillet::test

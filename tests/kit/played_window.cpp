@@ -1,8 +1,5 @@
 #include "tests/kit/played_window.h"
 
-#include "table/picture_box.h"
-
-#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -11,19 +8,10 @@ namespace quillet::test
 {
 
 PlayedWindow::PlayedWindow()
-    : desktop{store,
-              pages,
-              sounds,
-              errors,
-              m_desktopClock,
-              *this,
-              {},
-              QUILLET_PROGRAM_FOLDER,
-              [this](std::int32_t delayTime, const std::function<bool()>& cutShort) {
-                  pause(delayTime, cutShort);
-              },
-              [this](int code) { ended.push_back(code); }}
+    : desktop{store, pages, sounds, errors, *this, *this, {}, QUILLET_PROGRAM_FOLDER, {}, {}}
 {
+    desktop.shortDelay = std::bind_front(&PlayedWindow::pause, this);
+    desktop.endProcess = [this](int code) { ended.push_back(code); };
     store.texts = {{"prfAnimation", "False"},
                    {"prfPokerAutoDeal", "False"},
                    {"prfShowPokerPlay", "False"},
@@ -46,7 +34,7 @@ void PlayedWindow::pause(std::int32_t delayTime, const std::function<bool()>& cu
 
 PokerDeck PlayedWindow::nextDeck()
 {
-    failing.at("decks");
+    failAt("decks");
     return decks.nextDeck();
 }
 
@@ -67,11 +55,6 @@ void PlayedWindow::usePicture(QSize size)
     size.isEmpty() ? void(file.write("no picture")) : void(image.save(&file, "BMP"));
 }
 
-void PlayedWindow::choose(const char* menuEntry)
-{
-    window->findChild<QAction*>(menuEntry)->trigger();
-}
-
 void PlayedWindow::draw(std::string_view heldSlots)
 {
     for (const char digit : heldSlots)
@@ -79,17 +62,12 @@ void PlayedWindow::draw(std::string_view heldSlots)
     clickDeck();
 }
 
-QWidget& PlayedWindow::part(const std::string& name)
-{
-    return control(*window, QString::fromStdString(name));
-}
-
 std::string PlayedWindow::counters()
 {
-    QString all;
+    QStringList all;
     for (const char* name : {"lblTotal", "lblHands", "lblWon"})
-        all += (all.isEmpty() ? "" : "/") + control<QLabel>(*window, name).text();
-    return all.toStdString();
+        all += control<QLabel>(*window, name).text();
+    return all.join('/').toStdString();
 }
 
 std::string PlayedWindow::cards()
@@ -118,17 +96,16 @@ std::string PlayedWindow::rowColor(int playCode)
     return picture().pixelColor(row.topLeft() + QPoint(2, 2)).name().toStdString();
 }
 
-void RecordedPages::open(const std::string&, const std::string& file, const std::string&,
-                         const std::string&, int)
+double PlayedWindow::processorSeconds()
 {
-    fault.at("open");
-    addresses.push_back(file);
+    failAt("clock");
+    return static_cast<double>(clock.now += 500) / 1000;
 }
 
-double PlayedClock::processorSeconds()
+void PlayedWindow::failAt(const char* port) const
 {
-    fault.at("clock");
-    return static_cast<double>(clock.now += 500) / 1000;
+    if (failing == port)
+        throw RunTimeError("the wind");
 }
 
 } // namespace quillet::test

@@ -2,10 +2,11 @@
 
 #include "main_window/frm_main.h"
 #include "tests/kit/memory_store.h"
-#include "tests/kit/played_game.h"
 #include "tests/kit/presented.h"
+#include "tests/kit/stand_ins.h"
 #include "tests/kit/window_driving.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -18,16 +19,6 @@
 namespace quillet::test
 {
 
-// Lets one port of the desktop fail.
-struct Fault {
-    void at(const std::string& name) const
-    {
-        if (name == port)
-            throw RunTimeError("the wind");
-    }
-    std::string port; // "clock", "decks" or "open"
-};
-
 struct RecordedSounds : SoundOutput {
     void prepare() override {}
     void play(const std::string& path) override
@@ -37,32 +28,14 @@ struct RecordedSounds : SoundOutput {
     std::vector<std::string> names;
 };
 
-struct RecordedPages : ShellOpen {
-    explicit RecordedPages(const Fault& toFail) : fault(toFail) {}
-    void open(const std::string& verb, const std::string& file, const std::string& parameters,
-              const std::string& directory, int showCommand) override;
-
-    const Fault& fault;
-    std::vector<std::string> addresses;
-};
-
-struct PlayedClock : Clock {
-    PlayedClock(VirtualClock& played, const Fault& toFail) : clock(played), fault(toFail) {}
-    std::int64_t milliseconds() override { return clock.now; }
-    double processorSeconds() override; // moves on with every look, as on a very slow machine
-
-    VirtualClock& clock;
-    const Fault& fault;
-};
-
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,
 // fire the input that falls due meanwhile and let the toolkit's events run. Unless a test stores
 // something else, dealing is by hand, cards do not fly and the delays are known.
-class PlayedWindow : private DeckSource
+class PlayedWindow : private DeckSource, private Clock
 {
 public:
     PlayedWindow();
-    virtual ~PlayedWindow() = default;
+    ~PlayedWindow() override = default;
 
     // Loads the window, whose first hand has these ten cards (see StackedDeck).
     bool start(std::string_view tenCards = jacks);
@@ -75,11 +48,14 @@ public:
 
     void clickDeck() { click(part("picDeal0")); }
     void clickCard(int slot) { click(part("picPoker" + std::to_string(slot))); }
-    void choose(const char* menuEntry);
+    void choose(const char* menuEntry) { window->findChild<QAction*>(menuEntry)->trigger(); }
     // Holds the slots whose digits (1..5) are named and clicks the deck.
     void draw(std::string_view heldSlots);
 
-    [[nodiscard]] QWidget& part(const std::string& name);
+    [[nodiscard]] QWidget& part(const std::string& name)
+    {
+        return control(*window, QString::fromStdString(name));
+    }
     // The counters, "total/hands/won".
     [[nodiscard]] std::string counters();
     // What a screen reader says of the card places, their numbers left out.
@@ -96,11 +72,11 @@ public:
 
     MemoryStore store;
     StackedDeck decks;
-    Fault failing;
     RecordedErrors errors;
     RecordedSounds sounds;
-    RecordedPages pages{failing};
+    RecordingShell pages;
     VirtualClock clock;
+    std::string failing;    // "clock" or "decks"
     std::vector<int> ended; // the codes with which the process was to end
     Desktop desktop;
     std::unique_ptr<frmMain> window;
@@ -110,8 +86,17 @@ protected:
     PokerDeck nextDeck() override;
 
 private:
-    PlayedClock m_desktopClock{clock, failing};
+    std::int64_t milliseconds() override { return clock.now; }
+    // Moves on with every look, as on a very slow machine.
+    double processorSeconds() override;
+    void failAt(const char* port) const;
+
     QTemporaryDir m_ownFolder;
+};
+
+// One whose first hand waits for the draw.
+struct StartedWindow : PlayedWindow {
+    StartedWindow() { EXPECT_TRUE(start()); }
 };
 
 // Opens a modal window and lets the act work in it. One that the act leaves open is closed.

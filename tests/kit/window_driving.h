@@ -1,5 +1,6 @@
 #pragma once
 
+#include "faults/run_time_error.h"
 #include "platform/shell_open.h"
 
 #include <QTest>
@@ -13,12 +14,12 @@ namespace quillet::test
 {
 
 // Keeps what the windows ask the desktop to open.
-class RecordingShell : public ShellOpen
-{
-public:
+struct RecordingShell : ShellOpen {
     void open(const std::string& verb, const std::string& file, const std::string& parameters,
               const std::string& directory, int showCommand) override
     {
+        if (fails)
+            throw RunTimeError("the wind");
         opened.push_back(file);
         const bool plain = verb == "open" && parameters.empty() && directory.empty();
         allPlain = allPlain && plain && showCommand == 1;
@@ -26,6 +27,7 @@ public:
 
     std::vector<std::string> opened;
     bool allPlain = true;
+    bool fails = false;
 };
 
 template <typename Widget = QWidget>

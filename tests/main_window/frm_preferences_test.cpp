@@ -1,3 +1,4 @@
+#include "main_window/animation_speed.h"
 #include "main_window/frm_preferences.h"
 #include "platform/colour_contrast.h"
 #include "tests/kit/played_window.h"
@@ -10,6 +11,8 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
 #include <QTabWidget>
+
+#include <map>
 
 namespace quillet::test
 {
@@ -50,8 +53,7 @@ void chooseColor(frmPreferences& dialog, const QColor& color, bool accepted)
 
 TEST(PreferencesDialog, saveTakesEveryFieldAndThePileItsBack)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     const QImage before = game.picture();
     inPreferences(game, [&game](frmPreferences& dialog) {
         EXPECT_EQ(shown(dialog), "1 0 700 300 0 0 1 Sleeve #00ff00");
@@ -72,10 +74,17 @@ TEST(PreferencesDialog, saveTakesEveryFieldAndThePileItsBack)
     EXPECT_EQ(game.store.log.find('='), std::string::npos) << "the store is none of its business";
 }
 
+TEST(PreferencesDialog, theLowerHalfOfTheSliderIsSteep)
+{
+    const std::map<int, std::int32_t> delays{{0, 6000},  {1, 5989},  {250, 3250}, {499, 511},
+                                             {500, 500}, {501, 499}, {1000, 0}};
+    for (const auto& [position, delay] : delays)
+        EXPECT_EQ(animationDelayFor(position), delay) << position;
+}
+
 TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     game.clickCard(0);
     const QPoint edge = game.placeOf("picPoker0").topLeft() + QPoint(-2, 60);
     ASSERT_EQ(game.picture().pixelColor(edge), QColor(Qt::green));
@@ -99,26 +108,22 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
 TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
 {
     for (const QPalette& desktop : {QPalette(Qt::black, Qt::black), QPalette(QColor(0xefefef))}) {
-        PlayedWindow game;
-        ASSERT_TRUE(game.start());
+        StartedWindow game;
         inPreferences(game, [&desktop](frmPreferences& dialog) {
             dialog.setPalette(desktop);
             auto& tabs = control<QTabWidget>(dialog, "SSTab1");
+            // On the left of a part of a control, halfway down.
             const auto edgeOf = [](QWidget& widget, const QRect& place) {
-                const QImage picture = widget.grab().toImage();
-                const QColor edge = picture.pixelColor(place.left(), place.center().y());
-                return contrast(edge, picture.pixelColor(place.left() - 1, place.center().y()));
+                return widget.grab().toImage().pixelColor(place.left(), place.center().y());
             };
-            for (const auto& [page, name] : {std::pair{0, "ckAnimation"}, {1, "opAlwaysShow"}}) {
+            for (const auto& [page, name, part] :
+                 {std::tuple{0, "ckAnimation", QStyle::SE_CheckBoxIndicator},
+                  {1, "opAlwaysShow", QStyle::SE_RadioButtonIndicator}}) {
                 tabs.setCurrentIndex(page);
                 auto& box = control(dialog, name);
                 QStyleOptionButton option;
                 option.initFrom(&box);
-                const auto part =
-                    page == 0 ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
-                const QRect place = box.style()->subElementRect(part, &option, &box);
-                const QColor edge =
-                    box.grab().toImage().pixelColor(place.left(), place.center().y());
+                const QColor edge = edgeOf(box, box.style()->subElementRect(part, &option, &box));
                 EXPECT_GE(contrast(edge, desktop.color(QPalette::Window)), 1.5) << name;
             }
             tabs.setCurrentIndex(0);
@@ -131,7 +136,8 @@ TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
             option.state |= QStyle::State_Horizontal;
             const QRect thumb = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
                                                             QStyle::SC_ScrollBarSlider, &bar);
-            EXPECT_GE(edgeOf(bar, thumb.adjusted(1, 1, -1, -1)), 3);
+            const QRect inside = thumb.adjusted(1, 1, -1, -1);
+            EXPECT_GE(contrast(edgeOf(bar, inside), edgeOf(bar, inside.translated(-1, 0))), 3);
 
             tabs.setCurrentIndex(2);
             auto& preview = control(dialog, "picBacks");
@@ -146,8 +152,7 @@ TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
 
 TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     inPreferences(game, [](frmPreferences& dialog) {
         control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
         control(dialog, "cmdChangeColor").setFocus();
@@ -168,8 +173,7 @@ TEST(PreferencesDialog, aLargeFontStaysLarge)
     QFont large = usual;
     large.setPointSize(18);
     QApplication::setFont(large);
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     inPreferences(game, [](frmPreferences& dialog) {
         auto& list = control(dialog, "Combo1");
         EXPECT_GE(list.font().pointSizeF(), 14);

@@ -1,6 +1,8 @@
 #include "platform/number_keys.h"
 #include "table/picture_box.h"
+#include "table/poker_table.h"
 #include "table/table_canvas.h"
+#include "tests/kit/pixels.h"
 #include "tests/kit/played_window.h"
 
 namespace quillet::test
@@ -23,6 +25,16 @@ bool outlined(PlayedWindow& game, int slot, const QColor& color)
         found += picture.pixelColor(x, card.center().y()) == color ? 1 : 0;
     EXPECT_TRUE(found == 0 || found == 4) << "slot " << slot << ": " << found;
     return found == 4;
+}
+
+// Whether the place shows this card, but for its rounded corners.
+bool shows(PlayedWindow& game, int slot, int cardNumber)
+{
+    const QRect place = game.placeOf("picPoker" + std::to_string(slot));
+    const QRect middle = QRect(QPoint(), place.size()).adjusted(8, 8, -8, -8);
+    return difference(game.picture().copy(middle.translated(place.topLeft())),
+                      cardAt(cardNumber, 1.0).copy(middle))
+        .isEmpty();
 }
 
 } // namespace
@@ -49,8 +61,7 @@ TEST(HandInWindow, aHeldCardIsOutlined)
 
 TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
 {
-    PlayedWindow usual;
-    ASSERT_TRUE(usual.start());
+    StartedWindow usual;
     const QImage table = usual.picture();
     PlayedWindow odd;
     odd.store.texts["prfPKBackFace"] = "40";               // no such back
@@ -64,8 +75,7 @@ TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
 
 TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     EXPECT_EQ(game.rowColor(11), grey) << "the best play is kept secret";
     game.sounds.names.clear();
     game.draw("1");
@@ -87,29 +97,55 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     EXPECT_FALSE(game.waitsForDraw());
 }
 
-TEST(HandInWindow, aDisplayWithOtherPixelsLeavesTheTableAsItWas)
+TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
-    auto& canvas = control<TableCanvas>(*game.window, "table");
+    StartedWindow game;
     game.clickCard(1);
     const QImage before = game.picture();
-    // As if the pictures had been made for another display than the one that shows them now.
-    canvas.resizePictures(canvas.innerSize(), 2.0);
-    for (auto* box : canvas.findChildren<PictureBox*>())
-        box->place(box->place(), 2.0);
-    canvas.repaint();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(canvas.scale(), 1.0);
+    ASSERT_TRUE(moveToScale(*game.window, 1.5));
+    EXPECT_NE(game.picture().size(), before.size());
+    ASSERT_TRUE(moveToScale(*game.window, 1.0));
     EXPECT_EQ(game.picture(), before);
     game.draw("1");
     EXPECT_EQ(game.counters(), "0/1/1") << "the hand went on";
 }
 
+TEST(PokerTable, cardsLieInTheBackThatWasChosenWhenTheyFlew)
+{
+    StartedWindow game;
+    auto& table = control<PokerTable>(*game.window, "pokerTable");
+    table.flyCardTo(0);
+    game.window->prfPKBackFace = 60;
+    table.flyCardTo(3);
+    ASSERT_TRUE(moveToScale(*game.window, 1.5) && moveToScale(*game.window, 1.0));
+    EXPECT_TRUE(shows(game, 0, 65) && shows(game, 3, 60));
+    table.showFace(3, 17, false);
+    EXPECT_TRUE(shows(game, 3, 17));
+    table.takeAway(3);
+    EXPECT_FALSE(table.isCardShowing(3) || shows(game, 3, 17));
+}
+
+TEST(PokerTable, aFlightThatBreaksOffLeavesATableThatCanBePlayedOn)
+{
+    StartedWindow game;
+    auto& table = control<PokerTable>(*game.window, "pokerTable");
+    game.window->prfAnimation = true;
+    game.window->prfAnimationDelay = 3'000'000;
+    table.flyCardTo(2);
+    EXPECT_EQ(game.errors.texts, std::vector<std::string>{"Error in AnimateCard  Overflow"});
+    EXPECT_TRUE(table.canvas().persistentImage());
+    EXPECT_TRUE(shows(game, 2, 65));
+    auto& deck = control<PictureBox>(*game.window, "picDeal0");
+    table.showHold(2, true);
+    deck.setShowing(false);
+    table.recover();
+    EXPECT_TRUE(deck.isShowing());
+    EXPECT_FALSE(control<PictureBox>(*game.window, "picPoker2").isChecked());
+}
+
 TEST(HandInWindow, theKeyboardPlaysAWholeHand)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     QWindow* const display = game.window->windowHandle();
     const auto press = [&](Qt::Key key) { QTest::keyClick(display, key); };
 

@@ -1,6 +1,6 @@
-#include "cards/card_art.h"
 #include "table/picture_box.h"
 #include "table/table_geometry.h"
+#include "tests/kit/pixels.h"
 #include "tests/kit/played_window.h"
 
 #include <QPainter>
@@ -15,21 +15,6 @@ namespace
 
 constexpr int sleeve = 65;
 constexpr int hatch = 53;
-
-QImage cardAt(double scale, int cardNumber)
-{
-    return renderCard(cardNumber, (QSizeF(cardArtWidth, cardArtHeight) * scale).toSize());
-}
-
-// Only the ink of the overlay.
-QImage inkOf(QImage overlay)
-{
-    for (int y = 0; y < overlay.height(); ++y)
-        for (int x = 0; x < overlay.width(); ++x)
-            if (overlay.pixel(x, y) == qRgb(255, 255, 255))
-                overlay.setPixel(x, y, qRgba(0, 0, 0, 0));
-    return overlay;
-}
 
 // The parts of the table that are known to a pixel, on a transparent picture.
 class KnownTable
@@ -55,8 +40,8 @@ public:
         for (int slot = 0; slot < 5; ++slot) {
             const auto& box =
                 static_cast<PictureBox&>(m_game.part("picPoker" + std::to_string(slot)));
-            paint(cardAt(m_scale, faces[std::size_t(slot)]), box.devicePlace().topLeft());
-            paint(inkOf(cardAt(m_scale, hatch)), box.devicePlace().topLeft());
+            paint(cardAt(faces[std::size_t(slot)], m_scale), box.devicePlace().topLeft());
+            paint(inkOf(cardAt(hatch, m_scale)), box.devicePlace().topLeft());
         }
     }
 
@@ -111,7 +96,7 @@ private:
     {
         const auto& box = static_cast<PictureBox&>(m_game.part("picDeal0"));
         for (int back = 0; back < 4; ++back)
-            paint(cardAt(m_scale, sleeve),
+            paint(cardAt(sleeve, m_scale),
                   box.devicePlace().topLeft() +
                       QPoint(deviceOrigin(2 * back, m_scale), deviceOrigin(back, m_scale)));
     }
@@ -163,8 +148,7 @@ TEST(PresentedTable, aHandOnTwoDisplaysLooksAsItShould)
 
 TEST(PresentedTable, cardsFlyOverTheWholeTable)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     ASSERT_TRUE(moveToScale(*game.window, 1.5));
     game.window->prfAnimation = true;
     game.window->prfAnimationDelay = 0;
@@ -182,7 +166,7 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     KnownTable known(game);
     EXPECT_EQ(known.differences(look), 0);
     EXPECT_FALSE(coloursIn(look, look.rect()).contains(lost));
-    const QImage back = cardAt(1.5, sleeve).convertToFormat(look.format());
+    const QImage back = cardAt(sleeve, 1.5).convertToFormat(look.format());
     const QRect middle = back.rect().adjusted(9, 9, -9, -9);
     bool seen = false;
     for (int step = 0; step < 273; ++step) {
@@ -197,8 +181,7 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
 TEST(PresentedTable, deckAndChartNeverFlash)
 {
     constexpr int beach = 64;
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     game.window->prfAnimation = true;
     game.window->prfAnimationDelay = 0;
     const QPoint deck = game.placeOf("picDeal0").topLeft();
@@ -226,8 +209,7 @@ TEST(PresentedTable, deckAndChartNeverFlash)
 
 TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     const auto corners = [&game] {
         std::vector<QRgb> colours;
         for (const char* part : {"picDeal0", "picPoker0", "picPoker4"})
@@ -244,8 +226,7 @@ TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
 
 TEST(PresentedTable, theBarsPointerIsAsLargeOnEveryDisplay)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     for (const double scale : {1.0, 1.5, 2.0}) {
         ASSERT_TRUE(moveToScale(*game.window, scale));
         const QCursor pointer = game.part("picStatusBar").cursor();

@@ -1,5 +1,4 @@
 #include "main_window/calibration_splash.h"
-#include "table/picture_box.h"
 #include "table/table_canvas.h"
 #include "tests/kit/played_window.h"
 
@@ -11,8 +10,7 @@ namespace quillet::test
 
 TEST(StartUp, theFirstHandIsDealt)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     EXPECT_TRUE(game.window->isVisible());
     EXPECT_EQ(game.window->windowTitle(), "Jacks or Better Quillet");
     EXPECT_EQ(game.counters(), "-5/1/0");
@@ -31,7 +29,7 @@ TEST(StartUp, theFirstStartMeasuresTheDelaysOrTellsWhyNot)
     for (const bool fails : {false, true}) {
         PlayedWindow game;
         game.store.texts = {{"prfSound", "False"}, {"prfAnimation", "False"}};
-        game.failing.port = fails ? "clock" : "";
+        game.failing = fails ? "clock" : "";
         ASSERT_TRUE(game.start());
         EXPECT_EQ(game.window->prfAnimationDelay, 0);
         EXPECT_EQ(game.window->prfScrollVal, fails ? 0 : 1000);
@@ -41,7 +39,7 @@ TEST(StartUp, theFirstStartMeasuresTheDelaysOrTellsWhyNot)
     }
     PlayedWindow fastest;
     fastest.store.texts["prfAnimationDelay"] = "0";
-    fastest.failing.port = "clock";
+    fastest.failing = "clock";
     ASSERT_TRUE(fastest.start());
     EXPECT_TRUE(fastest.errors.texts.empty()) << "a delay of 0 is known, too";
 }

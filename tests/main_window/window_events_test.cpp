@@ -39,8 +39,7 @@ TEST(WindowEvents, clicksAndANewGameInAPauseDealOneFreshHand)
         EXPECT_EQ(game.counters(), "-10/2/0") << moment;
         EXPECT_TRUE(game.waitsForDraw());
     }
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     game.draw("12");
     doubleClick(game.part("picDeal0"));
     EXPECT_EQ(game.counters(), "-5/2/1") << "a double click on the deck is one click";
@@ -57,8 +56,7 @@ TEST(WindowEvents, theChartStandsStillWithRoomForAWiderFont)
         }
         int hidden = 0;
     } counter;
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     game.part("picPokerLabels").installEventFilter(&counter);
     for (const ChartRow* row : game.window->findChildren<ChartRow*>()) {
         const double advance = QFontMetricsF(row->font()).horizontalAdvance(row->text());
@@ -109,8 +107,7 @@ TEST(WindowEvents, closingInAnyPauseEndsEverything)
 TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
 {
     for (const char* way : {"mnuExit", "close box"}) {
-        PlayedWindow game;
-        ASSERT_TRUE(game.start());
+        StartedWindow game;
         game.store.log.clear();
         const auto leave = [&] {
             way == std::string("mnuExit") ? game.choose(way) : void(game.window->close());
@@ -132,14 +129,13 @@ TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
         ASSERT_FALSE(game.ended.empty());
         EXPECT_EQ(game.ended[0], 0);
         EXPECT_EQ(game.store.log, saved) << "once";
-        EXPECT_TRUE(game.pages.addresses.empty());
+        EXPECT_TRUE(game.pages.opened.empty());
     }
 }
 
 TEST(WindowEvents, aStoreThatFailsIsReportedAndNoExitScreenFollows)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     game.store.failingKey = "prfAnimation";
     game.window->close();
     EXPECT_EQ(game.errors.texts,
@@ -151,15 +147,14 @@ TEST(WindowEvents, aStoreThatFailsIsReportedAndNoExitScreenFollows)
 
 TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
 {
-    PlayedWindow game;
-    ASSERT_TRUE(game.start());
+    StartedWindow game;
     for (const char* entry : {"mnuSites0", "mnuSites1", "mnuSites2", "mnuSites3", "mnuSites4"})
         game.choose(entry);
     QTest::mouseClick(game.window->windowHandle(), Qt::LeftButton, {},
                       game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
-    EXPECT_EQ(game.pages.addresses, std::vector<std::string>(6, onlinePokerPage()));
+    EXPECT_EQ(game.pages.opened, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
-    EXPECT_EQ(game.pages.addresses.size(), 6U) << "the text in the bar is no link";
+    EXPECT_EQ(game.pages.opened.size(), 6u) << "the text in the bar is no link";
     // A button let go beside what it was pressed on has not clicked it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {
@@ -167,7 +162,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
         QTest::mousePress(display, Qt::LeftButton, {}, place.topLeft() + QPoint(5, 5));
         QTest::mouseRelease(display, Qt::LeftButton, {}, place.topLeft() - QPoint(5, 5));
     }
-    EXPECT_EQ(game.pages.addresses.size(), 6U);
+    EXPECT_EQ(game.pages.opened.size(), 6u);
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_TRUE(game.sounds.names.size() == 5U) << "nobody asked to draw";
 

@@ -5,7 +5,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace quillet::test
 {
@@ -31,30 +31,42 @@ QByteArray savedGif()
                                "2c00000000010001000002024401003b");
 }
 
-// Null for a file that is refused.
 QImage loaded(const QByteArray& bytes)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath("picture"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
+    return loadPictureFile(file.fileName(), 1.0).image;
+}
+
+// Empty for a file that can be loaded.
+std::string problemOf(const QByteArray& bytes)
+{
     try {
-        return loadPictureFile(file.fileName(), 1.0).image;
-    } catch (const RunTimeError&) {
-        return {};
+        EXPECT_FALSE(loaded(bytes).isNull());
+        return "";
+    } catch (const RunTimeError& error) {
+        return error.what();
     }
 }
 
 } // namespace
 
-TEST(PictureFile, whatWasCutShortIsInvalid)
+TEST(PictureFile, whatIsCutShortOrTakesTooMuchMemoryIsRefused)
 {
     for (const QByteArray& whole : {saved("JPG"), saved("BMP"), savedGif()}) {
-        EXPECT_FALSE(loaded(whole).isNull());
+        EXPECT_EQ(problemOf(whole), "");
         for (const qsizetype length : {whole.size() / 2, whole.size() * 9 / 10, whole.size() - 1})
-            EXPECT_TRUE(loaded(whole.first(length)).isNull()) << length << " of " << whole.size();
-        EXPECT_FALSE(loaded(whole + "and a note").isNull());
+            EXPECT_NE(problemOf(whole.first(length)), "") << length << " of " << whole.size();
+        EXPECT_EQ(problemOf(whole + "and a note"), "");
     }
+    for (const auto& [head, trouble] : {std::pair{"P5 8000 8000 255\n", "too large"},
+                                        {"P5 9000 1 255\n", "too large"},
+                                        {"P5 0 0 255\n", "Invalid picture"},
+                                        {"GIF89a", "Invalid picture"},
+                                        {"\xff\xd8\xff", "Invalid picture"}})
+        EXPECT_THAT(problemOf(head), testing::HasSubstr(trouble)) << head;
 }
 
 TEST(PictureFile, noJpegThatEndsInItsHeadIsWaitedFor)
@@ -64,7 +76,7 @@ TEST(PictureFile, noJpegThatEndsInItsHeadIsWaitedFor)
         EXPECT_FALSE(goesOnToItsEnd(whole.first(length))) << length << " of " << whole.size();
 
     testing::internal::CaptureStderr();
-    EXPECT_TRUE(loaded(whole.first(whole.size() / 2)).isNull());
+    EXPECT_NE(problemOf(whole.first(whole.size() / 2)), "");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 

@@ -1,14 +1,46 @@
 #pragma once
 
+#include "engine/deck.h"
+#include "faults/run_time_error.h"
+#include "tests/kit/cards.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <string>
+#include <string_view>
+#include <vector>
 
+// Stand-ins for what is around a game.
 namespace quillet::test
 {
+
+struct RecordedErrors : ErrorBox {
+    void showError(const std::string& text) override { texts.push_back(text); }
+    std::vector<std::string> texts;
+};
+
+// Decks with these ten cards on top, as text, "As Ks ...": five to be dealt, then the replacements
+// of slots 0..4.
+class StackedDeck : public DeckSource
+{
+public:
+    void stack(std::string_view tenCards)
+    {
+        m_deck = buildDeck();
+        for (std::size_t at = 0; 3 * at < tenCards.size(); ++at)
+            std::swap(m_deck[at],
+                      *std::ranges::find(m_deck, card(tenCards.substr(3 * at, 2)).cardId));
+    }
+
+    PokerDeck nextDeck() override { return m_deck; }
+
+private:
+    PokerDeck m_deck = buildDeck();
+};
 
 // A clock on which time passes in pauses only, at once. Whatever falls due meanwhile is done, as a
 // real pause handles events.
