@@ -9,26 +9,15 @@
 namespace quillet::test
 {
 
-class AboutTest : public testing::Test
+TEST(AboutBox, theLinkOpensTheAddressThatItShows)
 {
-protected:
-    frmAbout& present()
-    {
-        frmAbout::present(&owner, shell);
-        auto* box = openWindow<frmAbout>();
-        EXPECT_TRUE(box != nullptr && QTest::qWaitForWindowExposed(box));
-        return *box;
-    }
-
     QWidget owner;
     RecordingShell shell;
-};
-
-TEST_F(AboutTest, theLinkOpensTheAddressThatItShows)
-{
-    frmAbout& box = present();
-    auto& link = control<QLabel>(box, "lblLink");
-    EXPECT_EQ(link.x() + link.contentsRect().x(), control(box, "Label4").x()) << "in line";
+    frmAbout::present(&owner, shell);
+    auto* const box = openWindow<frmAbout>();
+    ASSERT_TRUE(box != nullptr && QTest::qWaitForWindowExposed(box));
+    auto& link = control<QLabel>(*box, "lblLink");
+    EXPECT_EQ(link.x() + link.contentsRect().x(), control(*box, "Label4").x()) << "in line";
     EXPECT_EQ(link.text(), "http://downloads.quillet.example/free/videopoker");
     doubleClick(link);
     link.setText("http://elsewhere.example/x");

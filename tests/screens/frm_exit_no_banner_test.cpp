@@ -24,11 +24,6 @@ protected:
         QObject::connect(&window, &frmExitNoBanner::endProgram, [this] { note("end"); });
     }
 
-    void show()
-    {
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
     void note(const std::string& what)
     {
         log.push_back(what + (window.isVisible() ? ", shown" : ", gone") + ", opened " +
@@ -51,7 +46,8 @@ protected:
 
 TEST_F(ExitScreenTest, aDoubleClickOpensTwiceOnALinkLabelAndOnceOnTheFooter)
 {
-    show();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     for (const char* name : {"Label1", "Label2", "Label4", "Label5", "Label6", "Label7", "Label8",
                              "Label9", "Label10", "Label11", "Label12", "lblLink"}) {
         auto& label = control<LinkLabel>(window, name);

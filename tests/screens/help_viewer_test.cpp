@@ -1,5 +1,6 @@
 #include "platform/colour_contrast.h"
 #include "screens/help_colours.h"
+#include "screens/help_file.h"
 #include "screens/help_viewer.h"
 #include "screens/single_window.h"
 #include "tests/kit/window_driving.h"
@@ -7,6 +8,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -140,6 +142,23 @@ TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
     viewer.resize(viewer.minimumSizeHint().expandedTo(QSize(300, 300)));
     QApplication::processEvents();
     EXPECT_FALSE(message.visibleRegion().isEmpty()) << "in a narrow window of large letters";
+}
+
+TEST(HelpText, everyLinkLeadsToAPlaceInTheTextAndNothingOutsideIsReferenced)
+{
+    const HelpFile file = readHelpFile(QUILLET_HELP_FILE);
+    ASSERT_EQ(file.problem, QString());
+    static const QRegularExpression link("href=\"#?([^\"]*)\"");
+    int links = 0;
+    for (auto found = link.globalMatch(file.html); found.hasNext(); ++links) {
+        const QString place = found.next().captured(1);
+        EXPECT_TRUE(file.html.contains("id=\"" + place + '"')) << qPrintable(place);
+    }
+    EXPECT_GE(links, 10);
+
+    static const QRegularExpression outside("src\\s*=|<link|<script|<img|url\\(|@import|://",
+                                            QRegularExpression::CaseInsensitiveOption);
+    EXPECT_EQ(outside.match(file.html).captured(), QString());
 }
 
 } // namespace quillet::test

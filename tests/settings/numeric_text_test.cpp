@@ -71,7 +71,7 @@ TEST(NumericText, otherTextsAreNoNumbers)
     EXPECT_TRUE(isNumeric("1e400"));
 }
 
-TEST(NumericText, madeUpTextsAgreeWithIntegerArithmetic)
+TEST(NumericText, thousandthsAgreeWithIntegerArithmetic)
 {
     std::mt19937_64 random(20240229);
     for (int i = 0; i < 10'000; ++i) {
@@ -81,12 +81,6 @@ TEST(NumericText, madeUpTextsAgreeWithIntegerArithmetic)
         const std::int64_t rest = size % 1000, whole = size / 1000;
         const std::int64_t nearest = whole + (rest > 500 || (rest == 500 && whole % 2 == 1));
         EXPECT_EQ(toNumber("-" + std::to_string(size) + "e-3").rounded, -nearest) << size;
-
-        std::string rubbish;
-        for (auto left = random() % 12; left > 0; --left)
-            rubbish += "0159.+-eEdD&HhOoFf \tx"[random() % 21];
-        const bool mismatch = outcome(rubbish, toInt32) == "Type mismatch";
-        EXPECT_EQ(mismatch, !isNumeric(" " + rubbish + "\t")) << rubbish;
     }
 }
 

@@ -17,6 +17,8 @@
 namespace quillet::test
 {
 
+using testing::HasSubstr;
+
 namespace
 {
 
@@ -24,8 +26,9 @@ namespace
 class FullDisk
 {
 public:
-    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    explicit FullDisk(rlim_t bytes)
     {
+        std::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         rlimit small = m_before;
         small.rlim_cur = bytes;
@@ -33,15 +36,10 @@ public:
     }
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
 
 private:
     rlimit m_before{};
-    void (*m_handler)(int);
 };
 
 class TextFileStoreTest : public testing::Test
@@ -80,6 +78,14 @@ protected:
         } catch (const RunTimeError& error) {
             return error.what();
         }
+    }
+
+    static unsigned mode(const QString& path)
+    {
+        struct stat status {
+        };
+        EXPECT_EQ(::stat(path.toLocal8Bit(), &status), 0);
+        return status.st_mode & 0777;
     }
 
     // Everything in the folder but the settings themselves.
@@ -141,7 +147,7 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
         const FullDisk full(bytes);
         EXPECT_THAT(write("k", std::string(5000, 'x')),
                     testing::AllOf(testing::StartsWith("The settings cannot be stored in /"),
-                                   testing::HasSubstr(bytes > 0 ? "File too large" : "disk")));
+                                   HasSubstr(bytes > 0 ? "File too large" : "disk")));
         EXPECT_EQ(write("k", "old"), "") << "nothing to store";
     }
     EXPECT_EQ(fileText(), "[Preferences]\nk=old\n");
@@ -158,12 +164,8 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
 TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
 {
     EXPECT_EQ(write("k", "old"), "");
-    for (const char* folder : {"config", "config/Quillet"}) {
-        struct stat status {
-        };
-        EXPECT_EQ(::stat(m_home.filePath(folder).toLocal8Bit(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777, 0700U) << folder;
-    }
+    for (const char* folder : {"config", "config/Quillet"})
+        EXPECT_EQ(mode(m_home.filePath(folder)), 0700U) << folder;
     // A save that was killed left this behind.
     writeFile("settings.ini.new", "[Preferen");
     EXPECT_EQ(write("k", "old"), "");
@@ -175,10 +177,7 @@ TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
     EXPECT_EQ(write("k", "new"), "");
     EXPECT_TRUE(QFileInfo(path()).isSymLink());
     EXPECT_EQ(fileText("elsewhere"), "[Preferences]\nk=new\n");
-    struct stat status {
-    };
-    EXPECT_EQ(::stat(path("elsewhere").toLocal8Bit(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
+    EXPECT_EQ(mode(path("elsewhere")), 0640U);
 
     for (const char* open : {"", "config", "config/Quillet"})
         ASSERT_EQ(::chmod(m_home.filePath(open).toLocal8Bit(), 0777), 0);
@@ -186,14 +185,14 @@ TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
     {
         const PlainUser user;
         EXPECT_EQ(read("k"), "default");
-        EXPECT_THAT(write("k", "lost"), testing::HasSubstr("cannot be stored"));
+        EXPECT_THAT(write("k", "lost"), HasSubstr("cannot be stored"));
     }
     EXPECT_EQ(fileText("elsewhere"), "[Preferences]\nk=new\n") << "unreadable is not broken";
 
     ASSERT_TRUE(QFile::remove(path()));
     ASSERT_EQ(::mkfifo(path().toLocal8Bit(), 0600), 0);
     EXPECT_EQ(read("k"), "default") << "nobody waits for its other end";
-    EXPECT_THAT(write("k", "lost"), testing::HasSubstr("It is not a file"));
+    EXPECT_THAT(write("k", "lost"), HasSubstr("It is not a file"));
 }
 
 TEST(UsersStore, liesInTheHomeOfTheUserDatabaseWhereNoneIsSet)
