@@ -5,9 +5,9 @@
 #include "engine/hand_evaluation.h"
 #include "engine/random.h"
 #include "main_window/frm_main.h"
-#include "platform/desktop_shell.h"
-#include "platform/event_clock.h"
+#include "platform/browser_opener.h"
 #include "platform/message_error_box.h"
+#include "platform/system_clock.h"
 #include "settings/text_file_store.h"
 #include "sound/sdl_sound_output.h"
 
@@ -111,22 +111,22 @@ private:
     QDir m_folder;
     QTemporaryDir m_config;
     TextFileStore m_store{m_config.path()};
-    DesktopShell m_shell;
+    BrowserOpener m_pages;
     SdlSoundOutput m_sound;
     MessageErrorBox m_errorBox;
-    EventClock m_clock;
+    SystemClock m_clock;
     PhotographedDeck m_decks;
-    Desktop m_desktop{m_store,
-                      m_shell,
-                      m_sound,
-                      m_errorBox,
-                      m_clock,
-                      m_decks,
-                      {},
-                      QUILLET_PROGRAM_FOLDER,
-                      [this](std::int32_t delayTime, const auto&) { pause(delayTime); },
-                      [](int) {}};
-    frmMain m_window{m_desktop};
+    Surroundings m_surroundings{m_store,
+                                m_pages,
+                                m_sound,
+                                m_errorBox,
+                                m_clock,
+                                m_decks,
+                                {},
+                                QUILLET_PROGRAM_FOLDER,
+                                [this](std::int32_t delayTime, const auto&) { pause(delayTime); },
+                                [](int) {}};
+    frmMain m_window{m_surroundings};
     bool m_written = true;
 };
 

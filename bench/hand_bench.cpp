@@ -4,10 +4,10 @@
 #include "coach/hold_judgement.h"
 #include "engine/random.h"
 #include "main_window/frm_main.h"
-#include "platform/desktop_shell.h"
-#include "platform/event_clock.h"
+#include "platform/browser_opener.h"
 #include "platform/message_error_box.h"
 #include "platform/short_delay.h"
+#include "platform/system_clock.h"
 #include "settings/text_file_store.h"
 #include "sound/sdl_sound_output.h"
 
@@ -48,18 +48,18 @@ void hand(benchmark::State& state)
                                     {"prfPokerAutoDeal", "False"},
                                     {"prfSound", "False"}})
         store.writeSetting("Quillet", "Preferences", key, text);
-    DesktopShell shell;
+    BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
-    EventClock clock;
+    SystemClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     ShuffledDecks decks(random);
-    Desktop desktop{store,      shell,
-                    sound,      errorBox,
-                    clock,      decks,
-                    {},         QUILLET_PROGRAM_FOLDER,
-                    shortDelay, [](int code) { std::_Exit(code); }};
-    frmMain window(desktop);
+    Surroundings surroundings{store,      pages,
+                              sound,      errorBox,
+                              clock,      decks,
+                              {},         QUILLET_PROGRAM_FOLDER,
+                              shortDelay, [](int code) { std::_Exit(code); }};
+    frmMain window(surroundings);
     if (!window.Form_Load()) {
         state.SkipWithError("the window did not load");
         return;

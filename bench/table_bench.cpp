@@ -1,6 +1,6 @@
 // What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
 #include "bench/busy_load.h"
-#include "platform/event_clock.h"
+#include "platform/system_clock.h"
 #include "table/counting_loop.h"
 #include "table/init_anim_delay.h"
 #include "table/picture_file.h"
@@ -19,11 +19,11 @@ struct Painted : test::PaintedTable {
     explicit Painted(double scale)
     {
         paint(loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"), scale), scale);
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColor);
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColour);
         QApplication::processEvents();
     }
 
-    EventClock clock;
+    SystemClock clock;
 };
 
 // Without any delay; the time of one frame is told beside that of the flight.

@@ -32,13 +32,13 @@ constexpr std::array<std::string_view, chartRows> captions{
     "All Trash",
 };
 
-constexpr ChartColor black = 0x000000;
-constexpr ChartRowColors evenBase{0x808080, 0xFFFFFF};
-constexpr ChartRowColors oddBase{0xE0E0E0, windowTextColor};
-constexpr ChartRowColors bestPlay{0xC0C0FF, black};
-constexpr ChartRowColors missedPlay{0x0000FF, black};
-constexpr ChartRowColors straightFlushWinner{0x00FF00, black};
-constexpr ChartRowColors otherWinner{0x00C000, black};
+constexpr ChartColour black = 0x000000;
+constexpr ChartRowColours evenBase{0x808080, 0xFFFFFF};
+constexpr ChartRowColours oddBase{0xE0E0E0, windowTextColour};
+constexpr ChartRowColours bestPlay{0xC0C0FF, black};
+constexpr ChartRowColours missedPlay{0x0000FF, black};
+constexpr ChartRowColours straightFlushWinner{0x00FF00, black};
+constexpr ChartRowColours otherWinner{0x00C000, black};
 constexpr int straightFlushRow = 1;
 
 std::size_t placeOf(int row)
@@ -92,7 +92,7 @@ ChartRowState StrategyChart::state(int row) const
     return m_states[placeOf(row)];
 }
 
-ChartRowColors StrategyChart::colors(int row) const
+ChartRowColours StrategyChart::colours(int row) const
 {
     switch (state(row)) {
     case ChartRowState::bestPlay:

@@ -13,13 +13,13 @@ namespace quillet
 inline constexpr int chartRows = playCodes;
 
 // A colour 0x00BBGGRR; with the top bit set, the number of a desktop colour.
-using ChartColor = std::uint32_t;
-inline constexpr ChartColor windowTextColor = 0x80000008;
+using ChartColour = std::uint32_t;
+inline constexpr ChartColour windowTextColour = 0x80000008;
 
-struct ChartRowColors {
-    ChartColor background;
-    ChartColor text;
-    friend bool operator==(const ChartRowColors&, const ChartRowColors&) = default;
+struct ChartRowColours {
+    ChartColour background;
+    ChartColour text;
+    friend bool operator==(const ChartRowColours&, const ChartRowColours&) = default;
 };
 
 enum class ChartRowState { base, bestPlay, missedPlay, winner };
@@ -51,7 +51,7 @@ public:
     void highlightWinner(std::int16_t playCode);
 
     [[nodiscard]] ChartRowState state(int row) const;
-    [[nodiscard]] ChartRowColors colors(int row) const;
+    [[nodiscard]] ChartRowColours colours(int row) const;
 
 private:
     void setState(int row, ChartRowState state);

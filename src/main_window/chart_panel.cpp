@@ -43,9 +43,9 @@ QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bo
     label->setText(text);
     label->setFont(panelFont(captionPixels, bold));
     label->setAlignment(Qt::AlignCenter);
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, Qt::white);
-    label->setPalette(colors);
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, Qt::white);
+    label->setPalette(colours);
     return label;
 }
 
@@ -56,9 +56,9 @@ ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QWidget(parent),
     setObjectName(QStringLiteral("picPokerLabels"));
     setAccessibleName(tr("Strategy chart"));
     setAutoFillBackground(true);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, Qt::black);
-    setPalette(colors);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    setPalette(colours);
 
     m_lblHands =
         addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600, QStringLiteral("lblHands"));
@@ -123,7 +123,7 @@ void ChartPanel::fitRowFont()
 void ChartPanel::showRow(int row)
 {
     ChartRow& label = *m_rows[static_cast<std::size_t>(row)];
-    label.show(m_chart.colors(row), m_chart.state(row));
+    label.show(m_chart.colours(row), m_chart.state(row));
     const bool lit = m_chart.state(row) != ChartRowState::base;
     setAccessibleDescription(lit ? label.accessibleName() : QString());
 }

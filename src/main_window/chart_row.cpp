@@ -78,9 +78,9 @@ ChartRow::ChartRow(int row, QWidget* parent) : QLabel(parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void ChartRow::show(ChartRowColors colors, ChartRowState state)
+void ChartRow::show(ChartRowColours colours, ChartRowState state)
 {
-    m_colors = colors;
+    m_colours = colours;
     m_state = state;
     const QString spoken = spokenState(state);
     setAccessibleName(spoken.isEmpty() ? text()
@@ -88,21 +88,21 @@ void ChartRow::show(ChartRowColors colors, ChartRowState state)
     update();
 }
 
-QColor ChartRow::textColor() const
+QColor ChartRow::textColour() const
 {
-    if (m_colors.text != windowTextColor)
-        return colourOf(m_colors.text);
+    if (m_colours.text != windowTextColour)
+        return colourOf(m_colours.text);
     // Not the row's own palette, which follows the black panel.
     const QColor fromDesktop = QGuiApplication::palette().color(QPalette::WindowText);
-    const bool readable = contrast(fromDesktop, colourOf(m_colors.background)) >= leastContrast;
+    const bool readable = contrast(fromDesktop, colourOf(m_colours.background)) >= leastContrast;
     return readable ? fromDesktop : QColor(Qt::black);
 }
 
 void ChartRow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), colourOf(m_colors.background));
-    painter.setPen(textColor());
+    painter.fillRect(rect(), colourOf(m_colours.background));
+    painter.setPen(textColour());
     // A caption that is as wide as its row makes room for the mark.
     const bool inTheWay = fontMetrics().horizontalAdvance(text()) > width() - 2 * markRoom;
     const int left = inTheWay && m_state != ChartRowState::base ? markRoom : 0;
@@ -110,7 +110,7 @@ void ChartRow::paintEvent(QPaintEvent*)
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(5, height() / 2.0);
-    painter.fillPath(markFor(m_state), textColor());
+    painter.fillPath(markFor(m_state), textColour());
 }
 
 void ChartRow::changeEvent(QEvent* event)

@@ -18,16 +18,16 @@ public:
 
     ChartRow(int row, QWidget* parent);
 
-    void show(ChartRowColors colors, ChartRowState state);
+    void show(ChartRowColours colours, ChartRowState state);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] QColor textColor() const;
+    [[nodiscard]] QColor textColour() const;
 
-    ChartRowColors m_colors{};
+    ChartRowColours m_colours{};
     ChartRowState m_state = ChartRowState::base;
 };
 

@@ -32,39 +32,40 @@ struct NoErrorBox : ErrorBox {
     void showError(const std::string&) override {}
 };
 
-QString backgroundPath(const Desktop& desktop, const Preferences& preferences)
+QString backgroundPath(const Surroundings& surroundings, const Preferences& preferences)
 {
-    return QString::fromStdString(desktop.programFolder + "/pics/" + preferences.prfPKBackground);
+    return QString::fromStdString(surroundings.programFolder + "/pics/" +
+                                  preferences.prfPKBackground);
 }
 
 // It stands where the game stood.
-void showExitScreen(frmMain& window, const Desktop& desktop)
+void showExitScreen(frmMain& window, const Surroundings& surroundings)
 {
-    frmExitNoBanner screen(desktop.shell);
+    frmExitNoBanner screen(surroundings.pages);
     screen.adjustSize();
     screen.move(window.geometry().center() - screen.rect().center());
     QObject::connect(&screen, &frmExitNoBanner::unloadMainWindow, &window, &QWidget::close);
     QObject::connect(&screen, &frmExitNoBanner::endProgram, &window,
-                     [&desktop] { desktop.endProcess(0); });
+                     [&surroundings] { surroundings.endProcess(0); });
     screen.exec();
 }
 
 } // namespace
 
-frmMain::frmMain(Desktop& desktop)
-    : m_desktop(desktop), m_layout(desktop.metrics, true),
-      m_sessionEnd(desktop.clock,
+frmMain::frmMain(Surroundings& surroundings)
+    : m_surroundings(surroundings), m_layout(surroundings.metrics, true),
+      m_sessionEnd(surroundings.clock,
                    [this] {
                        NoErrorBox nobody;
                        // Before the first game the delays may be half measured.
                        if (m_firstHandStarted && !m_unloading)
                            guarded(nobody, "Form_Unload",
-                                   [this] { savePreferences(*this, m_desktop.store); });
+                                   [this] { savePreferences(*this, m_surroundings.store); });
                    }),
-      m_table(*this, desktop.errorBox, this), m_coach(m_chart, prfShowPokerPlay),
-      m_cues(prfSound, desktop.programFolder, desktop.sound),
+      m_table(*this, surroundings.errorBox, this), m_coach(m_chart, prfShowPokerPlay),
+      m_cues(prfSound, surroundings.programFolder, surroundings.sound),
       m_controller(m_state, m_counters, prfPokerAutoDeal,
-                   {m_table, *this, m_coach, m_cues, desktop.decks, desktop.errorBox}),
+                   {m_table, *this, m_coach, m_cues, surroundings.decks, surroundings.errorBox}),
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
       picStatusBar(new StatusBar(&m_table.canvas()))
 {
@@ -98,12 +99,12 @@ frmMain::frmMain(Desktop& desktop)
 
 bool frmMain::Form_Load()
 {
-    const bool built = guarded(m_desktop.errorBox, "Form_Load", [this] {
-        QDir::setCurrent(QString::fromStdString(m_desktop.programFolder));
+    const bool built = guarded(m_surroundings.errorBox, "Form_Load", [this] {
+        QDir::setCurrent(QString::fromStdString(m_surroundings.programFolder));
         m_table.library().cdtInit(cWidth, cHeight);
-        loadPreferences(m_desktop.store, *this);
+        loadPreferences(m_surroundings.store, *this);
 
-        if (m_table.loadBackground(backgroundPath(m_desktop, *this)))
+        if (m_table.loadBackground(backgroundPath(m_surroundings, *this)))
             AutoSizeToPicture(m_table.background());
         else
             setOuterSize(
@@ -113,7 +114,7 @@ bool frmMain::Form_Load()
             CalibrationSplash splash;
             splash.show();
             splash.advance();
-            m_table.measureDelays(*this, m_desktop.clock,
+            m_table.measureDelays(*this, m_surroundings.clock,
                                   QSizeF(statusBarWidth, picStatusBar->height()),
                                   [&splash] { splash.advance(); });
         }
@@ -125,7 +126,7 @@ bool frmMain::Form_Load()
 
 void frmMain::FirstInit()
 {
-    guarded(m_desktop.errorBox, "FirstInit", [this] {
+    guarded(m_surroundings.errorBox, "FirstInit", [this] {
         m_table.paintFirstTable();
         placeChartAndStatusBar();
         if (m_firstHandStarted)
@@ -142,16 +143,16 @@ void frmMain::Form_Unload()
         return;
     m_unloading = true;
     m_controller.endGame();
-    const bool saved = guarded(m_desktop.errorBox, "Form_Unload", [this] {
+    const bool saved = guarded(m_surroundings.errorBox, "Form_Unload", [this] {
         m_table.close();
-        savePreferences(*this, m_desktop.store);
+        savePreferences(*this, m_surroundings.store);
         hide();
         // A desktop session that is ending does not wait for a farewell.
         if (!m_sessionEnd.isComing())
-            showExitScreen(*this, m_desktop);
+            showExitScreen(*this, m_surroundings);
     });
     hide();
-    m_desktop.endProcess(saved ? 0 : 1);
+    m_surroundings.endProcess(saved ? 0 : 1);
 }
 
 void frmMain::initPokerScreen()
@@ -177,8 +178,8 @@ void frmMain::picPoker_DblClick(std::int16_t Index)
 
 void frmMain::picStatusBar_Click()
 {
-    guardedWithText(m_desktop.errorBox, "statusclick", "",
-                    [this] { openWebPage(m_desktop.shell, onlinePokerPage()); });
+    guardedWithText(m_surroundings.errorBox, "statusclick", "",
+                    [this] { openWebPage(m_surroundings.pages, onlinePokerPage()); });
 }
 
 void frmMain::mnuPoker_Click()
@@ -188,8 +189,9 @@ void frmMain::mnuPoker_Click()
 
 void frmMain::mnuPref_Click()
 {
-    frmPreferences dialog({*this, m_table.library(), m_desktop.errorBox, QSize(cWidth, cHeight),
-                           m_desktop.metrics.twipsPerPixelX, [this] { m_table.DrawDealDeck(); },
+    frmPreferences dialog({*this, m_table.library(), m_surroundings.errorBox,
+                           QSize(cWidth, cHeight), m_surroundings.metrics.twipsPerPixelX,
+                           [this] { m_table.DrawDealDeck(); },
                            [this] { m_table.canvas().update(); }},
                           this);
     dialog.exec();
@@ -202,17 +204,18 @@ void frmMain::mnuExit_Click()
 
 void frmMain::mnuSites_Click(int)
 {
-    openWebPage(m_desktop.shell, onlinePokerPage());
+    openWebPage(m_surroundings.pages, onlinePokerPage());
 }
 
 void frmMain::mnuContents_Click()
 {
-    HelpViewer::present(this, m_desktop.shell, QString::fromStdString(m_desktop.helpFile));
+    HelpViewer::present(this, m_surroundings.pages,
+                        QString::fromStdString(m_surroundings.helpFile));
 }
 
 void frmMain::mnuAbout_Click()
 {
-    frmAbout::present(this, m_desktop.shell);
+    frmAbout::present(this, m_surroundings.pages);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
@@ -255,7 +258,7 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 
 void frmMain::layOutGame()
 {
-    if (m_table.loadBackground(backgroundPath(m_desktop, *this)))
+    if (m_table.loadBackground(backgroundPath(m_surroundings, *this)))
         AutoSizeToPicture(m_table.background());
     isPoker = true;
     m_chart.resetChartColors();
@@ -276,7 +279,7 @@ void frmMain::layOutGame()
 
 void frmMain::fadeStatusText(int step)
 {
-    picStatusBar->setTextColor(QColor(10 * step, 7 * step, 8 * step));
+    picStatusBar->setTextColour(QColor(10 * step, 7 * step, 8 * step));
 }
 
 void frmMain::showCounters(const Counters& counters)
@@ -287,7 +290,7 @@ void frmMain::showCounters(const Counters& counters)
 void frmMain::shortDelay(std::int32_t delayTime)
 {
     const std::uint32_t epoch = m_state.epoch;
-    m_desktop.shortDelay(delayTime, [this, epoch] { return m_state.epoch != epoch; });
+    m_surroundings.shortDelay(delayTime, [this, epoch] { return m_state.epoch != epoch; });
 }
 
 } // namespace quillet

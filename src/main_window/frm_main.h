@@ -6,7 +6,7 @@
 #include "engine/game_screen.h"
 #include "engine/hand_controller.h"
 #include "engine/hand_state.h"
-#include "main_window/desktop.h"
+#include "main_window/surroundings.h"
 #include "main_window/window_layout.h"
 #include "platform/session_end.h"
 #include "settings/preferences.h"
@@ -30,8 +30,8 @@ class frmMain : public QMainWindow, public Preferences, private GameScreen
     Q_OBJECT
 
 public:
-    // Everything in the desktop outlives the window.
-    explicit frmMain(Desktop& desktop);
+    // Everything in the surroundings outlives the window.
+    explicit frmMain(Surroundings& surroundings);
 
     // Builds the running state, shows the window and deals the first hand. False after an error,
     // which has been shown; nothing is to be saved then.
@@ -80,7 +80,7 @@ private:
     void showCounters(const Counters& counters) override;
     void shortDelay(std::int32_t delayTime) override;
 
-    Desktop& m_desktop;
+    Surroundings& m_surroundings;
     WindowLayout m_layout;
     SessionEnd m_sessionEnd;
 

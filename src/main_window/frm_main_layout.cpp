@@ -7,8 +7,8 @@ namespace quillet
 
 void frmMain::AutoSizeToPicture(const LoadedPicture& picture)
 {
-    guarded(m_desktop.errorBox, "AutoSizeToPicture", [&] {
-        const ScreenMetrics& metrics = m_desktop.metrics;
+    guarded(m_surroundings.errorBox, "AutoSizeToPicture", [&] {
+        const ScreenMetrics& metrics = m_surroundings.metrics;
         const QSizeF twips(picture.logicalSize.width() * metrics.twipsPerPixelX,
                            picture.logicalSize.height() * metrics.twipsPerPixelY);
         inLayout = true;
@@ -34,7 +34,7 @@ void frmMain::setOuterSize(QSizeF twips)
 
 void frmMain::Form_Resize()
 {
-    guarded(m_desktop.errorBox, "Form_Resize", [this] {
+    guarded(m_surroundings.errorBox, "Form_Resize", [this] {
         // The window manager still knows where the window was. Hidden and shown anew, it would be
         // placed anew, or filled again by the state that the manager had not yet taken off.
         if (isMaximized() || isFullScreen())

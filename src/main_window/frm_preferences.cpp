@@ -157,8 +157,8 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     column->addLayout(inTheMiddle);
 
     auto* row = new QHBoxLayout;
-    auto* colorCaption = new QLabel(tr("Hold  Card Outline color"), &page);
-    colorCaption->setObjectName(QStringLiteral("Label5"));
+    auto* colourCaption = new QLabel(tr("Hold  Card Outline color"), &page);
+    colourCaption->setObjectName(QStringLiteral("Label5"));
     lblColor = new QLabel(&page);
     lblColor->setObjectName(QStringLiteral("lblColor"));
     lblColor->setFixedSize(40, 20);
@@ -167,7 +167,7 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     cmdChangeColor = new QPushButton(tr("change"), &page);
     cmdChangeColor->setObjectName(QStringLiteral("cmdChangeColor"));
     cmdChangeColor->setAccessibleName(tr("Change the colour of the hold outline"));
-    row->addWidget(colorCaption);
+    row->addWidget(colourCaption);
     row->addWidget(lblColor);
     row->addWidget(cmdChangeColor);
     column->addLayout(row);
@@ -218,7 +218,7 @@ void frmPreferences::Form_Activate()
         }
         Label4->setText(QString::number(now.prfAnimationDelay));
         ckprfAutoDeal->setChecked(now.prfPokerAutoDeal);
-        showOutlineColor();
+        showOutlineColour();
         QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
         chosen.setChecked(true);
         // The tab key is to find the chosen one; the toolkit sees to it from the first focus on.
@@ -238,7 +238,7 @@ void frmPreferences::Combo1_Click()
         if (Combo1->currentIndex() < 0)
             return;
         m_host.library.cdtDraw(picBacks->freshPicture(m_host.cardSize), 0, 0,
-                               firstBack + Combo1->currentIndex(), drawBack, whiteColor);
+                               firstBack + Combo1->currentIndex(), drawBack, whiteColour);
         picBacks->setAccessibleName(tr("Card back %1").arg(Combo1->currentText()));
         picBacks->update();
     });
@@ -254,18 +254,18 @@ void frmPreferences::cmdChangeColor_Click()
         return;
     m_host.preferences.prfCardOutlineColor =
         static_cast<std::int32_t>(bgrOf(chooser.selectedColor()));
-    showOutlineColor();
-    m_host.outlineColorChanged();
+    showOutlineColour();
+    m_host.outlineColourChanged();
 }
 
-void frmPreferences::showOutlineColor()
+void frmPreferences::showOutlineColour()
 {
-    QPalette colors = lblColor->palette();
-    const QColor color =
+    QPalette colours = lblColor->palette();
+    const QColor colour =
         colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
-    colors.setColor(QPalette::Window, color);
-    lblColor->setPalette(colors);
-    lblColor->setAccessibleName(tr("Hold outline colour %1").arg(color.name()));
+    colours.setColor(QPalette::Window, colour);
+    lblColor->setPalette(colours);
+    lblColor->setAccessibleName(tr("Hold outline colour %1").arg(colour.name()));
 }
 
 void frmPreferences::HScroll1_Change()

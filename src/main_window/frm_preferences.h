@@ -32,7 +32,7 @@ struct PreferencesHost {
     QSize cardSize; // cWidth, cHeight
     double twipsPerPixel;
     std::function<void()> DrawDealDeck;
-    std::function<void()> outlineColorChanged;
+    std::function<void()> outlineColourChanged;
 };
 
 // The modal dialog for the preference fields. The outline colour and the animation delay take
@@ -60,7 +60,7 @@ private:
     void makeVideoPokerPage(QFrame& page);
     void makeCardBacksPage(QFrame& page);
     void makeButtons(QVBoxLayout& layout);
-    void showOutlineColor();
+    void showOutlineColour();
 
     PreferencesHost m_host;
     bool m_activated = false;

@@ -1,9 +1,9 @@
 #include "engine/random.h"
 #include "main_window/frm_main.h"
-#include "platform/desktop_shell.h"
-#include "platform/event_clock.h"
+#include "platform/browser_opener.h"
 #include "platform/message_error_box.h"
 #include "platform/short_delay.h"
+#include "platform/system_clock.h"
 #include "platform/window_loss.h"
 #include "settings/text_file_store.h"
 #include "sound/sdl_sound_output.h"
@@ -28,13 +28,13 @@ void useIcons()
 }
 
 // Names the help file, loads the main window and runs the program to its end.
-int Main(quillet::Desktop& desktop)
+int Main(quillet::Surroundings& surroundings)
 {
-    desktop.helpFile = desktop.programFolder + "/quillet.hlp";
-    quillet::frmMain window(desktop);
+    surroundings.helpFile = surroundings.programFolder + "/quillet.hlp";
+    quillet::frmMain window(surroundings);
     const quillet::WindowLoss loss;
     const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
-    desktop.endProcess(code);
+    surroundings.endProcess(code);
     return code;
 }
 
@@ -52,27 +52,28 @@ int main(int argc, char* argv[])
     useIcons();
 
     TextFileStore store;
-    DesktopShell shell;
+    BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
-    EventClock clock;
+    SystemClock clock;
     BlendingRandom random(timeOfDay);
     ShuffledDecks decks(random);
-    Desktop desktop{store,
-                    shell,
-                    sound,
-                    errorBox,
-                    clock,
-                    decks,
-                    {},
-                    QCoreApplication::applicationDirPath().toStdString(),
-                    shortDelay,
-                    // Windows may be waiting in nested event loops, so nothing is unwound.
-                    [&sound](int code) {
-                        sound.stop();
-                        std::fflush(nullptr);
-                        std::_Exit(code);
-                    }};
+    Surroundings surroundings{
+        store,
+        pages,
+        sound,
+        errorBox,
+        clock,
+        decks,
+        {},
+        QCoreApplication::applicationDirPath().toStdString(),
+        shortDelay,
+        // Windows may be waiting in nested event loops, so nothing is unwound.
+        [&sound](int code) {
+            sound.stop();
+            std::fflush(nullptr);
+            std::_Exit(code);
+        }};
 
-    return Main(desktop);
+    return Main(surroundings);
 }

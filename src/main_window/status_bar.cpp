@@ -41,9 +41,9 @@ StatusBar::StatusBar(QWidget* parent)
     setAccessibleName(tr("Status bar, opens the web site"));
     setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
     setAutoFillBackground(true);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, Qt::black);
-    setPalette(colors);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    setPalette(colours);
     makePointer();
 
     m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
@@ -55,14 +55,14 @@ StatusBar::StatusBar(QWidget* parent)
     font.setBold(true);
     m_lblstatus->setFont(font);
     m_lblstatus->setGeometry(117, 21, 215, 16);
-    setTextColor(QColor(0xff, 0xff, 0xc0));
+    setTextColour(QColor(0xff, 0xff, 0xc0));
 }
 
-void StatusBar::setTextColor(const QColor& color)
+void StatusBar::setTextColour(const QColor& colour)
 {
-    QPalette colors = m_lblstatus->palette();
-    colors.setColor(QPalette::WindowText, color);
-    m_lblstatus->setPalette(colors);
+    QPalette colours = m_lblstatus->palette();
+    colours.setColor(QPalette::WindowText, colour);
+    m_lblstatus->setPalette(colours);
 }
 
 void StatusBar::centreText()

@@ -14,7 +14,7 @@ class StatusBar : public QWidget
 public:
     explicit StatusBar(QWidget* parent);
 
-    void setTextColor(const QColor& color);
+    void setTextColour(const QColor& colour);
     // Horizontally, in the bar's present width.
     void centreText();
     // In the pixels of the present display.

@@ -34,17 +34,17 @@ QIcon programIcon()
 
 } // namespace
 
-void frmAbout::present(QWidget* parent, ShellOpen& shell)
+void frmAbout::present(QWidget* parent, PageOpener& pages)
 {
     auto* box = openWindow<frmAbout>();
     if (box == nullptr) {
-        box = new frmAbout(shell, parent);
+        box = new frmAbout(pages, parent);
         box->setAttribute(Qt::WA_DeleteOnClose);
     }
     bringToFront(*box);
 }
 
-frmAbout::frmAbout(ShellOpen& shell, QWidget* parent) : QDialog(parent), m_shell(shell)
+frmAbout::frmAbout(PageOpener& pages, QWidget* parent) : QDialog(parent), m_pages(pages)
 {
     setObjectName("frmAbout");
     setWindowTitle("About Quillet");
@@ -112,7 +112,7 @@ QLayout* frmAbout::layOutAuthors()
 
 void frmAbout::lblLink_Click()
 {
-    openWebPage(m_shell, m_lblLink->text().toStdString());
+    openWebPage(m_pages, m_lblLink->text().toStdString());
 }
 
 void frmAbout::cmdOK_Click()

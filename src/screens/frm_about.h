@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/shell_open.h"
+#include "platform/page_opener.h"
 
 #include <QDialog>
 
@@ -17,10 +17,10 @@ class frmAbout : public QDialog
     Q_OBJECT
 
 public:
-    // Shows the box, or brings the open one to the front. The shell must outlive the box.
-    static void present(QWidget* parent, ShellOpen& shell);
+    // Shows the box, or brings the open one to the front. The opener must outlive the box.
+    static void present(QWidget* parent, PageOpener& pages);
 
-    frmAbout(ShellOpen& shell, QWidget* parent);
+    frmAbout(PageOpener& pages, QWidget* parent);
 
 private:
     void lblLink_Click();
@@ -28,7 +28,7 @@ private:
     QLayout* layOutHeading();
     QLayout* layOutAuthors();
 
-    ShellOpen& m_shell;
+    PageOpener& m_pages;
     LinkLabel* m_lblLink = nullptr;
 };
 

@@ -47,8 +47,8 @@ QPushButton* namedButton(const char* name, const QString& text)
 
 } // namespace
 
-frmExitNoBanner::frmExitNoBanner(ShellOpen& shell, QWidget* parent)
-    : QDialog(parent), m_shell(shell)
+frmExitNoBanner::frmExitNoBanner(PageOpener& pages, QWidget* parent)
+    : QDialog(parent), m_pages(pages)
 {
     setObjectName("frmExitNoBanner");
     setWindowTitle("More Texas Hold'em Resources..");
@@ -122,7 +122,7 @@ void frmExitNoBanner::addFooter(QVBoxLayout& layout)
 
 void frmExitNoBanner::openHomePage()
 {
-    openWebPage(m_shell, homePage());
+    openWebPage(m_pages, homePage());
 }
 
 void frmExitNoBanner::cmdOK_Click()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/shell_open.h"
+#include "platform/page_opener.h"
 
 #include <QDialog>
 
@@ -17,8 +17,8 @@ class frmExitNoBanner : public QDialog
     Q_OBJECT
 
 public:
-    // The shell must outlive the window.
-    explicit frmExitNoBanner(ShellOpen& shell, QWidget* parent = nullptr);
+    // The opener must outlive the window.
+    explicit frmExitNoBanner(PageOpener& pages, QWidget* parent = nullptr);
 
     // The close box, the system menu and Esc come here; exec() returns after it.
     void reject() override;
@@ -40,7 +40,7 @@ private:
     void addFooter(QVBoxLayout& layout);
     void addButtons(QVBoxLayout& layout);
 
-    ShellOpen& m_shell;
+    PageOpener& m_pages;
 };
 
 } // namespace quillet

@@ -60,19 +60,19 @@ QString notFound(const QString& text)
 
 } // namespace
 
-void HelpViewer::present(QWidget* parent, ShellOpen& shell, const QString& path)
+void HelpViewer::present(QWidget* parent, PageOpener& pages, const QString& path)
 {
     auto* viewer = openWindow<HelpViewer>();
     if (viewer == nullptr) {
-        viewer = new HelpViewer(shell, parent);
+        viewer = new HelpViewer(pages, parent);
         viewer->setAttribute(Qt::WA_DeleteOnClose);
     }
     bringToFront(*viewer);
     viewer->openAtContents(path);
 }
 
-HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
-    : QMainWindow(parent, Qt::Window), m_shell(shell), m_page(new HelpPage),
+HelpViewer::HelpViewer(PageOpener& pages, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), m_pages(pages), m_page(new HelpPage),
       m_searchText(new SearchField), m_message(new QLabel)
 {
     setObjectName("HelpViewer");
@@ -83,7 +83,7 @@ HelpViewer::HelpViewer(ShellOpen& shell, QWidget* parent)
     m_page->setAccessibleName("Help text");
     m_page->setFrameShape(QFrame::NoFrame);
     connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
-        openWebPage(m_shell, address.toEncoded().toStdString());
+        openWebPage(m_pages, address.toEncoded().toStdString());
     });
     // The answer of a search has a line of its own, and more where it is long: in the bar it would
     // disappear where the window is narrow.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/shell_open.h"
+#include "platform/page_opener.h"
 #include "screens/help_page.h"
 
 #include <QMainWindow>
@@ -18,11 +18,11 @@ class HelpViewer : public QMainWindow
     Q_OBJECT
 
 public:
-    // Opens the help at its contents, in the open window if there is one. The shell must outlive
+    // Opens the help at its contents, in the open window if there is one. The opener must outlive
     // the window.
-    static void present(QWidget* parent, ShellOpen& shell, const QString& path);
+    static void present(QWidget* parent, PageOpener& pages, const QString& path);
 
-    HelpViewer(ShellOpen& shell, QWidget* parent);
+    HelpViewer(PageOpener& pages, QWidget* parent);
 
     void openAtContents(const QString& path);
 
@@ -34,7 +34,7 @@ private:
     void searchTyped(const QString& text);
     void tell(const QString& message);
 
-    ShellOpen& m_shell;
+    PageOpener& m_pages;
     HelpPage* m_page;
     QLineEdit* m_searchText;
     QLabel* m_message;

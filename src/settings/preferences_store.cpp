@@ -45,7 +45,7 @@ private:
     SettingsStore& m_store;
 };
 
-std::int32_t outlineColor(const std::string& text)
+std::int32_t outlineColour(const std::string& text)
 {
     const std::optional<NumericValue> value = parseNumber(text);
     return value && fitsInt32(*value) ? toInt32(*value) : outlineGreen;
@@ -73,7 +73,7 @@ void loadPreferences(SettingsStore& store, Preferences& preferences)
 {
     Reader reader(store);
     preferences.prfCardOutlineColor =
-        outlineColor(reader.text("prfCardOutlineColor", "&H0000FF00&"));
+        outlineColour(reader.text("prfCardOutlineColor", "&H0000FF00&"));
     preferences.prfPKBackFace =
         reader.converted("prfPKBackFace", std::to_string(usualBackFace), backFace);
     preferences.prfShowPokerPlay = reader.truth("prfShowPokerPlay");

@@ -138,7 +138,7 @@ void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
     const QPointF at(x, y);
 
     m_pictures.picBuffer.copyFrom(board, at, card, {0, 0});
-    m_library.cdtDraw(board, x, y, cardNumber, drawMode, whiteColor);
+    m_library.cdtDraw(board, x, y, cardNumber, drawMode, whiteColour);
 
     QPointF corner = at;
     if (path.movingDown) {

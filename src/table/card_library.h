@@ -15,7 +15,7 @@ namespace quillet
 inline constexpr std::int32_t drawFace = 0;
 inline constexpr std::int32_t drawBack = 1;
 
-inline constexpr std::uint32_t whiteColor = 0xFFFFFF;
+inline constexpr std::uint32_t whiteColour = 0xFFFFFF;
 
 // Paints cards on pictures. Each card is drawn once per scale factor and then copied.
 class CardLibrary
@@ -32,7 +32,7 @@ public:
     // the usual one, for any other number nothing. The corners let what is there
     // show through. Throws RunTimeError outside cdtInit and cdtTerm.
     void cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int32_t cardNumber,
-                 std::int32_t drawMode, std::uint32_t backgroundColor);
+                 std::int32_t drawMode, std::uint32_t backgroundColour);
 
     void cdtTerm();
 

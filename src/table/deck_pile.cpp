@@ -13,7 +13,7 @@ void DeckPile::DrawDealDeck(std::int32_t backNumber)
         for (std::int32_t m = 0; m < 4 - k; ++m)
             m_library.cdtDraw(box.picture(), m * static_cast<std::int32_t>(pileStep.x()),
                               m * static_cast<std::int32_t>(pileStep.y()), backNumber, drawBack,
-                              whiteColor);
+                              whiteColour);
         box.refresh();
     }
 }

@@ -86,7 +86,7 @@ double DelayMeter::flightRound(std::int32_t delay)
     const double start = m_clock.processorSeconds();
     for (int frame = 0; frame < flightFrames; ++frame) {
         m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
-        m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColor);
+        m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColour);
         m_pictures.canvas->copyPixels(
             board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
         board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});

@@ -192,7 +192,7 @@ void PokerTable::flyCardTo(Slot slot)
     card.place.moveTopLeft(start);
     // Where the card lands, its rounded corners show the table of that place.
     card.picture.copyFrom(canvas().kept(), to, card.place.size(), {0, 0});
-    m_library.cdtDraw(card.picture, 0, 0, backNumber, drawBack, whiteColor);
+    m_library.cdtDraw(card.picture, 0, 0, backNumber, drawBack, whiteColour);
     std::int32_t x = from.x();
     std::int32_t y = from.y();
     m_flight.AnimateCard(x, y, to.x(), to.y(), 1, backNumber, drawBack);
@@ -278,7 +278,7 @@ void PokerTable::paintCard(Slot slot)
     place.restoreTableBehind();
     if (card.side != CardOnTable::Side::none)
         m_library.cdtDraw(place.picture(), 0, 0, card.number,
-                          card.side == CardOnTable::Side::face ? drawFace : drawBack, whiteColor);
+                          card.side == CardOnTable::Side::face ? drawFace : drawBack, whiteColour);
     if (card.hatched)
         layHatch(slot);
 }
@@ -288,7 +288,7 @@ void PokerTable::layHatch(Slot slot)
     Surface& hatch = m_pictures.picAnimate.picture;
     m_painter.paintHatch(hatch);
     Surface& card = m_pictures.picPoker[slot]->picture();
-    MaskedBlit(card, card, hatch, wholeOf(hatch), 0, 0, whiteColor);
+    MaskedBlit(card, card, hatch, wholeOf(hatch), 0, 0, whiteColour);
 }
 
 void PokerTable::describe(Slot slot)

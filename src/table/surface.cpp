@@ -33,9 +33,9 @@ Surface::Surface(QSizeF size, double scale)
     m_image.fill(Qt::black);
 }
 
-void Surface::fill(const QColor& color)
+void Surface::fill(const QColor& colour)
 {
-    m_image.fill(color);
+    m_image.fill(colour);
 }
 
 void Surface::makeTransparent()

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] double scale() const { return m_scale; }
     [[nodiscard]] const QImage& image() const { return m_image; }
 
-    void fill(const QColor& color);
+    void fill(const QColor& colour);
     // Empties it; what is not painted on shows whatever it is drawn over.
     void makeTransparent();
 

@@ -161,7 +161,7 @@ void TablePainter::copyTableBehind(OffScreenBox& box)
 void TablePainter::paintHatch(Surface& picture)
 {
     picture.fill(Qt::white);
-    m_library.cdtDraw(picture, 0, 0, hatchBack, drawBack, whiteColor);
+    m_library.cdtDraw(picture, 0, 0, hatchBack, drawBack, whiteColour);
 }
 
 void TablePainter::layHatches()
@@ -172,9 +172,9 @@ void TablePainter::layHatches()
 
     Surface& table = m_pictures.canvas->keptForDrawing();
     for (const PictureBox* box : m_pictures.picPoker)
-        MaskedBlit(table, table, hatch, whole, box->place().x(), box->place().y(), whiteColor);
+        MaskedBlit(table, table, hatch, whole, box->place().x(), box->place().y(), whiteColour);
     for (OffScreenBox* back : {&m_pictures.picDealBack, &m_pictures.picRejectBack})
-        MaskedBlit(back->picture, back->picture, hatch, whole, 0, 0, whiteColor);
+        MaskedBlit(back->picture, back->picture, hatch, whole, 0, 0, whiteColour);
 }
 
 } // namespace quillet

@@ -21,18 +21,18 @@ TEST(StrategyChart, highlightsLightTheirRowUntilTheReset)
     chart.onRowChanged([&](int) { ++changes; });
 
     chart.highlightBestPlay(21);
-    EXPECT_EQ(chart.colors(20), (ChartRowColors{0xC0C0FF, 0}));
+    EXPECT_EQ(chart.colours(20), (ChartRowColours{0xC0C0FF, 0}));
     chart.resetChartColors();
-    EXPECT_EQ(chart.colors(20), (ChartRowColors{0x808080, 0xFFFFFF}));
-    EXPECT_EQ(chart.colors(19), (ChartRowColors{0xE0E0E0, windowTextColor}));
+    EXPECT_EQ(chart.colours(20), (ChartRowColours{0x808080, 0xFFFFFF}));
+    EXPECT_EQ(chart.colours(19), (ChartRowColours{0xE0E0E0, windowTextColour}));
     chart.highlightMissedPlay(1);
-    EXPECT_EQ(chart.colors(0), (ChartRowColors{0x0000FF, 0}));
+    EXPECT_EQ(chart.colours(0), (ChartRowColours{0x0000FF, 0}));
     EXPECT_EQ(changes, 3) << "rows that stay as they are are not painted again";
 
     chart.highlightWinner(2);
-    EXPECT_EQ(chart.colors(1), (ChartRowColors{0x00FF00, 0}));
+    EXPECT_EQ(chart.colours(1), (ChartRowColours{0x00FF00, 0}));
     chart.highlightWinner(1);
-    EXPECT_EQ(chart.colors(0), (ChartRowColors{0x00C000, 0}));
+    EXPECT_EQ(chart.colours(0), (ChartRowColours{0x00C000, 0}));
     chart.highlightBestPlay(0);
     EXPECT_EQ(changes, 5);
 }

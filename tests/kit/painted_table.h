@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cards/card_numbers.h"
 #include "table/card_flight.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"
@@ -36,8 +37,8 @@ struct PaintedTable : ErrorBox {
 
     void showError(const std::string& text) override { errors.push_back(text); }
 
-    static constexpr TableMeasures measures{800, 514, 96, 130, 60, 169};
-    static constexpr std::int32_t sleeve = 65;
+    static constexpr TableMeasures measures = designedTable;
+    static constexpr std::int32_t sleeve = sleeveBack;
 
     Preferences preferences;
     std::vector<std::string> errors;

@@ -8,10 +8,10 @@ namespace quillet::test
 {
 
 PlayedWindow::PlayedWindow()
-    : desktop{store, pages, sounds, errors, *this, *this, {}, QUILLET_PROGRAM_FOLDER, {}, {}}
+    : surroundings{store, pages, sounds, errors, *this, *this, {}, QUILLET_PROGRAM_FOLDER, {}, {}}
 {
-    desktop.shortDelay = std::bind_front(&PlayedWindow::pause, this);
-    desktop.endProcess = [this](int code) { ended.push_back(code); };
+    surroundings.shortDelay = std::bind_front(&PlayedWindow::pause, this);
+    surroundings.endProcess = [this](int code) { ended.push_back(code); };
     store.texts = {{"prfAnimation", "False"},
                    {"prfPokerAutoDeal", "False"},
                    {"prfShowPokerPlay", "False"},
@@ -22,7 +22,7 @@ PlayedWindow::PlayedWindow()
 bool PlayedWindow::start(std::string_view tenCards)
 {
     decks.stack(tenCards);
-    window = std::make_unique<frmMain>(desktop);
+    window = std::make_unique<frmMain>(surroundings);
     return window->Form_Load();
 }
 
@@ -40,7 +40,7 @@ PokerDeck PlayedWindow::nextDeck()
 
 QString PlayedWindow::useOwnFolder()
 {
-    desktop.programFolder = m_ownFolder.path().toStdString();
+    surroundings.programFolder = m_ownFolder.path().toStdString();
     QDir(m_ownFolder.path()).mkdir("pics");
     return m_ownFolder.path();
 }
@@ -90,7 +90,7 @@ QRect PlayedWindow::placeOf(const std::string& name)
     return {widget.mapTo(window.get(), QPoint(0, 0)), widget.size()};
 }
 
-std::string PlayedWindow::rowColor(int playCode)
+std::string PlayedWindow::rowColour(int playCode)
 {
     const QRect row = placeOf("pkLabel" + std::to_string(playCode - 1));
     return picture().pixelColor(row.topLeft() + QPoint(2, 2)).name().toStdString();

@@ -66,7 +66,7 @@ public:
     // Where a part lies in the window.
     [[nodiscard]] QRect placeOf(const std::string& name);
     // The background of a chart row, "#rrggbb".
-    [[nodiscard]] std::string rowColor(int playCode);
+    [[nodiscard]] std::string rowColour(int playCode);
 
     static constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
 
@@ -78,7 +78,7 @@ public:
     VirtualClock clock;
     std::string failing;    // "clock" or "decks"
     std::vector<int> ended; // the codes with which the process was to end
-    Desktop desktop;
+    Surroundings surroundings;
     std::unique_ptr<frmMain> window;
 
 protected:

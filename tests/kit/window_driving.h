@@ -1,7 +1,7 @@
 #pragma once
 
 #include "faults/run_time_error.h"
-#include "platform/shell_open.h"
+#include "platform/page_opener.h"
 
 #include <QTest>
 #include <QWidget>
@@ -14,7 +14,7 @@ namespace quillet::test
 {
 
 // Keeps what the windows ask the desktop to open.
-struct RecordingShell : ShellOpen {
+struct RecordingShell : PageOpener {
     void open(const std::string& verb, const std::string& file, const std::string& parameters,
               const std::string& directory, int showCommand) override
     {

@@ -31,20 +31,20 @@ std::string shown(frmPreferences& dialog)
     const auto button = [&dialog](const char* name) {
         return control<QAbstractButton>(dialog, name).isChecked() ? "1 " : "0 ";
     };
-    const QColor color = control(dialog, "lblColor").palette().color(QPalette::Window);
+    const QColor colour = control(dialog, "lblColor").palette().color(QPalette::Window);
     return (QString(button("ckSounds")) + button("ckAnimation") +
             QString::number(control<QScrollBar>(dialog, "HScroll1").value()) + ' ' +
             control<QLabel>(dialog, "Label4").text() + ' ' + button("ckprfAutoDeal") +
             button("opAlwaysShow") + button("opShowOnError") +
-            control<QComboBox>(dialog, "Combo1").currentText() + ' ' + color.name())
+            control<QComboBox>(dialog, "Combo1").currentText() + ' ' + colour.name())
         .toStdString();
 }
 
-void chooseColor(frmPreferences& dialog, const QColor& color, bool accepted)
+void chooseColour(frmPreferences& dialog, const QColor& colour, bool accepted)
 {
     whileOpen<QColorDialog>([&dialog] { dialog.cmdChangeColor_Click(); },
                             [&](QColorDialog& chooser) {
-                                chooser.setCurrentColor(color);
+                                chooser.setCurrentColor(colour);
                                 accepted ? chooser.accept() : chooser.reject();
                             });
 }
@@ -91,9 +91,9 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
     inPreferences(game, [&](frmPreferences& dialog) {
         control<QAbstractButton>(dialog, "ckSounds").click();
         control<QScrollBar>(dialog, "HScroll1").setValue(1000);
-        chooseColor(dialog, Qt::red, false);
+        chooseColour(dialog, Qt::red, false);
         EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #00ff00");
-        chooseColor(dialog, Qt::blue, true);
+        chooseColour(dialog, Qt::blue, true);
         EXPECT_EQ(shown(dialog), "0 0 1000 0 0 0 1 Sleeve #0000ff") << "pending changes stay";
         EXPECT_EQ(game.picture().pixelColor(edge), QColor(Qt::blue));
         QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);

@@ -16,13 +16,13 @@ constexpr auto green = "#00c000";
 constexpr auto grey = "#808080"; // rows of odd play codes
 
 // Whether the outline lies around the card and the markers inside its edges.
-bool outlined(PlayedWindow& game, int slot, const QColor& color)
+bool outlined(PlayedWindow& game, int slot, const QColor& colour)
 {
     const QRect card = game.placeOf("picPoker" + std::to_string(slot));
     const QImage picture = game.picture();
     int found = 0;
     for (const int x : {card.left() - 2, card.left() + 1, card.right() - 1, card.right() + 2})
-        found += picture.pixelColor(x, card.center().y()) == color ? 1 : 0;
+        found += picture.pixelColor(x, card.center().y()) == colour ? 1 : 0;
     EXPECT_TRUE(found == 0 || found == 4) << "slot " << slot << ": " << found;
     return found == 4;
 }
@@ -76,10 +76,10 @@ TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
 TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
 {
     StartedWindow game;
-    EXPECT_EQ(game.rowColor(11), grey) << "the best play is kept secret";
+    EXPECT_EQ(game.rowColour(11), grey) << "the best play is kept secret";
     game.sounds.names.clear();
     game.draw("1");
-    EXPECT_EQ(game.rowColor(11), red);
+    EXPECT_EQ(game.rowColour(11), red);
     EXPECT_EQ(game.part("pkLabel10").accessibleName(), "High Pair, missed best play");
     EXPECT_EQ(game.sounds.names, std::vector<std::string>{"wrong2.wav"});
     EXPECT_FALSE(outlined(game, 0, Qt::green));
@@ -88,7 +88,7 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
 
     game.sounds.names.clear();
     game.draw("12");
-    EXPECT_EQ(game.rowColor(11), green);
+    EXPECT_EQ(game.rowColour(11), green);
     EXPECT_EQ(game.counters(), "0/1/1");
     EXPECT_EQ(game.sounds.names,
               (std::vector<std::string>{"deal.wav", "deal.wav", "deal.wav", "pokerwin1.wav"}));

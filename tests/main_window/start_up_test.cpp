@@ -19,7 +19,7 @@ TEST(StartUp, theFirstHandIsDealt)
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
     EXPECT_EQ(game.sounds.names, std::vector<std::string>(5, "deal.wav"));
-    EXPECT_EQ(QDir::currentPath().toStdString(), game.desktop.programFolder);
+    EXPECT_EQ(QDir::currentPath().toStdString(), game.surroundings.programFolder);
     EXPECT_TRUE(game.errors.texts.empty());
     EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
 }
@@ -56,7 +56,7 @@ TEST(StartUp, anErrorBeforeTheWindowShowsEndsIt)
         game.store.texts[key] = text;
         EXPECT_FALSE(game.start()) << key;
         EXPECT_FALSE(game.window->isVisible());
-        ASSERT_EQ(game.errors.texts.size(), 1u) << key;
+        ASSERT_EQ(game.errors.texts.size(), 1U) << key;
         EXPECT_TRUE(game.errors.texts[0].starts_with("Error  in  Form_Load (  " + cause));
         EXPECT_EQ(game.store.log.find('='), std::string::npos) << "nothing is saved";
     }

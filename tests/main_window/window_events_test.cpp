@@ -154,7 +154,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
                       game.placeOf("picStatusBar").topLeft() + QPoint(5, 5));
     EXPECT_EQ(game.pages.opened, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
-    EXPECT_EQ(game.pages.opened.size(), 6u) << "the text in the bar is no link";
+    EXPECT_EQ(game.pages.opened.size(), 6U) << "the text in the bar is no link";
     // A button let go beside what it was pressed on has not clicked it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {
@@ -162,7 +162,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
         QTest::mousePress(display, Qt::LeftButton, {}, place.topLeft() + QPoint(5, 5));
         QTest::mouseRelease(display, Qt::LeftButton, {}, place.topLeft() - QPoint(5, 5));
     }
-    EXPECT_EQ(game.pages.opened.size(), 6u);
+    EXPECT_EQ(game.pages.opened.size(), 6U);
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_TRUE(game.sounds.names.size() == 5U) << "nobody asked to draw";
 

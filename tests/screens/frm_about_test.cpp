@@ -12,8 +12,8 @@ namespace quillet::test
 TEST(AboutBox, theLinkOpensTheAddressThatItShows)
 {
     QWidget owner;
-    RecordingShell shell;
-    frmAbout::present(&owner, shell);
+    RecordingShell pages;
+    frmAbout::present(&owner, pages);
     auto* const box = openWindow<frmAbout>();
     ASSERT_TRUE(box != nullptr && QTest::qWaitForWindowExposed(box));
     auto& link = control<QLabel>(*box, "lblLink");
@@ -23,10 +23,10 @@ TEST(AboutBox, theLinkOpensTheAddressThatItShows)
     link.setText("http://elsewhere.example/x");
     link.adjustSize();
     click(link);
-    EXPECT_THAT(shell.opened,
+    EXPECT_THAT(pages.opened,
                 testing::ElementsAre("http://downloads.quillet.example/free/videopoker",
                                      "http://elsewhere.example/x"));
-    EXPECT_TRUE(shell.allPlain);
+    EXPECT_TRUE(pages.allPlain);
 }
 
 } // namespace quillet::test

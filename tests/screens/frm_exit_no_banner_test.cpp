@@ -27,7 +27,7 @@ protected:
     void note(const std::string& what)
     {
         log.push_back(what + (window.isVisible() ? ", shown" : ", gone") + ", opened " +
-                      std::to_string(shell.opened.size()));
+                      std::to_string(pages.opened.size()));
     }
     // Shows the window as the program does and lets the player act once it stands.
     void runWith(const std::function<void()>& act)
@@ -39,8 +39,8 @@ protected:
         window.exec();
     }
 
-    RecordingShell shell;
-    frmExitNoBanner window{shell};
+    RecordingShell pages;
+    frmExitNoBanner window{pages};
     std::vector<std::string> log;
 };
 
@@ -51,15 +51,15 @@ TEST_F(ExitScreenTest, aDoubleClickOpensTwiceOnALinkLabelAndOnceOnTheFooter)
     for (const char* name : {"Label1", "Label2", "Label4", "Label5", "Label6", "Label7", "Label8",
                              "Label9", "Label10", "Label11", "Label12", "lblLink"}) {
         auto& label = control<LinkLabel>(window, name);
-        shell.opened.clear();
+        pages.opened.clear();
         click(label);
-        EXPECT_THAT(shell.opened, ElementsAre(home)) << name;
+        EXPECT_THAT(pages.opened, ElementsAre(home)) << name;
         doubleClick(label);
-        EXPECT_THAT(shell.opened, ElementsAre(home, home, home)) << name;
+        EXPECT_THAT(pages.opened, ElementsAre(home, home, home)) << name;
     }
     doubleClick(control(window, "Label3"));
-    EXPECT_EQ(shell.opened.size(), 4U);
-    EXPECT_TRUE(shell.allPlain);
+    EXPECT_EQ(pages.opened.size(), 4U);
+    EXPECT_TRUE(pages.allPlain);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(log.empty());
 }
@@ -75,7 +75,7 @@ TEST_F(ExitScreenTest, everyWayOutUnloadsOnceAndTheButtonsEnd)
                                  "unload, shown, opened 0", "end, gone, opened 0",
                                  "unload, shown, opened 0", "unload, shown, opened 0",
                                  "unload, shown, opened 1", "end, gone, opened 1"));
-    EXPECT_THAT(shell.opened, ElementsAre(home));
+    EXPECT_THAT(pages.opened, ElementsAre(home));
 }
 
 } // namespace quillet::test

@@ -40,7 +40,7 @@ protected:
     }
     HelpViewer& present(const QString& path)
     {
-        HelpViewer::present(&owner, shell, path);
+        HelpViewer::present(&owner, pages, path);
         auto* viewer = openWindow<HelpViewer>();
         EXPECT_TRUE(viewer != nullptr && QTest::qWaitForWindowExposed(viewer));
         return *viewer;
@@ -58,7 +58,7 @@ protected:
 
     QTemporaryDir m_folder;
     QWidget owner;
-    RecordingShell shell;
+    RecordingShell pages;
 };
 
 TEST_F(HelpViewerTest, aFileThatCannotBeShownIsReportedInTheWindowWithItsPath)

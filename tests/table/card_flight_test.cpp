@@ -31,7 +31,7 @@ protected:
                                            deck.devicePlace().topLeft());
         for (const std::size_t slot : {1U, 2U, 3U}) {
             library.cdtDraw(pictures.picPoker.at(slot)->picture(), 0, 0, sleeve, drawBack,
-                            whiteColor);
+                            whiteColour);
             pictures.picPoker.at(slot)->setShowing(true);
         }
         canvas.refresh();
@@ -41,7 +41,7 @@ protected:
     void fly(QPoint from, QPoint to)
     {
         pictures.picAnimate.picture.copyFrom(canvas.kept(), to, QSizeF(96, 130), {0, 0});
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColor);
+        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColour);
         std::int32_t x = from.x();
         std::int32_t y = from.y();
         flight.AnimateCard(x, y, to.x(), to.y(), 1, sleeve, drawBack);
@@ -132,7 +132,7 @@ TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
 {
     Surface hatch({96, 130}, GetParam());
     hatch.fill(Qt::white);
-    library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColor);
+    library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColour);
     for (const PictureBox* place : pictures.picPoker) {
         QImage expected = pictures.BoardBuffer.image().copy(place->devicePlace());
         QPainter(&expected).drawImage(0, 0, inkOf(hatch.image()));

@@ -62,7 +62,7 @@ TEST(DelayCalibration, aWrongEstimateCostsARoundAndDoesNotChangeTheResult)
     // Rounds that contradict one another come to an end, too.
     Machine nervous{usual, {{300, 0.9}, {310, 0.9}, {320, 0.9}, {330, 1.2}, {340, 1.2}}};
     EXPECT_NEAR(flightDelay(nervous), 330, 10);
-    EXPECT_LE(nervous.measured.size(), 6u);
+    EXPECT_LE(nervous.measured.size(), 6U);
 }
 
 TEST(DelayCalibration, withoutTimeTheLikeliestDelayIsTaken)

@@ -12,10 +12,10 @@ namespace
 
 constexpr std::uint32_t white = 0xFFFFFF;
 
-Surface filled(double width, double height, const QColor& color, double scale = 1.0)
+Surface filled(double width, double height, const QColor& colour, double scale = 1.0)
 {
     Surface surface({width, height}, scale);
-    surface.fill(color);
+    surface.fill(colour);
     return surface;
 }
 

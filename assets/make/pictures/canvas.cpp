@@ -32,7 +32,7 @@ void smoothLine(std::vector<float>& line, int reach)
 
 } // namespace
 
-Color rgb(unsigned hex, double alpha)
+Colour rgb(unsigned hex, double alpha)
 {
     const auto part = [hex](unsigned shift) {
         return static_cast<float>((hex >> shift) & 255U) / 255.0F;
@@ -40,18 +40,18 @@ Color rgb(unsigned hex, double alpha)
     return {part(16), part(8), part(0), static_cast<float>(alpha)};
 }
 
-Color mix(const Color& from, const Color& to, double share)
+Colour mix(const Colour& from, const Colour& to, double share)
 {
     const auto t = static_cast<float>(std::clamp(share, 0.0, 1.0));
     return {from.r + (to.r - from.r) * t, from.g + (to.g - from.g) * t,
             from.b + (to.b - from.b) * t, from.a + (to.a - from.a) * t};
 }
 
-Color lit(const Color& color, double factor)
+Colour lit(const Colour& colour, double factor)
 {
     const auto f = static_cast<float>(factor);
-    return {std::min(color.r * f, 1.0F), std::min(color.g * f, 1.0F), std::min(color.b * f, 1.0F),
-            color.a};
+    return {std::min(colour.r * f, 1.0F), std::min(colour.g * f, 1.0F),
+            std::min(colour.b * f, 1.0F), colour.a};
 }
 
 Mask::Mask(QRect bounds)
@@ -125,7 +125,7 @@ Canvas::Canvas(QSize size, double scale)
     : m_width(static_cast<int>(std::lround(size.width() * scale))),
       m_height(static_cast<int>(std::lround(size.height() * scale))), m_scale(scale),
       m_pixels(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height),
-               Color{0, 0, 0, 0})
+               Colour{0, 0, 0, 0})
 {
 }
 
@@ -153,19 +153,19 @@ Mask Canvas::mask(const QPainterPath& shape) const
     return result;
 }
 
-void Canvas::fill(const Mask& mask, const Color& color)
+void Canvas::fill(const Mask& mask, const Colour& colour)
 {
-    shade(mask, [&color](double, double) { return color; });
+    shade(mask, [&colour](double, double) { return colour; });
 }
 
-void Canvas::lay(int x, int y, const Color& color, float cover)
+void Canvas::lay(int x, int y, const Colour& colour, float cover)
 {
-    Color& under = m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-                            static_cast<std::size_t>(x)];
-    const float alpha = color.a * cover;
+    Colour& under = m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
+                             static_cast<std::size_t>(x)];
+    const float alpha = colour.a * cover;
     const float rest = 1 - alpha;
-    under = {color.r * alpha + under.r * rest, color.g * alpha + under.g * rest,
-             color.b * alpha + under.b * rest, alpha + under.a * rest};
+    under = {colour.r * alpha + under.r * rest, colour.g * alpha + under.g * rest,
+             colour.b * alpha + under.b * rest, alpha + under.a * rest};
 }
 
 QImage Canvas::toImage() const
@@ -173,7 +173,7 @@ QImage Canvas::toImage() const
     QImage image(m_width, m_height, QImage::Format_ARGB32);
     for (int y = 0; y < m_height; ++y)
         for (int x = 0; x < m_width; ++x) {
-            const Color& pixel =
+            const Colour& pixel =
                 m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
                          static_cast<std::size_t>(x)];
             const auto byte = [&pixel](float part) {

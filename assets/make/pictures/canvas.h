@@ -11,16 +11,16 @@
 namespace quillet::artwork
 {
 
-struct Color {
+struct Colour {
     float r = 0;
     float g = 0;
     float b = 0;
     float a = 1;
 };
 
-[[nodiscard]] Color rgb(unsigned hex, double alpha = 1);
-[[nodiscard]] Color mix(const Color& from, const Color& to, double share);
-[[nodiscard]] Color lit(const Color& color, double factor);
+[[nodiscard]] Colour rgb(unsigned hex, double alpha = 1);
+[[nodiscard]] Colour mix(const Colour& from, const Colour& to, double share);
+[[nodiscard]] Colour lit(const Colour& colour, double factor);
 
 // How much of each pixel a shape covers, 0 to 1; nothing outside its bounds.
 class Mask
@@ -73,18 +73,18 @@ public:
     {
         shade(mask(shape), shader);
     }
-    void fill(const Mask& mask, const Color& color);
-    void fill(const QPainterPath& shape, const Color& color) { fill(mask(shape), color); }
+    void fill(const Mask& mask, const Colour& colour);
+    void fill(const QPainterPath& shape, const Colour& colour) { fill(mask(shape), colour); }
 
     [[nodiscard]] QImage toImage() const;
 
 private:
-    void lay(int x, int y, const Color& color, float cover);
+    void lay(int x, int y, const Colour& colour, float cover);
 
     int m_width;
     int m_height;
     double m_scale;
-    std::vector<Color> m_pixels; // premultiplied
+    std::vector<Colour> m_pixels; // premultiplied
 };
 
 // The outline of a line drawn along the path.

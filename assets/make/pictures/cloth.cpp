@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-Color Felt::at(double x, double y) const
+Colour Felt::at(double x, double y) const
 {
     const double slant = 0.8 * m_noise.at(x / 9, y / 9);
     const double hairs = m_noise.at((x + slant) / 0.7, y / 2.6) +
@@ -13,7 +13,7 @@ Color Felt::at(double x, double y) const
                          m_noise.at((x + y) / 1.1 + 90, (x - y) / 3.1);
     const double tufts = m_noise.layered(x / 7, y / 7 + 300, 2);
     const double wear = m_noise.layered(x / 160, y / 160 + 700, 2);
-    return lit(m_color, 1 + 0.055 * hairs + 0.035 * tufts + 0.05 * wear);
+    return lit(m_colour, 1 + 0.055 * hairs + 0.035 * tufts + 0.05 * wear);
 }
 
 double Leather::height(double x, double y) const
@@ -36,12 +36,12 @@ double Leather::height(double x, double y) const
     return std::min(second - nearest, 0.45) / 0.45;
 }
 
-Color Leather::at(double x, double y) const
+Colour Leather::at(double x, double y) const
 {
     const double here = height(x, y);
     const double slope = here - height(x - 0.5, y - 0.5);
     const double wear = m_noise.layered(x / 130, y / 130 + 700, 3);
-    return lit(m_color, 0.88 + 0.14 * here + 0.12 * slope + 0.07 * wear);
+    return lit(m_colour, 0.88 + 0.14 * here + 0.12 * slope + 0.07 * wear);
 }
 
 } // namespace quillet::artwork

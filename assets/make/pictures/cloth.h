@@ -10,12 +10,12 @@ namespace quillet::artwork
 class Felt
 {
 public:
-    Felt(const Color& color, std::uint32_t seed) : m_color(color), m_noise(seed) {}
+    Felt(const Colour& colour, std::uint32_t seed) : m_colour(colour), m_noise(seed) {}
 
-    [[nodiscard]] Color at(double x, double y) const;
+    [[nodiscard]] Colour at(double x, double y) const;
 
 private:
-    Color m_color;
+    Colour m_colour;
     Noise m_noise;
 };
 
@@ -23,14 +23,14 @@ private:
 class Leather
 {
 public:
-    Leather(const Color& color, std::uint32_t seed) : m_color(color), m_noise(seed) {}
+    Leather(const Colour& colour, std::uint32_t seed) : m_colour(colour), m_noise(seed) {}
 
-    [[nodiscard]] Color at(double x, double y) const;
+    [[nodiscard]] Colour at(double x, double y) const;
 
 private:
     [[nodiscard]] double height(double x, double y) const;
 
-    Color m_color;
+    Colour m_colour;
     Noise m_noise;
 };
 

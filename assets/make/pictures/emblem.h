@@ -10,7 +10,7 @@ struct Ornament {
     InlayMaterial metal;   // lines, figures, names
     InlayMaterial accent;  // the quill, the name, the best line of the pay table
     InlayMaterial redSuit; // hearts and diamonds
-    Color ground;          // behind letters and marks
+    Colour ground;         // behind letters and marks
 };
 
 // The letter Q made of a ring and a quill, the four suits inside, the name below.

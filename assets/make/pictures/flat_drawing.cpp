@@ -46,7 +46,7 @@ Canvas toPixels(const FlatDrawing& drawing, int size)
     const int side = static_cast<int>(drawing.side);
     Canvas canvas(QSize(side, side), size / drawing.side);
     for (const FlatShape& shape : drawing.shapes)
-        canvas.fill(shape.path, shape.color);
+        canvas.fill(shape.path, shape.colour);
     return canvas;
 }
 
@@ -57,9 +57,9 @@ QByteArray toSvg(const FlatDrawing& drawing)
                      "\n";
     svg.replace("SIDE", QByteArray::number(drawing.side));
     for (const FlatShape& shape : drawing.shapes) {
-        const QColor color = QColor::fromRgbF(shape.color.r, shape.color.g, shape.color.b);
+        const QColor colour = QColor::fromRgbF(shape.colour.r, shape.colour.g, shape.colour.b);
         const bool winding = shape.path.fillRule() == Qt::WindingFill;
-        svg += R"(<path fill=")" + color.name().toLatin1() + R"(" fill-rule=")" +
+        svg += R"(<path fill=")" + colour.name().toLatin1() + R"(" fill-rule=")" +
                (winding ? "nonzero" : "evenodd") + R"(" d=")" + outline(shape.path) + "\"/>\n";
     }
     return svg + "</svg>\n";

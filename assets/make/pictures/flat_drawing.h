@@ -12,7 +12,7 @@ namespace quillet::artwork
 // A drawing in plain colours, its parts from the lowest to the topmost, in a square box.
 struct FlatShape {
     QPainterPath path;
-    Color color;
+    Colour colour;
 };
 struct FlatDrawing {
     double side = 64;

@@ -58,7 +58,7 @@ Rail railAt(double x, double y)
             joint};
 }
 
-Color frameColor(const Wood& wood, double x, double y)
+Colour frameColour(const Wood& wood, double x, double y)
 {
     const Rail rail = railAt(x, y);
     double from = 0;
@@ -101,7 +101,7 @@ Canvas framePiece(FramePiece piece)
     QPainterPath whole;
     whole.addRect(QRectF(QPointF(0, 0), size));
     canvas.shade(whole, [&](double x, double y) {
-        return frameColor(wood, left + x * stretchX, top + y * stretchY);
+        return frameColour(wood, left + x * stretchX, top + y * stretchY);
     });
     return canvas;
 }

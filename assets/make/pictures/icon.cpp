@@ -12,12 +12,12 @@ namespace quillet::artwork
 namespace
 {
 
-const Color ink = rgb(0x2a1710);
-const Color paper = rgb(0xfffdf7);
-const Color wine = rgb(0x8e2331);
-const Color gold = rgb(0xe3ab43);
-const Color paleGold = rgb(0xf7dc97);
-const Color suitRed = rgb(0xc8102e);
+const Colour ink = rgb(0x2a1710);
+const Colour paper = rgb(0xfffdf7);
+const Colour wine = rgb(0x8e2331);
+const Colour gold = rgb(0xe3ab43);
+const Colour paleGold = rgb(0xf7dc97);
+const Colour suitRed = rgb(0xc8102e);
 
 QPainterPath grown(const QPainterPath& shape, double by)
 {
@@ -25,7 +25,7 @@ QPainterPath grown(const QPainterPath& shape, double by)
 }
 
 void addCard(FlatDrawing& drawing, const QRectF& card, double radius, double turn, double outline,
-             const Color& face)
+             const Colour& face)
 {
     const QPointF middle = card.center();
     const QTransform turned = QTransform::fromTranslate(middle.x(), middle.y())

@@ -7,8 +7,8 @@ namespace quillet::artwork
 
 // What lines, letters and marks are made of.
 struct InlayMaterial {
-    Color light;
-    Color dark;
+    Colour light;
+    Colour dark;
     double bevel = 1; // how plainly the edges catch the light
 };
 

@@ -7,7 +7,7 @@
 namespace quillet::artwork
 {
 
-void sew(Canvas& canvas, const QPainterPath& line, const Color& thread)
+void sew(Canvas& canvas, const QPainterPath& line, const Colour& thread)
 {
     QPainterPathStroker stroker;
     stroker.setWidth(1.3);

@@ -6,7 +6,7 @@ namespace quillet::artwork
 {
 
 // A seam of short stitches along the lines, each lying in a dent of its own.
-void sew(Canvas& canvas, const QPainterPath& line, const Color& thread);
+void sew(Canvas& canvas, const QPainterPath& line, const Colour& thread);
 
 // A border pressed into leather: two lines along the rectangle's edge and a row of lozenges.
 void tool(Canvas& canvas, const QRectF& rectangle, const InlayMaterial& foil);

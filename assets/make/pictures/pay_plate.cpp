@@ -86,7 +86,7 @@ void paintLines(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
         addLeader(dots, handRight, creditsLeft, right + 0.5, baseline - 1.5);
         baseline += 19;
     }
-    Color dim = ornament.metal.dark;
+    Colour dim = ornament.metal.dark;
     dim.a = 0.75F;
     canvas.fill(dots, dim);
 }

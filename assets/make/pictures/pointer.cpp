@@ -43,7 +43,7 @@ QPainterPath creases()
 Canvas pointingHand(double scale)
 {
     Canvas canvas(QSize(32, 32), scale);
-    const Color outline = rgb(0x1d1712);
+    const Colour outline = rgb(0x1d1712);
     canvas.fill(stroked(hand(), 2, Qt::RoundCap, Qt::RoundJoin), outline);
     canvas.fill(hand(), rgb(0xffffff));
     canvas.fill(stroked(creases(), 1), outline);

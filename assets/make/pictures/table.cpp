@@ -73,7 +73,7 @@ void paintLight(Canvas& canvas, double strength)
     sink(canvas, rectanglePath(framedArea()), 5, 0.7);
 }
 
-Wood rimWood(Color light, Color dark, std::uint32_t seed)
+Wood rimWood(Colour light, Colour dark, std::uint32_t seed)
 {
     return Wood(
         {.light = light, .dark = dark, .bandWidth = 9, .figure = 0.4, .pores = 0.8, .seed = seed});

@@ -44,7 +44,7 @@ double Wood::pores(double along, double across, double ring) const
     return (1 - inLane * inLane) * 4 * inCell * (1 - inCell);
 }
 
-Color Wood::at(double along, double across) const
+Colour Wood::at(double along, double across) const
 {
     const double ring = rings(along, across);
     const double place = ring - std::floor(ring);
@@ -57,7 +57,7 @@ Color Wood::at(double along, double across) const
     tone += 0.06 * m_fibre.at(along / 34, across / 0.75);
     // Light plays across the grain where the fibres rise and fall.
     tone += 0.06 * m_warp.at(along / 26 + across / 90, across / 105 + 40);
-    const Color wood = mix(m_look.dark, m_look.light, tone);
+    const Colour wood = mix(m_look.dark, m_look.light, tone);
     return lit(wood, 1 - 0.26 * m_look.pores * pores(along, across, ring));
 }
 

@@ -10,8 +10,8 @@ namespace quillet::artwork
 
 // The character of one piece of wood. Widths are in the picture's units.
 struct WoodLook {
-    Color light;
-    Color dark;
+    Colour light;
+    Colour dark;
     double bandWidth = 16; // from one broad growth ring to the next
     double figure = 1;     // how far the rings wander, 0 for ruled lines
     double pores = 1;      // how plainly the short dark pores show
@@ -26,7 +26,7 @@ class Wood
 public:
     explicit Wood(const WoodLook& look);
 
-    [[nodiscard]] Color at(double along, double across) const;
+    [[nodiscard]] Colour at(double along, double across) const;
 
 private:
     [[nodiscard]] double rings(double along, double across) const;

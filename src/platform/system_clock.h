@@ -6,7 +6,7 @@ namespace quillet
 {
 
 // The system's steady clock, by which events are delivered, and its clock of this thread.
-class EventClock : public Clock
+class SystemClock : public Clock
 {
 public:
     [[nodiscard]] std::int64_t milliseconds() override;

@@ -6,10 +6,10 @@ namespace quillet
 {
 
 // Hands a file or address to the desktop. Returns at once and reports nothing.
-class ShellOpen
+class PageOpener
 {
 public:
-    virtual ~ShellOpen() = default;
+    virtual ~PageOpener() = default;
     virtual void open(const std::string& verb, const std::string& file,
                       const std::string& parameters, const std::string& directory,
                       int showCommand) = 0;

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/shell_open.h"
+#include "platform/page_opener.h"
 
 namespace quillet
 {
 
 // Opens web addresses in the player's browser through xdg-open, which runs detached and mute:
 // whatever it does or prints, and whether it exists at all, the program notices nothing.
-class DesktopShell : public ShellOpen
+class BrowserOpener : public PageOpener
 {
 public:
     // Only "open" of an http or https address does anything, so that no text can start a program.

@@ -1,4 +1,4 @@
-#include "platform/event_clock.h"
+#include "platform/system_clock.h"
 
 #include <chrono>
 #include <ctime>
@@ -6,13 +6,13 @@
 namespace quillet
 {
 
-std::int64_t EventClock::milliseconds()
+std::int64_t SystemClock::milliseconds()
 {
     using namespace std::chrono;
     return duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-double EventClock::processorSeconds()
+double SystemClock::processorSeconds()
 {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);

@@ -3,8 +3,8 @@
 #include "engine/deck.h"
 #include "faults/run_time_error.h"
 #include "platform/clock.h"
+#include "platform/page_opener.h"
 #include "platform/screen_metrics.h"
-#include "platform/shell_open.h"
 #include "settings/settings_store.h"
 #include "sound/sound_output.h"
 
@@ -16,9 +16,9 @@ namespace quillet
 
 // All that the window asks of the world around it. main.cpp fills in the real ones, the tests
 // their own; everything outlives the window.
-struct Desktop {
+struct Surroundings {
     SettingsStore& store;
-    ShellOpen& shell;
+    PageOpener& pages;
     SoundOutput& sound;
     ErrorBox& errorBox;
     Clock& clock;

@@ -1,4 +1,4 @@
-#include "platform/desktop_shell.h"
+#include "platform/browser_opener.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -11,7 +11,7 @@ namespace quillet::test
 
 // Puts a folder of its own in the place of the machine's programs, and in it, when asked, an
 // opener that notes its arguments.
-class DesktopShellTest : public testing::Test
+class BrowserOpenerTest : public testing::Test
 {
 protected:
     void SetUp() override
@@ -41,40 +41,40 @@ protected:
     QByteArray m_path;
 };
 
-TEST_F(DesktopShellTest, webAddressesReachTheOpenerInOnePieceAndNothingIsPrinted)
+TEST_F(BrowserOpenerTest, webAddressesReachTheOpenerInOnePieceAndNothingIsPrinted)
 {
     installOpener("");
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    DesktopShell().open("open", "http://www.quillet.example/a;b?c=$HOME&d", "", "", 1);
+    BrowserOpener().open("open", "http://www.quillet.example/a;b?c=$HOME&d", "", "", 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return noted().endsWith('\n'); }));
     EXPECT_EQ(noted(), "1 http://www.quillet.example/a;b?c=$HOME&d\n");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(DesktopShellTest, onlyWebAddressesAreOpened)
+TEST_F(BrowserOpenerTest, onlyWebAddressesAreOpened)
 {
     installOpener("");
     for (const char* file :
          {"", "/etc/passwd", "file:///etc/passwd", "--help", "mailto:a@b.example", "http://",
           "http:www.quillet.example", "http://a b.example", "xdg-open"})
-        DesktopShell().open("open", file, "", "", 1);
-    DesktopShell().open("print", "http://www.quillet.example", "", "", 1);
-    DesktopShell().open("open", "https://last.example", "", "", 1);
+        BrowserOpener().open("open", file, "", "", 1);
+    BrowserOpener().open("print", "http://www.quillet.example", "", "", 1);
+    BrowserOpener().open("open", "https://last.example", "", "", 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return noted().contains("last"); }));
     EXPECT_EQ(noted(), "1 https://last.example\n");
 }
 
-TEST_F(DesktopShellTest, aSlowOpenerIsNotWaitedForAndAMissingOneIsSilence)
+TEST_F(BrowserOpenerTest, aSlowOpenerIsNotWaitedForAndAMissingOneIsSilence)
 {
     QElapsedTimer timer;
     timer.start();
     testing::internal::CaptureStderr();
-    DesktopShell().open("open", "http://www.quillet.example", "", "", 1);
+    BrowserOpener().open("open", "http://www.quillet.example", "", "", 1);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     installOpener("PATH=/usr/bin:/bin exec sleep 6");
-    DesktopShell().open("open", "http://www.quillet.example", "", "", 1);
+    BrowserOpener().open("open", "http://www.quillet.example", "", "", 1);
     EXPECT_LT(timer.elapsed(), 3000);
     EXPECT_TRUE(QTest::qWaitFor([&] { return noted().endsWith('\n'); }));
 }

@@ -1,4 +1,4 @@
-#include "platform/desktop_shell.h"
+#include "platform/browser_opener.h"
 
 #include <QProcess>
 #include <QUrl>
@@ -17,9 +17,9 @@ bool isWebAddress(const QUrl& address)
 
 } // namespace
 
-void DesktopShell::open(const std::string& verb, const std::string& file,
-                        const std::string& /*parameters*/, const std::string& directory,
-                        int /*showCommand*/)
+void BrowserOpener::open(const std::string& verb, const std::string& file,
+                         const std::string& /*parameters*/, const std::string& directory,
+                         int /*showCommand*/)
 {
     const QUrl address(QString::fromStdString(file), QUrl::StrictMode);
     if (verb != "open" || !isWebAddress(address))
