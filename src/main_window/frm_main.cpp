@@ -168,6 +168,8 @@ void frmMain::picDeal_Click(std::int16_t Index)
 
 void frmMain::picPoker_MouseDown(std::int16_t Index)
 {
+    // The next thing to hear may be that the hold is wrong, at once.
+    m_cues.prepare();
     m_controller.picPoker_MouseDown(Index);
 }
 

@@ -20,12 +20,13 @@ namespace quillet::test
 {
 
 struct RecordedSounds : SoundOutput {
-    void prepare() override {}
+    void prepare() override { ++prepared; }
     void play(const std::string& path) override
     {
         names.push_back(path.substr(path.find_last_of('/') + 1));
     }
     std::vector<std::string> names;
+    int prepared = 0;
 };
 
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,

@@ -78,7 +78,10 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     StartedWindow game;
     EXPECT_EQ(game.rowColour(11), grey) << "the best play is kept secret";
     game.sounds.names.clear();
-    game.draw("1");
+    const int prepared = game.sounds.prepared;
+    game.clickCard(0);
+    EXPECT_GT(game.sounds.prepared, prepared) << "the hold may be wrong, and that is heard at once";
+    game.draw("");
     EXPECT_EQ(game.rowColour(11), red);
     EXPECT_EQ(game.part("pkLabel10").accessibleName(), "High Pair, missed best play");
     EXPECT_EQ(game.sounds.names, std::vector<std::string>{"wrong2.wav"});
