@@ -1,13 +1,16 @@
 #!/bin/bash
-# bare-root.sh RELEASE [FOLDER]: makes a bare system of a Debian release, bookworm or trixie, in the
-# folder (by default below build/), copies what is committed into it, and runs ./play and ./check
-# there, as a newcomer would on a fresh machine. Run it as root; it needs debootstrap. A folder that
-# holds such a system already is used again with all that was installed in it.
+# bare-root.sh RELEASE [FOLDER [COMMAND...]]: makes a bare system of a Debian release, bookworm or
+# trixie, in the folder (by default below build/), copies what is committed into it, and what
+# packages build/package holds, and runs the commands there, by default ./play and ./check, as a
+# newcomer would on a fresh machine. Run it as root; it needs debootstrap. A folder that holds such a
+# system already is used again with all that was installed in it.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "$0")")/.."
 
 release=${1:?"say which release: bookworm or trixie"}
 root=$(readlink -m -- "${2:-build/bare-$release}")
+commands=("${@:3}")
+[ ${#commands[@]} -gt 0 ] || commands=(./play ./check)
 # The mirror that this machine uses itself.
 mirror=$(grep -rhoE 'https?://[^ ]+/debian/?( |$)' /etc/apt/sources.list* | head -n 1 || true)
 mirror=${mirror:-http://deb.debian.org/debian}
@@ -30,9 +33,13 @@ trap 'for system in dev/shm dev/pts dev proc; do umount "$root/$system" || true;
 
 rm -rf "$root/quillet"
 git clone --quiet --no-hardlinks . "$root/quillet"
-for command in ./play ./check; do
+if compgen -G 'build/package/*.deb' >/dev/null; then
+    mkdir -p "$root/quillet/build/package"
+    cp build/package/*.deb "$root/quillet/build/package"
+fi
+for command in "${commands[@]}"; do
     echo "== $release: $command"
     time chroot "$root" env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin \
         bash -c "cd /quillet && $command"
 done
-echo "$release: both passed."
+echo "$release: all passed."
