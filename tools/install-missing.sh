@@ -4,15 +4,19 @@
 set -euo pipefail
 
 list=$(dirname -- "$(readlink -f -- "$0")")/../debian-packages.txt
-wanted() {
+# The lines of the named parts, with what is said of them.
+lines() {
     for part in "$@"; do
-        sed -n "/^\\[$part\\]/,/^\\[/p" "$list"
-    done | sed -e 's/ *#.*//' -e '/^\[/d' -e '/^$/d'
+        sed -n -e "/^\\[$part\\]/,/^\\[/{/^\\[$part\\]/p; /^\\[/d; /^\$/d; p}" "$list"
+    done
+}
+wanted() {
+    lines "$@" | sed -e '/^\[/d' -e 's/ *#.*//'
 }
 
-if ! command -v dpkg-query >/dev/null; then
-    echo "This is no Debian machine. Please see to these yourself:" >&2
-    cat "$list" >&2
+if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    echo "This system has no apt-get, so please see to these yourself. Debian calls them:" >&2
+    lines "$@" | sed -e 's/^\[.*\] # \(.*\)/\1:/' -e t -e 's/^/    /' -e 's/ # /: /' >&2
     exit 0
 fi
 
