@@ -1,9 +1,7 @@
-// Plays a hand in the real window and writes what the player sees: the table before the deal, a
-// dealt hand, a refused hold and a paid hand. See the target documentation_pictures.
+// Plays a hand in the real window and writes what the player sees: a refused hold and a paid hand.
+// See the target documentation_pictures.
 
-#include "engine/deck.h"
-#include "engine/hand_evaluation.h"
-#include "engine/random.h"
+#include "assets/known_hand.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"
 #include "platform/message_error_box.h"
@@ -23,44 +21,6 @@ namespace
 
 using namespace quillet;
 
-constexpr std::int16_t twoPair = 10;
-constexpr std::int16_t fullHouse = 4;
-
-// The two pairs of a hand that is drawn to a full house.
-std::array<bool, 5> pairsOf(const std::array<Card, 5>& hand)
-{
-    std::array<bool, 5> paired{};
-    for (std::size_t slot = 0; slot < hand.size(); ++slot)
-        paired[slot] = std::ranges::count(hand, hand[slot].rank, &Card::rank) == 2;
-    return paired;
-}
-
-bool makesTheHand(const PokerDeck& deck)
-{
-    std::array<Card, 5> hand = dealHand(deck);
-    if (EvaluatePokerHand(hand, false) != twoPair)
-        return false;
-    drawReplacements(hand, deck, pairsOf(hand));
-    return EvaluatePokerHand(hand, true) == fullHouse;
-}
-
-// The deck of the hand that is photographed.
-class PhotographedDeck : public DeckSource
-{
-public:
-    PhotographedDeck()
-    {
-        for (std::uint64_t seed = 1; !makesTheHand(m_deck); ++seed) {
-            BlendingRandom random([] { return std::uint64_t{0}; }, seed);
-            shuffleDeck(m_deck, random);
-        }
-    }
-    [[nodiscard]] PokerDeck nextDeck() override { return m_deck; }
-
-private:
-    PokerDeck m_deck = buildDeck();
-};
-
 class Photographer
 {
 public:
@@ -78,27 +38,20 @@ public:
     {
         if (!m_window.Form_Load())
             return false;
-        takePicture("dealt");
-        const std::array<bool, 5> pairs = pairsOf(m_window.handState().hand);
-        const auto first = std::ranges::find(pairs, true) - pairs.begin();
-        m_window.picPoker_MouseDown(static_cast<std::int16_t>(first));
-        m_window.picDeal_Click(0);
+        m_window.picPoker_MouseDown(KnownHand::ace);
+        holdTheJacksAndDraw();
         takePicture("refused");
-        for (std::int16_t slot = 0; slot < 5; ++slot)
-            if (pairs[static_cast<std::size_t>(slot)])
-                m_window.picPoker_MouseDown(slot);
-        m_window.picDeal_Click(0);
+        holdTheJacksAndDraw();
         takePicture("paid");
         return m_written;
     }
 
 private:
-    // Nothing is waited for; before the first deal the status text has faded in.
-    void pause(std::int32_t delayTime)
+    void holdTheJacksAndDraw()
     {
-        QCoreApplication::processEvents();
-        if (delayTime == 1000)
-            takePicture("before");
+        for (const std::int16_t slot : KnownHand::jacks)
+            m_window.picPoker_MouseDown(slot);
+        m_window.picDeal_Click(0);
     }
 
     void takePicture(const char* what)
@@ -115,17 +68,19 @@ private:
     SdlSoundOutput m_sound;
     MessageErrorBox m_errorBox;
     SystemClock m_clock;
-    PhotographedDeck m_decks;
-    Surroundings m_surroundings{m_store,
-                                m_pages,
-                                m_sound,
-                                m_errorBox,
-                                m_clock,
-                                m_decks,
-                                {},
-                                QUILLET_PROGRAM_FOLDER,
-                                [this](std::int32_t delayTime, const auto&) { pause(delayTime); },
-                                [](int) {}};
+    KnownHand m_decks;
+    Surroundings m_surroundings{
+        m_store,
+        m_pages,
+        m_sound,
+        m_errorBox,
+        m_clock,
+        m_decks,
+        {},
+        QUILLET_PROGRAM_FOLDER,
+        // Nothing is waited for.
+        [](std::int32_t, const auto&) { QCoreApplication::processEvents(); },
+        [](int) {}};
     frmMain m_window{m_surroundings};
     bool m_written = true;
 };

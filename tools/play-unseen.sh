@@ -5,80 +5,8 @@ set -euo pipefail
 
 program=$(readlink -f -- "$1")
 picture=$2
-folder=$(mktemp -d)
-mkdir -m 700 "$folder"/{config,cache,data,run}
-helpers=()
-
-clean_up() {
-    local pid
-    for pid in "${helpers[@]}"; do
-        kill "$pid" 2>/dev/null || true
-    done
-    wait 2>/dev/null || true
-    rm -rf -- "$folder"
-}
-trap clean_up EXIT
-trap 'exit 129' HUP
-trap 'exit 130' INT
-trap 'exit 143' TERM
-
-fail() {
-    echo "./play: $1" >&2
-    sed 's/^/    /' "$folder"/*.log >&2
-    exit 1
-}
-
-# wait_for SECONDS WHAT COMMAND...: tries the command until it succeeds.
-wait_for() {
-    local deadline=$((SECONDS + $1)) what=$2
-    shift 2
-    until "$@"; do
-        [ $SECONDS -lt $deadline ] || fail "$what did not happen in time."
-        sleep 0.2
-    done
-}
-
-# What the caller has set for windows of its own must not shift or restyle this one.
-unset WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR \
-    QT_SCREEN_SCALE_FACTORS QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
-export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_CACHE_HOME=$folder/cache \
-    XDG_DATA_HOME=$folder/data XDG_RUNTIME_DIR=$folder/run XAUTHORITY=$folder/authority
-
-start_display() {
-    local cookie number
-    cookie=$(mcookie)
-    touch "$XAUTHORITY" "$folder/display"
-    # The server takes the cookie whatever its display number, which it finds for itself.
-    xauth -q add :0 . "$cookie"
-    Xvfb -displayfd 3 -auth "$XAUTHORITY" -screen 0 1024x768x24 -nolisten tcp -noreset \
-        3>"$folder/display" >"$folder/xvfb.log" 2>&1 &
-    helpers+=($!)
-    wait_for 30 "The start of the virtual X server" grep -q . "$folder/display"
-    number=$(cat "$folder/display")
-    export DISPLAY=:$number
-    [ "$number" = 0 ] || xauth -q add "$DISPLAY" . "$cookie"
-
-    openbox --sm-disable >"$folder/openbox.log" 2>&1 &
-    helpers+=($!)
-    wait_for 30 "The start of the window manager" window_manager_runs
-}
-
-window_manager_runs() {
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
-}
-
-# find_window TITLE: its number is in $window afterwards.
-find_window() {
-    kill -0 "$trainer" 2>/dev/null || fail "The trainer has ended."
-    window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1)
-    [ -n "$window" ]
-}
-
-measure_table() {
-    eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
-    [ "$WIDTH" -eq 800 ] || fail "The table is $WIDTH pixels wide, not 800."
-    menu_height=$((HEIGHT - 514))
-}
+caller=./play
+. "$(dirname -- "$(readlink -f -- "$0")")/unseen-display.sh"
 
 # The place of each card, as ImageMagick writes it: 96 x 130 pixels.
 card_places() {
@@ -86,10 +14,6 @@ card_places() {
     for slot in 0 1 2 3 4; do
         echo "96x130+$(((400 + 1104 * slot) / 10))+$((menu_height + 284))"
     done
-}
-
-take_picture() {
-    import -silent -window "$window" "$folder/table.png"
 }
 
 # Faces are white for the most part; the table and the backs are not.
@@ -117,10 +41,6 @@ table_has_changed() {
 
 table_is_still() {
     ! table_has_changed
-}
-
-click() {
-    xdotool mousemove --window "$window" "$1" "$2" click 1
 }
 
 choose_play_video_poker() {

@@ -1,0 +1,45 @@
+// The trainer with the hand of the pictures at every deal, and with the settings below the folder
+// that it is given, so that its window can be played and recorded. See tools/record-hand.sh.
+
+#include "assets/known_hand.h"
+#include "main_window/frm_main.h"
+#include "platform/browser_opener.h"
+#include "platform/message_error_box.h"
+#include "platform/short_delay.h"
+#include "platform/system_clock.h"
+#include "settings/text_file_store.h"
+#include "sound/sdl_sound_output.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    using namespace quillet;
+
+    const QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: known_table FOLDER\n");
+        return 2;
+    }
+    TextFileStore store(QString::fromLocal8Bit(argv[1]));
+    for (const auto& [key, text] : {std::pair{"prfAnimationDelay", "60"}, // quick cards
+                                    {"prfSound", "False"},
+                                    {"prfPokerAutoDeal", "False"},
+                                    {"prfShowPokerPlay", "False"}})
+        store.writeSetting("Quillet", "Preferences", key, text);
+    BrowserOpener pages;
+    SdlSoundOutput sound;
+    MessageErrorBox errorBox;
+    SystemClock clock;
+    KnownHand decks;
+    Surroundings surroundings{store,      pages,
+                              sound,      errorBox,
+                              clock,      decks,
+                              {},         QUILLET_PROGRAM_FOLDER,
+                              shortDelay, [](int code) { std::_Exit(code); }};
+    frmMain window(surroundings);
+    return window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
+}
