@@ -24,9 +24,15 @@ hand_lies_open() {
         convert "$folder/table.png" -crop "$place" +repage -colorspace Gray -threshold 95% \
             -format '%[fx:mean > 0.4]' info: | grep -qx 1 || return 1
     done
-    hand=$(for place in $(card_places); do
+    hand=$(cards_seen)
+}
+
+# What the last picture shows at the five places, told apart.
+cards_seen() {
+    local place
+    for place in $(card_places); do
         convert "$folder/table.png" -crop "$place" +repage -format '%#' info:
-    done)
+    done
 }
 
 another_hand_lies_open() {
@@ -41,6 +47,25 @@ table_has_changed() {
 
 table_is_still() {
     ! table_has_changed
+}
+
+# Holds one set of cards after the other until the coach lets one pass. A refusal leaves the hand as
+# it was dealt; none at all comes first, as a second refusal would change nothing then.
+play_the_hand() {
+    local cards
+    for cards in "" 12 13 14 15 23 24 25 34 35 45 1 2 3 4 5 1234 1235 1245 1345 2345 \
+        123 124 125 134 135 145 234 235 245 345 12345; do
+        if [ -n "$cards" ]; then
+            xdotool key $(grep -o . <<<"$cards")
+            wait_for 15 "The hold of cards" table_has_changed
+            wait_for 15 "The hold of cards" table_is_still
+        fi
+        click 253 $((menu_height + 162))
+        wait_for 15 "An answer to a click on the deck" table_has_changed
+        wait_for 15 "An answer to a click on the deck" table_is_still
+        [ "$(cards_seen)" = "$hand" ] || return 0
+    done
+    fail "The coach refused every hold."
 }
 
 choose_play_video_poker() {
@@ -87,8 +112,9 @@ wait_for 60 "The deal of another hand" another_hand_lies_open
 wait_for 30 "The end of the deal" table_is_still
 mkdir -p -- "$(dirname -- "$picture")"
 cp "$folder/table.png" "$picture"
-# The coach either refuses the draw and lights a row, or cards are drawn.
-click 253 $((menu_height + 162))
-wait_for 15 "An answer to a click on the deck" table_has_changed
+hand_lies_open
+first_hand=$hand
+play_the_hand
+wait_for 60 "The end of the draw" another_hand_lies_open
 end_with_exit
-echo "The trainer dealt, answered and closed as it should. The table is in $picture."
+echo "The trainer dealt, judged, drew and closed as it should. The table is in $picture."
