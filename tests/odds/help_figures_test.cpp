@@ -166,4 +166,14 @@ TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
     EXPECT_EQ(rows, 21);
 }
 
+TEST(HelpFigures, theFirstPagesTellTheSame)
+{
+    const FairOdds odds = fairOdds(HeldCards());
+    for (const char* page : {QUILLET_README, QUILLET_METAINFO}) {
+        const std::string text = fileText(page);
+        for (const Strategy strategy : {Strategy::perfect, Strategy::chartBest})
+            EXPECT_NE(text.find(inHundred(odds.returnOf(strategy))), std::string::npos) << page;
+    }
+}
+
 } // namespace quillet::test
