@@ -35,6 +35,15 @@ cards_seen() {
     done
 }
 
+# Since the first hand: a draw replaces each card, or lays a pattern over it.
+every_card_has_changed() {
+    paste <(echo "$first_hand") <(cards_seen) | awk '$1 == $2 { exit 1 }'
+}
+
+hand_is_played() {
+    hand_lies_open && every_card_has_changed
+}
+
 another_hand_lies_open() {
     hand_lies_open && [ "$hand" != "$first_hand" ]
 }
@@ -58,12 +67,13 @@ play_the_hand() {
         if [ -n "$cards" ]; then
             xdotool key $(grep -o . <<<"$cards")
             wait_for 15 "The hold of cards" table_has_changed
-            wait_for 15 "The hold of cards" table_is_still
+            wait_for 15 "A pause after the hold" table_is_still
         fi
         click 253 $((menu_height + 162))
         wait_for 15 "An answer to a click on the deck" table_has_changed
-        wait_for 15 "An answer to a click on the deck" table_is_still
-        [ "$(cards_seen)" = "$hand" ] || return 0
+        # Cards that fly count their time in turns of the processor, which may have others to serve.
+        wait_for 90 "A pause after a click on the deck" table_is_still
+        ! every_card_has_changed || return 0
     done
     fail "The coach refused every hold."
 }
@@ -115,6 +125,6 @@ cp "$folder/table.png" "$picture"
 hand_lies_open
 first_hand=$hand
 play_the_hand
-wait_for 60 "The end of the draw" another_hand_lies_open
+wait_for 90 "The end of the draw" hand_is_played
 end_with_exit
 echo "The trainer dealt, judged, drew and closed as it should. The table is in $picture."
