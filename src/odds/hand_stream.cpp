@@ -30,7 +30,8 @@ void writeLine(std::ostream& out, const DealtHand& hand, Format format)
     const Hold charts = hand.bestAccepted();
     const std::int64_t best = hand.worth[hand.bestHold];
     struct Field {
-        std::string name, value;
+        std::string name;
+        std::string value;
         bool isText;
     };
     const auto fields =

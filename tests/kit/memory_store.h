@@ -36,7 +36,8 @@ public:
     }
 
     std::map<std::string, std::string> texts;
-    std::string log, failingKey;
+    std::string log;
+    std::string failingKey;
 };
 
 } // namespace quillet::test

@@ -20,26 +20,27 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
     const auto newGame = [](PlayedWindow& game) {
         game.waitsForDraw() ? game.choose("mnuPoker") : game.clickDeck();
     };
-    const Row rows[] = {{"decks", newGame, 1, "Error  in  showPokerHand (  the wind  )"},
-                        {"",
-                         [](auto& game) {
-                             game.pages.fails = true;
-                             game.window->picStatusBar_Click();
-                         },
-                         1, "statusclickthe wind"},
-                        {"",
-                         [&](auto& game) {
-                             game.usePicture();
-                             newGame(game);
-                         },
-                         1, "Error  in  initPokerScreen (  Invalid picture"},
-                        {"",
-                         [&](auto& game) {
-                             game.window->prfAnimation = true;
-                             game.window->prfAnimationDelay = 3'000'000;
-                             newGame(game);
-                         },
-                         5, "Error in AnimateCard  Overflow"}};
+    const auto rows =
+        std::to_array<Row>({{"decks", newGame, 1, "Error  in  showPokerHand (  the wind  )"},
+                            {"",
+                             [](auto& game) {
+                                 game.pages.fails = true;
+                                 game.window->picStatusBar_Click();
+                             },
+                             1, "statusclickthe wind"},
+                            {"",
+                             [&](auto& game) {
+                                 game.usePicture();
+                                 newGame(game);
+                             },
+                             1, "Error  in  initPokerScreen (  Invalid picture"},
+                            {"",
+                             [&](auto& game) {
+                                 game.window->prfAnimation = true;
+                                 game.window->prfAnimationDelay = 3'000'000;
+                                 newGame(game);
+                             },
+                             5, "Error in AnimateCard  Overflow"}});
     for (const auto& [failing, act, boxes, text] : rows) {
         SCOPED_TRACE(text);
         PlayedWindow game;

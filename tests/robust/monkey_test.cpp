@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 namespace quillet::test
@@ -127,10 +128,10 @@ private:
         if (QWidget* menu = QApplication::activePopupWidget())
             menu->close();
         ++m_deckClicks;
-        const Qt::Key keys[] = {Qt::Key_1, Qt::Key_5, Qt::Key_Space, Qt::Key_Enter, Qt::Key_Tab};
+        constexpr std::array keys{Qt::Key_1, Qt::Key_5, Qt::Key_Space, Qt::Key_Enter, Qt::Key_Tab};
         const QPoint at(below(window->width() + 20) - 10, below(window->height() + 20) - 10);
         if (chanceOf(40))
-            QTest::keyClick(window->windowHandle(), keys[below(5)]);
+            QTest::keyClick(window->windowHandle(), keys[std::size_t(below(5))]);
         else
             QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
     }

@@ -103,7 +103,8 @@ TEST(CuePlayer, opensRestsAndTriesAgainByTheClockAndSkipsWhatComesTooLate)
     };
     CuePlayer::Moment now{1h};
     int opened = 0;
-    bool works = false, lost = false;
+    bool works = false;
+    bool lost = false;
     auto takes = 0ms;
     CueMixer* mixer = nullptr;
     CuePlayer player([&] { return now; },

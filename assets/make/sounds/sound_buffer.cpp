@@ -20,7 +20,8 @@ std::size_t framesIn(double milliseconds)
 void removeRumble(std::vector<double>& samples)
 {
     const double keep = settled(std::exp(-2 * std::numbers::pi * 30 / cueRate));
-    double input = 0, output = 0;
+    double input = 0;
+    double output = 0;
     for (double& sample : samples) {
         output = keep * (output + sample - input);
         input = sample;
