@@ -29,6 +29,8 @@ void frmMain::setOuterSize(QSizeF twips)
     const QSizeF inner = m_layout.innerPixels(twips);
     m_table.setMeasures({inner.width(), inner.height(), double(cWidth), double(cHeight),
                          double(picStatusBar->height()), designedTable.chartWidth});
+    // A window that shows learns of the table's new size only with the next events.
+    centralWidget()->updateGeometry();
     setFixedSize(sizeHint());
 }
 

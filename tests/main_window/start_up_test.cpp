@@ -88,12 +88,17 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         ASSERT_TRUE(game.start());
         EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
         EXPECT_EQ(game.placeOf("picPokerLabels").right(), game.placeOf("table").right() - 12);
+        EXPECT_EQ(game.window->width(), innerWidth);
         // The window insists on its size, but only until it has it.
         game.window->setWindowState(Qt::WindowMaximized);
         QCoreApplication::processEvents();
         EXPECT_FALSE(game.window->isMaximized());
         EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
         EXPECT_TRUE(game.errors.texts.empty());
+        // Another picture counts from the next game on.
+        game.usePicture({900, 480});
+        game.choose("mnuPoker");
+        EXPECT_EQ(game.window->width(), 900);
         // A tiling window manager gives more room than that.
         QWidget& middle = *game.window->centralWidget();
         middle.resize(1200, 900);
