@@ -89,12 +89,12 @@ frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
     setObjectName(QStringLiteral("frmPreferences"));
     setWindowTitle(tr("Preferences"));
     auto* layout = new QVBoxLayout(this);
-    auto* tabs = new QTabWidget(this);
-    tabs->setObjectName(QStringLiteral("SSTab1"));
-    layout->addWidget(tabs);
-    makeGeneralPage(*makePage(QStringLiteral("frameGeneral"), *tabs, tr("General")));
-    makeVideoPokerPage(*makePage(QStringLiteral("frameVideoPoker"), *tabs, tr("Video Poker")));
-    makeCardBacksPage(*makePage(QStringLiteral("frameCardBacks"), *tabs, tr("Card Backs")));
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    layout->addWidget(SSTab1);
+    makeGeneralPage(*makePage(QStringLiteral("frameGeneral"), *SSTab1, tr("General")));
+    makeVideoPokerPage(*makePage(QStringLiteral("frameVideoPoker"), *SSTab1, tr("Video Poker")));
+    makeCardBacksPage(*makePage(QStringLiteral("frameCardBacks"), *SSTab1, tr("Card Backs")));
     for (QAbstractButton* indicator : findChildren<QAbstractButton*>())
         indicator->setStyle(&m_indicatorStyle);
     HScroll1->setStyle(&m_indicatorStyle);
@@ -197,7 +197,10 @@ bool frmPreferences::event(QEvent* event)
     if (event->type() == QEvent::Show && !m_activated) {
         m_activated = true;
         Form_Activate();
-        // The window takes its size for the card before it is seen.
+        // The window takes its size for the card before it is seen. Its page, which is hidden, has
+        // told nobody of it.
+        picBacks->parentWidget()->layout()->activate();
+        SSTab1->updateGeometry();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     }
     return QDialog::event(event);

@@ -17,6 +17,7 @@ class QLabel;
 class QPushButton;
 class QRadioButton;
 class QScrollBar;
+class QTabWidget;
 class QVBoxLayout;
 
 namespace quillet
@@ -67,6 +68,7 @@ private:
     IndicatorStyle m_indicatorStyle;
 
     // Children.
+    QTabWidget* SSTab1 = nullptr;
     QCheckBox* ckSounds = nullptr;
     QCheckBox* ckAnimation = nullptr;
     QScrollBar* HScroll1 = nullptr;

@@ -167,7 +167,7 @@ TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
     EXPECT_EQ(game.window->prfPKBackFace, 63);
 }
 
-TEST(PreferencesDialog, aLargeFontStaysLarge)
+TEST(PreferencesDialog, aLargeFontStaysLargeAndThePagesAreOfOneSize)
 {
     const QFont usual = QApplication::font();
     QFont large = usual;
@@ -175,6 +175,10 @@ TEST(PreferencesDialog, aLargeFontStaysLarge)
     QApplication::setFont(large);
     StartedWindow game;
     inPreferences(game, [](frmPreferences& dialog) {
+        const QSize opened = dialog.size();
+        control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dialog.size(), opened) << "the buttons stay where they are";
         auto& list = control(dialog, "Combo1");
         EXPECT_GE(list.font().pointSizeF(), 14);
         EXPECT_GE(list.width(), list.sizeHint().width());
