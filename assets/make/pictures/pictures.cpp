@@ -84,7 +84,6 @@ void writePictures(const QString& folder)
     write("vpokernight.jpg", nightTable);
     writeFrame(folder + "/frame");
     writeIcons(folder + "/icons");
-    writePng(inFolder(folder + "/pointer", "hand.png"), pointingHand(1).toImage());
     writePng(inFolder(folder + "/pointer", "hand@2x.png"), pointingHand(2).toImage());
 }
 
