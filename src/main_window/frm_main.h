@@ -33,8 +33,8 @@ public:
     // Everything in the surroundings outlives the window.
     explicit frmMain(Surroundings& surroundings);
 
-    // Builds the running state, shows the window and deals the first hand. False after an error,
-    // which has been shown; nothing is to be saved then.
+    // Builds the running state, shows the window and deals the first hand. False when the
+    // window did not come to show, after an error that has been told; nothing is to be saved then.
     [[nodiscard]] bool Form_Load();
     // Saves the preferences, shows the exit screen and ends the process.
     void Form_Unload();

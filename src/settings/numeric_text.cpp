@@ -148,11 +148,6 @@ std::optional<NumericValue> parseNumber(std::string_view text)
     return parseDecimal(text);
 }
 
-bool isNumeric(std::string_view text)
-{
-    return parseNumber(text).has_value();
-}
-
 NumericValue toNumber(std::string_view text)
 {
     const std::optional<NumericValue> value = parseNumber(text);

@@ -24,9 +24,6 @@ struct NumericValue {
 // 65535 as a 32-bit integer; a closing "&" makes it 65535 for both ("&HFFFF&").
 [[nodiscard]] std::optional<NumericValue> parseNumber(std::string_view text);
 
-// Whether the text can be read as a number, of whatever size.
-[[nodiscard]] bool isNumeric(std::string_view text);
-
 // As parseNumber, but a text that is no number throws a type mismatch.
 [[nodiscard]] NumericValue toNumber(std::string_view text);
 

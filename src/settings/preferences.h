@@ -23,7 +23,7 @@ struct Preferences {
     std::int32_t prfAnimationDelay = 0;
     std::int32_t prfBannerDelay = 0; // the same unit
     std::string prfPKBackground;     // file name below pics/
-    std::int16_t prfScrollVal = 0;   // 0..1000, position of the speed slider
+    std::int16_t prfScrollVal = 0;   // position of the speed slider, which shows 0..1000
 };
 
 } // namespace quillet

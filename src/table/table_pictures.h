@@ -29,7 +29,7 @@ struct TablePictures {
 
     LoadedPicture thePic;              // the table's background
     std::array<QImage, 4> framePieces; // by FramePiece
-    Surface BoardBuffer;               // copy of the table without cards and hatches
+    Surface BoardBuffer;               // the table that a flight draws on
     Surface picBuffer;                 // the table under the flying card
     OffScreenBox picAnimate;           // the flying card
     OffScreenBox picReject;            // the reject pile, never shown
