@@ -79,6 +79,7 @@ void judgements(benchmark::State& state)
 {
     const auto hands = randomHands();
     std::vector<std::int16_t> plays;
+    plays.reserve(hands.size());
     for (const auto& hand : hands)
         plays.push_back(EvaluatePokerHand(hand, false));
     std::size_t next = 0;

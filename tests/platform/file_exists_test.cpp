@@ -15,7 +15,7 @@ TEST(FileExists, onlyAFileWithSomethingInItCounts)
     const QTemporaryDir temporary;
     const std::string folder = temporary.path().toStdString() + "/";
     std::ofstream(folder + "grün.jpg") << "x";
-    std::ofstream(folder + "empty.jpg");
+    std::ofstream(folder + "empty.jpg") << "";
 
     EXPECT_TRUE(FileExists(folder + "grün.jpg"));
     for (const std::string& path :

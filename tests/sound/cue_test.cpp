@@ -98,7 +98,7 @@ TEST(CuePlayer, opensRestsAndTriesAgainByTheClockAndSkipsWhatComesTooLate)
     using namespace std::chrono_literals;
     struct Device : AudioDevice {
         explicit Device(const bool& lost) : m_lost(lost) {}
-        bool isLost() const override { return m_lost; }
+        [[nodiscard]] bool isLost() const override { return m_lost; }
         const bool& m_lost;
     };
     CuePlayer::Moment now{1h};

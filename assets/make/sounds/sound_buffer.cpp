@@ -100,7 +100,10 @@ void finish(SoundBuffer& buffer, double fadeOutMilliseconds, double peakDecibels
 
 std::string waveFile(const SoundBuffer& buffer)
 {
-    constexpr std::uint32_t channels = 2, frameBytes = 4, pcm = 1, headerRest = 36;
+    constexpr std::uint32_t channels = 2;
+    constexpr std::uint32_t frameBytes = 4;
+    constexpr std::uint32_t pcm = 1;
+    constexpr std::uint32_t headerRest = 36;
     const auto dataBytes = static_cast<std::uint32_t>(buffer.frames()) * frameBytes;
 
     std::string bytes = "RIFF";
