@@ -1,6 +1,8 @@
 #include "screens/help_colours.h"
 
+#include "coach/strategy_chart.h"
 #include "platform/colour_contrast.h"
+#include "platform/desktop_colours.h"
 
 #include <cmath>
 
@@ -17,6 +19,17 @@ QColor mixed(const QColor& ground, const QColor& ink, double share)
     };
     return {channel(ground.red(), ink.red()), channel(ground.green(), ink.green()),
             channel(ground.blue(), ink.blue())};
+}
+
+// What is said of a colour of the chart stands on this colour.
+QString chartColourRule(const QString& name, void (StrategyChart::*light)(std::int16_t),
+                        std::int16_t playCode)
+{
+    StrategyChart chart;
+    (chart.*light)(playCode);
+    const ChartRowColours colours = chart.colours(playCode - 1);
+    return '.' + name + " { background-color: " + colourOf(colours.background).name() +
+           "; color: " + colourOf(colours.text).name() + "; }";
 }
 
 } // namespace
@@ -46,8 +59,12 @@ QString helpStyleSheet(const QPalette& palette)
                    "th { background-color: %3; text-align: left; }"
                    ".hand, .hold { white-space: nowrap; font-family: monospace; }"
                    "code { font-family: monospace; }")
-        .arg(readableLinkColour(palette).name(), mixed(ground, ink, 0.35).name(),
-             mixed(ground, ink, 0.08).name());
+               .arg(readableLinkColour(palette).name(), mixed(ground, ink, 0.35).name(),
+                    mixed(ground, ink, 0.08).name()) +
+           chartColourRule("best-play", &StrategyChart::highlightBestPlay, 1) +
+           chartColourRule("missed-play", &StrategyChart::highlightMissedPlay, 1) +
+           chartColourRule("winner", &StrategyChart::highlightWinner, 1) +
+           chartColourRule("straight-flush", &StrategyChart::highlightWinner, 2);
 }
 
 } // namespace quillet

@@ -1,4 +1,6 @@
+#include "coach/strategy_chart.h"
 #include "platform/colour_contrast.h"
+#include "platform/desktop_colours.h"
 #include "screens/help_colours.h"
 #include "screens/help_file.h"
 #include "screens/help_viewer.h"
@@ -11,6 +13,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextTable>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -159,6 +162,29 @@ TEST(HelpText, everyLinkLeadsToAPlaceInTheTextAndNothingOutsideIsReferenced)
     static const QRegularExpression outside("src\\s*=|<link|<script|<img|url\\(|@import|://",
                                             QRegularExpression::CaseInsensitiveOption);
     EXPECT_EQ(outside.match(file.html).captured(), QString());
+}
+
+TEST(HelpText, theColoursOfTheChartStandBesideTheirMeaning)
+{
+    HelpPage page;
+    page.showText(readHelpFile(QUILLET_HELP_FILE).html);
+    StrategyChart chart;
+    QTextCursor at(page.document());
+    const auto shown = [&](const char* words) {
+        at = page.document()->find(words, at, QTextDocument::FindWholeWords);
+        const QBrush behind = at.charFormat().background();
+        return behind != Qt::NoBrush || at.currentTable() == nullptr
+                   ? behind.color()
+                   : at.currentTable()->cellAt(at).format().background().color();
+    };
+    chart.highlightBestPlay(4);
+    EXPECT_EQ(shown("Light red"), colourOf(chart.colours(3).background));
+    chart.highlightMissedPlay(4);
+    EXPECT_EQ(shown("Red"), colourOf(chart.colours(3).background));
+    chart.highlightWinner(4);
+    EXPECT_EQ(shown("Green"), colourOf(chart.colours(3).background));
+    chart.highlightWinner(2);
+    EXPECT_EQ(shown("brighter green"), colourOf(chart.colours(1).background));
 }
 
 } // namespace quillet::test
