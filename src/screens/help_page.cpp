@@ -1,9 +1,12 @@
 #include "screens/help_page.h"
 
+#include "screens/help_cards.h"
 #include "screens/help_colours.h"
 
 #include <QEvent>
+#include <QMimeData>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 
@@ -21,6 +24,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_normalSize(font().
 {
     setOpenLinks(false);
     document()->setDocumentMargin(16);
+    new HelpCards(document());
     takeColoursFromPalette();
     connect(this, &QTextBrowser::anchorClicked, this, &HelpPage::followLink);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpPage::searchOnFromHere);
@@ -28,8 +32,9 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_normalSize(font().
 
 void HelpPage::showText(const QString& html)
 {
-    if (html != m_html) {
-        m_html = html;
+    const QString withPictures = HelpCards::withPictures(html);
+    if (withPictures != m_html) {
+        m_html = withPictures;
         if (!source().isEmpty())
             reload();
         clearHistory();
@@ -107,6 +112,15 @@ void HelpPage::changeEvent(QEvent* event)
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         takeColoursFromPalette();
+}
+
+QMimeData* HelpPage::createMimeDataFromSelection() const
+{
+    const QTextDocumentFragment selected = textCursor().selection();
+    auto* copied = new QMimeData;
+    copied->setText(HelpCards::withoutPictures(selected.toPlainText()));
+    copied->setHtml(HelpCards::withoutPictures(selected.toHtml()));
+    return copied;
 }
 
 // The colours of a text are settled when it is loaded, so a change of theme loads it again.

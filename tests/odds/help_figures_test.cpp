@@ -139,7 +139,8 @@ TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
                    std::string(mistake.instead) + "</td><td>" + withCommas(mistake.deals) +
                    "</td><td>" + (mistake.cost * 100).decimals(4) +
                    "</td><td><span class=\"hand\">" + holdText(mistake.example, holdAll) +
-                   "</span></td></tr>\n";
+                   "</span></td><td><span class=\"hold\">" +
+                   holdText(mistake.example, mistake.best) + "</span></td></tr>\n";
     EXPECT_NE(help.find(dearest), std::string::npos) << dearest;
     EXPECT_EQ(figure(help, "worth-lowest"),
               ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3));
@@ -148,21 +149,28 @@ TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
 TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
 {
     const std::string help = fileText(QUILLET_HELP_FILE);
-    const std::regex example("<tr id=\"row(\\d+)\">[^]*?<span class=\"hand\">([^<]*)</span>"
+    const std::regex example("<tr (?:id=\"row(\\d+)|class=\"(accepted|refused))\">"
+                             "[^]*?<span class=\"hand\">([^<]*)</span>"
                              "[^]*?<span class=\"hold\">([^<]*)</span>");
     int rows = 0;
+    int refused = 0;
     for (std::sregex_iterator row(help.begin(), help.end(), example), end; row != end; ++row) {
-        const std::string dealt = row->str(2);
-        const std::string kept = row->str(3);
+        const std::string dealt = row->str(3);
+        const std::string kept = row->str(4);
         const auto cards = hand(dealt);
         std::array<bool, 5> held{};
         for (std::size_t slot = 0; slot < held.size(); ++slot)
             held[slot] = kept.find(dealt.substr(3 * slot, 2)) != std::string::npos;
         const std::int16_t play = EvaluatePokerHand(cards, false);
-        EXPECT_EQ(row->str(1), std::to_string(++rows));
-        EXPECT_EQ(play, rows) << dealt;
-        EXPECT_TRUE(judgeHold(cards, held, play).correct) << dealt << ": " << kept;
+        if (row->length(1) > 0) {
+            EXPECT_EQ(row->str(1), std::to_string(++rows));
+            EXPECT_EQ(play, rows) << dealt;
+        }
+        refused += row->str(2) == "refused";
+        EXPECT_EQ(judgeHold(cards, held, play).correct, row->str(2) != "refused")
+            << dealt << ": " << kept;
     }
+    EXPECT_EQ(refused, 2);
     EXPECT_EQ(rows, 21);
 }
 

@@ -1,0 +1,133 @@
+#include "screens/help_cards.h"
+
+#include "cards/small_card.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTextDocument>
+
+#include <cmath>
+#include <vector>
+
+namespace quillet
+{
+
+namespace
+{
+
+// In logical pixels.
+struct Measures {
+    double height;
+    double width = std::round(height * 0.72);
+    double raise = std::round(height / 6);
+    double step = width + 2;
+};
+
+Measures measuresIn(const QTextDocument& document)
+{
+    return {std::round(QFontMetricsF(document.defaultFont()).height() * 2.5)};
+}
+
+// Below 0 for what is no card.
+int faceOf(const QString& card)
+{
+    const auto rank = QStringView(u"A23456789TJQK").indexOf(card.front());
+    const auto suit = QStringView(u"cdhs").indexOf(card.back());
+    return card.size() == 2 && rank >= 0 && suit >= 0 ? static_cast<int>(4 * rank + suit) : -1;
+}
+
+// "9c Tc Jc Kc Ad/Ad": the cards, and those of them that are held. Any other name has no cards.
+class PictureName
+{
+public:
+    explicit PictureName(const QTextFormat& format)
+        : m_parts(format.toImageFormat().name().split('/')),
+          m_cards(m_parts.first().split(' ', Qt::SkipEmptyParts))
+    {
+        m_cards.removeIf([](const QString& card) { return faceOf(card) < 0; });
+    }
+    [[nodiscard]] const QStringList& cards() const { return m_cards; }
+    [[nodiscard]] bool isHeld(const QString& card) const { return m_parts.last().contains(card); }
+
+private:
+    QStringList m_parts;
+    QStringList m_cards;
+};
+
+} // namespace
+
+HelpCards::HelpCards(QTextDocument* document) : QObject(document)
+{
+    document->documentLayout()->registerHandler(QTextFormat::ImageObject, this);
+}
+
+QString HelpCards::withPictures(const QString& html)
+{
+    static const QRegularExpression spans(
+        "<span class=\"(hand|hold)\">((?:[2-9TJQKA][cdhs]\\s?)*)</span>");
+    struct Hand {
+        qsizetype start;
+        QString cards;
+        QString held;
+    };
+    std::vector<Hand> hands;
+    for (auto found = spans.globalMatch(html); found.hasNext();) {
+        const QRegularExpressionMatch span = found.next();
+        const QString cards = span.captured(2).simplified();
+        if (span.capturedView(1) == u"hold") {
+            if (!hands.empty() && hands.back().held.isNull())
+                hands.back().held = cards;
+        } else if (!cards.isEmpty()) {
+            hands.push_back({span.capturedStart(), cards, {}});
+        }
+    }
+    QString shown;
+    qsizetype end = 0;
+    for (const Hand& hand : hands) {
+        shown += html.mid(end, hand.start - end);
+        shown += "<div><img src=\"" + hand.cards + '/' + hand.held + "\"></div>";
+        end = hand.start;
+    }
+    return shown + html.mid(end);
+}
+
+QString HelpCards::withoutPictures(QString copied)
+{
+    static const QRegularExpression pictures("<p [^>]*><img [^>]*></p>\n?|<img [^>]*>|\ufffc\n?");
+    return copied.remove(pictures);
+}
+
+QSizeF HelpCards::intrinsicSize(QTextDocument* document, int /*position*/,
+                                const QTextFormat& format)
+{
+    const Measures card = measuresIn(*document);
+    const auto cards = static_cast<double>(PictureName(format).cards().size());
+    return {cards * card.step, card.height + card.raise};
+}
+
+void HelpCards::drawObject(QPainter* painter, const QRectF& place, QTextDocument* document,
+                           int /*position*/, const QTextFormat& format)
+{
+    const QTransform toPixels = painter->deviceTransform();
+    const auto pixels = [&](double length) {
+        return static_cast<int>(std::lround(length * toPixels.m11()));
+    };
+    const Measures card = measuresIn(*document);
+    const QSize size(pixels(card.width), pixels(card.height));
+    QPoint corner = toPixels.map(place.topLeft()).toPoint();
+    const PictureName picture(format);
+
+    painter->save();
+    // In device pixels, on which all edges of a card lie.
+    painter->setWorldTransform(toPixels.inverted() * painter->worldTransform());
+    for (const QString& name : picture.cards()) {
+        const QPoint lowered(0, picture.isHeld(name) ? 0 : pixels(card.raise));
+        painter->drawImage(corner + lowered, renderSmallCard(faceOf(name), size));
+        corner.rx() += pixels(card.step);
+    }
+    painter->restore();
+}
+
+} // namespace quillet
