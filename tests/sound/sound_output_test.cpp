@@ -65,7 +65,7 @@ public:
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         path.copy(address.sun_path, sizeof(address.sun_path) - 1);
-        bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+        EXPECT_EQ(bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
         listen(m_socket, 4);
     }
     ~SilentServer() { close(m_socket); }
