@@ -65,7 +65,7 @@ TEST(Fault, anEndingSessionStoresTheSettingsAndShowsNoFarewellUnlessItGoesOn)
         StartedWindow game;
         game.window->prfSound = false;
         // Only the toolkit can make a session manager, and nobody looks at this one.
-        alignas(QSessionManager) static std::byte nobody[sizeof(QSessionManager)];
+        alignas(QSessionManager) static std::array<std::byte, sizeof(QSessionManager)> nobody;
         emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
         EXPECT_EQ(game.store.texts["prfSound"], "False");
         EXPECT_TRUE(game.ended.empty());
