@@ -69,6 +69,10 @@ TEST(SettingsText, whatAPersonWroteIsUnderstoodAndKept)
     EXPECT_EQ(text.bytes(), "# mine\nloose = 1\n\n [ Play ] \n;off\n  a = b = c # d \n"
                             "path=C:\\games\\x.jpg\na=third\nnew=2\n\n# tail\n[Other]\nz=1\n"
                             "\n[Last]\nk=\n");
+    text = parsed("[E]\n\tt\t=\t\\x5a\\x5B\n[F]\n# tail\n");
+    EXPECT_EQ(text.value("E", "t"), "Z[") << "small digits and large ones, between tabs";
+    text.setValue("F", "k", "\x80");
+    EXPECT_TRUE(text.bytes().ends_with("[F]\nk=\\x80\n# tail\n")) << text.bytes();
     text = parsed("\xEF\xBB\xBF[A]\r\nk=1\r\n\r\n");
     EXPECT_EQ(text.value("A", "k"), "1");
     text.setValue("A", "l", "2");
