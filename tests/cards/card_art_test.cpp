@@ -44,6 +44,8 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
         for (std::size_t second = first + 1; second < 52; ++second)
             EXPECT_GE(greyDifference(thumbnails[first], thumbnails[second], 64), 20)
                 << first << " and " << second;
+    const QRect rank(3, 4, 18, 25); // six and nine are one mark, turned
+    EXPECT_GE(greyDifference(cardAt(23, 1).copy(rank), cardAt(35, 1).copy(rank), 64), 40);
 }
 
 TEST(CardFaces, blackQueensDifferInTheirOutline)

@@ -1,6 +1,7 @@
 #include "main_window/animation_speed.h"
 #include "main_window/frm_preferences.h"
 #include "platform/colour_contrast.h"
+#include "tests/kit/pixels.h"
 #include "tests/kit/played_window.h"
 
 #include <QAbstractButton>
@@ -107,10 +108,14 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
 
 TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
 {
+    const QPalette usual = QApplication::palette();
     for (const QPalette& desktop : {QPalette(Qt::black, Qt::black), QPalette(QColor(0xefefef))}) {
+        QApplication::setPalette(desktop);
         StartedWindow game;
+        const QImage row = game.part("pkLabel1").grab().toImage();
+        EXPECT_LT(qGray(row.scaled(1, 1, {}, Qt::SmoothTransformation).pixel(0, 0)),
+                  qGray(row.pixel(1, 1)));
         inPreferences(game, [&desktop](frmPreferences& dialog) {
-            dialog.setPalette(desktop);
             auto& tabs = control<QTabWidget>(dialog, "SSTab1");
             // On the left of a part of a control, halfway down.
             const auto edgeOf = [](QWidget& widget, const QRect& place) {
@@ -148,11 +153,13 @@ TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
             QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
         });
     }
+    QApplication::setPalette(usual);
 }
 
 TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
 {
     StartedWindow game;
+    ASSERT_TRUE(moveToScale(*game.window, 2));
     inPreferences(game, [](frmPreferences& dialog) {
         control<QTabWidget>(dialog, "SSTab1").setCurrentIndex(2);
         control(dialog, "cmdChangeColor").setFocus();
@@ -160,6 +167,8 @@ TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
         whileOpen<QColorDialog>(enter, [](QColorDialog&) {});
         EXPECT_TRUE(dialog.isVisible());
         control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
+        const QImage back = control(dialog, "picBacks").grab({11, 11, 76, 110}).toImage();
+        EXPECT_EQ(back, cardAt(63, 2).convertToFormat(back.format()).copy(20, 20, 152, 220));
         control(dialog, "Combo1").setFocus();
         enter();
         EXPECT_FALSE(dialog.isVisible());

@@ -82,7 +82,11 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     game.clickCard(0);
     EXPECT_GT(game.sounds.prepared, prepared) << "the hold may be wrong, and that is heard at once";
     game.draw("");
+    EXPECT_EQ(game.sounds.prepared, prepared + 2) << "as the first card is";
     EXPECT_EQ(game.rowColour(11), red);
+    const QRect row = game.placeOf("pkLabel10");
+    EXPECT_EQ(game.picture().pixelColor(row.left() + 2, row.center().y()), QColor(red))
+        << "between the arms of a cross";
     EXPECT_EQ(game.part("pkLabel10").accessibleName(), "High Pair, missed best play");
     EXPECT_EQ(game.sounds.names, std::vector<std::string>{"wrong2.wav"});
     EXPECT_FALSE(outlined(game, 0, Qt::green));
@@ -105,8 +109,19 @@ TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
     StartedWindow game;
     game.clickCard(1);
     const QImage before = game.picture();
-    ASSERT_TRUE(moveToScale(*game.window, 1.5));
+    ASSERT_TRUE(moveToScale(*game.window, 1.25));
     EXPECT_NE(game.picture().size(), before.size());
+    const auto& table = control<PokerTable>(*game.window, "pokerTable");
+    EXPECT_EQ(table.background().image.width(), 1000) << "as sharp as the display";
+    const QImage held = game.picture();
+    game.clickCard(1);
+    const QImage free = game.picture();
+    const QPoint card = game.placeOf("picPoker1").topLeft() * 1.25;
+    const QPoint corner = card - QPoint(2, 2);
+    EXPECT_EQ(held.pixel(corner), free.pixel(corner)) << "the outline is as round as the card";
+    game.part("table").update();
+    EXPECT_EQ(game.picture(), free) << "and leaves nothing behind";
+    game.clickCard(1);
     ASSERT_TRUE(moveToScale(*game.window, 1.0));
     EXPECT_EQ(game.picture(), before);
     game.draw("1");
@@ -122,6 +137,9 @@ TEST(PokerTable, cardsLieInTheBackThatWasChosenWhenTheyFlew)
     table.flyCardTo(3);
     ASSERT_TRUE(moveToScale(*game.window, 1.5) && moveToScale(*game.window, 1.0));
     EXPECT_TRUE(shows(game, 0, 65) && shows(game, 3, 60));
+    const QImage pile = game.picture();
+    table.DrawDealDeck();
+    EXPECT_EQ(game.picture(), pile) << "nothing shines through the round corners";
     table.showFace(3, 17, false);
     EXPECT_TRUE(shows(game, 3, 17));
     table.takeAway(3);
@@ -165,8 +183,10 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     press(Qt::Key_1);
 
     // Tab walks from the deck to the cards, where the blank toggles the hold.
+    const QImage before = game.picture();
     for (int step = 0; step < 3; ++step)
         press(Qt::Key_Tab);
+    EXPECT_NE(game.picture(), before) << "the focus is seen";
     press(Qt::Key_Space);
     EXPECT_TRUE(outlined(game, 1, Qt::green));
     press(Qt::Key_Return);

@@ -117,9 +117,9 @@ std::set<QRgb> coloursIn(const QImage& picture, const QRectF& place)
 
 } // namespace
 
-TEST(PresentedTable, aHandOnTwoDisplaysLooksAsItShould)
+TEST(PresentedTable, aHandOnFourDisplaysLooksAsItShould)
 {
-    for (const double scale : {1.0, 1.5}) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75}) {
         SCOPED_TRACE(scale);
         PlayedWindow game;
         game.in(1000, [&game] {

@@ -104,6 +104,7 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         middle.resize(1200, 900);
         middle.layout()->activate();
         EXPECT_EQ(game.part("table").geometry().center(), middle.rect().center());
+        EXPECT_EQ(game.picture().pixelColor(middle.geometry().topLeft()), QColor(Qt::black));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <optional>
 #include <vector>
 
@@ -123,6 +124,10 @@ TEST_P(CardFlightTest, errorsHaveTheirOwnWords)
     flight.AnimateCard(x, y, 5, 0, 0, sleeve, drawBack);
     preferences.prfAnimationDelay = 3'000'000;
     flight.AnimateCard(x, y, 5, 0, 1, sleeve, drawBack);
+    preferences.prfAnimationDelay = 2'000'000;
+    const std::clock_t start = std::clock();
+    flight.AnimateCard(x, y, x + 1, y, 1, sleeve, drawBack);
+    EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC);
     EXPECT_EQ(errors, (std::vector<std::string>{"Error in AnimateCard  Overflow",
                                                 "Error in AnimateCard  Division by zero",
                                                 "Error in AnimateCard  Overflow"}));
