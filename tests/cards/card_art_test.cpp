@@ -132,6 +132,10 @@ TEST(CardBacks, areAllDifferentAndNoneIsBlank)
         for (int second = first + 1; second <= 66; ++second)
             EXPECT_GT(greyDifference(cardAt(first, 1), cardAt(second, 1), 0), 1500)
                 << first << " and " << second;
+    const auto mean = [](int back) {
+        return cardAt(back, 1).scaled(1, 1, {}, Qt::SmoothTransformation);
+    };
+    EXPECT_GT(qBlue(mean(59).pixel(0, 0)), qBlue(mean(58).pixel(0, 0)) + 20) << "IvyBlue, IvyBlack";
 }
 
 TEST(Hatch, isASparseExactlyWhiteRoundedGroundWithOneInkAndAnOutline)

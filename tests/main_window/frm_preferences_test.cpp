@@ -104,6 +104,9 @@ TEST(PreferencesDialog, speedAndColourTakeEffectAtOnceAndSurviveCancel)
     inPreferences(game, [](frmPreferences& dialog) {
         EXPECT_EQ(shown(dialog), "1 0 700 0 0 0 1 Sleeve #0000ff");
     });
+    game.window->prfPKBackFace = 40;
+    inPreferences(game, [](frmPreferences& dialog) { dialog.cmdSave_Click(); });
+    EXPECT_EQ(game.window->prfPKBackFace, 40) << "no other was chosen";
 }
 
 TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)

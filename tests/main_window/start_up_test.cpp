@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QLayout>
+#include <QProgressBar>
 
 namespace quillet::test
 {
@@ -115,6 +116,9 @@ TEST(StartUp, theSplashFitsSmallScreensAndCoversNoOtherProgram)
     CalibrationSplash splash;
     EXPECT_LE(splash.sizeHint().width(), 800);
     EXPECT_FALSE(splash.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    const auto& bar = *splash.findChild<QProgressBar*>();
+    for (int round = 0; round < 30; ++round, splash.advance())
+        EXPECT_LT(bar.value(), bar.maximum()) << "it is not over yet";
     QApplication::setFont(usual);
 }
 

@@ -61,12 +61,22 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
 
 TEST(Fault, anEndingSessionStoresTheSettingsAndShowsNoFarewellUnlessItGoesOn)
 {
+    // Only the toolkit can make a session manager, and nobody looks at this one.
+    alignas(QSessionManager) static std::array<std::byte, sizeof(QSessionManager)> nobody;
+    const auto announce = [] {
+        emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
+    };
+    PlayedWindow early;
+    early.store.texts["prfAnimationDelay"] = "-1";
+    std::string log = "=";
+    QTimer::singleShot(0, [&] { announce(), log = early.store.log; });
+    ASSERT_TRUE(early.start());
+    EXPECT_EQ(log.find('='), std::string::npos) << "the speed was half measured";
+
     for (const bool goesOn : {false, true}) {
         StartedWindow game;
         game.window->prfSound = false;
-        // Only the toolkit can make a session manager, and nobody looks at this one.
-        alignas(QSessionManager) static std::array<std::byte, sizeof(QSessionManager)> nobody;
-        emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
+        announce();
         EXPECT_EQ(game.store.texts["prfSound"], "False");
         EXPECT_TRUE(game.ended.empty());
         const auto close = [&game] { game.window->close(); };
