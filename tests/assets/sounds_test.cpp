@@ -46,8 +46,7 @@ constexpr std::size_t window = 4800; // samples of 50 ms
 // Where the loudest 50 ms begin.
 std::size_t loudestAt(const std::vector<double>& samples)
 {
-    double power = 0;
-    double loudest = 0;
+    double power = 0, loudest = 0;
     std::size_t at = 0;
     for (std::size_t i = 0; i < samples.size(); ++i) {
         power += samples[i] * samples[i];
@@ -78,8 +77,7 @@ double decibelsToTheEar(const std::vector<double>& samples)
     for (double hertz = 300; hertz < 16000; hertz += 48000 / frames) {
         const auto step = std::polar(1.0, -2 * std::numbers::pi * hertz / 48000);
         for (const std::size_t channel : {0U, 1U}) {
-            std::complex<double> sum = 0;
-            std::complex<double> turn = 1;
+            std::complex<double> sum = 0, turn = 1;
             for (std::size_t i = channel; i < window; i += 2, turn *= step)
                 sum += loudest[i] * turn;
             power += std::norm(sum) / (frames * frames) * heard(hertz) * heard(hertz);
@@ -114,8 +112,7 @@ TEST(Sounds, everyCueFitsItsUseAndTheOthers)
 {
     struct Use {
         const char* fileName;
-        double leastMilliseconds;
-        double mostMilliseconds;
+        double leastMilliseconds, mostMilliseconds;
     };
     std::vector<double> loudness;
     for (const Use& use :

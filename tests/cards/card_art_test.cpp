@@ -59,8 +59,7 @@ TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
 {
     for (int number = 4; number <= 39; ++number) {
         const int rank = number / 4 + 1;
-        int pips = 0;
-        int lowest = 99;
+        int pips = 0, lowest = 99;
         int indexPip = 0;
         const QImage card = cardAt(number, 1).copy(2, 2, cardArtWidth - 4, cardArtHeight - 4);
         for (const Region& mark : regions(card, [](QRgb pixel) { return qGray(pixel) <= 160; }))

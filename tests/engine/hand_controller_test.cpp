@@ -141,8 +141,7 @@ TEST(HandController, everyRowPaysInItsSteps)
     struct Row {
         const char* dealt;
         const char* held;
-        int pays;
-        int steps;
+        int pays, steps;
         const char* cue;
         int pause = 500;
     };

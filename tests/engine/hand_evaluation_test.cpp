@@ -32,8 +32,7 @@ void count(Counts& counts, std::int16_t code)
 
 struct Row {
     const char* cards;
-    int dealt;
-    int final;
+    int dealt, final;
 };
 
 } // namespace

@@ -36,8 +36,7 @@ public:
     }
 
     std::map<std::string, std::string> texts;
-    std::string log;
-    std::string failingKey;
+    std::string log, failingKey;
 };
 
 } // namespace quillet::test

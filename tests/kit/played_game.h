@@ -112,8 +112,7 @@ struct Game {
 
     HandState state;
     Counters counters;
-    bool prfPokerAutoDeal = false;
-    bool prfShowPokerPlay = false;
+    bool prfPokerAutoDeal = false, prfShowPokerPlay = false;
     StrategyChart chart;
     StackedDeck decks;
     VirtualClock clock;

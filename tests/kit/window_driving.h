@@ -26,8 +26,7 @@ struct RecordingShell : PageOpener {
     }
 
     std::vector<std::string> opened;
-    bool allPlain = true;
-    bool fails = false;
+    bool allPlain = true, fails = false;
 };
 
 template <typename Widget = QWidget>

@@ -13,8 +13,7 @@ namespace quillet::test
 namespace
 {
 
-constexpr int sleeve = 65;
-constexpr int hatch = 53;
+constexpr int sleeve = 65, hatch = 53;
 
 // The parts of the table that are known to a pixel, on a transparent picture.
 class KnownTable

@@ -95,8 +95,7 @@ TEST(ChartCard, hasEveryRowOnThePage)
 {
     for (const Chart& chart : someCharts()) {
         const std::string page = cardOf(chart);
-        std::size_t kept = 0;
-        std::size_t hands = 0;
+        std::size_t kept = 0, hands = 0;
         for (const auto& example : charts::rowExamples(heldCards(), chart)) {
             kept += example ? cardsIn[example->hold] : 0;
             hands += example ? 1 : 0;
@@ -120,8 +119,7 @@ TEST(ChartCard, keepsItsLettersWithinTheirColumns)
         std::size_t names = 0;
         std::istringstream lines(cardOf(chart));
         for (std::string line; std::getline(lines, line);) {
-            double x = 0;
-            double y = 0;
+            double x = 0, y = 0;
             double height = 0;
             const auto letter = line.rfind(" x=\"");
             if (!line.starts_with("<g fill") || letter == std::string::npos)

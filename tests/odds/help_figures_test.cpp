@@ -87,8 +87,7 @@ TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
     const auto chances = placesAfterTheShuffle();
     std::array<double, 52> dealt{};
     std::array<double, 52> drawn{};
-    double least = 1;
-    double most = 0;
+    double least = 1, most = 0;
     double highCards = 0;
     for (std::size_t number = 0; number < 52; ++number) {
         const auto& place = chances[number];
@@ -152,8 +151,7 @@ TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
     const std::regex example("<tr (?:id=\"row(\\d+)|class=\"(accepted|refused))\">"
                              "[^]*?<span class=\"hand\">([^<]*)</span>"
                              "[^]*?<span class=\"hold\">([^<]*)</span>");
-    int rows = 0;
-    int refused = 0;
+    int rows = 0, refused = 0;
     for (std::sregex_iterator row(help.begin(), help.end(), example), end; row != end; ++row) {
         const std::string dealt = row->str(3);
         const std::string kept = row->str(4);

@@ -107,8 +107,7 @@ TEST(CuePlayer, opensRestsAndTriesAgainByTheClockAndSkipsWhatComesTooLate)
     };
     CuePlayer::Moment now{1h};
     int opened = 0;
-    bool works = false;
-    bool lost = false;
+    bool works = false, lost = false;
     auto takes = 2500ms;
     CueMixer* mixer = nullptr;
     CuePlayer player([&] { return now; },
