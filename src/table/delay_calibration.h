@@ -18,8 +18,8 @@ struct RoundCost {
 using MeasureRound = std::function<std::optional<double>(std::int32_t delay)>;
 
 // The smallest multiple of ten for which a round of flight frames takes at least 0.4 s: that round
-// and the one before it are measured, and no others that the cost makes certain, six at most. The delay holds
-// the value reached so far, also when a round throws.
+// and the one before it are measured, and no others that the cost makes certain, six at most. The
+// delay holds the value reached so far, also when a round throws.
 void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure);
 
 // From its present value, rises by ten a round until a round takes at least 0.3 s; the last round
