@@ -21,6 +21,8 @@ void BackPreview::paintEvent(QPaintEvent*)
 {
     if (m_picture.isNull())
         return;
+    if (m_picture.scale() != devicePixelRatioF())
+        QMetaObject::invokeMethod(this, &BackPreview::scaleChanged, Qt::QueuedConnection);
     QPainter painter(this);
     painter.scale(1.0 / m_picture.scale(), 1.0 / m_picture.scale());
     const QPointF corner =

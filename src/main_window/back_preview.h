@@ -18,6 +18,10 @@ public:
     // A fresh picture of this card size, in logical pixels, to be painted and then refreshed.
     [[nodiscard]] Surface& freshPicture(QSize cardSize);
 
+signals:
+    // The picture lies on a display of another scale now, and is to be painted anew.
+    void scaleChanged();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

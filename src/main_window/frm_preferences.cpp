@@ -172,6 +172,7 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     row->addWidget(cmdChangeColor);
     column->addLayout(row);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &frmPreferences::Combo1_Click);
+    connect(picBacks, &BackPreview::scaleChanged, this, &frmPreferences::Combo1_Click);
     connect(cmdChangeColor, &QPushButton::clicked, this, &frmPreferences::cmdChangeColor_Click);
 }
 

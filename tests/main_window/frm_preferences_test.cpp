@@ -169,9 +169,12 @@ TEST(PreferencesDialog, enterSavesButOnTheColoursButtonItOpensTheChooser)
         const auto enter = [&] { QTest::keyClick(dialog.windowHandle(), Qt::Key_Return); };
         whileOpen<QColorDialog>(enter, [](QColorDialog&) {});
         EXPECT_TRUE(dialog.isVisible());
-        control<QComboBox>(dialog, "Combo1").setCurrentText("Castle");
-        const QImage back = control(dialog, "picBacks").grab({11, 11, 76, 110}).toImage();
-        EXPECT_EQ(back, cardAt(63, 2).convertToFormat(back.format()).copy(20, 20, 152, 220));
+        for (const auto& [name, number] : {std::pair{"Sleeve", 65}, {"Castle", 63}}) {
+            control<QComboBox>(dialog, "Combo1").setCurrentText(name);
+            const QImage back = control(dialog, "picBacks").grab({11, 11, 76, 110}).toImage();
+            EXPECT_EQ(back,
+                      cardAt(number, 2).convertToFormat(back.format()).copy(20, 20, 152, 220));
+        }
         control(dialog, "Combo1").setFocus();
         enter();
         EXPECT_FALSE(dialog.isVisible());
