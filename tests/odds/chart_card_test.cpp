@@ -119,8 +119,7 @@ TEST(ChartCard, keepsItsLettersWithinTheirColumns)
         std::size_t names = 0;
         std::istringstream lines(cardOf(chart));
         for (std::string line; std::getline(lines, line);) {
-            double x = 0, y = 0;
-            double height = 0;
+            double x = 0, y = 0, height = 0;
             const auto letter = line.rfind(" x=\"");
             if (!line.starts_with("<g fill") || letter == std::string::npos)
                 continue;
