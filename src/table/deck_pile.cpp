@@ -11,9 +11,8 @@ void DeckPile::DrawDealDeck(std::int32_t backNumber)
         PictureBox& box = *m_pictures.picDeal[static_cast<std::size_t>(k)];
         box.restoreTableBehind();
         for (std::int32_t m = 0; m < 4 - k; ++m)
-            m_library.cdtDraw(box.picture(), m * static_cast<std::int32_t>(pileStep.x()),
-                              m * static_cast<std::int32_t>(pileStep.y()), backNumber, drawBack,
-                              whiteColour);
+            m_library.cdtDraw(box.picture(), m * pileStep.x(), m * pileStep.y(), backNumber,
+                              drawBack, whiteColour);
         box.refresh();
     }
 }

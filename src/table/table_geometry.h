@@ -40,7 +40,7 @@ struct FramePlace {
 [[nodiscard]] const char* fileName(FramePiece piece);
 
 // What each card of the pile keeps from the one below it.
-inline constexpr QPointF pileStep{2, 1};
+inline constexpr QPoint pileStep{2, 1};
 // What the flying card keeps from the deck's top left corner.
 inline constexpr QPointF flyingCardOffset{8, 4};
 
