@@ -97,6 +97,7 @@ private:
     StatusBar* picStatusBar;
 
     QSizeF m_outerSize; // twips
+    QSize m_forcedSize; // that was last taken back
     bool inLayout = false;
     bool m_firstHandStarted = false;
     bool m_unloading = false;

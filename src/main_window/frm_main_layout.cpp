@@ -32,6 +32,8 @@ void frmMain::setOuterSize(QSizeF twips)
     // A window that shows learns of the table's new size only with the next events.
     centralWidget()->updateGeometry();
     setFixedSize(sizeHint());
+    // A fixed size that has not changed does nothing to a window that was forced to another one.
+    resize(sizeHint());
 }
 
 void frmMain::Form_Resize()
@@ -43,7 +45,10 @@ void frmMain::Form_Resize()
             showNormal();
         if (isMinimized() || isMaximized())
             return;
-        const bool sizeIsRight = size() == sizeHint();
+        // A tiling window manager that insists on its size gets its way.
+        const bool sizeIsRight = size() == sizeHint() || size() == m_forcedSize;
+        if (!sizeIsRight)
+            m_forcedSize = size();
         if (!inLayout && !sizeIsRight && !m_table.background().isNull())
             AutoSizeToPicture(m_table.background());
         if (isPoker && m_layout.isTooNarrow(m_layout.innerPixels(m_outerSize)) && !sizeIsRight) {
