@@ -32,21 +32,17 @@ namespace quillet
 namespace
 {
 
-// Styles draw no focus on scroll bars, which elsewhere do not take it.
-class SpeedBar : public QScrollBar
+// Its first word lies below the left end of what is above it, its last below the right end.
+class EndsLabel : public QLabel
 {
 public:
-    using QScrollBar::QScrollBar;
+    using QLabel::QLabel;
 
 protected:
-    void paintEvent(QPaintEvent* event) override
+    void paintEvent(QPaintEvent*) override
     {
-        QScrollBar::paintEvent(event);
-        if (!hasFocus())
-            return;
-        QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        constexpr int apart = Qt::AlignJustify | Qt::TextJustificationForced;
+        QPainter(this).drawText(rect(), apart, text());
     }
 };
 
@@ -107,7 +103,7 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     ckSounds = add<QCheckBox>(page, QStringLiteral("ckSounds"), tr("Enable sounds"));
     ckAnimation = add<QCheckBox>(page, QStringLiteral("ckAnimation"), tr("Enable animation"));
     auto* caption = add<QLabel>(page, QStringLiteral("Label1"), tr("Animation Delay"));
-    HScroll1 = new SpeedBar(Qt::Horizontal, &page);
+    HScroll1 = new QScrollBar(Qt::Horizontal, &page);
     HScroll1->setObjectName(QStringLiteral("HScroll1"));
     HScroll1->setRange(slowest, fastest);
     HScroll1->setSingleStep(1);
@@ -118,8 +114,7 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     HScroll1->setAccessibleName(tr("Animation Delay"));
     caption->setBuddy(HScroll1);
     page.layout()->addWidget(HScroll1);
-    add<QLabel>(page, QStringLiteral("Label7"), tr("Slower                      Faster"))
-        ->setAlignment(Qt::AlignHCenter);
+    add<EndsLabel>(page, QStringLiteral("Label7"), tr("Slower                      Faster"));
     Label4 = add<QLabel>(page, QStringLiteral("Label4"), QStringLiteral("100"));
     Label4->setAlignment(Qt::AlignHCenter);
     static_cast<QVBoxLayout*>(page.layout())->addStretch();
@@ -147,14 +142,8 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     caption->setBuddy(Combo1);
     picBacks = new BackPreview(&page);
     auto* column = static_cast<QVBoxLayout*>(page.layout());
-    auto* middle = new QVBoxLayout;
-    middle->addWidget(Combo1, 0, Qt::AlignLeft);
-    middle->addWidget(picBacks, 0, Qt::AlignLeft);
-    auto* inTheMiddle = new QHBoxLayout;
-    inTheMiddle->addStretch();
-    inTheMiddle->addLayout(middle);
-    inTheMiddle->addStretch();
-    column->addLayout(inTheMiddle);
+    column->addWidget(Combo1, 0, Qt::AlignLeft);
+    column->addWidget(picBacks, 0, Qt::AlignLeft);
 
     auto* row = new QHBoxLayout;
     auto* colourCaption = new QLabel(tr("Hold  Card Outline color"), &page);
@@ -170,6 +159,7 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     row->addWidget(colourCaption);
     row->addWidget(lblColor);
     row->addWidget(cmdChangeColor);
+    row->addStretch();
     column->addLayout(row);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &frmPreferences::Combo1_Click);
     connect(picBacks, &BackPreview::scaleChanged, this, &frmPreferences::Combo1_Click);

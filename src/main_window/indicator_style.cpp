@@ -47,8 +47,14 @@ void IndicatorStyle::drawComplexControl(ComplexControl control, const QStyleOpti
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control != CC_ScrollBar)
         return;
+    painter->setPen(option->palette.color(QPalette::PlaceholderText));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     const QRect slider = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
-    paintFrame(*painter, *option, slider.adjusted(1, 1, -2, -2), false);
+    paintFrame(*painter, *option, slider.adjusted(-1, 0, 0, -1), false);
+    if (option->state.testFlag(State_HasFocus)) {
+        painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
+        painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
+    }
 }
 
 } // namespace quillet

@@ -5,9 +5,9 @@
 namespace quillet
 {
 
-// Frames check boxes and option buttons in the colour of the text where the window is dark, and the
-// scroll bar's slider everywhere. The toolkit's own style frames them in a shade of the window's
-// colour, which on black is nothing, and of the slider little on any colour.
+// Frames check boxes and option buttons in the colour of the text where the window is dark, and a
+// scroll bar and its slider everywhere. The toolkit's own style frames them in a shade of the
+// window's colour, which cannot be seen on black. It also shows no focus on a scroll bar.
 class IndicatorStyle : public QProxyStyle
 {
     Q_OBJECT
