@@ -2,6 +2,7 @@
 
 #include "charts/names.h"
 #include "engine/hand_evaluation.h"
+#include "odds/bad_input.h"
 
 #include <algorithm>
 #include <array>
@@ -24,7 +25,7 @@ std::string_view withoutBlanks(std::string_view text)
 
 [[noreturn]] void failAt(std::size_t line, const std::string& why)
 {
-    throw BadChart("line " + std::to_string(line) + ": " + why);
+    throw BadInput("line " + std::to_string(line) + ": " + why);
 }
 
 // What stands where a name is looked for in vain.
@@ -32,9 +33,8 @@ template <typename Kinds>
 [[noreturn]] void failAtName(std::size_t line, const char* what, std::string_view name,
                              const Kinds& kinds)
 {
-    std::string why =
-        std::string("there is no ") + what + " \"" + std::string(name) + "\"; the nearest are";
-    const char* before = " ";
+    std::string why = std::string("there is no ") + what + " \"" + printable(name) + '"';
+    const char* before = "; the nearest are ";
     for (const std::string_view nearest : nearestNames(kinds, name, suggestions)) {
         why += before + ('"' + std::string(nearest)) + '"';
         before = ", ";
@@ -80,10 +80,10 @@ Chart parseChart(std::string_view text)
         chart.push_back(rowIn(row, line));
     }
     if (chart.empty())
-        throw BadChart("there is no row in it");
+        throw BadInput("there is no row in it");
     if (chart.back() != Row{nothingRow()}) {
         if (chart.size() == mostRows)
-            throw BadChart("there is no room left for the last row, \"nothing\"");
+            throw BadInput("there is no room left for the last row, \"nothing\"");
         chart.push_back({nothingRow()});
     }
     return chart;

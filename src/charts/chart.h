@@ -3,7 +3,6 @@
 #include "charts/discard_kinds.h"
 #include "charts/row_kinds.h"
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,16 +24,9 @@ struct Row {
 // The last row keeps nothing and asks nothing, so that every deal is played.
 using Chart = std::vector<Row>;
 
-// A text that is no chart; what() says in which line and why.
-class BadChart : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
 // Reads a chart: one row a line, and behind a semicolon what it asks about the cards thrown away,
 // with commas between; what follows # is a comment and empty lines are none. A chart that does not
-// end with the row for nothing gets it.
+// end with the row for nothing gets it. Throws BadInput, which says in which line and why.
 [[nodiscard]] Chart parseChart(std::string_view text);
 
 // The trainer's own.

@@ -29,13 +29,17 @@ template <typename Kinds>
     return static_cast<std::size_t>(found - kinds.begin());
 }
 
-// The names that are written most like this one, best first, no more than so many.
+// The names that are written most like this one, best first, no more than so many; none when it is
+// far longer than all of them.
 template <typename Kinds>
 [[nodiscard]] std::vector<std::string_view> nearestNames(const Kinds& kinds, std::string_view name,
                                                          std::size_t most)
 {
-    const std::string wanted = plainName(name);
+    constexpr std::size_t maxLetters = 100;
     std::vector<std::string_view> names;
+    if (name.size() > maxLetters)
+        return names;
+    const std::string wanted = plainName(name);
     for (const auto& kind : kinds)
         names.push_back(kind.name);
     std::ranges::stable_sort(

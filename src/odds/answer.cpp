@@ -1,5 +1,6 @@
 #include "odds/answer.h"
 
+#include "charts/chart.h"
 #include "charts/chart_search.h"
 #include "odds/chart_card.h"
 #include "odds/chart_report.h"
@@ -8,14 +9,12 @@
 #include "odds/hand_text.h"
 #include "odds/output_file.h"
 #include "odds/reports.h"
+#include "odds/text_input.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <poll.h>
 #include <sstream>
 #include <string>
@@ -43,28 +42,42 @@ void showProgress(std::int64_t done, std::int64_t all)
         std::cerr << "\r" << std::string(width + 8, ' ') << "\r" << std::flush;
 }
 
-std::string contentOf(const std::string& path)
+// What the text in a file means.
+template <typename Parse>
+auto parsedFile(const std::string& path, Parse parse)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string content((std::istreambuf_iterator<char>(file)), {});
-    if (!file)
-        throw std::runtime_error(path + " cannot be read");
-    return content;
+    constexpr std::size_t maxBytes = 1'000'000;
+    TextInput file(path);
+    try {
+        return parse(file.all(maxBytes));
+    } catch (const BadInput& bad) {
+        throw BadInput(file.name() + ": " + bad.what());
+    }
 }
 
-// The table that was asked for: a file's where there is one of that name.
+// The table that was asked for, or that of the file which was named.
 Pays paysFor(const std::string& text)
 {
     if (text.empty())
         return trainersPays();
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(text, error))
+    if (looksLikePays(text))
         return parsePays(text);
     try {
-        return parsePays(contentOf(text));
-    } catch (const BadPays& bad) {
-        throw BadPays(text + ": " + bad.what());
+        return parsedFile(text, parsePays);
+    } catch (const BadInput&) {
+        throw;
+    } catch (const std::runtime_error& error) {
+        throw std::runtime_error(
+            error.what() + std::string("; a pay table is 9/6 or the like, nine numbers or a file"));
     }
+}
+
+void checkFiles(const Request& request)
+{
+    const bool hands = request.question == Question::handsFromInput;
+    const auto inputs = {request.pays, request.chartFile, std::string(hands ? "-" : "")};
+    if (std::ranges::count_if(inputs, TextInput::isStandardInput) > 1)
+        throw BadUsage("standard input can be read for one thing only");
 }
 
 // Whether hands may be waiting on standard input: in a file that is not at its end, or in a pipe
@@ -89,15 +102,6 @@ bool wantsColour()
     const char* terminal = std::getenv("TERM");
     return isatty(STDOUT_FILENO) == 1 && (none == nullptr || *none == '\0') &&
            terminal != nullptr && std::string_view(terminal) != "dumb";
-}
-
-charts::Chart chartIn(const std::string& path)
-{
-    try {
-        return charts::parseChart(contentOf(path));
-    } catch (const charts::BadChart& bad) {
-        throw charts::BadChart(path + ": " + bad.what());
-    }
 }
 
 void writeBestCharts(std::ostream& out, const Request& request, const HeldCards& heldCards,
@@ -145,7 +149,7 @@ void writeCardFile(const Request& request, const HeldCards& heldCards, const cha
 
 } // namespace
 
-void answer(const Request& request, std::istream& in, std::ostream& out)
+void answer(const Request& request, std::ostream& out)
 {
     Style style = request.style;
     style.colour = wantsColour();
@@ -165,6 +169,7 @@ void answer(const Request& request, std::istream& in, std::ostream& out)
     default:
         break;
     }
+    checkFiles(request);
     const Pays pays = paysFor(request.pays);
     if (request.question == Question::game && inputWaits())
         throw BadUsage("there is something on standard input; add - to have its hands answered");
@@ -173,8 +178,9 @@ void answer(const Request& request, std::istream& in, std::ostream& out)
         places = parseHand(request.hand);
         std::ranges::sort(places);
     }
-    const charts::Chart chart =
-        request.chartFile.empty() ? charts::Chart{} : chartIn(request.chartFile);
+    const charts::Chart chart = request.chartFile.empty()
+                                    ? charts::Chart{}
+                                    : parsedFile(request.chartFile, charts::parseChart);
 
     const HeldCards heldCards(pays);
     switch (request.question) {
@@ -182,9 +188,11 @@ void answer(const Request& request, std::istream& in, std::ostream& out)
         writeReport(out, handReport(heldCards, DealtHand(heldCards, places), request.allHolds),
                     style);
         break;
-    case Question::handsFromInput:
+    case Question::handsFromInput: {
+        TextInput in("-", &out);
         answerHands(in, out, heldCards, request.allHolds, style);
         break;
+    }
     case Question::mistakes:
         writeReport(out, mistakesReport(charts::mistakesOf(heldCards, charts::trainersChart())),
                     style);

@@ -16,7 +16,7 @@ namespace
 
 [[noreturn]] void needs(std::string_view option, const std::string& what, std::string_view word)
 {
-    throw BadUsage(std::string(option) + " needs " + what + ", not '" + std::string(word) + "'");
+    throw BadUsage(std::string(option) + " needs " + what + ", not '" + printable(word) + "'");
 }
 
 // "20", "1e6", "10k" or "10M".
@@ -104,11 +104,12 @@ private:
     // After the option's = or in the next argument.
     std::string_view value()
     {
-        if (m_value)
-            return *std::exchange(m_value, std::nullopt);
-        if (m_left.empty())
+        if (!m_value && m_left.empty())
             throw BadUsage(std::string(m_option) + " needs a value after it");
-        return next();
+        const auto word = m_value ? *std::exchange(m_value, std::nullopt) : next();
+        if (word.empty())
+            throw BadUsage(std::string(m_option) + " has an empty value; is a variable unset?");
+        return word;
     }
 
     void ask(Question question)
@@ -119,6 +120,8 @@ private:
 
     void takeWord()
     {
+        if (m_option.empty())
+            throw BadUsage("an argument is empty; is a variable unset?");
         if (m_request.hand.empty())
             ask(Question::hand);
         m_request.hand += std::string(m_option) + " ";
@@ -189,7 +192,7 @@ void Parser::takeOption()
         ask(Question::bestChart);
         takeRows(m_request, value());
     } else
-        throw BadUsage("unknown option '" + std::string(option) + "'");
+        throw BadUsage("unknown option '" + printable(option) + "'");
     if (m_value)
         throw BadUsage(std::string(option) + " takes no value");
 }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "odds/bad_input.h"
 #include "odds/pays.h"
 #include "odds/report.h"
 
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -49,10 +49,10 @@ struct Request {
 };
 
 // Arguments that make no sense; what() says why.
-class BadUsage : public std::runtime_error
+class BadUsage : public BadInput
 {
 public:
-    using std::runtime_error::runtime_error;
+    explicit BadUsage(const std::string& why) : BadInput(why + "\nTry quillet-odds --help") {}
 };
 
 // Reads the arguments that follow the program's name.

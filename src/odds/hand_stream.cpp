@@ -1,11 +1,12 @@
 #include "odds/hand_stream.h"
 
+#include "odds/bad_input.h"
 #include "odds/hand_text.h"
 #include "odds/reports.h"
 
 #include <algorithm>
 #include <array>
-#include <istream>
+#include <optional>
 #include <ostream>
 
 namespace quillet
@@ -53,26 +54,35 @@ void writeLine(std::ostream& out, const DealtHand& hand, Format format)
     out << line << (format == Format::json ? "}\n" : "\n");
 }
 
+// The cards of the next line that has any, in order; nothing at the end. Counts the lines.
+std::optional<std::array<DeckPlace, 5>> nextHand(TextInput& in, int& number)
+{
+    constexpr std::size_t maxBytes = 4096;
+    try {
+        for (std::string line; in.takeLine(line, maxBytes); ++number) {
+            if (line.find_first_not_of(" \t\r") == line.find('#'))
+                continue;
+            auto places = parseHand(line);
+            std::ranges::sort(places);
+            ++number;
+            return places;
+        }
+    } catch (const BadInput& error) {
+        throw BadInput("line " + std::to_string(number) + ": " + error.what());
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
-void answerHands(std::istream& in, std::ostream& out, const HeldCards& heldCards, bool allHolds,
+void answerHands(TextInput& in, std::ostream& out, const HeldCards& heldCards, bool allHolds,
                  const Style& style)
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
-    std::string line;
     bool first = true;
-    for (int number = 1; std::getline(in, line); ++number) {
-        if (line.find_first_not_of(" \t\r") == std::string::npos || line.starts_with('#'))
-            continue;
-        std::array<DeckPlace, 5> places{};
-        try {
-            places = parseHand(line);
-        } catch (const BadHand& error) {
-            throw BadHand("line " + std::to_string(number) + ": " + error.what());
-        }
-        std::ranges::sort(places);
-        const DealtHand hand(heldCards, places);
+    for (int number = 1; const auto places = nextHand(in, number);) {
+        const DealtHand hand(heldCards, *places);
         if (style.format != Format::text) {
             writeLine(out, hand, style.format);
             continue;

@@ -1,5 +1,7 @@
 #include "odds/hand_text.h"
 
+#include "odds/bad_input.h"
+
 #include <algorithm>
 #include <cctype>
 #include <span>
@@ -21,19 +23,24 @@ bool isBlank(char c)
 // The suit at the front of the text, a letter or its sign, which is taken off; 4 for none.
 std::size_t takeSuit(std::string_view& text)
 {
-    constexpr std::array<std::string_view, 4> signs{"\u2663", "\u2666", "\u2665", "\u2660"};
-    for (std::size_t suit = 0; suit < signs.size(); ++suit) {
-        if (text.starts_with(signs[suit])) {
-            text.remove_prefix(signs[suit].size());
-            return suit;
-        }
+    constexpr std::array<std::string_view, 8> signs{"\u2663", "\u2666", "\u2665", "\u2660",
+                                                    "\u2667", "\u2662", "\u2661", "\u2664"};
+    // Behind a sign, how it is to look: as text or as a picture.
+    constexpr std::array<std::string_view, 2> variations{"\ufe0e", "\ufe0f"};
+    const auto starts = [&text](std::string_view sign) { return text.starts_with(sign); };
+    const auto sign = std::ranges::find_if(signs, starts);
+    if (sign != signs.end()) {
+        text.remove_prefix(sign->size());
+        if (std::ranges::any_of(variations, starts))
+            text.remove_prefix(variations[0].size());
+        return static_cast<std::size_t>(sign - signs.begin()) % suits.size();
     }
     const auto letter =
         text.empty()
             ? std::string_view::npos
             : suits.find(static_cast<char>(std::tolower(static_cast<unsigned char>(text.front()))));
     text.remove_prefix(std::min<std::size_t>(text.size(), 1));
-    return std::min(letter, signs.size());
+    return std::min(letter, suits.size());
 }
 
 // Takes one card off the front of the text.
@@ -47,9 +54,9 @@ DeckPlace takeCard(std::string_view& text)
     const auto suit = takeSuit(text);
     if (rank == std::string_view::npos || suit == 4) {
         const auto end = std::ranges::find_if(before, isBlank);
-        throw BadHand("'" + std::string(before.begin(), end) +
-                      "' is not a card: write a rank (A 2 3 4 5 6 7 8 9 T J Q K) and a "
-                      "suit (c d h s), such as Tc");
+        throw BadInput("'" + printable({before.begin(), end}) +
+                       "' is not a card: write a rank (A 2 3 4 5 6 7 8 9 T J Q K) and a "
+                       "suit (c d h s), such as Tc");
     }
     return static_cast<DeckPlace>(suit * 13 + rank);
 }
@@ -58,6 +65,7 @@ DeckPlace takeCard(std::string_view& text)
 
 std::array<DeckPlace, 5> parseHand(std::string_view text)
 {
+    text = text.substr(0, text.find('#'));
     std::array<DeckPlace, 5> places{};
     std::size_t count = 0;
     while (true) {
@@ -68,13 +76,13 @@ std::array<DeckPlace, 5> parseHand(std::string_view text)
         const DeckPlace place = takeCard(text);
         const auto before = std::span(places).first(std::min(count, places.size()));
         if (std::ranges::find(before, place) != before.end())
-            throw BadHand("the hand holds " + cardText(place) + " twice");
+            throw BadInput("the hand holds " + cardText(place) + " twice");
         if (count < places.size())
             places[count] = place;
         ++count;
     }
     if (count != places.size())
-        throw BadHand("a hand has 5 cards, not " + std::to_string(count));
+        throw BadInput("a hand has 5 cards, not " + std::to_string(count));
     return places;
 }
 

@@ -1,44 +1,42 @@
 #include "odds/answer.h"
+#include "odds/bad_input.h"
 #include "odds/command_line.h"
-#include "odds/hand_text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <ios>
 #include <iostream>
 #include <string_view>
 #include <vector>
 
-// 0 when the answer was written, 1 when that failed, 2 when what was asked makes no sense.
+// 0 when the answer was written, 1 when something could not be read or written, 2 for bad input.
 int main(int argc, char** argv)
 {
     using namespace quillet;
-    constexpr int senseless = 2;
+    constexpr int exitBadInput = 2;
     std::ios::sync_with_stdio(false);
-    const auto complain = [](const std::exception& error) {
+    const auto complain = [](const char* why) {
+        std::cout.exceptions(std::ios::goodbit);
         std::cout.flush();
-        std::cerr << "quillet-odds: " << error.what() << "\n";
+        std::cerr << "quillet-odds: " << why << "\n";
     };
     try {
+        // Nothing is worked out for an output that takes no more.
+        std::cout.exceptions(std::ios::badbit | std::ios::failbit);
         const std::vector<std::string_view> arguments(argv + std::min(argc, 1), argv + argc);
-        answer(parseArguments(arguments), std::cin, std::cout);
+        answer(parseArguments(arguments), std::cout);
         std::cout.flush();
-        if (!std::cout)
-            throw std::runtime_error("the answer could not be written");
-    } catch (const BadUsage& error) {
-        complain(error);
-        std::cerr << "Try quillet-odds --help\n";
-        return senseless;
-    } catch (const charts::BadChart& error) {
-        complain(error);
-        return senseless;
-    } catch (const BadHand& error) {
-        complain(error);
-        return senseless;
-    } catch (const BadPays& error) {
-        complain(error);
-        return senseless;
+    } catch (const BadInput& error) {
+        complain(error.what());
+        return exitBadInput;
+    } catch (const std::ios::failure&) {
+        complain((std::string("the answer cannot be written: ") + std::strerror(errno)).c_str());
+        return EXIT_FAILURE;
     } catch (const std::exception& error) {
-        complain(error);
+        complain(error.what());
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;

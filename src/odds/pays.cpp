@@ -2,10 +2,12 @@
 
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
+#include "odds/bad_input.h"
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
+#include <string>
+#include <vector>
 
 namespace quillet
 {
@@ -14,36 +16,96 @@ namespace
 {
 
 constexpr std::size_t fullHouse = 4, flush = 5;
+constexpr std::string_view digits = "0123456789";
 constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+constexpr std::string_view separators = " \t\r\v\f,:=";
+
+struct Line {
+    std::string place; // for complaints
+    std::string_view text;
+};
+
+std::string_view lastWord(std::string_view text)
+{
+    return text.substr(text.find_last_of(separators) + 1);
+}
 
 std::int64_t numberIn(std::string_view word, const std::string& place)
 {
     std::int64_t number = -1;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > mostPaid)
-        throw BadPays(place + ": '" + std::string(word) + "' is not a number of credits, 0 to " +
-                      std::to_string(mostPaid));
+        throw BadInput(place + ": '" + printable(word) + "' is not a number of credits, 0 to " +
+                       std::to_string(mostPaid));
+    if (word.size() > 1 && word.front() == '0')
+        throw BadInput(place + ": '" + printable(word) +
+                       "' begins with 0; a comma stands between two numbers, so write 4000");
     return number;
 }
 
 // "9/6" and the like.
-std::optional<Pays> fromShortName(std::string_view text)
+Pays shortTable(const Line& line)
 {
-    const auto slash = text.find('/');
-    if (slash == std::string_view::npos)
-        return std::nullopt;
     constexpr std::int64_t credits = 5;
+    const auto slash = line.text.find('/');
     Pays pays = trainersPays();
-    pays[fullHouse] = credits * numberIn(text.substr(0, slash), "pay table");
-    pays[flush] = credits * numberIn(text.substr(slash + 1), "pay table");
+    pays[fullHouse] = credits * numberIn(line.text.substr(0, slash), line.place);
+    pays[flush] = credits * numberIn(line.text.substr(slash + 1), line.place);
     if (std::max(pays[fullHouse], pays[flush]) > mostPaid)
-        throw BadPays("pay table: '" + std::string(text) + "' pays too much");
+        throw BadInput(line.place + ": '" + printable(line.text) + "' pays too much");
     return pays;
 }
 
-bool isBlank(char c)
+// The number of a line such as "Royal 4,000" or "4 of a kind: 125".
+std::int64_t numberBehindName(const Line& line)
 {
-    return c == ' ' || c == '\t' || c == ',' || c == '\r';
+    constexpr std::string_view ofNumber = "0123456789,";
+    const std::size_t end = line.text.find_last_not_of(ofNumber) + 1;
+    std::string_view number = line.text.substr(end);
+    number.remove_prefix(std::min(number.find_first_of(digits), number.size()));
+    std::string_view name = line.text.substr(0, line.text.size() - number.size());
+    if (number.empty() || separators.find(name.back()) == std::string_view::npos)
+        return numberIn(lastWord(line.text), line.place);
+    name = name.substr(0, name.find_last_not_of(separators) + 1);
+    if (lastWord(name).find_first_not_of(digits) == std::string_view::npos)
+        throw BadInput(line.place + ": '" + printable(line.text) +
+                       "' is neither a name with one number nor a list of whole numbers");
+    std::string plain;
+    for (std::size_t i = 0; i < number.size(); ++i) {
+        const bool betweenThousands = i > 0 && (number.size() - i) % 4 == 0;
+        if (number[i] != ',' || !betweenThousands)
+            plain += number[i];
+    }
+    return numberIn(plain, line.place);
+}
+
+std::vector<std::int64_t> numbersIn(const Line& line)
+{
+    if (line.text.find_first_of(letters) != std::string_view::npos)
+        return {numberBehindName(line)};
+    std::vector<std::int64_t> numbers;
+    for (std::string_view left = line.text; !left.empty();) {
+        const std::size_t end = std::min(left.find_first_of(separators), left.size());
+        numbers.push_back(numberIn(left.substr(0, end), line.place));
+        left.remove_prefix(std::min(left.find_first_not_of(separators, end), left.size()));
+    }
+    return numbers;
+}
+
+// Those that are more than blanks and comments.
+std::vector<Line> linesIn(std::string_view text)
+{
+    std::vector<Line> lines;
+    for (int number = 1; !text.empty(); ++number) {
+        std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        line = line.substr(0, line.find('#'));
+        line = line.substr(0, line.find_last_not_of(separators) + 1);
+        line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
+        if (!line.empty())
+            lines.push_back({"pay table, line " + std::to_string(number), line});
+    }
+    return lines;
 }
 
 } // namespace
@@ -67,39 +129,34 @@ std::string_view outcomeName(std::size_t outcome)
     return outcome == 0 ? "Nothing" : playName(payTable()[outcome - 1].playCode);
 }
 
+bool looksLikePays(std::string_view text)
+{
+    return text.find('\n') != std::string_view::npos ||
+           (!text.starts_with('/') &&
+            text.find_first_not_of("0123456789/, \t\r") == std::string_view::npos);
+}
+
 Pays parsePays(std::string_view text)
 {
-    if (const auto pays = fromShortName(text.substr(0, text.find('\n'))))
-        return *pays;
+    const std::vector<Line> lines = linesIn(text);
+    if (lines.size() == 1 && lines[0].text.find('/') != std::string_view::npos)
+        return shortTable(lines[0]);
     Pays pays{};
     std::size_t found = 0;
-    for (int line = 1; !text.empty(); ++line) {
-        const std::string place = "pay table, line " + std::to_string(line);
-        std::string_view left = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(left.size() + 1, text.size()));
-        left = left.substr(0, left.find('#'));
-        // Behind a name, such as "4 of a kind", the last word is the number.
-        left = left.substr(0, left.find_last_not_of(" \t\r,") + 1);
-        if (left.find_first_of(letters) != std::string_view::npos)
-            left = left.substr(left.find_last_of(" \t,") + 1);
-        left.remove_prefix(std::min(left.find_first_not_of(" \t,"), left.size()));
-        while (!left.empty()) {
-            const auto end = std::ranges::find_if(left, isBlank);
-            const std::string_view word(left.begin(), end);
-            left.remove_prefix(word.size());
-            left.remove_prefix(std::min(
-                static_cast<std::size_t>(std::ranges::find_if_not(left, isBlank) - left.begin()),
-                left.size()));
-            const std::int64_t number = numberIn(word, place);
+    for (const Line& line : lines) {
+        for (const std::int64_t number : numbersIn(line)) {
             if (++found == outcomes)
-                throw BadPays(place + ": more than nine hands pay");
+                throw BadInput(line.place + ": more than nine hands pay");
             pays[found] = number;
         }
     }
     if (found + 1 != outcomes)
-        throw BadPays("pay table: nine numbers are needed, royal first, or two such as 9/6; there "
-                      "are " +
-                      std::to_string(found));
+        throw BadInput("pay table: nine numbers are needed, royal first, or two such as 9/6; there "
+                       "are " +
+                       std::to_string(found));
+    if (pays[1] > 0 && pays[1] < pays.back() && std::ranges::is_sorted(pays))
+        throw BadInput("pay table: the royal comes first and the high pair last, not the other way "
+                       "round");
     return pays;
 }
 

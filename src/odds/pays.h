@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -19,13 +18,6 @@ using Pays = std::array<std::int64_t, outcomes>;
 
 inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 
-// A text that is no pay table; what() says where and why.
-class BadPays : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
 [[nodiscard]] Pays trainersPays();
 
 // The outcome of a final hand's play code.
@@ -34,9 +26,13 @@ public:
 // "Royal Flush" ... "Jacks or Better", or "Nothing".
 [[nodiscard]] std::string_view outcomeName(std::size_t outcome);
 
+// Whether the text itself is meant as a pay table, right or wrong, and not as the name of a file.
+[[nodiscard]] bool looksLikePays(std::string_view text);
+
 // Reads "9/6", the full house and the flush for one credit with the trainer's other pays, or nine
-// whole numbers for five credits, royal first, between blanks, commas or ends of lines; on a line
-// with a name the last word is the number, and what follows # is left out.
+// whole numbers for five credits, royal first, between blanks, commas or ends of lines. On a line
+// with a name one number follows it, which may be written as 4,000. What follows # is a comment.
+// Throws BadInput, which says where and why.
 [[nodiscard]] Pays parsePays(std::string_view text);
 
 // "4000 250 125 45 30 20 15 10 5", as parsePays reads it.

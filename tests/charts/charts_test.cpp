@@ -2,6 +2,7 @@
 #include "charts/chart_search.h"
 #include "charts/mistakes.h"
 #include "engine/hand_evaluation.h"
+#include "odds/bad_input.h"
 #include "odds/hand_text.h"
 #include "tests/kit/cards.h"
 #include "tests/kit/file_text.h"
@@ -30,7 +31,7 @@ std::string complaintAbout(std::string_view text)
     try {
         (void)parseChart(text);
         return "none";
-    } catch (const BadChart& error) {
+    } catch (const BadInput& error) {
         return error.what();
     }
 }

@@ -1,4 +1,5 @@
 #include "engine/pay_table.h"
+#include "odds/bad_input.h"
 #include "odds/fair_odds.h"
 
 #include <gtest/gtest.h>
@@ -52,25 +53,27 @@ TEST(FairOdds, chancesAddUpToTheReturn)
 
 TEST(Pays, areReadAsAPersonWritesThem)
 {
-    EXPECT_EQ(parsePays("9/6"), trainersPays());
+    EXPECT_EQ(parsePays("# my 8/5 or rather\r\n 9/6 \r\n"), trainersPays());
     EXPECT_EQ(parsePays("8/5"), (Pays{0, 4000, 250, 125, 40, 25, 20, 15, 10, 5}));
     EXPECT_EQ(parsePays(paysText(parsePays("7/5"))), parsePays("7/5"));
     EXPECT_EQ(
         parsePays(
-            "Royal 4000 # five coins\r\nStraight flush 250\n\n4 of a kind, 125\n45 30\n20 15 10 5"),
+            "Royal 4,000 # 5 coins\r\nStraight flush,250\n\n4 of a kind: 125\n45,30\n20 15 10 5"),
         trainersPays());
     const auto complaint = [](std::string_view text) -> std::string {
         try {
             (void)parsePays(text);
             return "none";
-        } catch (const BadPays& error) {
+        } catch (const BadInput& error) {
             return error.what();
         }
     };
     EXPECT_EQ(complaint("4000 250\n125 4x5"),
               "pay table, line 2: '4x5' is not a number of credits, 0 to 100000");
     EXPECT_EQ(complaint("1 2 3 4 5 6 7 8 9 10"), "pay table, line 1: more than nine hands pay");
-    for (const char* text : {"", "9", "9/", "9/-6", "/", "1 2 3 4 5 6 7 8 100001", "99999/6"})
+    for (const char* text : {"", "9", "9/", "9/-6", "/", "100001 8 7 6 5 4 3 2 1", "99999/6",
+                             "Royal 4,00", "4e3 250 125 45 30 20 15 10 5",
+                             "4,000 250 125 45 30 20 15 10", "5 10 15 20 30 45 125 250 4000"})
         EXPECT_NE(complaint(text), "none") << text;
 }
 

@@ -1,4 +1,5 @@
 #include "engine/random.h"
+#include "odds/bad_input.h"
 #include "odds/command_line.h"
 #include "odds/hand_text.h"
 #include "odds/simulation.h"
@@ -7,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <initializer_list>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -59,16 +61,20 @@ TEST(CommandLine, refusesWhatMakesNoSense)
 {
     for (const char* text : {"9c Tc Jc Kc", "9c Tc Jc Kc Ad 2d", "9c Tc Jc Kc 9c", "9c Tc Jc Kc A",
                              "9c Tc Jc Kc 1d", "9c Tc Jc Kc Ax", ""})
-        EXPECT_THROW((void)parseHand(text), BadHand) << text;
+        EXPECT_THROW((void)parseHand(text), BadInput) << text;
     EXPECT_EQ(holdText(parseHand("  9C10c,jcKC\taD "), 0b10010), "Tc Ad");
-    EXPECT_EQ(holdText(parseHand("9\u266310\u2663J\u2666K\u2665A\u2660"), holdAll),
-              "9c Tc Jd Kh As");
+    EXPECT_EQ(
+        holdText(parseHand("9\u2663\ufe0f10\u2667J\u2666\ufe0eK\u2661A\u2660 # mine"), holdAll),
+        "9c Tc Jd Kh As");
     EXPECT_EQ(parsed("9c Tc --csv").hand, "9c Tc ");
     EXPECT_EQ(parsed("-- 9c --csv").hand, "9c --csv ");
     EXPECT_EQ(parsed("--simulate 20 --seed 3").hands, 20);
+    EXPECT_EQ(parsed("--simulate 20").seed, 1U);
+    EXPECT_EQ(parsed("--sitting 10k").hands, 10'000);
     EXPECT_EQ(parsed("--simulate=1e6").hands, 1'000'000);
     EXPECT_EQ(parsed("--sitting=10M --format=json").hands, 10'000'000);
     for (const char* arguments : {"--simulate",
+                                  "--simulate=",
                                   "--simulate 0",
                                   "--simulate=1.5",
                                   "--what",
@@ -110,14 +116,11 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_EQ(run("Ad Jc 9c Kc Tc").first, hand) << "in any order";
     EXPECT_THAT(run("--format json 9cTcJcKcAd").first,
                 HasSubstr("\"cost\": 5.772432932470, \"cost fraction\": \"6240/1081\""));
-    EXPECT_THAT(run("--chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
-                HasSubstr("99.29491793"));
+    EXPECT_THAT(run("--format csv --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
+                HasSubstr("\nrows,\"4 to a straight flush, no gap\",deals,1200,"));
     EXPECT_THAT(run("--pays 8/5").first, HasSubstr("97.29843375"));
-    EXPECT_THAT(run("--pays 8/x").first, HasSubstr("'x' is not a number"));
     EXPECT_THAT(run("--sitting 2400").first, testing::ContainsRegex("ahead +30\\.3451"));
     EXPECT_EQ(run("9c Tc").second, 2);
-    EXPECT_THAT(run("'9x\u2663'").first, HasSubstr("'9x\u2663' is not a card"));
-    EXPECT_THAT(run("9c Tc Jc Kc Ad >/dev/full").second, 1) << "a full disk";
 }
 
 TEST(Program, answersHandsOnItsInputAndNeverIgnoresThem)
@@ -127,8 +130,44 @@ TEST(Program, answersHandsOnItsInputAndNeverIgnoresThem)
               "hand,row,best,expected,chart,chart expected,cost\n"
               "9c Tc Jc Kc Ad,12,9c Tc Jc Kc,12.34042553,Tc Jc Kc,6.56799260,5.77243293\n"
               "2c 5c 2d 3h 4s,14,2c 2d,4.11840888,2c 2d,4.11840888,0.00000000\n");
-    EXPECT_THAT(run("-", "printf '2c2d3h4s5c\\n2c2d\\n'").first, HasSubstr("line 2: a hand"));
+    EXPECT_THAT(run("--all -", two).first, HasSubstr("\n   32 "));
     EXPECT_EQ(run("", two).second, 2);
+}
+
+TEST(Program, refusesHostileInputWithItsReason)
+{
+    const std::string mark = "\\357\\273\\277", charts = QUILLET_CHARTS_FOLDER;
+    struct Call {
+        std::string arguments;
+        std::string input; // command that prints it
+        int status;
+        std::string said;
+    };
+    for (const auto& [arguments, input, status, said] : std::initializer_list<Call>{
+             {"--chart ''", "", 2, "--chart has an empty value"},
+             {"--card= --chart " + charts + "/trainer.chart", "", 2, "--card has an empty value"},
+             {"''", "", 2, "an argument is empty"},
+             {"--chart / ", "", 1, "/ cannot be read: Is a directory\n"},
+             {"- <&-", "", 1, "standard input cannot be read: Bad file descriptor\n"},
+             {"--pays 8/x", "", 1, "8/x cannot be read: No such file or directory"},
+             {"--pays " + charts + "/trainer.chart", "", 2, "/trainer.chart: pay table, line "},
+             {"--chart /dev/zero", "", 2, "/dev/zero: the text is longer than 1 MB\n"},
+             {"-", "cat /dev/zero", 2, "line 1: the line is longer than 4096 bytes\n"},
+             {"--chart -", "printf %0900000d", 2, "\"" + std::string(60, '0') + "...\"\n"},
+             {"-", "printf '2c2d3h4s5c\\n#\\n9\\033\\377\u2663'", 2,
+              "line 3: '9\\x1b\\xff\u2663' is not a card"},
+             {"-", "printf '\\377\\3769\\0c\\0'", 2, "UTF-16"},
+             {"--chart - --pays -", "", 2, "standard input can be read for one thing only"},
+             {"--chart -", "printf '" + mark + "# mine\\r\\nnothing\\r\\n'", 0, "33.68670545"},
+             {"--pays /dev/stdin", "printf '" + mark + "8/5\\r\\n'", 0, "97.29843375"},
+             {"--csv -", "printf '" + mark + "9c Tc Jc Kc Ad # mine\\r\\n'", 0, "Kc,12.340"},
+             {"- >/dev/full", "(yes 2c2d3h4s5c | head -n 20000; echo bad)", 1,
+              "the answer cannot be written: No space left on device\n"},
+         }) {
+        const auto [output, exit] = run(arguments, input);
+        EXPECT_THAT(output, HasSubstr(said)) << arguments;
+        EXPECT_EQ(exit, status) << arguments;
+    }
 }
 
 TEST(Program, writesACardWholeOrNotAtAll)
