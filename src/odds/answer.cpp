@@ -78,6 +78,10 @@ void checkFiles(const Request& request)
     const auto inputs = {request.pays, request.chartFile, std::string(hands ? "-" : "")};
     if (std::ranges::count_if(inputs, TextInput::isStandardInput) > 1)
         throw BadUsage("standard input can be read for one thing only");
+    if (request.cardFile && std::ranges::any_of(inputs, [&request](const std::string& input) {
+            return wouldReplace(*request.cardFile, input);
+        }))
+        throw BadUsage("--card would replace the file that is read");
 }
 
 // Whether hands may be waiting on standard input: in a file that is not at its end, or in a pipe

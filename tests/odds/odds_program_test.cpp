@@ -8,10 +8,12 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <initializer_list>
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -172,21 +174,32 @@ TEST(Program, refusesHostileInputWithItsReason)
 
 TEST(Program, writesACardWholeOrNotAtAll)
 {
-    const std::string file = testing::TempDir() + "quillet-card-" + std::to_string(getpid());
-    EXPECT_EQ(run("--card " + file), std::pair(std::string(), 0));
+    const std::filesystem::path folder =
+        testing::TempDir() + "quillet-card-" + std::to_string(getpid());
+    std::filesystem::create_directory(folder);
+    const std::string file = folder / std::string(251, 'c'), link = folder / "link";
+    const std::string trainer = " --chart " + folder.string() + "/trainer.chart ";
+    std::filesystem::copy(QUILLET_CHARTS_FOLDER "/trainer.chart", folder);
+    std::filesystem::create_symlink(file, link);
+    EXPECT_EQ(run("--card " + link), std::pair(std::string(), 0));
     const std::string trainers = fileText(file);
     EXPECT_THAT(trainers, testing::EndsWith("</svg>\n"));
-    EXPECT_EQ(run("--card - --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first, trainers);
+    EXPECT_EQ(run("--card /dev/stdout" + trainer + "| cat").first, trainers);
     const auto [complaint, status] =
-        run("--chart " QUILLET_CHARTS_FOLDER "/perfect.chart --card " + file,
+        run("--chart " QUILLET_CHARTS_FOLDER "/perfect.chart --card " + link,
             "trap '' XFSZ; ulimit -f 8; true");
-    EXPECT_EQ(complaint, "quillet-odds: " + file + " cannot be written: File too large\n");
+    EXPECT_EQ(complaint, "quillet-odds: " + link + " cannot be written: File too large\n");
     EXPECT_EQ(status, 1);
     EXPECT_EQ(fileText(file), trainers);
-    EXPECT_NE(access((file + ".part").c_str(), F_OK), 0);
+    chmod(file.c_str(), 0600);
     EXPECT_EQ(run("--best-chart 3 --card " + file).second, 0);
     EXPECT_THAT(fileText(file), HasSubstr("3 rows, best first"));
-    unlink(file.c_str());
+    EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
+    chmod(file.c_str(), 0400);
+    EXPECT_THAT(run("--card " + link).first, HasSubstr("link is read-only"));
+    EXPECT_EQ(run("--card " + folder.string() + "/./trainer.chart" + trainer).second, 2);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 3) << "nothing else";
+    std::filesystem::remove_all(folder);
     EXPECT_THAT(run("--card /no/such/folder/x").first, HasSubstr("No such file"));
     EXPECT_EQ(run("--card /dev/full").second, 1);
 }
