@@ -1,11 +1,13 @@
 #include "odds/command_line.h"
 
 #include "charts/chart.h"
+#include "odds/simulation.h"
 #include "odds/sitting.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <utility>
 #include <vector>
 
 namespace quillet
@@ -42,9 +44,8 @@ std::uint64_t seedIn(std::string_view word)
 {
     std::uint64_t number = 0;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size())
-        needs("--seed", "a whole number", word);
-    return number;
+    const bool isWhole = error == std::errc() && end == word.data() + word.size();
+    return isWhole ? number : static_cast<std::uint64_t>(countIn("--seed", word));
 }
 
 Format formatIn(std::string_view word)
@@ -71,29 +72,101 @@ void takeRows(Request& request, std::string_view word)
     request.mostRows = static_cast<std::size_t>(most);
 }
 
+struct OptionKind {
+    std::string_view name;
+    bool hasValue = false;
+    void (*take)(Request& request, std::string_view value) = [](Request&, std::string_view) {};
+    std::string_view needs = {};
+};
+
+using Value = std::string_view;
+
+// Of a repeated option the last value counts.
+constexpr std::array<OptionKind, 16> optionKinds{{
+    {"--rows"},
+    {"--document"},
+    {"--mistakes"},
+    {"--plays", false, [](Request&, Value) {}, "--chart"},
+    {"--sitting", true, [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
+    {"--simulate", true, [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
+    {"--chart", true, [](Request& r, Value v) { r.chartFile = v; }},
+    {"--best-chart", true, [](Request& r, Value v) { takeRows(r, v); }},
+    {"--card", true, [](Request& r, Value v) { r.cardFile = v; }},
+    {"--pays", true, [](Request& r, Value v) { r.pays = v; }},
+    {"--format", true, [](Request& r, Value v) { r.style.format = formatIn(v); }},
+    {"--csv", false, [](Request& r, Value) { r.style.format = Format::csv; }},
+    {"--exact", false, [](Request& r, Value) { r.style.exact = true; }},
+    {"--all", false, [](Request& r, Value) { r.allHolds = true; }, "hands"},
+    {"--bankroll", true, [](Request& r, Value v) { r.bankroll = countIn("--bankroll", v); },
+     "--sitting"},
+    {"--seed", true, [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
+}};
+
+constexpr std::string_view hand = "a hand";
+constexpr std::string_view input = "hands on standard input";
+
+struct Combination {
+    Question question;
+    std::array<std::string_view, 2> asks; // given, both if there are two
+    std::string_view also;                // may be given, too
+};
+
+// The first whose options are given is what is asked.
+constexpr std::array<Combination, 14> combinations{{
+    {Question::rowKinds, {"--rows"}, ""},
+    {Question::document, {"--document"}, ""},
+    {Question::card, {"--card", "--best-chart"}, "--pays"},
+    {Question::card, {"--card"}, "--chart --pays"},
+    {Question::plays, {"--chart", "--plays"}, "--pays"},
+    {Question::chartMistakes, {"--chart", "--mistakes"}, "--pays --format --csv --exact"},
+    {Question::chart, {"--chart"}, "--pays --format --csv --exact"},
+    {Question::bestChart, {"--best-chart"}, "--pays --format --csv --exact"},
+    {Question::mistakes, {"--mistakes"}, "--pays --format --csv --exact"},
+    {Question::sitting, {"--sitting"}, "--pays --format --csv --bankroll"},
+    {Question::simulation, {"--simulate"}, "--pays --format --csv --exact --seed"},
+    {Question::handsFromInput, {input}, "--pays --format --csv --exact --all"},
+    {Question::hand, {hand}, "--pays --format --csv --exact --all"},
+    {Question::game, {}, "--pays --format --csv --exact"},
+}};
+
 // Goes through the arguments, each an option with its value or a word of a hand.
 class Parser
 {
 public:
     explicit Parser(std::span<const std::string_view> arguments) : m_left(arguments) {}
 
+    // The first --help or --version decides; what follows it is not looked at.
     [[nodiscard]] Request parse()
     {
         bool optionsEnded = false;
         while (!m_left.empty()) {
-            m_option = next();
-            if (optionsEnded || !m_option.starts_with('-'))
+            m_word = next();
+            if (optionsEnded || !m_word.starts_with('-'))
                 takeWord();
-            else if (m_option == "--")
+            else if (m_word == "--help" || m_word == "-h")
+                return about(Question::help);
+            else if (m_word == "--version")
+                return about(Question::version);
+            else if (m_word == "--")
                 optionsEnded = true;
+            else if (m_word == "-")
+                m_given.push_back(input);
             else
                 takeOption();
         }
-        check();
+        checkCombination();
+        checkValues();
         return m_request;
     }
 
 private:
+    static Request about(Question question)
+    {
+        Request request;
+        request.question = question;
+        return request;
+    }
+
     std::string_view next()
     {
         const std::string_view argument = m_left.front();
@@ -101,142 +174,87 @@ private:
         return argument;
     }
 
-    // After the option's = or in the next argument.
-    std::string_view value()
-    {
-        if (!m_value && m_left.empty())
-            throw BadUsage(std::string(m_option) + " needs a value after it");
-        const auto word = m_value ? *std::exchange(m_value, std::nullopt) : next();
-        if (word.empty())
-            throw BadUsage(std::string(m_option) + " has an empty value; is a variable unset?");
-        return word;
-    }
-
-    void ask(Question question)
-    {
-        m_asked.push_back(question);
-        m_request.question = question;
-    }
-
     void takeWord()
     {
-        if (m_option.empty())
+        if (m_word.empty())
             throw BadUsage("an argument is empty; is a variable unset?");
-        if (m_request.hand.empty())
-            ask(Question::hand);
-        m_request.hand += std::string(m_option) + " ";
+        m_given.push_back(hand);
+        m_request.hand += std::string(m_word) + " ";
+    }
+
+    // True of the empty name, too.
+    [[nodiscard]] bool isGiven(std::string_view name) const
+    {
+        return name.empty() || std::ranges::find(m_given, name) != m_given.end();
     }
 
     void takeOption();
-    void askForCard();
-    void check();
+    void checkCombination();
+    void checkValues() const;
 
     std::span<const std::string_view> m_left;
-    std::string_view m_option;
-    std::optional<std::string_view> m_value;
-    std::vector<Question> m_asked;
-    std::optional<std::uint64_t> m_seed;
-    bool m_plays = false;
-    bool m_mistakes = false;
+    std::string_view m_word;
+    std::vector<std::string_view> m_given;
     Request m_request;
 };
 
 void Parser::takeOption()
 {
-    if (const auto equals = m_option.find('=');
-        m_option.starts_with("--") && equals != std::string_view::npos) {
-        m_value = m_option.substr(equals + 1);
-        m_option = m_option.substr(0, equals);
+    const auto equals = m_word.find('=');
+    const std::string name(m_word.substr(0, equals));
+    const auto* const kind = std::ranges::find(optionKinds, name, &OptionKind::name);
+    if (kind == optionKinds.end())
+        throw BadUsage("unknown option '" + printable(name) + "'");
+    std::string_view value;
+    if (equals != std::string_view::npos) {
+        if (!kind->hasValue)
+            throw BadUsage(name + " takes no value");
+        value = m_word.substr(equals + 1);
+    } else if (kind->hasValue) {
+        if (m_left.empty())
+            throw BadUsage(name + " needs a value after it");
+        value = next();
     }
-    const std::string_view option = m_option;
-    if (option == "-")
-        ask(Question::handsFromInput);
-    else if (option == "--help" || option == "-h")
-        ask(Question::help);
-    else if (option == "--version")
-        ask(Question::version);
-    else if (option == "--format")
-        m_request.style.format = formatIn(value());
-    else if (option == "--csv")
-        m_request.style.format = Format::csv;
-    else if (option == "--exact")
-        m_request.style.exact = true;
-    else if (option == "--pays")
-        m_request.pays = value();
-    else if (option == "--all")
-        m_request.allHolds = true;
-    else if (option == "--mistakes")
-        m_mistakes = true;
-    else if (option == "--plays")
-        m_plays = true;
-    else if (option == "--rows")
-        ask(Question::rowKinds);
-    else if (option == "--document")
-        ask(Question::document);
-    else if (option == "--sitting") {
-        ask(Question::sitting);
-        m_request.hands = countIn(option, value());
-    } else if (option == "--simulate") {
-        ask(Question::simulation);
-        m_request.hands = countIn(option, value());
-    } else if (option == "--bankroll")
-        m_request.bankroll = countIn(option, value());
-    else if (option == "--seed")
-        m_seed = seedIn(value());
-    else if (option == "--chart") {
-        ask(Question::chart);
-        m_request.chartFile = value();
-    } else if (option == "--card")
-        m_request.cardFile = value();
-    else if (option == "--best-chart") {
-        ask(Question::bestChart);
-        takeRows(m_request, value());
-    } else
-        throw BadUsage("unknown option '" + printable(option) + "'");
-    if (m_value)
-        throw BadUsage(std::string(option) + " takes no value");
+    if (kind->hasValue && value.empty())
+        throw BadUsage(name + " has an empty value; is a variable unset?");
+    m_given.push_back(kind->name);
+    kind->take(m_request, value);
 }
 
-void Parser::askForCard()
+void Parser::checkCombination()
 {
-    const Question question = m_request.question;
-    if (question != Question::game && question != Question::chart &&
-        (question != Question::bestChart || m_request.leastRows != m_request.mostRows))
-        throw BadUsage("--card is for one chart");
-    m_request.question = Question::card;
+    const Combination& asked = *std::ranges::find_if(combinations, [this](const auto& one) {
+        return isGiven(one.asks[0]) && isGiven(one.asks[1]);
+    });
+    for (const std::string_view name : m_given) {
+        if (std::ranges::find(asked.asks, name) != asked.asks.end() ||
+            asked.also.find(name) != std::string_view::npos)
+            continue;
+        const auto* const kind = std::ranges::find(optionKinds, name, &OptionKind::name);
+        if (kind != optionKinds.end() && !kind->needs.empty())
+            throw BadUsage(std::string(name) + " is only for " + std::string(kind->needs));
+        throw BadUsage(std::string(name) + " does not go with " + std::string(asked.asks[0]) +
+                       (asked.asks[1].empty() ? "" : " " + std::string(asked.asks[1])));
+    }
+    m_request.question = asked.question;
 }
 
-void Parser::check()
+void Parser::checkValues() const
 {
-    const bool chart = m_request.question == Question::chart;
-    if (m_mistakes && !chart)
-        ask(Question::mistakes);
-    for (const Question question : m_asked) {
-        if (question == Question::help || question == Question::version) {
-            m_request.question = question;
-            return;
-        }
-    }
-    if (m_asked.size() > 1 || (m_plays && m_mistakes))
-        throw BadUsage("ask for one thing at a time");
-    if (m_plays && !chart)
-        throw BadUsage("--plays is for --chart");
-    if (chart && m_plays)
-        m_request.question = Question::plays;
-    if (chart && m_mistakes)
-        m_request.question = Question::chartMistakes;
-    if (m_request.cardFile)
-        askForCard();
     const Question question = m_request.question;
-    if (m_seed && question != Question::simulation)
-        throw BadUsage("--seed is for --simulate");
-    if (m_request.bankroll && question != Question::sitting)
-        throw BadUsage("--bankroll is for --sitting");
-    if (m_request.allHolds && question != Question::hand && question != Question::handsFromInput)
-        throw BadUsage("--all is for a hand");
+    const bool oneChart = m_request.leastRows == m_request.mostRows;
+    const bool data = m_request.style.format != Format::text;
+    const bool exact = m_request.style.exact;
+    if (question == Question::card && !oneChart)
+        throw BadUsage("--card is for one number of rows");
+    if (question == Question::bestChart && oneChart && (data || exact))
+        throw BadUsage("--format and --exact do not go with --best-chart for one number of rows");
+    if (question == Question::handsFromInput && data && exact)
+        throw BadUsage("--exact is for text only with hands on standard input");
     if (question == Question::sitting && m_request.hands > mostHands)
         throw BadUsage("--sitting takes no more than 10M hands");
-    m_request.seed = m_seed.value_or(1);
+    if (question == Question::simulation && m_request.hands > mostSimulated)
+        throw BadUsage("--simulate takes no more than 100000M hands");
 }
 
 } // namespace

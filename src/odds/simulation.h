@@ -26,6 +26,8 @@ struct PlayedHands {
 // Fewer hands than these tell next to nothing about a return: a royal comes once in 40,000.
 inline constexpr std::int64_t tellingHands = 1'000'000;
 
+inline constexpr std::int64_t mostSimulated = 100'000'000'000; // some days on two cores
+
 // The same deals and replacements, held in two ways: by the hold that is best for a fairly
 // shuffled deck, and by the best of those that the coach accepts.
 struct Simulation {

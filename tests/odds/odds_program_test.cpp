@@ -75,6 +75,10 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed("--sitting 10k").hands, 10'000);
     EXPECT_EQ(parsed("--simulate=1e6").hands, 1'000'000);
     EXPECT_EQ(parsed("--sitting=10M --format=json").hands, 10'000'000);
+    EXPECT_EQ(parsed("--sitting 9 --csv --sitting 10k --format text").hands, 10'000);
+    EXPECT_EQ(parsed("--csv --format text").style.format, Format::text);
+    EXPECT_EQ(parsed("--simulate 20 --seed 1e3").seed, 1000U);
+    EXPECT_EQ(parsed("--rows --all --help --what").question, Question::help);
     for (const char* arguments : {"--simulate",
                                   "--simulate=",
                                   "--simulate 0",
@@ -95,8 +99,38 @@ TEST(CommandLine, refusesWhatMakesNoSense)
                                   "--card",
                                   "--card x --rows",
                                   "--card x --best-chart 1..3",
-                                  "--card x --mistakes"})
+                                  "--chart x --card y --mistakes",
+                                  "--chart x --plays --csv",
+                                  "--best-chart 3 --exact",
+                                  "--csv - --exact",
+                                  "--simulate 1e12"})
         EXPECT_THROW((void)parsed(arguments), BadUsage) << arguments;
+}
+
+TEST(CommandLine, takesOnlyThePairsThatMakeSense)
+{
+    const std::vector<std::string> options{
+        "9c",           "-",         "--mistakes", "--sitting 5", "--simulate 5",   "--rows",
+        "--document",   "--chart x", "--card x",   "--pays 8/5",  "--best-chart 3", "--all",
+        "--bankroll 5", "--seed 3",  "--plays",    "--csv",       "--exact"};
+    std::string taken;
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        for (std::size_t j = i + 1; j < options.size(); ++j) {
+            try {
+                (void)parsed(options[i] + " " + options[j]);
+                taken += options[i] + " " + options[j] + "|";
+            } catch (const BadUsage&) {
+            }
+        }
+    }
+    EXPECT_EQ(taken, "9c --pays 8/5|9c --all|9c --csv|9c --exact|- --pays 8/5|- --all|- --csv|"
+                     "- --exact|--mistakes --chart x|--mistakes --pays 8/5|--mistakes --csv|"
+                     "--mistakes --exact|--sitting 5 --pays 8/5|--sitting 5 --bankroll 5|"
+                     "--sitting 5 --csv|--simulate 5 --pays 8/5|--simulate 5 --seed 3|"
+                     "--simulate 5 --csv|--simulate 5 --exact|--chart x --card x|"
+                     "--chart x --pays 8/5|--chart x --plays|--chart x --csv|--chart x --exact|"
+                     "--card x --pays 8/5|--card x --best-chart 3|--pays 8/5 --best-chart 3|"
+                     "--pays 8/5 --csv|--pays 8/5 --exact|--csv --exact|");
 }
 
 TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
