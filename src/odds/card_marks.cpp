@@ -68,10 +68,11 @@ std::string drawnCard(DeckPlace place, bool kept, const Box& box)
            svgNumber(box.y) + "\" width=\"" + svgNumber(box.width) + "\" height=\"" +
            svgNumber(box.height) + "\" rx=\".8\" fill=\"#ffffff\" stroke=\"" +
            (kept ? "#6b3a1c" : "#808080") + "\" stroke-width=\"" + (kept ? ".4" : ".2") + "\"/>" +
-           used("r" + std::to_string(card.rank),
+           used(std::string{"r"} + std::to_string(card.rank),
                 box.x + 0.29 * box.width - rankMarks()[rank].width / 2 * rankScale,
                 middle - rankMarkHeight / 2 * rankScale, rankScale, fill) +
-           used("s" + std::to_string(suit), box.x + 0.7 * box.width, middle, suitScale, fill) +
+           used(std::string{"s"} + std::to_string(suit), box.x + 0.7 * box.width, middle, suitScale,
+                fill) +
            "</g>\n";
 }
 

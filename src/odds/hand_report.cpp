@@ -114,7 +114,7 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
         row.emplace_back(penaltiesText(heldCards, hand, hold));
         table.rows.push_back(std::move(row));
     }
-    table.outro = "\n" + why(heldCards, hand, hand.bestHold);
+    table.outro = std::string{"\n"} + why(heldCards, hand, hand.bestHold);
     if (charts != hand.bestHold)
         table.outro += why(heldCards, hand, charts);
     return {table};

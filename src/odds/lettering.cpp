@@ -61,7 +61,7 @@ std::string path(const LetterOutlines::Points& points)
 // The names of definitions are letters and digits.
 std::string idOf(char sign)
 {
-    return "l" + std::to_string(static_cast<int>(sign));
+    return std::string{"l"} + std::to_string(static_cast<int>(sign));
 }
 
 // Calls visit for each letter with where its outline's origin stands; returns where the line ends.

@@ -1,7 +1,5 @@
 #include "table/picture_integrity.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <cstdlib>
 
@@ -93,9 +91,11 @@ bool gifHasItsEnd(const QByteArray& file)
 template <typename Number>
 qint64 littleEndian(const QByteArray& file, qsizetype at)
 {
-    return at + qsizetype{sizeof(Number)} <= file.size()
-               ? qFromLittleEndian<Number>(file.constData() + at)
-               : 0;
+    Walk walk(file, at);
+    quint32 value = 0;
+    for (unsigned shift = 0; shift < 8 * sizeof(Number); shift += 8)
+        value |= quint32{walk.byte()} << shift;
+    return static_cast<Number>(value);
 }
 
 bool bitmapHasItsPixels(const QByteArray& file)

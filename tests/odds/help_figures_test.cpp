@@ -44,7 +44,7 @@ std::string withCommas(std::int64_t number)
 {
     std::string text = std::to_string(number);
     for (auto at = static_cast<std::ptrdiff_t>(text.size()) - 3; at > 0; at -= 3)
-        text.insert(static_cast<std::size_t>(at), ",");
+        text.insert(static_cast<std::size_t>(at), 1, ',');
     return text;
 }
 
