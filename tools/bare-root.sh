@@ -2,8 +2,9 @@
 # bare-root.sh RELEASE [FOLDER [COMMAND...]]: makes a bare system of a Debian release, bookworm or
 # trixie, in the folder (by default below build/), copies what is committed into it, and what
 # packages build/package holds, and runs the commands there, by default ./play and ./check, as a
-# newcomer would on a fresh machine. Run it as root; it needs debootstrap. A folder that holds such a
-# system already is used again with all that was installed in it.
+# newcomer would on a fresh machine. A compiler's warning fails, too, be it in a log or not. Run it
+# as root; it needs debootstrap. A folder that holds such a system already is used again with all
+# that was installed in it.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "$0")")/.."
 
@@ -40,6 +41,10 @@ fi
 for command in "${commands[@]}"; do
     echo "== $release: $command"
     time chroot "$root" env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin \
-        bash -c "cd /quillet && $command"
+        bash -c "cd /quillet && $command" 2>&1 | tee -a "$root/quillet/output.log"
 done
+if grep -nE ':[0-9]+: warning: |^CMake .*Warning' "$root"/quillet/{,build/}*.log; then
+    echo "$release: a newcomer would see these warnings." >&2
+    exit 1
+fi
 echo "$release: all passed."

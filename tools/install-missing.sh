@@ -3,11 +3,12 @@
 # debian-packages.txt. A machine that has them all is left alone and needs no network.
 set -euo pipefail
 
-list=$(dirname -- "$(readlink -f -- "$0")")/../debian-packages.txt
+cd -- "$(dirname -- "$(readlink -f -- "$0")")/.."
+. tools/steps.sh
 # The lines of the named parts, with what is said of them.
 lines() {
     for part in "$@"; do
-        sed -n -e "/^\\[$part\\]/,/^\\[/{/^\\[$part\\]/p; /^\\[/d; /^\$/d; p}" "$list"
+        sed -n -e "/^\\[$part\\]/,/^\\[/{/^\\[$part\\]/p; /^\\[/d; /^\$/d; p}" debian-packages.txt
     done
 }
 wanted() {
@@ -39,10 +40,9 @@ if [ "$(id -u)" -ne 0 ]; then
     as_root=(sudo)
 fi
 
-echo "These packages are missing and will be installed: ${missing[*]}"
+echo "These packages are missing: ${missing[*]}"
+[ -n "${quillet_log:-}" ] || start_log packages
 as_root+=(env DEBIAN_FRONTEND=noninteractive)
-if ! "${as_root[@]}" apt-get -qq update ||
-    ! "${as_root[@]}" apt-get -qq -y --no-install-recommends install "${missing[@]}"; then
-    echo "The packages could not be installed; apt-get says above why." >&2
-    exit 1
-fi
+step "Reading the lists of packages" "${as_root[@]}" apt-get -qq update
+step "Installing ${#missing[@]} packages, and what they need" \
+    "${as_root[@]}" apt-get -qq -y --no-install-recommends install "${missing[@]}"

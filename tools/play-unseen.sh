@@ -107,7 +107,6 @@ trainer_has_ended() {
     ! kill -0 "$trainer" 2>/dev/null
 }
 
-echo "Playing on a virtual display instead."
 start_display
 "$program" >"$folder/trainer.log" 2>&1 &
 trainer=$!
