@@ -80,7 +80,7 @@ QLayout* frmAbout::layOutHeading()
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(lblTitle);
-    texts->addWidget(namedLabel("lblVersion", "Version 1.00"));
+    texts->addWidget(namedLabel("lblVersion", "Version " QUILLET_SHORT_VERSION));
     texts->addWidget(namedLabel("lblshareware", "Free Software"));
 
     auto* heading = new QHBoxLayout;
