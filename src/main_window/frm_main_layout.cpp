@@ -61,7 +61,7 @@ void frmMain::Form_Resize()
 void frmMain::placeChartAndStatusBar()
 {
     const TableMeasures& table = m_table.measures();
-    picStatusBar->move(statusBarPosition(table).toPoint());
+    picStatusBar->move(statusBarPlace(table).topLeft().toPoint());
     picPokerLabels->setGeometry(chartPlace(table).toRect());
     picPokerLabels->layoutChartRows();
 }

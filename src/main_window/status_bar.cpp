@@ -3,6 +3,7 @@
 #include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"
 #include "table/surface.h"
+#include "table/table_geometry.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -40,10 +41,6 @@ StatusBar::StatusBar(QWidget* parent)
     presentAsLink(*this);
     setAccessibleName(tr("Status bar, opens the web site"));
     setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
-    setAutoFillBackground(true);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, Qt::black);
-    setPalette(colours);
     makePointer();
 
     m_lblstatus->setObjectName(QStringLiteral("lblstatus"));

@@ -6,7 +6,8 @@
 namespace quillet
 {
 
-// The strip under the table. A click on it opens a web page; a click on the text in it does not.
+// The bar under the table, black where the table is. A click on it opens a web page; a click on
+// the text in it does not.
 class StatusBar : public QWidget
 {
     Q_OBJECT

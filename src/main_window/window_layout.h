@@ -10,7 +10,6 @@ namespace quillet
 // Designed heights of the status bar: its own, and on a normal screen.
 inline constexpr double statusBarDesignedHeight = 720; // twips
 inline constexpr double statusBarNormalHeight = 900;   // twips
-inline constexpr double statusBarWidth = 468;          // pixels
 inline constexpr double windowMinimumWidth = 640;      // pixels, frame included
 
 // How the main window's size follows from the picture. All sizes in twips, frame and menu bar

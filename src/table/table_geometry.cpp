@@ -110,15 +110,10 @@ QRectF chartPlace(const TableMeasures& table)
             table.innerHeight - 2 * margin};
 }
 
-QPointF statusBarPosition(const TableMeasures& table)
+QRectF statusBarPlace(const TableMeasures& table)
 {
-    return {margin, table.innerHeight - table.statusBarHeight - margin};
-}
-
-QRectF statusStrip(const TableMeasures& table)
-{
-    return {statusBarPosition(table),
-            QSizeF(chartFrame(table).rect.x() - margin, table.statusBarHeight)};
+    return {margin, table.innerHeight - table.statusBarHeight - margin, statusBarWidth,
+            table.statusBarHeight};
 }
 
 } // namespace quillet

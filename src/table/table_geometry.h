@@ -29,6 +29,7 @@ inline constexpr std::array allFramePieces{FramePiece::picTop, FramePiece::picBo
                                            FramePiece::picSide1, FramePiece::picSide2};
 inline constexpr double frameEdgeHeight = 14; // picTop, picBottom
 inline constexpr double frameSideWidth = 13;  // picSide1, picSide2
+inline constexpr double statusBarWidth = 468;
 
 struct FramePlace {
     FramePiece piece;
@@ -62,8 +63,6 @@ inline constexpr QPointF flyingCardOffset{8, 4};
 [[nodiscard]] FramePlace chartFrame(const TableMeasures& table);
 
 [[nodiscard]] QRectF chartPlace(const TableMeasures& table);
-[[nodiscard]] QPointF statusBarPosition(const TableMeasures& table);
-// The black strip in which the status bar lies, up to the chart's frame.
-[[nodiscard]] QRectF statusStrip(const TableMeasures& table);
+[[nodiscard]] QRectF statusBarPlace(const TableMeasures& table);
 
 } // namespace quillet

@@ -7,8 +7,6 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 namespace quillet
 {
 
@@ -45,7 +43,8 @@ void TablePainter::paintBackground()
     Surface& kept = m_pictures.canvas->keptForDrawing();
     kept.fill(Qt::black);
     const LoadedPicture& picture = m_pictures.thePic;
-    stretch(kept, picture.image, {{0, 0}, picture.logicalSize});
+    const QSize size = deviceRect({{0, 0}, picture.logicalSize}, kept.scale()).size();
+    kept.drawPixels(stretched(picture.image, size), {0, 0});
 }
 
 void TablePainter::paintFirstTable(const TableMeasures& table)
@@ -80,14 +79,12 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
     m_pictures.picReject.place = m_pictures.picRejectBack.place = rejectPlace(table);
     placeDeck(table);
     placeCards(table);
+    paintAroundStatusBar(table);
     paintFrame(tableFrame(table));
-    QPainter(&canvas.keptForDrawing().pixels())
-        .fillRect(deviceRect(statusStrip(table), canvas.scale()), Qt::black);
     for (PictureBox* box : m_pictures.picPoker)
         box->copyTableBehind();
+    paintPosts(table);
     m_pictures.BoardBuffer = canvas.kept();
-    paintFrame({chartFrame(table)});
-    paintChartEdge(table);
 
     m_pile.DrawDealDeck(backNumber);
     layHatches();
@@ -116,41 +113,68 @@ void TablePainter::placeCards(const TableMeasures& table)
         m_pictures.picPoker[slot]->place(places[slot], m_pictures.canvas->scale());
 }
 
+// The bar is black. From its end to the chart there is the wood of the table's lower right corner,
+// which the chart hides. Both go under the rails, which are painted later.
+void TablePainter::paintAroundStatusBar(const TableMeasures& table)
+{
+    Surface& kept = m_pictures.canvas->keptForDrawing();
+    const QRectF bar = statusBarPlace(table);
+    const double top = bar.top() - frameEdgeHeight / 2;
+    const double height = table.innerHeight - top;
+    const QRectF black(0, top, bar.right() + frameSideWidth / 2, height);
+    QPainter(&kept.pixels()).fillRect(deviceRect(black, kept.scale()), Qt::black);
+    const double width = chartPlace(table).left() - bar.right();
+    kept.copyFrom(kept, {table.innerWidth - width, top - height}, {width, height},
+                  {bar.right(), top});
+}
+
 void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
 {
-    for (const FramePlace& place : frame) {
-        const QImage& piece = m_pictures.framePieces[static_cast<std::size_t>(place.piece)];
-        stretch(m_pictures.canvas->keptForDrawing(), piece, place.rect);
-        stretch(m_pictures.BoardBuffer, piece, place.rect);
-    }
+    Surface& kept = m_pictures.canvas->keptForDrawing();
+    for (const FramePlace& place : frame)
+        kept.drawPixels(
+            stretched(framePiece(place.piece), deviceRect(place.rect, kept.scale()).size()),
+            place.rect.topLeft());
 }
 
-// The piece at the chart's left turns its gilt edge to the table. The chart gets one as well: the
-// inner end of the frame's left piece, which looks the other way.
-void TablePainter::paintChartEdge(const TableMeasures& table)
+// A post has two gilt edges, of which the right one is that of the frame's left piece. Above and
+// below it the wood of the rails goes on. One lies along the chart, a short one ends the bar.
+void TablePainter::paintPosts(const TableMeasures& table)
 {
-    constexpr double edge = 4; // logical pixels
-    const QImage& left = m_pictures.framePieces[static_cast<std::size_t>(FramePiece::picSide1)];
-    const int width = static_cast<int>(std::lround(left.width() * edge / frameSideWidth));
-    const QRectF piece = chartFrame(table).rect;
-    const QRectF place(piece.right() - edge, piece.top(), edge, piece.height());
-    if (m_chartEdge.isNull())
-        m_chartEdge = left.copy(left.width() - width, 0, width, left.height());
-    stretch(m_pictures.canvas->keptForDrawing(), m_chartEdge, place);
-    stretch(m_pictures.BoardBuffer, m_chartEdge, place);
-}
+    constexpr double railWood = 9; // logical pixels of a rail's height, up to its gilt
+    constexpr double gilt = 4;
+    Surface& kept = m_pictures.canvas->keptForDrawing();
+    const double scale = kept.scale();
+    const QRect post = deviceRect(chartFrame(table).rect, scale);
+    const int wood = deviceSize(railWood, scale);
+    const QRect shaft = post.adjusted(0, wood, 0, -wood);
+    QPainter(&kept.pixels())
+        .drawImage(shaft.topLeft(), stretched(framePiece(FramePiece::picSide2), post.size()),
+                   shaft.translated(-post.topLeft()));
+    const int edge = deviceSize(gilt, scale);
+    const QRect leftEdge(post.width() - edge, shaft.top(), edge, shaft.height());
+    kept.copyPixels(kept, leftEdge, leftEdge.topLeft() + QPoint(post.left(), 0));
 
-void TablePainter::stretch(Surface& surface, const QImage& picture, const QRectF& to)
-{
-    const QRect target = deviceRect(to, surface.scale());
-    if (picture.isNull() || target.isEmpty())
+    const QRectF bar = statusBarPlace(table);
+    if (chartFrame(table).rect.left() < bar.right() + frameSideWidth)
         return;
-    QImage& fitting = m_stretched[{picture.cacheKey(), target.width(), target.height()}];
-    if (fitting.isNull()) {
-        fitting = picture.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QRect lower = shaft.adjusted(0, deviceOrigin(bar.top(), scale) - shaft.top(), 0, 0);
+    kept.copyPixels(kept, lower, {deviceOrigin(bar.right(), scale), lower.top()});
+}
+
+const QImage& TablePainter::stretched(const QImage& picture, QSize size)
+{
+    QImage& fitting = m_stretched[{picture.cacheKey(), size.width(), size.height()}];
+    if (fitting.isNull() && !picture.isNull()) {
+        fitting = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         fitting.setDevicePixelRatio(1.0);
     }
-    surface.drawPixels(fitting, to.topLeft());
+    return fitting;
+}
+
+const QImage& TablePainter::framePiece(FramePiece piece) const
+{
+    return m_pictures.framePieces[static_cast<std::size_t>(piece)];
 }
 
 void TablePainter::copyTableBehind(OffScreenBox& box)

@@ -37,17 +37,18 @@ public:
 private:
     void placeDeck(const TableMeasures& table);
     void placeCards(const TableMeasures& table);
+    void paintAroundStatusBar(const TableMeasures& table);
     void paintFrame(const std::vector<FramePlace>& frame);
-    void paintChartEdge(const TableMeasures& table);
-    void stretch(Surface& surface, const QImage& picture, const QRectF& to);
+    void paintPosts(const TableMeasures& table);
+    // The picture in this size in device pixels.
+    const QImage& stretched(const QImage& picture, QSize size);
+    const QImage& framePiece(FramePiece piece) const;
     void copyTableBehind(OffScreenBox& box);
     void layHatches();
 
     TablePictures& m_pictures;
     CardLibrary& m_library;
     DeckPile& m_pile;
-
-    QImage m_chartEdge; // in the pixels of the frame's pieces
 
     // Pictures stretched to device pixels, which costs more than all else, by picture and size.
     using StretchKey = std::tuple<qint64, int, int>;

@@ -1,5 +1,6 @@
 #include "table/picture_box.h"
 #include "table/table_geometry.h"
+#include "tests/kit/painted_table.h"
 #include "tests/kit/pixels.h"
 #include "tests/kit/played_window.h"
 
@@ -13,134 +14,121 @@ namespace quillet::test
 namespace
 {
 
-constexpr int sleeve = 65, hatch = 53;
-
-// The parts of the table that are known to a pixel, on a transparent picture.
-class KnownTable
-{
-public:
-    explicit KnownTable(PlayedWindow& game)
-        : m_game(game), m_scale(game.window->devicePixelRatioF()),
-          m_picture(game.picture().size(), QImage::Format_ARGB32_Premultiplied)
+// A table with our frame, its deck in Sleeve backs.
+struct FramedTable : PaintedTable {
+    FramedTable(const LoadedPicture& background, double scale)
     {
-        m_picture.fill(Qt::transparent);
-        paintFrame();
-        paintDeck();
+        for (const FramePiece piece : allFramePieces)
+            pictures.framePieces[std::size_t(piece)] =
+                QImage(QString(":/frame/%1.png").arg(fileName(piece)));
+        paint(background, scale);
     }
-
-    void paint(const QImage& image, const QPointF& at)
-    {
-        QPainter painter(&m_picture);
-        painter.drawImage(origin() + at.toPoint(), image);
-    }
-
-    void paintCards(const std::vector<int>& faces)
-    {
-        for (int slot = 0; slot < 5; ++slot) {
-            const auto& box =
-                static_cast<PictureBox&>(m_game.part("picPoker" + std::to_string(slot)));
-            paint(cardAt(faces[std::size_t(slot)], m_scale), box.devicePlace().topLeft());
-            paint(inkOf(cardAt(hatch, m_scale)), box.devicePlace().topLeft());
-        }
-    }
-
-    // How many of the known pixels are shown otherwise.
-    [[nodiscard]] int differences(const QImage& shown) const
-    {
-        int count = 0;
-        for (int y = 0; y < m_picture.height(); ++y)
-            for (int x = 0; x < m_picture.width(); ++x)
-                if (qAlpha(m_picture.pixel(x, y)) == 255 &&
-                    m_picture.pixel(x, y) != shown.pixel(x, y))
-                    ++count;
-        return count;
-    }
-
-    [[nodiscard]] QPoint origin() const
-    {
-        return (QPointF(m_game.placeOf("table").topLeft()) * m_scale).toPoint();
-    }
-
-private:
-    void paintFrame()
-    {
-        const TableMeasures table{800, 514, 96, 130, 60, 169};
-        auto frame = tableFrame(table);
-        frame.push_back(chartFrame(table));
-        constexpr std::array names{"top", "bottom", "side1", "side2"};
-        const auto paintPiece = [this](const QImage& piece, const QRectF& place) {
-            const QRect to = deviceRect(place, m_scale);
-            paint(piece.scaled(to.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-                  to.topLeft());
-        };
-        for (const FramePlace& place : frame)
-            paintPiece(QImage(QString(":/frame/%1.png").arg(names[std::size_t(place.piece)])),
-                       place.rect);
-        // The gilt edge of the left piece, at the chart's.
-        const QImage left(":/frame/side1.png");
-        const QImage edge = left.copy(left.width() * 9 / 13, 0, left.width(), left.height());
-        const QRectF beside = frame.back().rect;
-        paintPiece(edge.copy(0, 0, left.width() * 4 / 13, left.height()),
-                   {beside.right() - 4, 0, 4, beside.height()});
-        // Status bar and chart lie over the frame, and beside the bar it is black.
-        QPainter painter(&m_picture);
-        painter.translate(origin());
-        painter.fillRect(deviceRect({480, 442, 126, 60}, m_scale), Qt::black);
-        painter.setCompositionMode(QPainter::CompositionMode_Clear);
-        for (const QRectF& covered : {chartPlace(table), QRectF(12, 442, 468, 60)})
-            painter.fillRect(deviceRect(covered, m_scale).adjusted(-1, -1, 1, 1), Qt::black);
-    }
-
-    void paintDeck()
-    {
-        const auto& box = static_cast<PictureBox&>(m_game.part("picDeal0"));
-        for (int back = 0; back < 4; ++back)
-            paint(cardAt(sleeve, m_scale),
-                  box.devicePlace().topLeft() +
-                      QPoint(deviceOrigin(2 * back, m_scale), deviceOrigin(back, m_scale)));
-    }
-
-    PlayedWindow& m_game;
-    double m_scale;
-    QImage m_picture;
 };
 
-std::set<QRgb> coloursIn(const QImage& picture, const QRectF& place)
+std::set<QRgb> coloursIn(const QImage& picture, const QRect& place)
 {
     std::set<QRgb> colours;
-    for (int y = int(place.top()); y < int(place.bottom()); ++y)
-        for (int x = int(place.left()); x < int(place.right()); ++x)
+    for (int y = place.top(); y < place.bottom(); ++y)
+        for (int x = place.left(); x < place.right(); ++x)
             colours.insert(picture.pixel(x, y));
     return colours;
 }
 
 } // namespace
 
+TEST(PresentedTable, railsPostsBarAndPileMeetAtEveryScale)
+{
+    QImage grey(800, 440, QImage::Format_RGB32);
+    grey.fill(Qt::gray);
+    for (const double scale : {1.0, 1.25, 1.35, 1.4, 1.5, 1.65, 1.7, 1.75, 1.9, 2.0, 2.35, 2.9}) {
+        SCOPED_TRACE(scale);
+        const auto at = [scale](double position) { return deviceOrigin(position, scale); };
+        FramedTable table({grey, grey.size()}, scale);
+        const QImage& pile = table.pictures.picDeal[0]->picture().image();
+        QImage expected(pile.size(), pile.format());
+        expected.fill(Qt::gray);
+        for (int back = 0; back < 4; ++back)
+            QPainter(&expected).drawImage(at(2 * back), at(back), cardAt(sleeveBack, scale));
+        EXPECT_EQ(difference(pile, expected), QRect());
+
+        QImage shown = table.canvas.kept().image();
+        const int rail = at(13);
+        const QRect post(at(606), at(9), rail, at(514) - 2 * at(9));
+        // A post has the body of the right rail and the gilt of the left one.
+        const QRect middle(0, at(20), rail, at(380));
+        const QRect gilt(rail - at(4), at(20), at(4), at(380));
+        EXPECT_EQ(shown.copy(gilt.translated(post.left(), 0)), shown.copy(gilt));
+        EXPECT_EQ(shown.copy(middle.adjusted(post.left(), 0, post.left() - at(4), 0)),
+                  shown.copy(middle.adjusted(at(787), 0, at(787) - at(4), 0)));
+        // A second one ends the bar. Left of it all is black, right of it wood.
+        const int midRail = at(428) + at(14);
+        const QRect lower(post.left(), midRail, rail, post.bottom() + 1 - midRail);
+        EXPECT_EQ(shown.copy(lower.translated(at(480) - post.left(), 0)), shown.copy(lower));
+        EXPECT_EQ(coloursIn(shown, QRect(QPoint(rail, midRail), QPoint(at(480), at(500)))),
+                  std::set<QRgb>{QColor(Qt::black).rgb()});
+        EXPECT_EQ(coloursIn(shown, QRect(QPoint(at(480) + rail, midRail), post.bottomLeft())
+                                       .adjusted(0, 0, 0, -at(5))),
+                  std::set<QRgb>{grey.pixel(0, 0)});
+
+        // The posts are all that lies on the rails.
+        table.painter.paintFirstTable(PaintedTable::measures);
+        QImage frame = table.canvas.kept().image();
+        for (QImage* image : {&shown, &frame})
+            for (const QRect& hidden : {post, lower.translated(at(480) - post.left(), 0)})
+                QPainter(image).fillRect(hidden, Qt::black);
+        const int high = at(14), width = shown.width(), height = shown.height();
+        for (const QRect& piece : {QRect(0, 0, width, high), QRect(0, 0, rail, height - high),
+                                   QRect(at(787), 0, rail, height - high),
+                                   QRect(rail, height - high, width - 2 * rail, high)})
+            EXPECT_EQ(difference(shown.copy(piece), frame.copy(piece)), QRect());
+    }
+}
+
 TEST(PresentedTable, aHandOnFourDisplaysLooksAsItShould)
 {
     for (const double scale : {1.0, 1.25, 1.5, 1.75}) {
         SCOPED_TRACE(scale);
-        PlayedWindow game;
-        game.in(1000, [&game] {
-            EXPECT_EQ(KnownTable(game).differences(game.picture()), 0) << "before the deal";
-        });
-        ASSERT_TRUE(game.start());
+        StartedWindow game;
         game.clickCard(0);
         ASSERT_TRUE(moveToScale(*game.window, scale));
         game.draw("2");
-        KnownTable known(game);
-        known.paintCards({40, 41, 18, 23, 28});
-        EXPECT_EQ(known.differences(game.picture()), 0);
-        const auto colours = [&](const std::string& part, int width) {
-            const QRect place = game.placeOf(part).adjusted(1, 1, 0, -1);
-            return coloursIn(game.picture(), {QPointF(place.topLeft()) * scale,
-                                              QSizeF(width, place.height()) * scale});
+        const QImage shown = game.picture();
+        const auto inDevice = [scale](const QRect& place) {
+            return deviceRect(place, scale).adjusted(1, 1, -1, -1);
         };
-        EXPECT_TRUE(colours("lblstatus", 215).contains(qRgb(250, 175, 200)));
+        // A table that was painted for this display from the start looks the same.
+        const auto& window = control<PokerTable>(*game.window, "pokerTable");
+        FramedTable fresh(window.background(), scale);
+        QImage now = shown.copy(deviceRect(game.placeOf("table"), scale));
+        QImage still = fresh.canvas.kept().image();
+        std::vector<std::string> covered{"picPokerLabels", "lblstatus", "picDeal0"};
+        const std::array faces{40, 41, 18, 23, 28};
+        for (std::size_t slot = 0; slot < faces.size(); ++slot) {
+            covered.push_back("picPoker" + std::to_string(slot));
+            QImage card = cardAt(faces[slot], scale);
+            QPainter(&card).drawImage(0, 0, inkOf(cardAt(hatchBack, scale)));
+            const QRect inside = card.rect().adjusted(9, 9, -9, -9);
+            const auto& box = control<PictureBox>(*game.window, covered.back().c_str());
+            EXPECT_EQ(now.copy(inside.translated(box.devicePlace().topLeft())),
+                      card.convertToFormat(now.format()).copy(inside));
+        }
+        const QPoint origin = game.placeOf("table").topLeft();
+        for (const std::string& part : covered) {
+            const QRect place = game.placeOf(part).translated(-origin);
+            for (QImage* image : {&now, &still})
+                QPainter(image).fillRect(deviceRect(place, scale).adjusted(-1, -1, 1, 1),
+                                         Qt::black);
+        }
+        const QRect whole = still.rect().adjusted(0, 0, -1, -1);
+        EXPECT_EQ(difference(now.copy(whole), still.copy(whole)), QRect());
+
+        EXPECT_TRUE(
+            coloursIn(shown, inDevice(game.placeOf("lblstatus"))).contains(qRgb(250, 175, 200)));
         for (int row = 0; row < 21; ++row) {
-            const auto part = "pkLabel" + std::to_string(row);
-            EXPECT_EQ(colours(part, 9).size() > 1, row == 10) << "the mark";
-            EXPECT_GT(colours(part, 160).size(), 2U) << "the caption";
+            QRect place = inDevice(game.placeOf("pkLabel" + std::to_string(row)));
+            EXPECT_GT(coloursIn(shown, place).size(), 2U) << "the caption";
+            place.setWidth(9);
+            EXPECT_EQ(coloursIn(shown, place).size() > 1, row == 10) << "the mark";
         }
     }
 }
@@ -162,16 +150,18 @@ TEST(PresentedTable, cardsFlyOverTheWholeTable)
     });
     game.draw("12");
     ASSERT_GT(frames, 189 + 189 + 273);
-    KnownTable known(game);
-    EXPECT_EQ(known.differences(look), 0);
+    const QPoint origin = deviceRect(game.placeOf("table"), 1.5).topLeft();
+    const QRect flight = deviceRect({{200, 80}, QPointF(600, 430)}, 1.5).translated(origin);
+    const QImage after = game.picture().copy(0, 0, flight.right(), look.height());
+    EXPECT_TRUE(flight.contains(difference(look.copy(after.rect()), after)));
     EXPECT_FALSE(coloursIn(look, look.rect()).contains(lost));
-    const QImage back = cardAt(sleeve, 1.5).convertToFormat(look.format());
+    const QImage back = cardAt(sleeveBack, 1.5).convertToFormat(look.format());
     const QRect middle = back.rect().adjusted(9, 9, -9, -9);
     bool seen = false;
     for (int step = 0; step < 273; ++step) {
         const int down = step * 189 / 273;
         const QRectF at(209 + step, 95 + down, 96, 130);
-        const QPoint place = known.origin() + deviceRect(at, 1.5).topLeft();
+        const QPoint place = origin + deviceRect(at, 1.5).topLeft();
         seen = seen || look.copy(middle.translated(place)) == back.copy(middle);
     }
     EXPECT_TRUE(seen);
@@ -216,7 +206,7 @@ TEST(PresentedTable, theHatchIsRoundAsABackAndSeenThroughAsAnOverlay)
         return colours;
     };
     const auto before = corners();
-    game.window->prfPKBackFace = hatch;
+    game.window->prfPKBackFace = hatchBack;
     control<PokerTable>(*game.window, "pokerTable").DrawDealDeck();
     game.in(700, [&] { EXPECT_EQ(corners(), before) << "face down"; });
     game.draw("12");

@@ -26,7 +26,7 @@ struct Facet {
     Matter matter;
 };
 
-// The status bar covers the inmost two pixels of the lower rail, so the brass keeps clear of them.
+// The status bar reaches the inmost two pixels of the lower rail, so the brass keeps clear of them.
 constexpr std::array<Facet, 8> moulding{{
     {0.05, 0, 0, Matter::joint},
     {0.22, 0.9, 0.6, Matter::wood},
