@@ -36,7 +36,7 @@ void HelpPage::showText(const QString& html)
     if (withPictures != m_html) {
         m_html = withPictures;
         if (!source().isEmpty())
-            reload();
+            setHtml(m_html);
         clearHistory();
     }
     showContents();
@@ -123,7 +123,7 @@ QMimeData* HelpPage::createMimeDataFromSelection() const
     return copied;
 }
 
-// The colours of a text are settled when it is loaded, so a change of theme loads it again.
+// A text takes its colours when it is set. Loading the page again would add to its history.
 void HelpPage::takeColoursFromPalette()
 {
     QPalette colours = palette();
@@ -140,7 +140,7 @@ void HelpPage::takeColoursFromPalette()
     if (source().isEmpty())
         return;
     const int scrolledTo = verticalScrollBar()->value();
-    reload();
+    setHtml(m_html);
     verticalScrollBar()->setValue(scrolledTo);
 }
 

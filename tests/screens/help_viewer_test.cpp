@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextTable>
@@ -95,6 +96,16 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_EQ(bar.value(), 0);
     press(viewer, Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(bar.value(), sectionOne);
+    QPalette theme(Qt::black);
+    theme.setColor(QPalette::Inactive, QPalette::Highlight, Qt::red);
+    viewer.setPalette(theme);
+    EXPECT_EQ(bar.value(), sectionOne) << "in another theme";
+    const QPalette colours = pageOf(viewer).palette();
+    EXPECT_EQ(colours.color(QPalette::Inactive, QPalette::Highlight),
+              colours.color(QPalette::Active, QPalette::Highlight));
+    press(viewer, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(bar.value(), 0) << "one step back";
+    press(viewer, Qt::Key_Right, Qt::AltModifier);
     press(viewer, Qt::Key_Home, Qt::AltModifier);
     EXPECT_EQ(bar.value(), 0);
 
@@ -104,8 +115,11 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_GT(size(), normal);
     press(viewer, Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(size(), normal);
-    press(viewer, Qt::Key_Minus, Qt::ControlModifier);
+    for (int i = 0; i < 40; ++i)
+        press(viewer, Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_LT(size(), normal);
+    EXPECT_GE(size(), 6);
+    EXPECT_LE(viewer.height(), viewer.screen()->availableSize().height() - 80);
 }
 
 TEST(HelpColours, linksAreReadableOnEveryGround)
