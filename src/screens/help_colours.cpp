@@ -57,8 +57,8 @@ QString helpStyleSheet(const QPalette& palette)
                    "table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px; }"
                    "td, th { border: 1px solid %2; padding: 4px 8px; }"
                    "th { background-color: %3; text-align: left; }"
-                   ".hand, .hold { white-space: nowrap; font-family: monospace; }"
-                   "code { font-family: monospace; }")
+                   ".hand { white-space: nowrap; }"
+                   ".hand, .hold, code { font-family: monospace; }")
                .arg(readableLinkColour(palette).name(), mixed(ground, ink, 0.35).name(),
                     mixed(ground, ink, 0.08).name()) +
            chartColourRule("best-play", &StrategyChart::highlightBestPlay, 1) +

@@ -23,6 +23,7 @@ constexpr const char* documentAddress = "quillet-help:/quillet.hlp";
 HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_normalSize(font().pointSizeF())
 {
     setOpenLinks(false);
+    setWordWrapMode(QTextOption::WordWrap); // rather scrolls sideways than breaks a word
     document()->setDocumentMargin(16);
     new HelpCards(document());
     takeColoursFromPalette();

@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextTable>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -176,6 +177,24 @@ TEST(HelpText, everyLinkLeadsToAPlaceInTheTextAndNothingOutsideIsReferenced)
     static const QRegularExpression outside("src\\s*=|<link|<script|<img|url\\(|@import|://",
                                             QRegularExpression::CaseInsensitiveOption);
     EXPECT_EQ(outside.match(file.html).captured(), QString());
+}
+
+TEST(HelpText, wordsStayWholeInANarrowWindowAndHeadingsKeepTheirDistance)
+{
+    HelpPage page;
+    page.resize(400, 700);
+    page.show();
+    page.showText(readHelpFile(QUILLET_HELP_FILE).html);
+    for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
+        const QString text = block.text();
+        for (int line = 1; line < block.layout()->lineCount(); ++line) {
+            const int start = block.layout()->lineAt(line).textStart();
+            EXPECT_FALSE(text[start - 1].isLetter() && text[start].isLetter()) << qPrintable(text);
+        }
+        if (block.blockFormat().headingLevel() == 2) {
+            EXPECT_GE(block.blockFormat().topMargin(), 20) << qPrintable(text);
+        }
+    }
 }
 
 TEST(HelpText, theColoursOfTheChartStandBesideTheirMeaning)
