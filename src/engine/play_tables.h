@@ -110,9 +110,12 @@ struct Repeats {
     [[nodiscard]] constexpr std::size_t shapeOf() const
     {
         const bool twoRanks = (twice & (twice - 1)) != 0;
-        return (twice != 0 ? shape::pair : 0U) | ((twice & highRanks) != 0 ? shape::highPair : 0U) |
-               (twoRanks ? shape::twoPairs : 0U) | (thrice != 0 ? shape::threeAlike : 0U) |
-               (fourTimes != 0 ? shape::fourAlike : 0U);
+        // Sums rather than selections, which compilers turn into branches that a hand in random
+        // order takes as often as not.
+        return unsigned{twice != 0} * shape::pair +
+               unsigned{(twice & highRanks) != 0} * shape::highPair +
+               unsigned{twoRanks} * shape::twoPairs + unsigned{thrice != 0} * shape::threeAlike +
+               unsigned{fourTimes != 0} * shape::fourAlike;
     }
 };
 
