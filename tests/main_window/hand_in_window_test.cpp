@@ -111,7 +111,7 @@ TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
     const QImage before = game.picture();
     ASSERT_TRUE(moveToScale(*game.window, 1.25));
     EXPECT_NE(game.picture().size(), before.size());
-    const auto& table = control<PokerTable>(*game.window, "pokerTable");
+    auto& table = control<PokerTable>(*game.window, "pokerTable");
     EXPECT_EQ(table.background().image.width(), 1000) << "as sharp as the display";
     const QImage held = game.picture();
     game.clickCard(1);
