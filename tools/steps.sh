@@ -22,7 +22,7 @@ start_log() {
 
 stop() {
     echo
-    echo "Stopped. The next start goes on from here."
+    echo "Stopped. It can be started again at any time."
     exit 130
 }
 
