@@ -61,11 +61,12 @@ table_is_still() {
 # Holds one set of cards after the other until the coach lets one pass. A refusal leaves the hand as
 # it was dealt; none at all comes first, as a second refusal would change nothing then.
 play_the_hand() {
-    local cards
+    local cards keys
     for cards in "" 12 13 14 15 23 24 25 34 35 45 1 2 3 4 5 1234 1235 1245 1345 2345 \
         123 124 125 134 135 145 234 235 245 345 12345; do
         if [ -n "$cards" ]; then
-            xdotool key $(grep -o . <<<"$cards")
+            mapfile -t keys < <(grep -o . <<<"$cards")
+            xdotool key "${keys[@]}"
             wait_for 15 "The hold of cards" table_has_changed
             wait_for 15 "A pause after the hold" table_is_still
         fi

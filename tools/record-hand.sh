@@ -36,7 +36,8 @@ still() {
 
 # colour X Y: that of a pixel of the last frame, as the server keeps it: blue, green, red.
 colour() {
-    local head=($(od -An -N 80 -t u4 --endian=big "$last"))
+    local head
+    read -ra head < <(od -An -w80 -N 80 -t u4 --endian=big "$last")
     od -An -t x1 -N 3 -j $((head[0] + 12 * head[19] + $2 * head[12] + 4 * $1)) "$last" | tr -d ' '
 }
 

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # To be sourced: a virtual X server and a window manager in which a script plays the trainer as a
 # player would with a mouse. The script reads its files in $folder, which goes when it ends.
 
