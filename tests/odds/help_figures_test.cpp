@@ -1,6 +1,7 @@
 #include "charts/mistakes.h"
 #include "coach/hold_judgement.h"
 #include "engine/hand_evaluation.h"
+#include "engine/pay_table.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
 #include "tests/kit/cards.h"
@@ -12,6 +13,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <map>
 #include <numeric>
 #include <span>
 #include <string>
@@ -22,15 +24,12 @@ namespace quillet::test
 namespace
 {
 
-// The text of the help's element of this class.
-std::string figure(const std::string& help, const std::string& name)
+// The help has each figure in an element of its class.
+void expectFigures(const std::string& help, const std::map<std::string, std::string>& figures)
 {
-    const std::string opening = "class=\"" + name + "\">";
-    const std::size_t start = help.find(opening);
-    if (start == std::string::npos)
-        return "missing";
-    const std::size_t text = start + opening.size();
-    return help.substr(text, help.find('<', text) - text);
+    for (const auto& [name, figure] : figures)
+        EXPECT_NE(help.find("class=\"" + name + "\">" + figure + '<'), std::string::npos)
+            << name << ": " << figure;
 }
 
 // A share as credits in a hundred: "0.995439" is 99.5439.
@@ -96,52 +95,73 @@ TEST(HelpFigures, theHelpTellsHowTheDeckIsShuffled)
         most = std::max(most, *std::ranges::max_element(place));
         highCards += number < 4 || number >= 40 ? dealt[number] : 0.0;
     }
-    const auto moreOften = [&dealt](std::size_t rank) {
-        const auto first = dealt.begin() + static_cast<std::ptrdiff_t>(4 * (rank - 1));
+    const auto moreOften = [](const std::array<double, 52>& chance, std::size_t rank) {
+        const auto first = chance.begin() + static_cast<std::ptrdiff_t>(4 * (rank - 1));
         const double change = std::accumulate(first, first + 4, 0.0) / (4 * 5.0 / 52) - 1;
         return std::to_string(std::abs(std::lround(change * 100)));
     };
     const auto kingOfSpades = static_cast<std::size_t>(card("Ks").cardId);
-    EXPECT_EQ(figure(help, "shuffle-least"), inPercent(least));
-    EXPECT_EQ(figure(help, "shuffle-most"), inPercent(most));
     EXPECT_EQ(std::ranges::min_element(dealt) - dealt.begin(), card("Ks").cardId);
     EXPECT_EQ(std::ranges::max_element(dealt) - dealt.begin(), card("2d").cardId);
     EXPECT_EQ(std::ranges::max_element(drawn) - drawn.begin(), card("3h").cardId);
-    EXPECT_EQ(figure(help, "dealt-least"), inPercent(dealt[kingOfSpades]));
-    EXPECT_EQ(figure(help, "dealt-most"), inPercent(std::ranges::max(dealt)));
-    EXPECT_EQ(figure(help, "drawn-least"), inPercent(drawn[kingOfSpades]));
-    EXPECT_EQ(figure(help, "drawn-most"), inPercent(std::ranges::max(drawn)));
-    EXPECT_EQ(figure(help, "twos"), moreOften(2));
-    EXPECT_EQ(figure(help, "kings"), moreOften(13));
-    EXPECT_EQ(figure(help, "aces"), moreOften(1));
-    EXPECT_EQ(figure(help, "high-cards"), inPercent(highCards / 100));
+    expectFigures(help, {{"shuffle-least", inPercent(least)},
+                         {"shuffle-most", inPercent(most)},
+                         {"dealt-least", inPercent(dealt[kingOfSpades])},
+                         {"dealt-most", inPercent(std::ranges::max(dealt))},
+                         {"drawn-least", inPercent(drawn[kingOfSpades])},
+                         {"drawn-most", inPercent(std::ranges::max(drawn))},
+                         {"twos", moreOften(dealt, 2)},
+                         {"kings", moreOften(dealt, 13)},
+                         {"aces", moreOften(dealt, 1)},
+                         {"drawn-aces", moreOften(drawn, 1)},
+                         {"drawn-threes", moreOften(drawn, 3)},
+                         {"drawn-kings", moreOften(drawn, 13)},
+                         {"high-cards", inPercent(highCards / 100)}});
 }
 
-TEST(HelpFigures, theHelpTellsWhatTheChartIsWorth)
+TEST(HelpFigures, thePayTableIsTheOneThatIsPaid)
+{
+    const std::string help = fileText(QUILLET_HELP_FILE), opening = "<td align=\"right\">";
+    std::string told, paid;
+    for (std::size_t at = help.find(opening); at != std::string::npos;
+         at = help.find(opening, at)) {
+        at += opening.size();
+        told += help.substr(at, help.find('<', at) - at) + ' ';
+    }
+    for (const Payout& payout : payTable())
+        paid += std::to_string(payout.pays) + ' ';
+    EXPECT_EQ(told, paid + "0 ");
+}
+
+TEST(HelpFigures, theHelpAndTheFirstPagesTellWhatTheChartIsWorth)
 {
     const std::string help = fileText(QUILLET_HELP_FILE);
     const FairOdds odds = fairOdds(HeldCards());
-    EXPECT_EQ(figure(help, "worth-perfect"), inHundred(odds.returnOf(Strategy::perfect)));
-    EXPECT_EQ(figure(help, "worth-best"), inHundred(odds.returnOf(Strategy::chartBest)));
-    EXPECT_EQ(figure(help, "worth-average"), inHundred(odds.returnOf(Strategy::chartAverage)));
-    EXPECT_EQ(figure(help, "worth-worst"), inHundred(odds.returnOf(Strategy::chartWorst)));
-    EXPECT_EQ(figure(help, "worth-deals"), withCommas(odds.dealsPlayedPerfectly));
-    EXPECT_EQ(figure(help, "worth-royal-perfect"), handsPerRoyal(odds, Strategy::perfect));
-    EXPECT_EQ(figure(help, "worth-royal-chart"), handsPerRoyal(odds, Strategy::chartBest));
-    EXPECT_EQ(figure(help, "worth-cost"), odds.rows[11].costliest.decimals(4));
     const RowOdds& twoHigh = odds.rows[17];
-    std::string dearest;
+    std::string costliest;
     const auto mistakes = charts::mistakesOf(HeldCards(), charts::trainersChart());
     for (const charts::Mistake& mistake : std::span(mistakes).first(10))
-        dearest += "<tr class=\"mistake\"><td>" + std::string(mistake.row) + "</td><td>" +
-                   std::string(mistake.instead) + "</td><td>" + withCommas(mistake.deals) +
-                   "</td><td>" + (mistake.cost * 100).decimals(4) +
-                   "</td><td><span class=\"hand\">" + holdText(mistake.example, holdAll) +
-                   "</span></td><td><span class=\"hold\">" +
-                   holdText(mistake.example, mistake.best) + "</span></td></tr>\n";
-    EXPECT_NE(help.find(dearest), std::string::npos) << dearest;
-    EXPECT_EQ(figure(help, "worth-lowest"),
-              ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3));
+        costliest += "<tr class=\"mistake\"><td>" + std::string(mistake.row) + "</td><td>" +
+                     std::string(mistake.instead) + "</td><td>" + withCommas(mistake.deals) +
+                     "</td><td>" + (mistake.cost * 100).decimals(4) +
+                     "</td><td><span class=\"hand\">" + holdText(mistake.example, holdAll) +
+                     "</span></td><td><span class=\"hold\">" +
+                     holdText(mistake.example, mistake.best) + "</span></td></tr>\n";
+    EXPECT_NE(help.find(costliest), std::string::npos) << costliest;
+    expectFigures(help,
+                  {{"worth-perfect", inHundred(odds.returnOf(Strategy::perfect))},
+                   {"worth-best", inHundred(odds.returnOf(Strategy::chartBest))},
+                   {"worth-average", inHundred(odds.returnOf(Strategy::chartAverage))},
+                   {"worth-worst", inHundred(odds.returnOf(Strategy::chartWorst))},
+                   {"worth-deals", withCommas(odds.dealsPlayedPerfectly)},
+                   {"worth-royal-perfect", handsPerRoyal(odds, Strategy::perfect)},
+                   {"worth-royal-chart", handsPerRoyal(odds, Strategy::chartBest)},
+                   {"worth-cost", odds.rows[11].costliest.decimals(4)},
+                   {"worth-lowest", ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3)}});
+    for (const char* page : {QUILLET_README, QUILLET_METAINFO})
+        for (const Strategy strategy : {Strategy::perfect, Strategy::chartBest})
+            EXPECT_NE(fileText(page).find(inHundred(odds.returnOf(strategy))), std::string::npos)
+                << page;
 }
 
 TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
@@ -175,16 +195,6 @@ TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
     }
     EXPECT_EQ(refused, 2);
     EXPECT_EQ(rows, 21);
-}
-
-TEST(HelpFigures, theFirstPagesTellTheSame)
-{
-    const FairOdds odds = fairOdds(HeldCards());
-    for (const char* page : {QUILLET_README, QUILLET_METAINFO}) {
-        const std::string text = fileText(page);
-        for (const Strategy strategy : {Strategy::perfect, Strategy::chartBest})
-            EXPECT_NE(text.find(inHundred(odds.returnOf(strategy))), std::string::npos) << page;
-    }
 }
 
 } // namespace quillet::test
