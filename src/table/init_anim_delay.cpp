@@ -49,7 +49,7 @@ void DelayMeter::InitAnimDelay(QSizeF strip)
 {
     guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [&] {
         const double scale = m_pictures.canvas->scale();
-        picStatusBar = Surface(strip, scale);
+        m_bannerStrip = Surface(strip, scale);
         picBanner3 = bannerPicture((strip * scale).toSize());
         m_started = m_clock.milliseconds();
         m_preferences.prfAnimationDelay = 0;
@@ -101,7 +101,7 @@ double DelayMeter::bannerRound(std::int32_t delay)
 {
     const double start = m_clock.processorSeconds();
     for (std::int32_t k = bannerTop; k <= 0; ++k) {
-        picStatusBar.drawPixels(picBanner3, QPointF(0, k));
+        m_bannerStrip.drawPixels(picBanner3, QPointF(0, k));
         countingLoop(delay);
     }
     const double elapsed = m_clock.processorSeconds() - start;

@@ -41,7 +41,7 @@ private:
     Clock& m_clock;
     ErrorBox& m_errorBox;
     std::function<void()> m_afterRound;
-    Surface picStatusBar;         // the strip
+    Surface m_bannerStrip;
     QImage picBanner3;            // what slides into it
     std::int64_t m_started = 0;   // milliseconds of the clock
     std::int64_t m_lastRound = 0; // milliseconds that it took

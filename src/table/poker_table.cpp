@@ -32,6 +32,22 @@ QImage framePicture(FramePiece piece)
     return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
+// The places of a held card's marks, in device pixels.
+struct HoldMarker {
+    HoldMarker(const QRectF& card, double scale)
+        : width(deviceSize(3, scale)),
+          Shape1(card.adjusted(-width / 2, -width / 2, width / 2, width / 2)),
+          Shape2(card.topLeft(), QSizeF(deviceSize(2, scale), card.height())),
+          Shape3(Shape2.translated(card.width() - Shape2.width(), 0))
+    {
+    }
+
+    double width;
+    QRectF Shape1; // the outline, around the card
+    QRectF Shape2; // inside the card's left edge
+    QRectF Shape3; // inside its right edge
+};
+
 } // namespace
 
 PokerTable::PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent)
@@ -239,26 +255,23 @@ void PokerTable::recover()
     canvas().refresh();
 }
 
-// Shape1 lies around the card, Shape2 and Shape3 inside its left and right edge.
 void PokerTable::paintOutlines(QPainter& painter, double scale) const
 {
     const QColor colour = colourOf(static_cast<std::uint32_t>(m_preferences.prfCardOutlineColor));
     for (const Slot slot : allSlots) {
         if (!m_held[slot])
             continue;
-        const QRectF card = m_pictures.picPoker[slot]->devicePlace();
-        const double width = deviceSize(3, scale);
-        const double marker = deviceSize(2, scale);
+        const QRect card = m_pictures.picPoker[slot]->devicePlace();
+        const HoldMarker marker(card, scale);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colour, width));
+        painter.setPen(QPen(colour, marker.width));
         painter.setBrush(Qt::NoBrush);
-        const double out = width / 2;
-        const double radius = 6 * scale + out;
-        painter.drawRoundedRect(card.adjusted(-out, -out, out, out), radius, radius);
+        const double radius = 6 * scale + marker.width / 2;
+        painter.drawRoundedRect(marker.Shape1, radius, radius);
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setClipRect(card, Qt::IntersectClip);
-        painter.fillRect(QRectF(card.left(), card.top(), marker, card.height()), colour);
-        painter.fillRect(QRectF(card.right() - marker, card.top(), marker, card.height()), colour);
+        painter.fillRect(marker.Shape2, colour);
+        painter.fillRect(marker.Shape3, colour);
         painter.setClipping(false);
     }
 }

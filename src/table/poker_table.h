@@ -94,7 +94,7 @@ private:
     TableMeasures m_measures;
     TablePictures m_pictures;
     std::array<CardOnTable, 5> m_cards; // what the places show
-    std::array<bool, 5> m_held{};       // whose Shape1, Shape2 and Shape3 show
+    std::array<bool, 5> m_held{};       // whose hold marker shows
     QString m_backgroundPath;
     QString m_backgroundVersion; // of the file and the scale that thePic was read for
     bool m_closed = false;
