@@ -32,6 +32,18 @@ void paintFrame(QPainter& painter, const QStyleOption& option, const QRect& fram
 
 } // namespace
 
+void IndicatorStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (item == nullptr || item->menuItemType != QStyleOptionMenuItem::Separator || !isDark(*item))
+        return;
+    const QRect& place = item->rect;
+    painter->setPen(item->palette.color(QPalette::PlaceholderText));
+    painter->drawLine(place.left() + 5, place.center().y(), place.right() - 5, place.center().y());
+}
+
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                    QPainter* painter, const QWidget* widget) const
 {

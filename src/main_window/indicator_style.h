@@ -5,14 +5,17 @@
 namespace quillet
 {
 
-// Frames check boxes and option buttons in the colour of the text where the window is dark, and a
-// scroll bar and its slider everywhere. The toolkit's own style frames them in a shade of the
-// window's colour, which cannot be seen on black. It also shows no focus on a scroll bar.
+// Frames check boxes and option buttons, and draws the separators of menus, in the colour of the
+// text where the window is dark. Frames a scroll bar and its slider everywhere. The toolkit's own
+// style frames them in a shade of the window's colour, which cannot be seen on black. It also shows
+// no focus on a scroll bar.
 class IndicatorStyle : public QProxyStyle
 {
     Q_OBJECT
 
 public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -1,6 +1,7 @@
 #include "main_window/main_menus.h"
 
 #include "main_window/frm_main.h"
+#include "main_window/indicator_style.h"
 
 #include <QAction>
 #include <QMenu>
@@ -43,6 +44,9 @@ void makeMenus(frmMain& window)
     addEntry(game, QStringLiteral("mnuPoker"), tr("Play &Video Poker"), window,
              &frmMain::mnuPoker_Click);
     addEntry(game, QStringLiteral("mnuPref"), tr("Preferences"), window, &frmMain::mnuPref_Click);
+    auto* style = new IndicatorStyle;
+    style->setParent(&game);
+    game.setStyle(style);
     game.addSeparator()->setObjectName(QStringLiteral("mnuSeparator"));
     addEntry(game, QStringLiteral("mnuExit"), tr("E&xit"), window, &frmMain::mnuExit_Click);
 

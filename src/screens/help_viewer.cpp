@@ -14,6 +14,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillet
 {
 
@@ -53,6 +55,17 @@ protected:
     }
 };
 
+// Right of the game, as far as the screen has room.
+QPoint placeBeside(const QWidget& game, QSize size)
+{
+    const QRect screen = game.screen()->availableGeometry();
+    const QRect free(screen.topLeft(),
+                     screen.size() - size - game.frameGeometry().size() + game.size());
+    const QPoint corner = game.frameGeometry().topRight();
+    return {std::max(free.left(), std::min(free.right(), corner.x())),
+            std::max(free.top(), std::min(free.bottom(), corner.y()))};
+}
+
 QString notFound(const QString& text)
 {
     return "\"" + text + "\" does not occur in the help.";
@@ -66,6 +79,7 @@ void HelpViewer::present(QWidget* parent, PageOpener& pages, const QString& path
     if (viewer == nullptr) {
         viewer = new HelpViewer(pages, parent);
         viewer->setAttribute(Qt::WA_DeleteOnClose);
+        viewer->move(placeBeside(*parent, viewer->size()));
     }
     bringToFront(*viewer);
     viewer->openAtContents(path);

@@ -1,11 +1,13 @@
 #include "main_window/chart_row.h"
 #include "main_window/frm_preferences.h"
+#include "platform/colour_contrast.h"
 #include "screens/frm_about.h"
 #include "screens/frm_exit_no_banner.h"
 #include "screens/web_pages.h"
 #include "tests/kit/played_window.h"
 
 #include <QFontMetricsF>
+#include <QMenu>
 #include <QPushButton>
 
 namespace quillet::test
@@ -172,6 +174,19 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     EXPECT_EQ(game.pages.opened.size(), 6U);
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_TRUE(game.sounds.names.size() == 5U) << "nobody asked to draw";
+
+    game.window->move(60, 40);
+    game.choose("mnuContents");
+    const QRect help = control(*game.window, "HelpViewer").geometry();
+    EXPECT_TRUE(game.window->screen()->availableGeometry().contains(help));
+    EXPECT_GT(help.left(), game.window->x()) << "much of the table is still seen";
+
+    QMenu& menu = control<QMenu>(*game.window, "mnuGame");
+    menu.setPalette(QPalette(Qt::black));
+    const QImage dark = menu.grab().toImage();
+    const QPoint line =
+        menu.actionGeometry(game.window->findChild<QAction*>("mnuSeparator")).center();
+    EXPECT_GT(contrast(dark.pixelColor(line), dark.pixelColor(line - QPoint(0, 2))), 3);
 
     game.choose("mnuAbout");
     game.choose("mnuAbout");
