@@ -8,6 +8,7 @@
 #include "odds/hand_stream.h"
 #include "odds/hand_text.h"
 #include "odds/output_file.h"
+#include "odds/progress_bar.h"
 #include "odds/reports.h"
 #include "odds/text_input.h"
 
@@ -27,20 +28,6 @@ namespace quillet
 
 namespace
 {
-
-// A bar on the terminal; nothing when the errors go elsewhere.
-void showProgress(std::int64_t done, std::int64_t all)
-{
-    constexpr std::int64_t width = 40;
-    if (isatty(STDERR_FILENO) == 0)
-        return;
-    const auto filled = static_cast<std::size_t>(done * width / all);
-    std::cerr << "\r[" << std::string(filled, '#')
-              << std::string(static_cast<std::size_t>(width) - filled, '.') << "] "
-              << done * 100 / all << " %" << std::flush;
-    if (done == all)
-        std::cerr << "\r" << std::string(width + 8, ' ') << "\r" << std::flush;
-}
 
 // What the text in a file means.
 template <typename Parse>
@@ -114,10 +101,11 @@ void writeBestCharts(std::ostream& out, const Request& request, const HeldCards&
     charts::ChartSearch search(heldCards);
     const std::size_t all = request.mostRows - request.leastRows + 1;
     std::vector<std::vector<Cell>> curve;
+    ProgressBar bar;
     for (std::size_t rows = request.leastRows; rows <= request.mostRows; ++rows) {
         const charts::Chart chart = search.best(rows, [&](double share) {
             const double done = static_cast<double>(rows - request.leastRows) + share;
-            showProgress(static_cast<std::int64_t>(done * 1000 / static_cast<double>(all)), 1000);
+            bar.show(done / static_cast<double>(all));
         });
         const charts::ChartPrice price = charts::priceChart(heldCards, chart);
         if (all == 1) {
@@ -141,14 +129,36 @@ void writeBestCharts(std::ostream& out, const Request& request, const HeldCards&
 void writeCardFile(const Request& request, const HeldCards& heldCards, const charts::Chart& asked)
 {
     charts::Chart chart = asked.empty() ? charts::trainersChart() : asked;
+    ProgressBar bar;
     if (request.mostRows > 0)
-        chart = charts::ChartSearch(heldCards).best(request.mostRows, [](double share) {
-            showProgress(static_cast<std::int64_t>(share * 1000), 1000);
-        });
+        chart = charts::ChartSearch(heldCards).best(request.mostRows,
+                                                    [&bar](double share) { bar.show(share); });
     std::ostringstream page;
     writeChartCard(page, chart, charts::priceChart(heldCards, chart),
                    charts::rowExamples(heldCards, chart), heldCards.pays());
     writeFile(*request.cardFile, page.str());
+}
+
+void answerSitting(std::ostream& out, const Request& request, const HeldCards& heldCards,
+                   const Style& style)
+{
+    ProgressBar bar;
+    const Report report =
+        sittingReport(fairOdds(heldCards), heldCards.pays(), request.hands, request.bankroll,
+                      isatty(STDOUT_FILENO) == 1, [&bar](double share) { bar.show(share); });
+    writeReport(out, report, style);
+}
+
+void answerSimulation(std::ostream& out, const Request& request, const HeldCards& heldCards,
+                      const Style& style)
+{
+    ProgressBar bar;
+    const Simulation simulation =
+        simulate(heldCards, request.seed, request.hands,
+                 std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
+                     bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
+                 });
+    writeReport(out, simulationReport(simulation, fairOdds(heldCards), heldCards.pays()), style);
 }
 
 } // namespace
@@ -205,19 +215,11 @@ void answer(const Request& request, std::ostream& out)
         writeReport(out, mistakesReport(charts::mistakesOf(heldCards, chart)), style);
         break;
     case Question::sitting:
-        writeReport(out,
-                    sittingReport(fairOdds(heldCards), pays, request.hands, request.bankroll,
-                                  isatty(STDOUT_FILENO) == 1),
-                    style);
+        answerSitting(out, request, heldCards, style);
         break;
-    case Question::simulation: {
-        const unsigned threads = std::max(1U, std::thread::hardware_concurrency());
-        const Simulation simulation =
-            simulate(heldCards, request.seed, request.hands, threads,
-                     [&request](std::int64_t done) { showProgress(done, request.hands); });
-        writeReport(out, simulationReport(simulation, fairOdds(heldCards), pays), style);
+    case Question::simulation:
+        answerSimulation(out, request, heldCards, style);
         break;
-    }
     case Question::chart:
         writeReport(out, chartReport(chart, charts::priceChart(heldCards, chart)), style);
         break;

@@ -23,9 +23,11 @@ namespace quillet
 [[nodiscard]] Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all);
 
 // What so many hands come to, for perfect play and the chart's best choice. With bars, the text
-// draws the distribution.
+// draws the distribution. Reports the share of the work that is done, first for the sitting, then
+// for the bankroll.
 [[nodiscard]] Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
-                                   std::optional<std::int64_t> bankroll, bool bars);
+                                   std::optional<std::int64_t> bankroll, bool bars,
+                                   const WorkProgress& progress);
 
 [[nodiscard]] Report mistakesReport(const std::vector<charts::Mistake>& mistakes);
 

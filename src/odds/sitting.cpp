@@ -1,6 +1,7 @@
 #include "odds/sitting.h"
 
 #include "engine/pay_table.h"
+#include "odds/bad_input.h"
 
 #include <algorithm>
 #include <bit>
@@ -20,7 +21,9 @@ namespace
 
 using Complex = std::complex<long double>;
 
-constexpr double outside = 30; // e to the minus this is left outside on either side
+constexpr double outside = 30;                // e to the minus this is left outside on either side
+constexpr std::size_t mostResults = 1U << 22; // 300 MB
+constexpr double mostSteps = 3e11;            // of hands by units: some minutes
 
 std::int64_t unitOf(const OneHand& hand, std::int64_t with)
 {
@@ -55,6 +58,55 @@ double leastBound(const Bound& bound)
     return least;
 }
 
+// In units won: outside there is next to nothing.
+struct Window {
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+};
+
+Window windowOf(const OneHand& hand, std::int64_t unit, std::int64_t hands)
+{
+    const auto count = static_cast<double>(hands);
+    const double high = leastBound(
+        [&](double slope) { return (count * cumulant(hand, unit, slope) + outside) / slope; });
+    const double low = -leastBound(
+        [&](double slope) { return (count * cumulant(hand, unit, -slope) + outside) / slope; });
+    const std::int64_t most = *std::ranges::max_element(hand.pays) / unit * hands;
+    return {std::max<std::int64_t>(0, std::llround(std::floor(low))),
+            std::min<std::int64_t>(most, std::llround(std::ceil(high)))};
+}
+
+// A number of hands whose results fit into the memory.
+std::int64_t possibleHands(const OneHand& hand, std::int64_t unit, std::int64_t hands)
+{
+    Window window;
+    do {
+        hands /= 2;
+        window = windowOf(hand, unit, hands);
+    } while (window.last - window.first >= static_cast<std::int64_t>(mostResults));
+    return hands;
+}
+
+std::vector<Complex> rootsOfOne(std::size_t size)
+{
+    std::vector<Complex> roots(size);
+    for (std::size_t i = 0; i < size; ++i)
+        roots[i] =
+            std::polar(1.0L, 2 * std::numbers::pi_v<long double> * static_cast<long double>(i) /
+                                 static_cast<long double>(size));
+    return roots;
+}
+
+Complex power(const Complex& base, std::int64_t exponent)
+{
+    const long double level = std::abs(base);
+    if (level == 0)
+        return 0;
+    const auto times = static_cast<long double>(exponent);
+    return std::polar(std::exp(times * std::log(level)),
+                      std::remainder(times * std::arg(base), 2 * std::numbers::pi_v<long double>));
+}
+
 // The discrete Fourier transform in place, of a size that is a power of 2.
 void transform(std::vector<Complex>& values, const std::vector<Complex>& roots)
 {
@@ -79,6 +131,88 @@ void transform(std::vector<Complex>& values, const std::vector<Complex>& roots)
                 values[block + i] += turned;
             }
         }
+    }
+}
+
+// The chance of each number of units that a bankroll can have.
+class Bankroll
+{
+public:
+    Bankroll(const OneHand& hand, std::int64_t hands, std::int64_t credits)
+        : m_hand(hand), m_unit(unitOf(hand, wager)), m_cost(wager / m_unit)
+    {
+        const std::int64_t units = credits / m_unit;
+        if (units < m_cost)
+            m_lost = 1;
+        else if (units <= (m_safe = safeFor(hands)))
+            start(units, hands);
+    }
+
+    // Whether what is to come changes nothing that counts.
+    [[nodiscard]] bool isDecided(std::int64_t handsLeft)
+    {
+        if (std::accumulate(m_chance.begin(), m_chance.end(), 0.0) < sittingBound / 100)
+            return true;
+        m_safe = std::min(m_safe, safeFor(handsLeft));
+        m_chance.resize(static_cast<std::size_t>(m_safe) + 1);
+        m_next.resize(m_chance.size());
+        return false;
+    }
+
+    void playHand();
+
+    [[nodiscard]] double lost() const { return m_lost; }
+
+private:
+    // How many units are so many that the hands left lose them all too seldom to count.
+    [[nodiscard]] std::int64_t safeFor(std::int64_t left) const
+    {
+        const double bound = leastBound([&](double slope) {
+            const double each =
+                cumulant(m_hand, m_unit, -slope) + slope * static_cast<double>(m_cost);
+            return (static_cast<double>(left) * std::max(each, 0.0) + outside) / slope;
+        });
+        return std::llround(std::min(std::ceil(bound), static_cast<double>(left * m_cost))) +
+               m_cost;
+    }
+
+    void start(std::int64_t units, std::int64_t hands)
+    {
+        if (static_cast<double>(m_safe) * static_cast<double>(hands) > mostSteps)
+            throw BadInput("a bankroll takes too long for " + std::to_string(hands) +
+                           " hands with these pays; try a tenth of them");
+        m_chance.resize(static_cast<std::size_t>(m_safe) + 1);
+        m_next.resize(m_chance.size());
+        m_chance[static_cast<std::size_t>(units)] = 1;
+    }
+
+    const OneHand& m_hand;
+    const std::int64_t m_unit; // credits
+    const std::int64_t m_cost; // units for a hand
+    std::int64_t m_safe = 0;   // more units than these are never lost
+    std::vector<double> m_chance;
+    std::vector<double> m_next;
+    double m_lost = 0;
+};
+
+void Bankroll::playHand()
+{
+    std::ranges::fill(m_next, 0.0);
+    for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
+        const double share = m_hand.chance[outcome];
+        const std::int64_t step = m_hand.pays[outcome] / m_unit - m_cost;
+        const auto from = static_cast<std::size_t>(std::max<std::int64_t>(m_cost, -step));
+        const std::int64_t end = std::min(m_safe + 1, m_safe + 1 - step);
+        if (share <= 0)
+            continue;
+        double* const to = m_next.data() + step;
+        for (std::size_t units = from; std::cmp_less(units, end); ++units)
+            to[units] += share * m_chance[units];
+    }
+    m_chance.swap(m_next);
+    for (std::int64_t units = 0; units < m_cost; ++units) {
+        m_lost += m_chance[static_cast<std::size_t>(units)];
+        m_chance[static_cast<std::size_t>(units)] = 0;
     }
 }
 
@@ -115,26 +249,20 @@ std::optional<double> OneHand::handsUntilTheEdgeShows() const
     return std::pow(1.96 / edge, 2) * variance();
 }
 
-Sitting::Sitting(const OneHand& hand, std::int64_t hands)
+Sitting::Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress)
     : m_unit(unitOf(hand, 0)), m_paid(hands * wager)
 {
     assert(hands >= 1 && hands <= mostHands);
-    const auto count = static_cast<double>(hands);
-    const double high = leastBound(
-        [&](double slope) { return (count * cumulant(hand, m_unit, slope) + outside) / slope; });
-    const double low = -leastBound(
-        [&](double slope) { return (count * cumulant(hand, m_unit, -slope) + outside) / slope; });
-    m_first = std::max<std::int64_t>(0, std::llround(std::floor(low)));
-    const std::int64_t most = *std::ranges::max_element(hand.pays) / m_unit * hands;
-    const std::int64_t last = std::min<std::int64_t>(most, std::llround(std::ceil(high)));
-    const auto used = static_cast<std::size_t>(last - m_first + 1);
+    const Window window = windowOf(hand, m_unit, hands);
+    m_first = window.first;
+    const auto used = static_cast<std::size_t>(window.last - m_first + 1);
+    if (used > mostResults)
+        throw BadInput(std::to_string(hands) + " hands with these pays end in " +
+                       std::to_string(used) + " ways, too many for the memory; " +
+                       std::to_string(possibleHands(hand, m_unit, hands)) + " are possible");
     const std::size_t size = std::bit_ceil(used);
 
-    std::vector<Complex> roots(size);
-    for (std::size_t i = 0; i < size; ++i)
-        roots[i] =
-            std::polar(1.0L, 2 * std::numbers::pi_v<long double> * static_cast<long double>(i) /
-                                 static_cast<long double>(size));
+    const std::vector<Complex> roots = rootsOfOne(size);
     const auto turn = [&](std::uint64_t steps) { return roots[steps & (size - 1)]; };
     std::vector<Complex> values(size);
     for (std::size_t k = 0; k <= size / 2; ++k) {
@@ -142,16 +270,12 @@ Sitting::Sitting(const OneHand& hand, std::int64_t hands)
         for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
             one += static_cast<long double>(hand.chance[outcome]) *
                    std::conj(turn(k * static_cast<std::uint64_t>(hand.pays[outcome] / m_unit)));
-        const long double level = std::abs(one);
-        const Complex power =
-            level == 0 ? 0
-                       : std::polar(std::exp(static_cast<long double>(hands) * std::log(level)),
-                                    std::remainder(static_cast<long double>(hands) * std::arg(one),
-                                                   2 * std::numbers::pi_v<long double>));
         // The window begins at m_first.
-        values[k] = power * turn(k * (static_cast<std::uint64_t>(m_first) % size));
+        values[k] = power(one, hands) * turn(k * (static_cast<std::uint64_t>(m_first) % size));
         if (k != 0)
             values[size - k] = std::conj(values[k]);
+        if (progress && k % 10'000 == 0)
+            progress(2.0 * static_cast<double>(k) / static_cast<double>(size));
     }
     transform(values, roots);
     m_chance.resize(used);
@@ -177,60 +301,26 @@ std::int64_t Sitting::quantile(double share) const
     return netOf(i);
 }
 
-std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands, std::int64_t bankroll)
+std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands, std::int64_t bankroll,
+                                     const WorkProgress& progress)
 {
-    const std::int64_t unit = unitOf(hand, wager);
-    const std::int64_t cost = wager / unit;
-    // How many units are so many that the hands left lose them all too seldom to count.
-    const auto safeFor = [&](std::int64_t left) {
-        const double bound = leastBound([&](double slope) {
-            const double each = cumulant(hand, unit, -slope) + slope * static_cast<double>(cost);
-            return (static_cast<double>(left) * std::max(each, 0.0) + outside) / slope;
-        });
-        return std::llround(std::min(std::ceil(bound), static_cast<double>(left * cost))) + cost;
-    };
     std::array<double, 10> ruined{};
-    std::int64_t safe = safeFor(hands);
-    if (bankroll / unit > safe)
-        return ruined;
-    // The chance of each number of units, up to where they are safe.
-    std::vector<double> chance(static_cast<std::size_t>(safe) + 1);
-    std::vector<double> next(chance.size());
-    chance[static_cast<std::size_t>(bankroll / unit)] = 1;
-    double lost = 0;
-    std::size_t tenth = 0;
+    Bankroll credits(hand, hands, bankroll);
     const std::int64_t lookAgain = std::max<std::int64_t>(hands / 100, 1);
-    const auto ruin = [&] {
-        for (std::size_t units = 0; units < static_cast<std::size_t>(cost); ++units) {
-            lost += chance[units];
-            chance[units] = 0;
-        }
-    };
-    ruin();
+    std::size_t tenth = 0;
     for (std::int64_t played = 0; played < hands; ++played) {
         if (played % lookAgain == 0) {
-            safe = std::min<std::int64_t>(safe, safeFor(hands - played));
-            chance.resize(static_cast<std::size_t>(safe) + 1);
-            next.resize(chance.size());
+            if (credits.isDecided(hands - played))
+                break;
+            if (progress)
+                progress(static_cast<double>(played) / static_cast<double>(hands));
         }
-        std::ranges::fill(next, 0.0);
-        for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
-            const double share = hand.chance[outcome];
-            const std::int64_t step = hand.pays[outcome] / unit - cost;
-            const auto from = static_cast<std::size_t>(std::max<std::int64_t>(cost, -step));
-            const std::int64_t end = std::min(safe + 1, safe + 1 - step);
-            if (share <= 0)
-                continue;
-            double* const to = next.data() + step;
-            for (std::size_t units = from; std::cmp_less(units, end); ++units)
-                to[units] += share * chance[units];
-        }
-        chance.swap(next);
-        ruin();
+        credits.playHand();
         for (; tenth < 10 && (played + 1) * 10 >= hands * static_cast<std::int64_t>(tenth + 1);
              ++tenth)
-            ruined[tenth] = lost;
+            ruined[tenth] = credits.lost();
     }
+    std::fill(ruined.begin() + static_cast<std::ptrdiff_t>(tenth), ruined.end(), credits.lost());
     return ruined;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -27,6 +28,9 @@ struct OneHand {
     [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;
 };
 
+// Takes the share of the work that is done.
+using WorkProgress = std::function<void(double)>;
+
 // How every chance below may be off: by what lies outside the window that is worked out, and by
 // rounding.
 inline constexpr double sittingBound = 1e-9;
@@ -39,7 +43,8 @@ inline constexpr std::int64_t mostHands = 10'000'000;
 class Sitting
 {
 public:
-    Sitting(const OneHand& hand, std::int64_t hands);
+    // Throws BadInput when there are too many possible results for the memory.
+    Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress = {});
 
     // That the net lies from the one to the other, both included.
     [[nodiscard]] double chanceOf(std::int64_t least, std::int64_t most) const;
@@ -59,8 +64,9 @@ private:
 };
 
 // The chance that a bankroll is too small for another hand within so many of them, after each
-// tenth of them, the last one for all.
+// tenth of them, the last one for all. Throws BadInput when it would take too long.
 [[nodiscard]] std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands,
-                                                   std::int64_t bankroll);
+                                                   std::int64_t bankroll,
+                                                   const WorkProgress& progress = {});
 
 } // namespace quillet

@@ -1,3 +1,4 @@
+#include "odds/bad_input.h"
 #include "odds/fair_odds.h"
 #include "odds/sitting.h"
 
@@ -80,6 +81,9 @@ TEST(Sitting, comesOutAsKnown)
     EXPECT_NEAR(percent(1'000'000, -endless, endless), 100, 100 * sittingBound);
     EXPECT_NEAR(100 * chancesOfRuin(one, 1000, 500).back(), 16.29, 5e-3);
     EXPECT_EQ(chancesOfRuin(one, 100, 500'000).back(), 0);
+    EXPECT_EQ(chancesOfRuin(one, 10'000'000, 4).front(), 1) << "at once";
+    EXPECT_THROW((void)chancesOfRuin(one, 10'000'000, 500), BadInput) << "an hour";
+    EXPECT_THROW(Sitting({one.chance, parsePays("99999 998 9 9 9 9 9 9 9")}, 10'000'000), BadInput);
     EXPECT_EQ(Sitting(one, 1).quantile(0.5), -5);
     EXPECT_EQ(Sitting(one, 1).quantile(0.6), 0);
 }
