@@ -46,6 +46,8 @@ public:
     // Throws BadInput when there are too many possible results for the memory.
     Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress = {});
 
+    // Between two possible results, in credits.
+    [[nodiscard]] std::int64_t unit() const { return m_unit; }
     // That the net lies from the one to the other, both included.
     [[nodiscard]] double chanceOf(std::int64_t least, std::int64_t most) const;
     // The least net that so large a share of the sittings does not exceed.

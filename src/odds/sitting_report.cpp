@@ -20,26 +20,34 @@ Rounded percent(double share)
     return {100 * share, 4};
 }
 
-// How the sittings spread, without the lowest hundredth and the twentieth that royals lift.
+// How the sittings spread. The lowest hundredth and the twentieth that royals lift are only named.
 std::string barsOf(const Sitting& sitting)
 {
-    constexpr std::int64_t lines = 16;
-    constexpr double widest = 48;
+    constexpr std::int64_t maxBars = 16;
+    constexpr double widest = 44;
     const std::int64_t low = sitting.quantile(0.01);
-    const std::int64_t width = std::max<std::int64_t>(5, (sitting.quantile(0.95) - low) / lines);
-    std::vector<double> shares;
-    for (std::int64_t line = 0; line < lines; ++line)
-        shares.push_back(sitting.chanceOf(low + line * width, low + (line + 1) * width - 1));
-    const double most = *std::ranges::max_element(shares);
+    const std::int64_t results = (sitting.quantile(0.95) - low) / sitting.unit() + 1;
+    const std::int64_t width = (results + maxBars - 1) / maxBars * sitting.unit();
     std::string text = "\nCredits won or lost, perfect play\n\n";
-    for (std::size_t line = 0; line < shares.size(); ++line) {
-        const std::string from = std::to_string(low + static_cast<std::int64_t>(line) * width);
-        text +=
-            std::string(10 - std::min<std::size_t>(from.size(), 10), ' ') + from + " |" +
-            std::string(static_cast<std::size_t>(std::lround(shares[line] / most * widest)), '#') +
-            " " + decimals(100 * shares[line], 1) + " %\n";
+    struct Bar {
+        std::string label;
+        double share;
+    };
+    std::vector<Bar> bars;
+    std::int64_t from = low;
+    for (; from <= sitting.quantile(0.95); from += width) {
+        const std::int64_t to = from + width - sitting.unit();
+        bars.push_back({std::to_string(from) + (to == from ? "" : " to " + std::to_string(to)),
+                        sitting.chanceOf(from, to)});
     }
-    return text;
+    const double most = std::ranges::max(bars, {}, &Bar::share).share;
+    for (const Bar& bar : bars)
+        text += std::string(20 - std::min<std::size_t>(bar.label.size(), 20), ' ') + bar.label +
+                " |" +
+                std::string(static_cast<std::size_t>(std::lround(bar.share / most * widest)), '#') +
+                " " + decimals(100 * bar.share, 1) + " %\n";
+    return text + "\nNot shown: " + decimals(100 * sitting.chanceOf(-endless, low - 1), 1) +
+           " % below and " + decimals(100 * sitting.chanceOf(from, endless), 1) + " % above.\n";
 }
 
 // Computes the same for perfect play and the chart, side by side.

@@ -1,8 +1,8 @@
 #include "odds/bad_input.h"
 #include "odds/fair_odds.h"
-#include "odds/sitting.h"
+#include "odds/reports.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <limits>
 #include <map>
@@ -84,6 +84,12 @@ TEST(Sitting, comesOutAsKnown)
     EXPECT_EQ(chancesOfRuin(one, 10'000'000, 4).front(), 1) << "at once";
     EXPECT_THROW((void)chancesOfRuin(one, 10'000'000, 500), BadInput) << "an hour";
     EXPECT_THROW(Sitting({one.chance, parsePays("99999 998 9 9 9 9 9 9 9")}, 10'000'000), BadInput);
+    const auto bars = [&](std::int64_t hands) {
+        return sittingReport(fairOdds(HeldCards()), trainersPays(), hands, {}, true, {})[0].outro;
+    };
+    EXPECT_THAT(bars(1), testing::HasSubstr("\n                  -5 |###"));
+    EXPECT_THAT(bars(600), testing::HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));
+    EXPECT_THAT(bars(600), testing::EndsWith("Not shown: 1.0 % below and 4.7 % above.\n"));
     EXPECT_EQ(Sitting(one, 1).quantile(0.5), -5);
     EXPECT_EQ(Sitting(one, 1).quantile(0.6), 0);
 }
