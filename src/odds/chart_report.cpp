@@ -72,7 +72,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
         cells.emplace_back(Exact{told.costliest, 4});
         rows.rows.push_back(std::move(cells));
         if (told.deals == 0)
-            idle += "  " + charts::rowText(chart[row]) + "\n";
+            idle += "  " + wrapped(charts::rowText(chart[row]));
     }
     if (!idle.empty())
         rows.outro = "\nThese rows never play:\n" + idle;
@@ -81,10 +81,11 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
-    out << "# " << chart.size() << " rows. Of 100 credits it loses "
-        << (price.loss(Taken::worst) * 100).decimals(6)
-        << " against perfect play,\n# when of holds that fit a row the worst is taken; it returns "
-        << price.returned[static_cast<std::size_t>(Taken::worst)].text() << ".\n"
+    const Fraction& returned = price.returned[static_cast<std::size_t>(Taken::worst)];
+    out << "# " << chart.size() << (chart.size() == 1 ? " row." : " rows.")
+        << " Of every 100 credits bet it loses " << (price.loss(Taken::worst) * 100).decimals(6)
+        << " against\n# perfect play, taking the worst of the holds that fit a row. It returns\n# "
+        << (returned * 100).decimals(8) << " % (" << returned.text() << ").\n"
         << charts::chartText(chart);
 }
 

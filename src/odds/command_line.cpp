@@ -294,8 +294,8 @@ Options
   --pays TABLE         9/6, 8/5 ... (full house and flush for one credit), nine
                        numbers for five credits, royal first, or a file
   --all                with a hand: all 32 holds
-  --bankroll CREDITS   with --sitting: the chance that fewer than five of them are
-                       left on the way
+  --bankroll CREDITS   with --sitting: the chance that fewer than five of these
+                       are left on the way
   --seed NUMBER        with --simulate: other chances (default 1)
   --plays              with --chart: each deal with the hold that it plays
   --mistakes           with --chart: its mistakes

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 namespace quillet
 {
@@ -14,8 +15,8 @@ namespace quillet
 namespace
 {
 
-constexpr std::size_t lineWidth = 76;
-constexpr std::size_t widestCell = 48; // a longer one stands on a line of its own
+constexpr std::size_t lineWidth = 80;
+constexpr std::size_t columnGap = 2;
 
 bool isNumber(const Cell& cell)
 {
@@ -72,7 +73,8 @@ struct TextColumn {
     bool alignsRight;
 };
 
-std::vector<TextColumn> textColumns(const Table& table)
+// Texts longer than maxText do not widen their column.
+std::vector<TextColumn> textColumns(const Table& table, std::size_t maxText)
 {
     std::vector<TextColumn> columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
@@ -81,7 +83,8 @@ std::vector<TextColumn> textColumns(const Table& table)
             continue;
         for (const auto& row : table.rows) {
             const std::size_t size = textOf(table.columns[i], row[i]).size();
-            column.width = std::max(column.width, size > widestCell ? 0 : size);
+            const bool tooLong = size > maxText && std::holds_alternative<std::string>(row[i]);
+            column.width = std::max(column.width, tooLong ? 0 : size);
             column.alignsRight = column.alignsRight || isNumber(row[i]);
         }
         columns.push_back(column);
@@ -89,33 +92,43 @@ std::vector<TextColumn> textColumns(const Table& table)
     return columns;
 }
 
-// cellText(i) is what column i of the table holds in this line.
+// Narrow enough for the line.
+std::vector<TextColumn> fittingColumns(const Table& table)
+{
+    std::size_t maxText = lineWidth;
+    while (true) {
+        std::vector<TextColumn> columns = textColumns(table, maxText--);
+        std::size_t width = 0;
+        for (const TextColumn& column : columns)
+            width += columnGap + column.width;
+        if (width <= lineWidth || maxText == 0)
+            return columns;
+    }
+}
+
+// cellText(i) is what column i of the table holds in this line. A cell wider than its column ends
+// its line.
 template <typename CellText>
 std::string textLine(const std::vector<TextColumn>& columns, const CellText& cellText)
 {
-    std::string text = " ";
-    std::string ahead; // blanks are written only before something
+    std::string text; // lines that are complete
+    std::string line;
+    std::size_t start = columnGap;
     for (const TextColumn& column : columns) {
         const std::string cell = cellText(column.index);
-        const std::string blanks(column.width - std::min(column.width, cell.size()), ' ');
-        if (column.alignsRight)
-            ahead += blanks;
         if (cell.size() > column.width) {
-            text += ahead;
-            text += ' ' + cell + "\n ";
-            ahead.assign(text.size() - text.rfind('\n') + column.width - 1, ' ');
+            const bool fits = start + cell.size() <= lineWidth;
+            if (!fits && !line.empty())
+                text += std::exchange(line, "") + "\n";
+            line.resize(fits ? start : columnGap, ' ');
+            text += std::exchange(line, "") + wrapped(cell);
         } else if (!cell.empty()) {
-            text += ahead;
-            text += ' ' + cell;
-            ahead.clear();
-        } else {
-            ahead += ' ';
+            line.resize(start + (column.alignsRight ? column.width - cell.size() : 0), ' ');
+            line += cell;
         }
-        if (!column.alignsRight)
-            ahead += blanks;
-        ahead += ' ';
+        start += column.width + columnGap;
     }
-    return text;
+    return text + line;
 }
 
 void colourCards(std::string& text, const Column& column, const Cell& cell)
@@ -137,7 +150,7 @@ void writeExact(std::ostream& out, const Column& column, const Cell& cell)
 void writeTextTable(std::ostream& out, const Table& table, const Style& style)
 {
     out << table.intro;
-    const std::vector<TextColumn> columns = textColumns(table);
+    const std::vector<TextColumn> columns = fittingColumns(table);
     if (!table.rows.empty())
         out << textLine(columns, [&](std::size_t i) { return table.columns[i].heading; }) << "\n";
     for (const auto& row : table.rows) {
@@ -285,11 +298,12 @@ void writeReport(std::ostream& out, const Report& report, const Style& style)
 
 std::string wrapped(const std::string& text)
 {
+    constexpr std::size_t margin = 4; // for callers that set the text in
     std::string result;
     std::string line;
     std::istringstream words(text);
     for (std::string word; words >> word;) {
-        if (line.size() + word.size() + 1 > lineWidth) {
+        if (line.size() + word.size() + 1 > lineWidth - margin) {
             result += line + "\n";
             line = "   ";
         }

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <initializer_list>
@@ -139,7 +140,7 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_EQ(gameStatus, 0);
     for (const char* figure :
          {"99.54390437\n      return = 1653526326983/1661102543100\n", "Of the 2598960 deals",
-          "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
+          "19.5147     4.4175", "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
         EXPECT_THAT(game, HasSubstr(figure));
     EXPECT_THAT(run("--csv").first,
                 testing::StartsWith("table,row,field,value,fraction\n"
@@ -155,6 +156,15 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--format csv --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
                 HasSubstr("\nrows,\"4 to a straight flush, no gap\",deals,1200,"));
     EXPECT_THAT(run("--pays 8/5").first, HasSubstr("97.29843375"));
+    EXPECT_THAT(run("--csv --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
+                HasSubstr("\nrows,\"4 to an outside straight, 3 high\",deals,5964,"));
+    EXPECT_THAT(run("--mistakes").first, HasSubstr("468  0.01997   74  9cTcJcKcAd"));
+    EXPECT_THAT(run("--chart -", "printf 'ace\\nace\\n'").first, HasSubstr("never play:\n  ace\n"));
+    EXPECT_THAT(run("--simulate 9").first, HasSubstr("Fewer than a million"));
+    const std::string onTerminal = "script -qc '" QUILLET_ODDS " 2h3h4h5h7d' /dev/null </dev/null;";
+    EXPECT_THAT(run("", "TERM=xterm " + onTerminal + " exit").first, HasSubstr("\x1b[31mh"));
+    EXPECT_THAT(run("", "NO_COLOR=1 TERM=xterm " + onTerminal + " exit").first,
+                testing::Not(HasSubstr("\x1b")));
     EXPECT_THAT(run("--sitting 2400").first, testing::ContainsRegex("ahead +30\\.3451"));
     EXPECT_EQ(run("9c Tc").second, 2);
 }
@@ -240,14 +250,23 @@ TEST(Program, writesACardWholeOrNotAtAll)
 
 TEST(Program, keepsToEightyColumnsInText)
 {
-    for (const char* arguments :
-         {"", "--mistakes", "--sitting 1e4 --bankroll 1000", "--all 9cTcJcKcAd", "--simulate 1000",
-          "--rows", "--help", "--chart " QUILLET_CHARTS_FOLDER "/trainer.chart",
-          "--chart " QUILLET_CHARTS_FOLDER "/perfect.chart"}) {
+    const std::string perfect = "--chart " QUILLET_CHARTS_FOLDER "/perfect.chart";
+    const std::vector<std::string> all{"",
+                                       "--mistakes",
+                                       "--sitting 1e4 --bankroll 1000",
+                                       "--all 9cTcJcKcAd",
+                                       "--simulate 1000",
+                                       "--rows",
+                                       "--help",
+                                       "--pays 20000/20000",
+                                       "--best-chart 1",
+                                       perfect,
+                                       perfect + " --pays 8/5 --mistakes"};
+    for (const std::string& arguments : all) {
         std::istringstream lines(run(arguments).first);
         for (std::string line; std::getline(lines, line);)
-            EXPECT_LE(line.size(), 84U)
-                << arguments << ": " << line; // signs of suits are three bytes
+            EXPECT_LE(std::ranges::count_if(line, [](char c) { return (c & 0xc0) != 0x80; }), 80)
+                << arguments << ": " << line;
     }
 }
 
