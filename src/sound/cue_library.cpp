@@ -1,6 +1,6 @@
 #include "sound/cue_library.h"
 
-#include <SDL.h>
+#include "sound/sdl.h"
 
 #include <algorithm>
 #include <cstring>
@@ -21,7 +21,7 @@ constexpr std::size_t mostKeptBytes = 16'000'000;
 // The file as SDL decodes it.
 struct Recording {
     SDL_AudioSpec format{};
-    std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> data{nullptr, &SDL_FreeWAV};
+    std::unique_ptr<Uint8, decltype(Sdl::freeWAV)> data{nullptr, nullptr};
     Uint32 bytes = 0;
 };
 
@@ -54,15 +54,15 @@ bool isWhole(const std::vector<char>& contents)
     return false;
 }
 
-Recording decode(const std::vector<char>& contents)
+Recording decode(const Sdl& sdl, const std::vector<char>& contents)
 {
     Recording recording;
     if (!isWhole(contents))
         return recording;
     Uint8* data = nullptr;
-    SDL_RWops* reader = SDL_RWFromConstMem(contents.data(), static_cast<int>(contents.size()));
-    if (SDL_LoadWAV_RW(reader, 1, &recording.format, &data, &recording.bytes))
-        recording.data.reset(data);
+    SDL_RWops* reader = sdl.rwFromConstMem(contents.data(), static_cast<int>(contents.size()));
+    if (sdl.loadWAV_RW(reader, 1, &recording.format, &data, &recording.bytes))
+        recording.data = {data, sdl.freeWAV};
     return recording;
 }
 
@@ -77,11 +77,11 @@ bool isPlayable(const Recording& recording)
     return recording.bytes <= mostSeconds * bytesPerSecond;
 }
 
-std::shared_ptr<const SoundCue> converted(const Recording& recording)
+std::shared_ptr<const SoundCue> converted(const Sdl& sdl, const Recording& recording)
 {
     const SDL_AudioSpec& format = recording.format;
     SDL_AudioCVT conversion{};
-    if (SDL_BuildAudioCVT(&conversion, format.format, format.channels, format.freq, AUDIO_S16SYS,
+    if (sdl.buildAudioCVT(&conversion, format.format, format.channels, format.freq, AUDIO_S16SYS,
                           soundChannels, soundRate) < 0)
         return nullptr;
 
@@ -91,7 +91,7 @@ std::shared_ptr<const SoundCue> converted(const Recording& recording)
     std::copy_n(recording.data.get(), recording.bytes, work.begin());
     conversion.buf = work.data();
     conversion.len = static_cast<int>(recording.bytes);
-    if (conversion.needed && SDL_ConvertAudio(&conversion) != 0)
+    if (conversion.needed && sdl.convertAudio(&conversion) != 0)
         return nullptr;
 
     const int bytes = conversion.needed ? conversion.len_cvt : conversion.len;
@@ -104,8 +104,11 @@ std::shared_ptr<const SoundCue> converted(const Recording& recording)
 
 std::shared_ptr<const SoundCue> loaded(const std::string& path, std::uintmax_t size)
 {
-    const Recording recording = decode(contentsOf(path, size));
-    return isPlayable(recording) ? converted(recording) : nullptr;
+    const Sdl* sdl = Sdl::load();
+    if (!sdl)
+        return nullptr;
+    const Recording recording = decode(*sdl, contentsOf(path, size));
+    return isPlayable(recording) ? converted(*sdl, recording) : nullptr;
 }
 
 } // namespace

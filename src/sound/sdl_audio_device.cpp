@@ -1,6 +1,6 @@
 #include "sound/sdl_audio_device.h"
 
-#include <SDL.h>
+#include "sound/sdl.h"
 
 #include <dlfcn.h>
 #include <mutex>
@@ -26,11 +26,11 @@ void muteAlsa()
         set(ignoreAlsaMessage);
 }
 
-void prepareSdl()
+void prepare(const Sdl& sdl)
 {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_APP_NAME, "Quillet");
-    SDL_LogSetOutputFunction([](void*, int, SDL_LogPriority, const char*) {}, nullptr);
+    sdl.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    sdl.setHint(SDL_HINT_APP_NAME, "Quillet");
+    sdl.logSetOutputFunction([](void*, int, SDL_LogPriority, const char*) {}, nullptr);
     muteAlsa();
 }
 
@@ -44,10 +44,13 @@ void renderBlock(void* mixer, Uint8* block, int bytes)
 
 std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
 {
+    const Sdl* sdl = Sdl::load();
+    if (!sdl)
+        return nullptr;
     static std::once_flag prepared;
-    std::call_once(prepared, prepareSdl);
+    std::call_once(prepared, prepare, *sdl);
 
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+    if (sdl->initSubSystem(SDL_INIT_AUDIO) != 0)
         return nullptr;
     SDL_AudioSpec wanted{};
     wanted.freq = soundRate;
@@ -56,25 +59,25 @@ std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
     wanted.samples = 512;
     wanted.callback = renderBlock;
     wanted.userdata = &mixer;
-    const SDL_AudioDeviceID id = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    const SDL_AudioDeviceID id = sdl->openAudioDevice(nullptr, 0, &wanted, nullptr, 0);
     if (id == 0) {
         // The next attempt may find another server, so the choice of driver goes too.
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        sdl->quitSubSystem(SDL_INIT_AUDIO);
         return nullptr;
     }
-    SDL_PauseAudioDevice(id, 0);
-    return std::unique_ptr<SdlAudioDevice>(new SdlAudioDevice(id));
+    sdl->pauseAudioDevice(id, 0);
+    return std::unique_ptr<SdlAudioDevice>(new SdlAudioDevice(*sdl, id));
 }
 
 SdlAudioDevice::~SdlAudioDevice()
 {
-    SDL_CloseAudioDevice(m_id);
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    m_sdl.closeAudioDevice(m_id);
+    m_sdl.quitSubSystem(SDL_INIT_AUDIO);
 }
 
 bool SdlAudioDevice::isLost() const
 {
-    return SDL_GetAudioDeviceStatus(m_id) == SDL_AUDIO_STOPPED;
+    return m_sdl.getAudioDeviceStatus(m_id) == SDL_AUDIO_STOPPED;
 }
 
 } // namespace quillet

@@ -9,6 +9,8 @@
 namespace quillet
 {
 
+struct Sdl;
+
 // The machine's sound output while it is open. Opening and closing take as long as the sound
 // server likes, so only a thread that nobody waits for may do either.
 class SdlAudioDevice : public AudioDevice
@@ -24,8 +26,9 @@ public:
     [[nodiscard]] bool isLost() const override;
 
 private:
-    explicit SdlAudioDevice(std::uint32_t id) : m_id(id) {}
+    SdlAudioDevice(const Sdl& sdl, std::uint32_t id) : m_sdl(sdl), m_id(id) {}
 
+    const Sdl& m_sdl;
     std::uint32_t m_id;
 };
 

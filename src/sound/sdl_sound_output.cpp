@@ -1,9 +1,8 @@
 #include "sound/sdl_sound_output.h"
 
 #include "sound/cue_player.h"
+#include "sound/sdl.h"
 #include "sound/sdl_audio_device.h"
-
-#include <SDL.h>
 
 #include <chrono>
 #include <condition_variable>
@@ -99,7 +98,7 @@ SdlSoundOutput::SdlSoundOutput() : m_mailbox(std::make_shared<Mailbox>())
 {
     std::thread([mailbox = m_mailbox] {
         work(mailbox);
-        SDL_TLSCleanup();
+        Sdl::leaveThread();
         mailbox->reportEnd();
     }).detach();
 }
