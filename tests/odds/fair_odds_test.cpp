@@ -1,4 +1,3 @@
-#include "engine/pay_table.h"
 #include "odds/bad_input.h"
 #include "odds/fair_odds.h"
 
@@ -34,21 +33,6 @@ TEST(FairOdds, perfectPlayComesOutAsPublished)
     EXPECT_EQ(odds().returnOf(Strategy::chartBest).text(), "149999803741/151009322100");
     const Fraction& royal = odds().chanceOf(Strategy::perfect, 1);
     EXPECT_EQ(Fraction(royal.denominator(), royal.numerator()).decimals(2), "40390.55");
-}
-
-TEST(FairOdds, chancesAddUpToTheReturn)
-{
-    for (const Strategy strategy :
-         {Strategy::perfect, Strategy::chartBest, Strategy::chartAverage, Strategy::chartWorst}) {
-        Fraction chances;
-        Fraction credits;
-        for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
-            chances = chances + odds().chanceOf(strategy, outcome);
-            credits = credits + odds().chanceOf(strategy, outcome) * trainersPays()[outcome];
-        }
-        EXPECT_EQ(chances, Fraction(1, 1));
-        EXPECT_EQ(credits / wager, odds().returnOf(strategy));
-    }
 }
 
 TEST(Pays, areReadAsAPersonWritesThem)
