@@ -92,7 +92,12 @@ void HandController::clickDeck(std::int16_t index)
 {
     m_ports.table.showDeck();
     // A game that has been asked for deals by itself, as soon as the interrupted sequence is over.
-    if (m_state.handBusy || m_next == Next::newGame)
+    if (m_next == Next::newGame)
+        return;
+    // The pause after a hand is for automatic dealing, which the player may have switched off.
+    if (m_finishedHand == m_state.epoch && !m_prfPokerAutoDeal)
+        m_state.handBusy = false;
+    if (m_state.handBusy)
         return;
 
     const bool handComesByItself = m_prfPokerAutoDeal && m_firstDealComing;
@@ -259,6 +264,7 @@ void HandController::finishPaying()
 
 void HandController::dealNextHandByItself(std::uint32_t epoch)
 {
+    m_finishedHand = epoch;
     if (m_prfPokerAutoDeal && !pause(epoch, 2500))
         return;
     m_state.handBusy = false;

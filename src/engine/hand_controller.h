@@ -91,6 +91,8 @@ private:
     int m_sequencesRunning = 0; // one within another's pause
     // A new game is about to deal by itself: no hand is dealt, none runs.
     bool m_firstDealComing = false;
+    // The epoch of the last hand that was drawn and paid.
+    std::optional<std::uint32_t> m_finishedHand;
     // The total when the win is counted up, in credits; only while it is.
     std::optional<std::int16_t> m_payTarget;
 };

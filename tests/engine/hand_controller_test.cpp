@@ -200,6 +200,29 @@ TEST(HandController, automaticDealingDealsTheNextHand)
     EXPECT_EQ(game.counters.hands, 2);
     EXPECT_EQ(game.log.count("pause2500"), 1);
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+    game.state.judgePending = false;
+    game.in(600 + 250 + 200 + 2 * 500 + 1000, [&] {
+        game.prfPokerAutoDeal = false;
+        game.click();
+        EXPECT_EQ(game.counters.hands, 3) << "no hand would come by itself";
+    });
+    game.draw("");
+    EXPECT_EQ(game.counters.hands, 3);
+    EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
+}
+
+TEST(HandController, anErrorInAPauseLeavesNothingHalfDone)
+{
+    const auto fail = [] { throw RunTimeError("the wind"); };
+    Game game;
+    game.deal(royal);
+    game.in(600 + 250 + 200 + 600, fail);
+    game.draw("12345");
+    game.in(100, fail);
+    game.controller.initPokerScreen();
+    EXPECT_EQ(game.errors.texts.size(), 2U);
+    EXPECT_EQ(game.counters.total, -5 + 2 * 25) << "the rest is not paid with the next game";
+    EXPECT_EQ(game.table.fadeStep, 25) << "the text does not stay dark";
 }
 
 } // namespace quillet::test

@@ -109,13 +109,4 @@ TEST(EvaluatePokerHand, cardsOfNoDeckAreClassedByTheLetter)
     EXPECT_EQ(code({{{-1, 2, 164}, {-1, 5, 164}, {-1, 8, 164}, {-1, 6, 164}, {-1, 10, 1}}}), 21);
 }
 
-TEST(CardsToHand, keepsTheCardsOfThePattern)
-{
-    const std::vector<int> kept{5, 5, 4, 5, 4, 5, 5, 3, 4, 4, 2, 3, 4, 2, 4, 2, 3, 2, 2, 1, 0};
-    for (std::size_t row = 0; row < kept.size(); ++row)
-        EXPECT_EQ(CardsToHand(static_cast<std::int16_t>(row + 1)), kept[row]) << row + 1;
-    for (const int outside : {-32768, -1, 0, 22, 32767})
-        EXPECT_EQ(CardsToHand(static_cast<std::int16_t>(outside)), 0) << outside;
-}
-
 } // namespace quillet::test

@@ -93,16 +93,6 @@ TEST(Reentrancy, aClickRightAfterAskingForANewGameDealsNoHandInBetween)
     }
 }
 
-TEST(Reentrancy, gamesAskedForOneAfterAnotherDoNotPileUp)
-{
-    Game game;
-    for (int i = 1; i <= 2000; ++i)
-        game.in(10 * i, [&] { game.controller.initPokerScreen(); });
-    game.controller.initPokerScreen();
-    EXPECT_TRUE(game.state.handDealt);
-    EXPECT_LE(game.counters.hands, 20);
-}
-
 TEST(Reentrancy, aDeckClickBeforeTheFirstDealIsHeardWhenDealingIsByHand)
 {
     for (const auto& [moment, automatic] : {std::pair{100, false}, {900, false}, {900, true}}) {
