@@ -102,7 +102,7 @@ std::optional<NumericValue> parseDecimal(std::string_view text)
         decimal->point += *exponent;
     }
     const std::int64_t size = rounded(*decimal);
-    return NumericValue{minus ? -size : size, decimal->digits.empty(), false};
+    return NumericValue{minus ? -size : size, decimal->digits.empty()};
 }
 
 // The value of a digit of any base, or one that is too large for every base.
@@ -117,8 +117,7 @@ int digitValue(char c)
 
 std::optional<NumericValue> parsePattern(std::string_view digits, int base)
 {
-    const bool closed = digits.ends_with('&');
-    if (closed)
+    if (digits.ends_with('&'))
         digits.remove_suffix(1);
     if (digits.empty())
         return std::nullopt;
@@ -130,10 +129,9 @@ std::optional<NumericValue> parsePattern(std::string_view digits, int base)
             return std::nullopt;
         bits = std::min(bits * base + digit, farOutside / 100);
     }
-    const bool isWord = !closed && bits <= std::numeric_limits<std::uint16_t>::max();
     if (bits <= std::numeric_limits<std::uint32_t>::max())
-        return NumericValue{static_cast<std::int32_t>(bits), bits == 0, isWord};
-    return NumericValue{bits, false, false};
+        bits = static_cast<std::int32_t>(bits);
+    return NumericValue{bits, bits == 0};
 }
 
 } // namespace
@@ -164,9 +162,8 @@ bool fitsInt32(const NumericValue& value)
 
 std::int16_t toInt16(const NumericValue& value)
 {
-    const bool fits = value.rounded >= std::numeric_limits<std::int16_t>::min() &&
-                      value.rounded <= std::numeric_limits<std::int16_t>::max();
-    if (!fits && !value.isWord)
+    if (value.rounded < std::numeric_limits<std::int16_t>::min() ||
+        value.rounded > std::numeric_limits<std::int16_t>::max())
         throw overflowError();
     return static_cast<std::int16_t>(value.rounded);
 }

@@ -12,16 +12,14 @@ namespace quillet
 struct NumericValue {
     std::int64_t rounded = 0; // halves to even; beyond 10^18 only "far outside 32 bits" is kept
     bool isZero = true;       // of the value before rounding: 0.4 is not zero
-    bool isWord = false;      // a bit pattern of 16 bits, see parseNumber
 };
 
 // Reads "-12", "+1.5", ".5", "2.", "1e-3" (the exponent's letter may be d, too), and the bit
 // patterns "&HFF" and "&O17" in either letter case; blanks and tabs around them do not count.
 // Nothing when the text is none of these. No locale has a say.
 //
-// A bit pattern has up to 32 bits, the top one is the sign: "&HFFFFFFFF" is -1. Read as a 16-bit
-// integer, a pattern of at most 16 bits has its sign in bit 15, so "&HFFFF" is -1 there and
-// 65535 as a 32-bit integer; a closing "&" makes it 65535 for both ("&HFFFF&").
+// A bit pattern has up to 32 bits, the top one is the sign: "&HFFFFFFFF" is -1. A closing "&" is
+// allowed.
 [[nodiscard]] std::optional<NumericValue> parseNumber(std::string_view text);
 
 // As parseNumber, but a text that is no number throws a type mismatch.

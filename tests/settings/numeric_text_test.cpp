@@ -55,8 +55,8 @@ TEST(NumericText, bitPatternsTakeTheirSignFromTheTopBit)
                    "&H80000008 -2147483640  &H100000000 Overflow  &HZ1 1  &H1Z Overflow "
                    "&o17 15  &O37777777777& -1",
                    toInt32);
-    expectOutcomes("&HFFFF -1  &HFFFF& Overflow  &H8000 -32768  &H10000 Overflow "
-                   "&HFFFFFFFF -1  &O177777 -1",
+    expectOutcomes("&HFFFF Overflow  &HFFFF& Overflow  &H8000 Overflow  &H7FFF 32767 "
+                   "&HFFFFFFFF -1  &O177777 Overflow",
                    toInt16);
 }
 
