@@ -5,11 +5,12 @@
 namespace quillet
 {
 
-// Times since some fixed moment; they never run backwards.
+// Times that never run backwards.
 class Clock
 {
 public:
     virtual ~Clock() = default;
+    // Since the program's start.
     [[nodiscard]] virtual std::int64_t milliseconds() = 0;
     // What the calling thread has spent on a processor.
     [[nodiscard]] virtual double processorSeconds() = 0;

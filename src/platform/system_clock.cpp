@@ -6,10 +6,17 @@
 namespace quillet
 {
 
+namespace
+{
+
+const auto programStart = std::chrono::steady_clock::now();
+
+} // namespace
+
 std::int64_t SystemClock::milliseconds()
 {
     using namespace std::chrono;
-    return duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch()).count();
+    return duration_cast<std::chrono::milliseconds>(steady_clock::now() - programStart).count();
 }
 
 double SystemClock::processorSeconds()

@@ -38,13 +38,16 @@ int frameCount(std::int16_t pixels, std::int16_t stepSize)
         static_cast<double>(static_cast<float>(pixels) / static_cast<float>(stepSize)));
 }
 
-} // namespace
-
+// The delay with which a flight counts. One that is slower than the slider can set comes out of an
+// edited settings file and would stop the game for hours, since no event is handled during a
+// flight; beyond longestDelay it stays, and counting throws.
 std::int32_t delayFlown(std::int32_t storedDelay)
 {
     constexpr std::int32_t slowestOfTheSlider = 6000;
     return storedDelay <= longestDelay ? std::min(storedDelay, slowestOfTheSlider) : storedDelay;
 }
+
+} // namespace
 
 // The longer axis moves by whole steps, the other follows in fractions. Equal distances count as
 // a path along y that moves both axes alike.

@@ -10,11 +10,6 @@
 namespace quillet
 {
 
-// The delay with which a flight counts. One that is slower than the slider can set comes out of an
-// edited settings file and would stop the game for hours, since no event is handled during a
-// flight; beyond longestDelay it stays, and counting throws.
-[[nodiscard]] std::int32_t delayFlown(std::int32_t storedDelay);
-
 // Flies one card over the painted table. No event is handled during a flight; its speed rests on
 // prfAnimationDelay. The referenced objects outlive the flight.
 class CardFlight

@@ -20,7 +20,7 @@ constexpr std::int32_t step = 10;
 constexpr int mostRounds = 6;
 
 // A broken cost must not overflow the delay.
-constexpr double mostSteps = 100'000;
+constexpr int mostSteps = 100'000;
 
 // Looks for the first of the delays start, start + 10, ... whose round takes at least the limit.
 class Search
@@ -32,18 +32,18 @@ public:
     {
     }
 
-    // Leaves the delay found; answers how long its round takes, measured or reckoned.
+    // Leaves the delay found; returns how long its round takes, measured or computed.
     double run(const MeasureRound& measure)
     {
         for (int round = 0; round < mostRounds && m_enough != m_tooFew + 1; ++round) {
-            const int steps = likelySteps();
+            const int steps = likelySteps(m_enough - 1);
             m_delay = m_start + steps * step;
             const std::optional<double> took = measure(m_delay);
             if (!took)
                 break;
             note(steps, *took);
         }
-        const int steps = m_enough == m_tooFew + 1 ? m_enough : likelySteps();
+        const int steps = likelySteps(m_enough);
         m_delay = m_start + steps * step;
         return m_enough == steps ? m_enoughTook : m_base + m_stepCost * steps;
     }
@@ -62,17 +62,13 @@ private:
         }
     }
 
-    // What the cost makes likely, but always between what is known to be too few and enough.
-    [[nodiscard]] int likelySteps() const
+    // What the cost makes likely, but more than is known to be too few, and max at most.
+    [[nodiscard]] int likelySteps(int max) const
     {
         const double missing = std::max(m_limit - m_base, 0.0);
         const double steps = m_stepCost > 0.0 ? std::ceil(missing / m_stepCost) : 0.0;
-        const int likely = static_cast<int>(std::min(steps, mostSteps));
-        const int most = m_enough == unknown ? likely : m_enough - 1;
-        return std::max(std::min(likely, most), m_tooFew + 1);
+        return std::max(static_cast<int>(std::min<double>(steps, max)), m_tooFew + 1);
     }
-
-    static constexpr int unknown = -2;
 
     std::int32_t& m_delay;
     const std::int32_t m_start;
@@ -80,7 +76,7 @@ private:
     const double m_base; // seconds of a round without a step
     double m_stepCost;   // seconds that a step adds to it
     int m_tooFew = -1;
-    int m_enough = unknown;
+    int m_enough = mostSteps + 1; // no round has been, so far
     double m_enoughTook = 0.0;
 };
 

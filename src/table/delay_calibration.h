@@ -13,7 +13,7 @@ struct RoundCost {
     double secondsPerUnit = 0.0; // of the whole round
 };
 
-// Runs a round of frames with this delay and tells how long it took, in seconds. Nothing when
+// Runs a round of frames with this delay and returns how long it took, in seconds. Nothing when
 // there is no time left for a round: the delay is then what the rounds so far make likely.
 using MeasureRound = std::function<std::optional<double>(std::int32_t delay)>;
 

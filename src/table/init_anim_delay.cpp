@@ -22,7 +22,8 @@ constexpr std::int32_t bannerTop = -60;
 constexpr int bannerFrames = 61;
 constexpr double trail = 10;
 
-// In milliseconds, for all rounds together. An idle machine needs half of it.
+// Milliseconds from the program's start to the end of the last round. Beside many busy programs
+// the table then takes about as long again as the program took to come here.
 constexpr std::int64_t patience = 2800;
 
 QImage bannerPicture(QSize size)
@@ -51,8 +52,9 @@ void DelayMeter::InitAnimDelay(QSizeF strip)
         const double scale = m_pictures.canvas->scale();
         m_bannerStrip = Surface(strip, scale);
         picBanner3 = bannerPicture((strip * scale).toSize());
-        m_started = m_clock.milliseconds();
         m_preferences.prfAnimationDelay = 0;
+        m_started = m_clock.milliseconds();
+        m_startedProcessor = m_clock.processorSeconds();
         const double unit = secondsPerDelayUnit();
         calibrateFlight(m_preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
                         [this](std::int32_t delay) {
@@ -66,16 +68,26 @@ void DelayMeter::InitAnimDelay(QSizeF strip)
     });
 }
 
-// A round that other programs slow down takes as much longer on the clock on the wall, and so will
-// the next one.
+// Other programs make the next round take as much longer than its processor time as they did so
+// far.
 std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>& round)
 {
-    const std::int64_t before = m_clock.milliseconds();
-    if (before - m_started + m_lastRound > patience)
+    const std::int64_t now = m_clock.milliseconds();
+    const auto waited = static_cast<double>(now - m_started);
+    const double slowness = waited / (m_clock.processorSeconds() - m_startedProcessor);
+    if (static_cast<double>(now) + m_longestRound * slowness > patience)
         return std::nullopt;
-    const double took = round();
-    m_lastRound = m_clock.milliseconds() - before;
-    return took;
+    return round();
+}
+
+double DelayMeter::secondsTaken(const std::function<void()>& frames)
+{
+    const double start = m_clock.processorSeconds();
+    frames();
+    const double elapsed = m_clock.processorSeconds() - start;
+    m_longestRound = std::max(m_longestRound, elapsed);
+    m_afterRound();
+    return elapsed;
 }
 
 double DelayMeter::flightRound(std::int32_t delay)
@@ -83,30 +95,26 @@ double DelayMeter::flightRound(std::int32_t delay)
     Surface& board = m_pictures.BoardBuffer;
     const QSizeF size(std::nearbyint(m_pictures.picReject.place.width()),
                       std::nearbyint(m_pictures.picReject.place.height()));
-    const double start = m_clock.processorSeconds();
-    for (int frame = 0; frame < flightFrames; ++frame) {
-        m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
-        m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColour);
-        m_pictures.canvas->copyPixels(
-            board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
-        board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
-        countingLoop(delay);
-    }
-    const double elapsed = m_clock.processorSeconds() - start;
-    m_afterRound();
-    return elapsed;
+    return secondsTaken([&] {
+        for (int frame = 0; frame < flightFrames; ++frame) {
+            m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
+            m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColour);
+            m_pictures.canvas->copyPixels(
+                board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
+            board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
+            countingLoop(delay);
+        }
+    });
 }
 
 double DelayMeter::bannerRound(std::int32_t delay)
 {
-    const double start = m_clock.processorSeconds();
-    for (std::int32_t k = bannerTop; k <= 0; ++k) {
-        m_bannerStrip.drawPixels(picBanner3, QPointF(0, k));
-        countingLoop(delay);
-    }
-    const double elapsed = m_clock.processorSeconds() - start;
-    m_afterRound();
-    return elapsed;
+    return secondsTaken([&] {
+        for (std::int32_t k = bannerTop; k <= 0; ++k) {
+            m_bannerStrip.drawPixels(picBanner3, QPointF(0, k));
+            countingLoop(delay);
+        }
+    });
 }
 
 double DelayMeter::secondsPerDelayUnit()

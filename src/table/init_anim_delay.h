@@ -28,9 +28,10 @@ public:
     void InitAnimDelay(QSizeF strip);
 
 private:
-    // Nothing when the player has waited long enough.
+    // Nothing when the round would probably end too late.
     [[nodiscard]] std::optional<double> whileTimeIsLeft(const std::function<double()>& round);
-    // Seconds taken by a round of frames with this delay.
+    // Seconds taken by a round of frames, with this delay.
+    [[nodiscard]] double secondsTaken(const std::function<void()>& frames);
     [[nodiscard]] double flightRound(std::int32_t delay);
     [[nodiscard]] double bannerRound(std::int32_t delay);
     [[nodiscard]] double secondsPerDelayUnit();
@@ -42,9 +43,10 @@ private:
     ErrorBox& m_errorBox;
     std::function<void()> m_afterRound;
     Surface m_bannerStrip;
-    QImage picBanner3;            // what slides into it
-    std::int64_t m_started = 0;   // milliseconds of the clock
-    std::int64_t m_lastRound = 0; // milliseconds that it took
+    QImage picBanner3;               // what slides into it
+    std::int64_t m_started = 0;      // milliseconds of the clock
+    double m_startedProcessor = 0.0; // and seconds of the processor's
+    double m_longestRound = 0.4;     // seconds of the processor's; what the rounds aim at, or more
 };
 
 } // namespace quillet

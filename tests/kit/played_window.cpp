@@ -99,7 +99,7 @@ std::string PlayedWindow::rowColour(int playCode)
 double PlayedWindow::processorSeconds()
 {
     failAt("clock");
-    return static_cast<double>(clock.now += 500) / 1000;
+    return static_cast<double>(clock.now += look) / 1000 / slowness;
 }
 
 void PlayedWindow::failAt(const char* port) const

@@ -77,7 +77,9 @@ public:
     RecordedSounds sounds;
     RecordingShell pages;
     VirtualClock clock;
-    std::string failing;    // "clock" or "decks"
+    int look = 500;      // milliseconds that a look at the processor's time takes: a slow machine
+    double slowness = 1; // the time that passes, over the processor's
+    std::string failing; // "clock" or "decks"
     std::vector<int> ended; // the codes with which the process was to end
     Surroundings surroundings;
     std::unique_ptr<frmMain> window;
@@ -88,7 +90,7 @@ protected:
 
 private:
     std::int64_t milliseconds() override { return clock.now; }
-    // Moves on with every look, as on a very slow machine.
+    // Moves on with every look.
     double processorSeconds() override;
     void failAt(const char* port) const;
 

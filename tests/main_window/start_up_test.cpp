@@ -38,6 +38,13 @@ TEST(StartUp, theFirstStartMeasuresTheDelaysOrTellsWhyNot)
         EXPECT_EQ(game.errors.texts,
                   std::vector<std::string>(fails ? 1 : 0, "Error in InitAnimDelay the wind"));
     }
+    PlayedWindow busy;
+    busy.store.texts["prfAnimationDelay"] = "-1";
+    busy.look = 100;
+    busy.slowness = 12.5;
+    ASSERT_TRUE(busy.start());
+    EXPECT_EQ(busy.window->prfAnimationDelay, 170) << "computed from the cost of a frame";
+    EXPECT_LE(busy.clock.now, 13 * busy.look + 2150) << "no round is measured in vain";
     PlayedWindow fastest;
     fastest.store.texts["prfAnimationDelay"] = "0";
     fastest.failing = "clock";
