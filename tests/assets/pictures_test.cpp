@@ -1,7 +1,4 @@
 #include "assets/make/pictures/pictures.h"
-#include "assets/make/pictures/table_geometry.h"
-#include "platform/colour_contrast.h"
-#include "tests/kit/pixels.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -10,9 +7,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <vector>
 
 namespace quillet::test
 {
@@ -56,42 +51,6 @@ double difference(const QString& one, const QString& other)
     return sum / static_cast<double>(first.sizeInBytes());
 }
 
-QRect inPixels(const QRectF& place)
-{
-    return QRectF(place.topLeft() * artwork::tableScale, place.size() * artwork::tableScale)
-        .toAlignedRect();
-}
-
-// The least contrast of white to the pixels of a narrow band round the rectangle.
-double whiteEdgeContrast(const QImage& table, const QRect& card)
-{
-    const QRect band = card.adjusted(-4, -4, 4, 4);
-    double least = 21;
-    for (int y = band.top(); y <= band.bottom(); ++y)
-        for (int x = band.left(); x <= band.right(); ++x)
-            if (!card.contains(x, y))
-                least = std::min(least, contrast(Qt::white, table.pixelColor(x, y)));
-    return least;
-}
-
-// How many pixels from the cards the nearest line across the tray lies, upwards (-1) or downwards
-// (1); a line is brighter than what is between it and the cards.
-int distanceToLine(const QImage& table, const QRect& cards, int way)
-{
-    constexpr int farthest = 20;
-    std::vector<double> brightness;
-    for (int away = 1; away <= farthest; ++away) {
-        const int y = way < 0 ? cards.top() - away : cards.bottom() + away;
-        double sum = 0;
-        for (int x = cards.left(); x <= cards.right(); ++x)
-            sum += qGray(table.pixel(x, y));
-        brightness.push_back(sum / cards.width());
-    }
-    const auto line = std::find_if(brightness.begin(), brightness.end(),
-                                   [&](double row) { return row > brightness.front() + 15; });
-    return static_cast<int>(line - brightness.begin()) + 1;
-}
-
 } // namespace
 
 TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
@@ -103,35 +62,6 @@ TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
     for (const QString& name : written)
         EXPECT_LT(difference(folder.filePath(name), assets.filePath(name)), 1)
             << name.toStdString();
-}
-
-TEST(Icon, isOneShapeWithoutStraySpecks)
-{
-    const QImage icon(assets.filePath("icons/quillet-512.png"));
-    ASSERT_EQ(icon.size(), QSize(512, 512));
-    EXPECT_EQ(regions(icon, [](QRgb pixel) { return qAlpha(pixel) > 0; }).size(), 1U);
-    for (const Region& white : regions(icon, [](QRgb pixel) { return qGray(pixel) > 225; }))
-        EXPECT_GT(white.pixels, 40);
-}
-
-TEST(Tables, letEveryCardEdgeStandOutInTheMiddleOfItsTray)
-{
-    const QDir tables(assets.filePath("pics"));
-    EXPECT_GE(tables.count(), 3U);
-    for (const QString& name : tables.entryList({"*.jpg"}, QDir::Files)) {
-        SCOPED_TRACE(name.toStdString());
-        const QImage table(tables.filePath(name));
-        EXPECT_EQ(table.size(), QSize(1600, 880));
-        EXPECT_EQ(table.dotsPerMeterX(), 7559) << "twice its size";
-        EXPECT_GE(whiteEdgeContrast(table, inPixels(artwork::deckSeen())), 3);
-        for (const QRectF& place : artwork::cardPlaces())
-            EXPECT_GE(whiteEdgeContrast(table, inPixels(place)), 3) << place.left();
-
-        const QRect cards = inPixels(artwork::cardPlaces().front() | artwork::cardPlaces().back());
-        const int above = distanceToLine(table, cards, -1);
-        EXPECT_LE(above, 14);
-        EXPECT_NEAR(above, distanceToLine(table, cards, 1), 2) << "in the middle of the tray";
-    }
 }
 
 } // namespace quillet::test
