@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # To be sourced: a virtual X server and a window manager in which a script plays the trainer as a
-# player would with a mouse. The script reads its files in $folder, which goes when it ends.
+# player would with a mouse. The script reads its files in $folder, which goes when it ends. It sets
+# $caller, the name in its messages, and may set $slack, by how much a busy machine may be slower.
 
 folder=$(mktemp -d)
 mkdir -m 700 "$folder"/{config,cache,data,run}
@@ -27,11 +28,11 @@ fail() {
 
 # wait_for SECONDS WHAT COMMAND...: tries the command until it succeeds.
 wait_for() {
-    local deadline=$((SECONDS + $1)) what=$2
+    local deadline=$((SECONDS + $1 * ${slack:-1})) what=$2
     shift 2
     until "$@"; do
         [ $SECONDS -lt $deadline ] || fail "$what did not happen in time."
-        sleep 0.2
+        sleep 0.1
     done
 }
 

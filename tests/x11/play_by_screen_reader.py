@@ -176,6 +176,8 @@ def a_hand_is_played(table):
     wait_for("the next hand", lambda: table.counter("Hands") == 2 and len(table.cards()) == 5)
     wait_for("its best play", lambda: table.chart.description.endswith(", best play"))
     hands = find(table.chart, "label", "Hands 2")
+    check(not any("accessible-name" in kind and name == "Won 0" for kind, name in heard),
+          "a counter that did not change is told again")
     check(sources.index(window("Quillet Help"), asked) < sources.index(hands, asked),
           "a key is heard only after the pause")
     key("Escape")

@@ -5,53 +5,17 @@
 set -u
 
 program=$1
-scratch=$(mktemp -d)
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
-    wait 2>/dev/null
-    rm -rf "$scratch"
-}
-trap cleanup EXIT
-
-fail() {
-    echo "FAILED: $*" >&2
-    import -silent -window root "${PLAY_THROUGH_PICTURE:-$scratch/failed.png}" 2>/dev/null
-    exit 1
-}
-
-# wait_for SECONDS WHAT COMMAND...: until the command succeeds. A busy machine takes three times the
-# seconds.
-wait_for() {
-    local deadline=$((SECONDS + 3 * $1)) what=$2
-    shift 2
-    until "$@"; do
-        ((SECONDS < deadline)) || fail "waited in vain for $what"
-        sleep 0.05
-    done
-}
-
-export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch
-export SDL_AUDIODRIVER=dummy QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
-unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
-mkdir -p "$HOME"
+caller=play_through slack=3
+. "$(dirname "$0")/../../tools/unseen-display.sh"
+export HOME=$folder SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 settings=$XDG_CONFIG_HOME/Quillet/settings.ini
 
 # Nothing here leads to a page.
-mkdir "$scratch/bin"
-printf '#!/bin/sh\necho "$@" >>"%s/opened"\n' "$scratch" >"$scratch/bin/xdg-open"
-chmod +x "$scratch/bin/xdg-open"
-export PATH=$scratch/bin:$PATH
-
-exec {server}<> <(:)
-Xvfb -displayfd "$server" -screen 0 1100x800x24 -nolisten tcp 2>"$scratch/xvfb.log" &
-pids+=($!)
-read -r -t 20 -u "$server" display || fail "no X server"
-export DISPLAY=:$display
-openbox >"$scratch/openbox.log" 2>&1 &
-pids+=($!)
-managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q '#'; }
-wait_for 20 "the window manager" managed
+mkdir "$folder/bin"
+printf '#!/bin/sh\necho "$@" >>"%s/opened"\n' "$folder" >"$folder/bin/xdg-open"
+chmod +x "$folder/bin/xdg-open"
+export PATH=$folder/bin:$PATH
+start_display
 
 window_named() { xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -q .; }
 gone() { ! kill -0 "$game" 2>/dev/null; }
@@ -61,9 +25,9 @@ title="Jacks or Better Quillet"
 exit_title="More Texas Hold'em Resources.."
 
 start() {
-    "$program" >"$scratch/program.log" 2>&1 &
+    "$program" >"$folder/program.log" 2>&1 &
     game=$!
-    pids+=("$game")
+    helpers+=("$game")
     wait_for 20 "the main window" window_named "$title"
     wait_for 10 "the keyboard" active_is "$title"
     window=$(xdotool search --onlyvisible --name "$title" | tail -1)
@@ -157,6 +121,16 @@ save_preferences() {
     wait_for 10 "the main window again" active_is "$title"
 }
 
+# A start in vain.
+mkdir "${settings%/*}"
+printf '[Preferences]\nprfPKBackFace=abc\n' >"$settings"
+"$program" &
+vain=$!
+helpers+=("$vain")
+wait_for 20 "the error box" wmctrl -F -c Quillet
+wait "$vain" && fail "the program ended well after a start in vain"
+rm "$settings"
+
 # A first start.
 start
 [[ -e $settings ]] && fail "settings before the first end"
@@ -204,7 +178,7 @@ setting_is prfPKBackground vpokerwood.jpg
 keys Return
 wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
-cp "$settings" "$scratch/first.ini"
+cp "$settings" "$folder/first.ini"
 
 # A second start keeps them; the close box.
 start
@@ -215,7 +189,7 @@ wait_for 10 "the exit screen" active_is "$exit_title"
 keys alt+F4
 wait_for 10 "the end" gone
 wait "$game" || fail "the program ended with $?"
-cmp "$settings" "$scratch/first.ini" || fail "the settings were not kept"
+cmp "$settings" "$folder/first.ini" || fail "the settings were not kept"
 
 # Full screen and maximising are undone where the window was.
 start
@@ -246,8 +220,8 @@ save_preferences
 sleep "0.$((RANDOM % 9))"
 kill -9 "$game"
 wait "$game" 2>/dev/null
-cmp "$settings" "$scratch/first.ini" || fail "a killed program changed the settings"
+cmp "$settings" "$folder/first.ini" || fail "a killed program changed the settings"
 
-[[ -e $scratch/opened ]] && fail "a page was opened: $(cat "$scratch/opened")"
-[[ -s $scratch/program.log ]] && fail "the program spoke: $(cat "$scratch/program.log")"
+[[ -e $folder/opened ]] && fail "a page was opened: $(cat "$folder/opened")"
+[[ -s $folder/program.log ]] && fail "the program spoke: $(cat "$folder/program.log")"
 echo "passed in $SECONDS s"
