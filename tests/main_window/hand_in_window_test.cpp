@@ -1,3 +1,4 @@
+#include "platform/desktop_colours.h"
 #include "platform/number_keys.h"
 #include "table/picture_box.h"
 #include "table/poker_table.h"
@@ -71,6 +72,8 @@ TEST(HandInWindow, oddNumbersInTheStoreAreShownAsFarAsTheyGo)
     odd.clickCard(0);
     EXPECT_TRUE(outlined(odd, 0, QGuiApplication::palette().color(QPalette::WindowText)));
     EXPECT_EQ(odd.window->prfPKBackFace, 40) << "what is stored stays";
+    EXPECT_EQ(colourOf(0x80000011),
+              QGuiApplication::palette().color(QPalette::Disabled, QPalette::WindowText));
 }
 
 TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)

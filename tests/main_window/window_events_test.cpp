@@ -6,6 +6,7 @@
 #include "screens/web_pages.h"
 #include "tests/kit/played_window.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QMenu>
 #include <QPushButton>
@@ -164,6 +165,13 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     EXPECT_EQ(game.pages.opened, std::vector<std::string>(6, onlinePokerPage()));
     click(game.part("lblstatus"));
     EXPECT_EQ(game.pages.opened.size(), 6U) << "the text in the bar is no link";
+    QAccessible::queryAccessibleInterface(&game.part("picStatusBar"))
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(game.pages.opened.size(), 7U) << "a screen reader presses the bar";
+    game.pages.opened.pop_back();
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&game.part("picPoker0"))->state().checkable);
     // A button let go beside what it was pressed on has not clicked it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {

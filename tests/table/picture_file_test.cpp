@@ -24,10 +24,11 @@ QByteArray saved(const char* format)
     return buffer.data();
 }
 
-// One red pixel; the toolkit writes no such files.
+// One red pixel after an extension block; the toolkit writes no such files.
 QByteArray savedGif()
 {
     return QByteArray::fromHex("47494638396101000100800000ff0000ffffff"
+                               "21fe016100"
                                "2c00000000010001000002024401003b");
 }
 
@@ -86,6 +87,13 @@ TEST(PictureFile, aBitmapMayBeStoredFromTheTopDown)
     const QImage upwards = loaded(bytes);
     bytes.replace(22, 4, QByteArray::fromHex("e2ffffff")); // a height of -30
     EXPECT_EQ(loaded(bytes), upwards.mirrored());
+}
+
+TEST(PictureFile, aBitmapOfRunLengthsIsSmallerThanItsPixels)
+{
+    EXPECT_TRUE(goesOnToItsEnd(QByteArray::fromHex(
+        "424d42000000000000003e00000028000000640000001e000000010008000100000004000000"
+        "0000000000000000020000000000000000000000ffffff0064010001")));
 }
 
 } // namespace quillet::test

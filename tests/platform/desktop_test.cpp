@@ -1,0 +1,42 @@
+#include "platform/message_error_box.h"
+#include "platform/system_clock.h"
+#include "platform/window_exposure.h"
+#include "tests/kit/played_window.h"
+
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QThread>
+
+namespace quillet::test
+{
+
+TEST(MessageErrorBox, showsItsTextLetterByLetter)
+{
+    whileOpen<QMessageBox>([] { MessageErrorBox().showError("<b>\n&"); },
+                           [](QMessageBox& box) {
+                               EXPECT_EQ(box.text(), "<b>\n&");
+                               EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                           });
+}
+
+TEST(SystemClock, countsThisThreadsWorkApartFromTheTime)
+{
+    SystemClock clock;
+    const std::int64_t start = clock.milliseconds();
+    const double processor = clock.processorSeconds();
+    QThread::msleep(50);
+    EXPECT_LT(clock.processorSeconds() - processor, 0.02);
+    EXPECT_GE(clock.milliseconds() - start, 49);
+}
+
+TEST(WindowExposure, aWindowThatIsNeverSeenIsNotWaitedForForEver)
+{
+    QWidget unseen;
+    unseen.setAttribute(Qt::WA_DontShowOnScreen);
+    QElapsedTimer time;
+    time.start();
+    showAndWaitUntilExposed(unseen);
+    EXPECT_LT(time.elapsed(), 30'000);
+}
+
+} // namespace quillet::test
