@@ -1,7 +1,13 @@
 #include "odds/bad_input.h"
+#include "odds/dealt_hand.h"
 #include "odds/fair_odds.h"
+#include "odds/hand_text.h"
+#include "tests/kit/held_cards.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <numeric>
 
 namespace quillet::test
 {
@@ -11,7 +17,7 @@ namespace
 
 const FairOdds& odds()
 {
-    static const FairOdds theOdds = fairOdds(HeldCards());
+    static const FairOdds theOdds = fairOdds(heldCards());
     return theOdds;
 }
 
@@ -33,6 +39,23 @@ TEST(FairOdds, perfectPlayComesOutAsPublished)
     EXPECT_EQ(odds().returnOf(Strategy::chartBest).text(), "149999803741/151009322100");
     const Fraction& royal = odds().chanceOf(Strategy::perfect, 1);
     EXPECT_EQ(Fraction(royal.denominator(), royal.numerator()).decimals(2), "40390.55");
+}
+
+TEST(DealtHand, drawsPayWhatAHoldIsWorth)
+{
+    const Pays pays = trainersPays();
+    for (const char* text : {"2d3d4d5d6d", "9cTcJcKcAd", "7c7d7s8h9s", "3c3h5d8sKh"}) {
+        std::array<DeckPlace, 5> deal = parseHand(text);
+        std::ranges::sort(deal);
+        const DealtHand dealt(heldCards(), deal);
+        for (Hold hold = 0; hold < holds; ++hold) {
+            const OutcomeCounts counts = dealt.drawOutcomes(heldCards(), hold);
+            const Int128 paid =
+                std::inner_product(counts.begin(), counts.end(), pays.begin(), Int128{0});
+            const Int128 draws = std::accumulate(counts.begin(), counts.end(), Int128{0});
+            EXPECT_EQ(Fraction(paid, draws), dealt.expectedCredits(hold)) << holdText(deal, hold);
+        }
+    }
 }
 
 TEST(Pays, areReadAsAPersonWritesThem)

@@ -1,6 +1,6 @@
 #include "odds/bad_input.h"
-#include "odds/fair_odds.h"
 #include "odds/reports.h"
+#include "tests/kit/held_cards.h"
 
 #include <gmock/gmock.h>
 
@@ -17,11 +17,7 @@ constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
 OneHand perfectHand()
 {
-    static const FairOdds odds = fairOdds(HeldCards());
-    OneHand one{{}, trainersPays()};
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        one.chance[outcome] = odds.chanceOf(Strategy::perfect, outcome).value();
-    return one;
+    return oneHand(fairOdds(heldCards()), trainersPays(), Strategy::perfect);
 }
 
 // The net after so many hands, hand by hand; what has come below five credits on the way stays.
@@ -85,7 +81,7 @@ TEST(Sitting, comesOutAsKnown)
     EXPECT_THROW((void)chancesOfRuin(one, 10'000'000, 500), BadInput) << "an hour";
     EXPECT_THROW(Sitting({one.chance, parsePays("99999 998 9 9 9 9 9 9 9")}, 10'000'000), BadInput);
     const auto bars = [&](std::int64_t hands) {
-        return sittingReport(fairOdds(HeldCards()), trainersPays(), hands, {}, true, {})[0].outro;
+        return sittingReport(fairOdds(heldCards()), trainersPays(), hands, {}, true, {})[0].outro;
     };
     EXPECT_THAT(bars(1), testing::HasSubstr("\n                  -5 |###"));
     EXPECT_THAT(bars(600), testing::HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));
