@@ -1,14 +1,28 @@
 # Completion of quillet-odds for bash.
 _quillet_odds()
 {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-    case $before in
-    --format) COMPREPLY=($(compgen -W "text csv json" -- "$word")) ;;
-    --pays) COMPREPLY=($(compgen -f -W "9/6 9/5 8/6 8/5 7/5 6/5" -- "$word")) ;;
-    --chart | --card) COMPREPLY=($(compgen -f -- "$word")) ;;
-    *) COMPREPLY=($(compgen -W "--mistakes --sitting --simulate --chart --best-chart --card --rows \
-        --document --version --help --pays --all --bankroll --seed --plays --format --exact" \
-        -- "$word")) ;;
+    local word=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]} action=()
+    # The shell splits --option=value at the equals sign.
+    if [[ $word == = ]]; then
+        word=
+    elif [[ $option == = ]]; then
+        option=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    word=${word#[\"\']}
+    word=${word//\\/}
+    case $option in
+    --format) action=(-W "text csv json") ;;
+    --pays) action=(-W "9/6 9/5 8/6 8/5 7/5 6/5") ;;
+    --chart | --card) ;;
+    --sitting | --simulate | --best-chart | --bankroll | --seed) return ;;
+    *) action=(-W "--mistakes --sitting --simulate --chart --best-chart --card --rows --document
+        --version --help --pays --all --bankroll --seed --plays --format --exact") ;;
     esac
+    COMPREPLY=()
+    [[ ${#action[@]} == 0 ]] || mapfile -t COMPREPLY < <(compgen "${action[@]}" -- "$word")
+    if [[ $option =~ ^--(chart|card|pays)$ && ${#COMPREPLY[@]} == 0 ]]; then
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+    fi
 }
 complete -F _quillet_odds quillet-odds
