@@ -269,7 +269,7 @@ std::string_view helpText()
     return R"(Usage: quillet-odds [OPTION]... [HAND | -]
 
 The exact odds of Jacks or Better at five credits a hand, and what it costs to
-play by the trainer's chart. Without a question: the worth of the game for a
+play by the trainer's chart. Without a question: what the game returns for a
 fairly shuffled deck.
 
 Questions, one at a time
@@ -277,12 +277,12 @@ Questions, one at a time
                        or 9♣10♣J♣K♣A♦, and why
   -                    the hands on standard input, one a line
   --mistakes           the deals that the chart plays wrongly, in kinds
-  --sitting HANDS      what so many hands come to
-  --simulate HANDS     play so many hands from decks shuffled as the trainer
-                       shuffles them, which is not fair
-  --chart FILE         the price of a chart of your own: one row a line, best
+  --sitting HANDS      how a session of that many hands turns out
+  --simulate HANDS     play that many hands with the trainer's own shuffle,
+                       which is not fair
+  --chart FILE         what a chart of your own costs: one row a line, best
                        first; what follows # is a comment
-  --best-chart ROWS    the best chart found with so many rows, as such a file;
+  --best-chart ROWS    the best chart found with that many rows, as such a file;
                        1..30: what each number of rows loses
   --card FILE          the trainer's chart, or that of --chart or --best-chart,
                        as a page to print (SVG)
@@ -296,7 +296,7 @@ Options
   --all                with a hand: all 32 holds
   --bankroll CREDITS   with --sitting: the chance that fewer than five of these
                        are left on the way
-  --seed NUMBER        with --simulate: other chances (default 1)
+  --seed NUMBER        with --simulate: seed of the random numbers (default 1)
   --plays              with --chart: each deal with the hold that it plays
   --mistakes           with --chart: its mistakes
   --format FORMAT      text, csv or json
