@@ -118,8 +118,8 @@ void writeBestCharts(std::ostream& out, const Request& request, const HeldCards&
     writeReport(
         out,
         {{"best charts",
-          "What the best chart found with so many rows loses of 100 credits, when of holds\n"
-          "that fit a row the worst is taken\n\n",
+          "What the best chart found with each number of rows loses of 100 credits, taking\n"
+          "the worst of the holds that fit a row\n\n",
           {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}},
           curve,
           {}}},

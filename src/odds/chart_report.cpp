@@ -42,7 +42,7 @@ void reportRowKinds(std::ostream& out)
 Report chartReport(const Chart& chart, const ChartPrice& price)
 {
     Table returns{"returns",
-                  "Credits that come back of 100 paid, for a fairly shuffled deck\n\n",
+                  "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                   {{"play", "Play"}, {"return", "Return"}},
                   {{std::string("Perfect play"), Exact{price.perfect, 8, true}}},
                   {}};

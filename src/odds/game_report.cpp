@@ -27,7 +27,7 @@ Exact percent(const Fraction& share)
 Table returns(const FairOdds& odds)
 {
     Table table{"returns",
-                "Credits that come back of 100 paid, for a fairly shuffled deck\n\n",
+                "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                 {{"play", "Play"}, {"return", "Return"}},
                 {},
                 {}};
@@ -46,8 +46,8 @@ Table hands(const FairOdds& odds, const Pays& pays)
 {
     Table table{"hands",
                 "\nWhat one hand does, in wagers of five credits: its variance and standard\n"
-                "deviation; what a hundred hands cost in credits; and after how many hands the\n"
-                "edge is as large as 1.96 standard deviations of chance\n\n",
+                "deviation; what a hundred hands cost in credits; and how many hands it takes\n"
+                "for the edge to outweigh luck (1.96 standard deviations)\n\n",
                 {{"play", "Play"},
                  {"variance", "Variance"},
                  {"deviation", "Deviation"},
@@ -96,7 +96,7 @@ Table finalHands(const FairOdds& odds, const Pays& pays, Strategy strategy)
 {
     const auto index = static_cast<std::size_t>(strategy);
     Table table{strategy == Strategy::perfect ? "perfect play" : "chart best choice",
-                "\nWhat a hand comes to: " + std::string(strategyNames[index]) + "\n\n",
+                "\nFinal hands: " + std::string(strategyNames[index]) + "\n\n",
                 {{"final hand", "Final hand"},
                  {"pays", "Pays"},
                  {"chance", "Chance in %"},

@@ -19,7 +19,7 @@ std::int64_t asNumber(bool truth)
     return truth ? 1 : 0;
 }
 
-// What the draws to a hold come to: "1 Royal Flush, 8 Flush of 47".
+// "1 Royal Flush, 8 Flush".
 std::string waysText(const OutcomeCounts& counts)
 {
     std::string text;
@@ -28,8 +28,7 @@ std::string waysText(const OutcomeCounts& counts)
             text += (text.empty() ? "" : ", ") + std::to_string(counts[outcome]) + " " +
                     std::string(outcomeName(outcome));
     }
-    return (text.empty() ? "nothing that pays" : text) + " of " +
-           std::to_string(std::accumulate(counts.begin(), counts.end(), 0));
+    return text.empty() ? "nothing that pays" : text;
 }
 
 // The discards that the hold misses, and how much.
@@ -59,12 +58,16 @@ std::string marks(const DealtHand& hand, Hold hold)
 
 std::string why(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
 {
-    std::string text = holdText(hand.places, hold) + " comes to " +
-                       waysText(hand.drawOutcomes(heldCards, hold)) + " draws";
+    const OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+    const int draws = std::accumulate(counts.begin(), counts.end(), 0);
+    std::string text = "Of " + std::to_string(draws) + (draws == 1 ? " draw, " : " draws, ") +
+                       (hold == 0 ? "five new cards" : holdText(hand.places, hold)) +
+                       (hold == 0 ? " make " : " makes ") + waysText(counts) + ".";
     const std::string penalties = penaltiesText(heldCards, hand, hold);
     if (!penalties.empty())
-        text += "; with a discard still in the deck it would be worth so much more: " + penalties;
-    return wrapped(text + ".");
+        text += " If a discard were still in the deck, the hold would be worth this much more: " +
+                penalties + ".";
+    return wrapped(text);
 }
 
 } // namespace

@@ -8,16 +8,16 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
     Table table{"mistakes",
                 "Deals in which the best hold that the chart allows is not the perfect one: its\n"
                 "row, what perfect play holds instead, what they cost of 100 credits over all\n"
-                "deals, the percentage of that and all above it, and the dearest deal\n\n",
+                "deals, the running percentage, and the costliest deal\n\n",
                 {{"row", "Row"},
                  {"instead", "Instead"},
                  {"deals", "Deals"},
                  {"cost", "Cost"},
-                 {"running percent", "Sum"},
-                 {"dearest deal", "Dearest", true},
+                 {"running percent", "Sum %"},
+                 {"costliest deal", "Costliest", true},
                  {"chart holds", ""},
                  {"perfect holds", ""},
-                 {"dearest costs", ""}},
+                 {"costs", ""}},
                 {},
                 {}};
     Fraction all;

@@ -6,18 +6,19 @@ namespace quillet
 Report simulationReport(const Simulation& simulation, const FairOdds& fair, const Pays& pays)
 {
     const std::int64_t played = simulation.perfect.hands();
-    Table returns{"returns",
-                  std::to_string(played) +
-                      " hands from decks shuffled as the trainer shuffles them\n\n"
-                      "Credits that come back of 100 paid, and the margin of 95 %: of a hundred\n"
-                      "such runs about 95 come out no farther than that from what is true\n\n",
-                  {{"play", "Play"},
-                   {"hands", ""},
-                   {"return percent", "Return"},
-                   {"margin", "+-"},
-                   {"fair return", "From a fair deck"}},
-                  {},
-                  {}};
+    Table returns{
+        "returns",
+        std::to_string(played) +
+            " hands from decks shuffled as the trainer shuffles them\n\n"
+            "Credits returned for every 100 bet, and the 95 % margin: about 95 of 100 such\n"
+            "runs land within this margin of the true return\n\n",
+        {{"play", "Play"},
+         {"hands", ""},
+         {"return percent", "Return"},
+         {"margin", "+-"},
+         {"fair return", "From a fair deck"}},
+        {},
+        {}};
     const auto add = [&](const char* name, const PlayedHands& hands, Strategy strategy) {
         returns.rows.push_back(
             {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
@@ -28,12 +29,12 @@ Report simulationReport(const Simulation& simulation, const FairOdds& fair, cons
     add("Chart, best choice", simulation.chart, Strategy::chartBest);
     if (played < tellingHands)
         returns.outro =
-            "\nFewer than a million hands tell next to nothing about a return: a royal is\n"
-            "some 2 % of it and comes once in 40,000, and even the margin trusts those\n"
-            "that came.\n";
+            "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
+            "2 % of it and comes once in 40,000 hands, and the margin itself is computed\n"
+            "from the royals that happened to come.\n";
 
     Table counts{"final hands",
-                 "\nHow often each hand came, and would from a fair deck on average\n\n",
+                 "\nHow often each hand came up, and the average with a fair deck\n\n",
                  {{"final hand", "Final hand"},
                   {"best holds", "Best holds"},
                   {"fair best holds", "Fair deck"},

@@ -74,7 +74,7 @@ Table tableOf(const char* name, std::string intro, const char* field, const char
 Table netTable(const std::array<Sitting, 2>& sittings, std::int64_t hands)
 {
     Table net = tableOf("sitting",
-                        "A sitting of " + std::to_string(hands) +
+                        "A session of " + std::to_string(hands) +
                             " hands, five credits each, from a fairly shuffled deck:\n"
                             "chances in % and credits won or lost, each chance within 1e-9\n\n",
                         "figure", "Figure");
@@ -87,7 +87,7 @@ Table netTable(const std::array<Sitting, 2>& sittings, std::int64_t hands)
     chance("ahead", 1, endless);
     for (const int hundredth : {5, 25, 50, 75, 95}) {
         const double share = hundredth / 100.0;
-        net.rows.push_back({std::to_string(hundredth) + " % end no higher than",
+        net.rows.push_back({std::to_string(hundredth) + " % end at or below",
                             sittings[0].quantile(share), sittings[1].quantile(share)});
     }
     return net;
