@@ -53,7 +53,7 @@ void showExitScreen(frmMain& window, const Surroundings& surroundings)
 } // namespace
 
 frmMain::frmMain(Surroundings& surroundings)
-    : m_surroundings(surroundings), m_layout(surroundings.metrics, true),
+    : m_surroundings(surroundings), m_layout(surroundings.metrics),
       m_sessionEnd(surroundings.clock,
                    [this] {
                        NoErrorBox nobody;

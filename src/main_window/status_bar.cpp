@@ -20,6 +20,11 @@ namespace
 constexpr int pointerSide = 32; // logical pixels
 constexpr QPoint hotSpot{12, 9};
 
+bool countsDevicePixels(const QString& platform)
+{
+    return platform == QLatin1String("xcb");
+}
+
 // Swallows its clicks, which would otherwise reach the bar.
 class SilentLabel : public QLabel
 {
@@ -33,6 +38,11 @@ protected:
 };
 
 } // namespace
+
+QPoint pointerTip(double scale, const QString& platform)
+{
+    return hotSpot * (countsDevicePixels(platform) ? scale : 1);
+}
 
 StatusBar::StatusBar(QWidget* parent)
     : QWidget(parent), m_lblstatus(new SilentLabel(tr("Welcome to Quillet"), this))
@@ -78,11 +88,10 @@ void StatusBar::makePointer()
     const int side = deviceSize(pointerSide, scale);
     QPixmap hand = QPixmap::fromImage(
         drawn.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    // X11 counts a pointer in device pixels, all others in logical ones.
-    const bool inDevicePixels = QGuiApplication::platformName() == QLatin1String("xcb");
-    hand.setDevicePixelRatio(inDevicePixels ? 1 : scale);
-    const QPointF tip = QPointF(hotSpot) * (inDevicePixels ? scale : 1);
-    setCursor(QCursor(hand, qRound(tip.x()), qRound(tip.y())));
+    const QString platform = QGuiApplication::platformName();
+    hand.setDevicePixelRatio(countsDevicePixels(platform) ? 1 : scale);
+    const QPoint tip = pointerTip(scale, platform);
+    setCursor(QCursor(hand, tip.x(), tip.y()));
 }
 
 void StatusBar::mousePressEvent(QMouseEvent* event)

@@ -6,6 +6,10 @@
 namespace quillet
 {
 
+// Where the finger tip is in the bar's pointer. X11 counts a pointer in device pixels, all other
+// platforms in logical ones.
+[[nodiscard]] QPoint pointerTip(double scale, const QString& platform);
+
 // The bar under the table, black where the table is. A click on it opens a web page; a click on
 // the text in it does not.
 class StatusBar : public QWidget

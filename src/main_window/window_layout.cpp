@@ -13,18 +13,13 @@ constexpr double largeFontWidening = 1.055;
 
 } // namespace
 
-WindowLayout::WindowLayout(const ScreenMetrics& metrics, bool hasMenu)
-    : m_metrics(metrics), m_hasMenu(hasMenu)
-{
-}
-
 QSizeF WindowLayout::frameAllowance() const
 {
     const double x = m_metrics.twipsPerPixelX;
     const double y = m_metrics.twipsPerPixelY;
-    const double menu = m_hasMenu ? m_metrics.menuHeight * y : 0;
     return {4 * m_metrics.borderWidth * x + frameSlack,
-            4 * m_metrics.borderHeight * y + m_metrics.captionHeight * y + frameSlack + menu};
+            (4 * m_metrics.borderHeight + m_metrics.captionHeight + m_metrics.menuHeight) * y +
+                frameSlack};
 }
 
 double WindowLayout::statusBarHeight() const

@@ -17,7 +17,7 @@ inline constexpr double windowMinimumWidth = 640;      // pixels, frame included
 class WindowLayout
 {
 public:
-    WindowLayout(const ScreenMetrics& metrics, bool hasMenu);
+    explicit WindowLayout(const ScreenMetrics& metrics) : m_metrics(metrics) {}
 
     // What the frame, the caption and the menu bar take.
     [[nodiscard]] QSizeF frameAllowance() const;
@@ -34,7 +34,6 @@ public:
 
 private:
     ScreenMetrics m_metrics;
-    bool m_hasMenu;
 };
 
 } // namespace quillet

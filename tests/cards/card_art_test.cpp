@@ -74,6 +74,12 @@ TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
     }
 }
 
+TEST(CardFaces, noClubHasAHole)
+{
+    const QImage two = cardAt(4, 2);
+    EXPECT_EQ(regions(two, [](QRgb pixel) { return qGray(pixel) > 128; }).size(), 1U);
+}
+
 TEST(CardFaces, indexStaysReadableUnderTheHatch)
 {
     const QImage overlay = cardAt(hatch, 1);

@@ -107,6 +107,15 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     EXPECT_FALSE(game.waitsForDraw());
 }
 
+TEST(HandInWindow, theBestPlayHasAnArrow)
+{
+    PlayedWindow game;
+    game.store.texts["prfShowPokerPlay"] = "True";
+    ASSERT_TRUE(game.start());
+    const QRect row = game.placeOf("pkLabel10");
+    EXPECT_LT(qGray(game.picture().pixel(row.left() + 2, row.center().y() - 3)), 64);
+}
+
 TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
 {
     StartedWindow game;
@@ -147,6 +156,7 @@ TEST(PokerTable, cardsLieInTheBackThatWasChosenWhenTheyFlew)
     EXPECT_TRUE(shows(game, 3, 17));
     table.takeAway(3);
     EXPECT_FALSE(table.isCardShowing(3) || shows(game, 3, 17));
+    EXPECT_EQ(game.part("picPoker3").accessibleName(), "Card 4: empty");
 }
 
 TEST(PokerTable, aFlightThatBreaksOffLeavesATableThatCanBePlayedOn)
@@ -178,7 +188,9 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     EXPECT_TRUE(outlined(game, 0, Qt::green) && outlined(game, 4, Qt::green));
     QKeyEvent held(QEvent::KeyPress, Qt::Key_5, {}, "5", true);
     QApplication::sendEvent(game.window.get(), &held);
-    QTest::keyClick(display, Qt::Key_5, Qt::ControlModifier);
+    for (const Qt::Key key : {Qt::Key_5, Qt::Key_Space})
+        QTest::keyClick(display, key, Qt::ControlModifier);
+    press(Qt::Key_6);
     EXPECT_TRUE(outlined(game, 4, Qt::green)) << "neither repeats nor combinations count";
     QTest::keyClick(display, Qt::Key_5, Qt::KeypadModifier);
     QTest::keyClick(display, Qt::Key_1, Qt::ShiftModifier);

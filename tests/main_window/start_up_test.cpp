@@ -3,6 +3,7 @@
 #include "tests/kit/played_window.h"
 
 #include <QFile>
+#include <QFontMetricsF>
 #include <QLayout>
 #include <QProgressBar>
 
@@ -20,6 +21,7 @@ TEST(StartUp, theFirstHandIsDealt)
     EXPECT_TRUE(game.waitsForDraw());
     EXPECT_EQ(game.window->prfAnimationDelay, 300) << "a known delay is not measured again";
     EXPECT_EQ(game.sounds.names, std::vector<std::string>(5, "deal.wav"));
+    EXPECT_EQ(game.sounds.prepared, 1) << "before the first of them";
     EXPECT_EQ(QDir::currentPath().toStdString(), game.surroundings.programFolder);
     EXPECT_TRUE(game.errors.texts.empty());
     EXPECT_EQ(control<TableCanvas>(*game.window, "table").size(), QSize(800, 514));
@@ -89,7 +91,8 @@ TEST(StartUp, aMissingOrEmptyPictureLeavesADarkTable)
 
 TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
 {
-    const std::vector<std::pair<QSize, int>> rows = {{{674, 354}, 674}, {{400, 500}, 633}};
+    const std::vector<std::pair<QSize, int>> rows = {
+        {{640, 354}, 640}, {{674, 260}, 674}, {{400, 500}, 633}};
     for (const auto& [picture, innerWidth] : rows) {
         PlayedWindow game;
         game.usePicture(picture);
@@ -97,6 +100,8 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         EXPECT_EQ(game.part("table").size(), QSize(innerWidth, picture.height() + 60 + 14));
         EXPECT_EQ(game.placeOf("picPokerLabels").right(), game.placeOf("table").right() - 12);
         EXPECT_EQ(game.window->width(), innerWidth);
+        const QWidget& row = game.part("pkLabel20");
+        EXPECT_LE(QFontMetricsF(row.font()).height(), row.height());
         // The window insists on its size, but only until it has it.
         game.window->setWindowState(Qt::WindowMaximized);
         QCoreApplication::processEvents();
@@ -112,6 +117,13 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         game.usePicture({900, 480});
         game.choose("mnuPoker");
         EXPECT_EQ(game.window->width(), 900);
+        EXPECT_EQ(control<TableCanvas>(*game.window, "table").innerSize(), QSizeF(900, 554));
+        QImage edited(900, 480, QImage::Format_RGB32);
+        edited.fill(Qt::darkBlue);
+        ASSERT_TRUE(edited.save(game.useOwnFolder() + "/pics/table.bmp"));
+        game.choose("mnuPoker");
+        EXPECT_EQ(game.picture().pixelColor(game.placeOf("picDeal0").topLeft() - QPoint(40, 0)),
+                  QColor(Qt::darkBlue));
         // A tiling window manager gives more room than that.
         QWidget& middle = *game.window->centralWidget();
         middle.resize(1200, 900);
