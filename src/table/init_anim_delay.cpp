@@ -24,7 +24,7 @@ constexpr double trail = 10;
 
 // Milliseconds from the program's start to the end of the last round. Beside many busy programs
 // the table then takes about as long again as the program took to come here.
-constexpr std::int64_t patience = 2800;
+constexpr std::int64_t patience = 2500;
 
 QImage bannerPicture(QSize size)
 {
