@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,15 +37,17 @@ template <typename Kinds>
                                                          std::size_t most)
 {
     constexpr std::size_t maxLetters = 100;
-    std::vector<std::string_view> names;
     if (name.size() > maxLetters)
-        return names;
+        return {};
     const std::string wanted = plainName(name);
+    std::multimap<std::size_t, std::string_view> byDistance;
     for (const auto& kind : kinds)
-        names.push_back(kind.name);
-    std::ranges::stable_sort(
-        names, {}, [&wanted](std::string_view each) { return lettersApart(wanted, each); });
-    names.resize(std::min(most, names.size()));
+        byDistance.emplace(lettersApart(wanted, kind.name), kind.name);
+    std::vector<std::string_view> names;
+    for (const auto& [distance, each] : byDistance) {
+        if (names.size() < most)
+            names.push_back(each);
+    }
     return names;
 }
 
