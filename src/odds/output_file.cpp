@@ -22,6 +22,7 @@ namespace
 {
 
 namespace fs = std::filesystem;
+using FileStatus = struct stat;
 
 [[noreturn]] void fail()
 {
@@ -56,10 +57,9 @@ void writeAll(int file, std::string_view content)
     }
 }
 
-std::optional<struct stat> statusOf(const std::string& path)
+std::optional<FileStatus> statusOf(const std::string& path)
 {
-    struct stat status {
-    };
+    FileStatus status{};
     if (stat(path.c_str(), &status) == 0)
         return status;
     if (errno != ENOENT)
@@ -67,15 +67,15 @@ std::optional<struct stat> statusOf(const std::string& path)
     return std::nullopt;
 }
 
-bool isSame(const struct stat& one, const struct stat& other)
+bool isSame(const FileStatus& one, const FileStatus& other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
 bool isStandardOutput(const std::string& path)
 {
-    struct stat named {
-    }, output{};
+    FileStatus named{};
+    FileStatus output{};
     return stat(path.c_str(), &named) == 0 && fstat(STDOUT_FILENO, &output) == 0 &&
            isSame(named, output);
 }
@@ -106,19 +106,20 @@ fs::path followed(fs::path path)
 
 // Gives the new file the owner, as far as that is allowed, and the mode of the old one; without an
 // old one, the mode that new files get.
-void takeAfter(int file, const std::optional<struct stat>& old)
+void takeAfter(int file, const std::optional<FileStatus>& old)
 {
     const mode_t mask = umask(0);
     umask(mask);
     if (old && fchown(file, old->st_uid, old->st_gid) != 0)
         errno = 0;
-    constexpr mode_t ofNewFiles = 0666, permissions = 0777;
+    constexpr mode_t ofNewFiles = 0666;
+    constexpr mode_t permissions = 0777;
     if (fchmod(file, old ? old->st_mode & permissions : ofNewFiles & ~mask) != 0)
         fail();
 }
 
 // Under a name of its own in the same folder first.
-void replaceFile(const fs::path& target, const std::optional<struct stat>& old,
+void replaceFile(const fs::path& target, const std::optional<FileStatus>& old,
                  const std::string& content)
 {
     const SignalsHeld signals;
@@ -166,8 +167,8 @@ void writeFile(const std::string& path, const std::string& content)
 
 bool wouldReplace(const std::string& output, const std::string& input)
 {
-    struct stat read {
-    }, written{};
+    FileStatus read{};
+    FileStatus written{};
     const int status =
         TextInput::isStandardInput(input) ? fstat(STDIN_FILENO, &read) : stat(input.c_str(), &read);
     return status == 0 && stat(output.c_str(), &written) == 0 && S_ISREG(read.st_mode) &&
