@@ -4,6 +4,7 @@
 
 #include "cards/card_art.h"
 #include "cards/card_numbers.h"
+#include "engine/card.h"
 
 #include <QDir>
 #include <QImage>
@@ -23,7 +24,7 @@ constexpr int rows = 5;
 // One row for each suit, aces first, and a last one of backs.
 int cardAt(int row, int column)
 {
-    return row < 4 ? column * 4 + row : quillet::firstBack + column;
+    return row < 4 ? quillet::cardIdOf(column + 1, row) : quillet::firstBack + column;
 }
 
 QImage sheetAt(int scale)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/card.h"
 #include "engine/deck.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@
 namespace quillet
 {
 
-// The hand of the pictures in docs/: a pair of jacks and an ace, which many a player holds along.
+// The hand of the pictures in docs/: a pair of jacks and an ace, which many players keep as well.
 // The pair alone is the best play, and becomes a full house.
 class KnownHand : public DeckSource
 {
@@ -19,20 +20,14 @@ public:
 
     [[nodiscard]] PokerDeck nextDeck() override
     {
-        // The hand, and behind it each slot's replacement; those of the jacks never come.
-        const std::array<std::int16_t, 10> used{id(11, 2), id(1, 3), id(7, 1),  id(11, 0),
-                                                id(4, 3),  id(2, 0), id(13, 1), id(11, 3),
-                                                id(3, 0),  id(13, 0)};
+        // The hand, and behind it each slot's replacement; the jacks need none.
+        const std::array<std::int16_t, 10> used{
+            cardIdOf(11, 2), cardIdOf(1, 3),  cardIdOf(7, 1),  cardIdOf(11, 0), cardIdOf(4, 3),
+            cardIdOf(2, 0),  cardIdOf(13, 1), cardIdOf(11, 3), cardIdOf(3, 0),  cardIdOf(13, 0)};
         PokerDeck deck = buildDeck();
         for (std::size_t place = 0; place < used.size(); ++place)
             std::swap(deck[place], *std::ranges::find(deck, used[place]));
         return deck;
-    }
-
-private:
-    static constexpr std::int16_t id(int rank, int suit)
-    {
-        return static_cast<std::int16_t>((rank - 1) * 4 + suit);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "cards/card_canvas.h"
 #include "cards/card_numbers.h"
 #include "cards/faces.h"
+#include "engine/card.h"
 
 namespace quillet
 {
@@ -14,8 +15,8 @@ QImage renderCard(std::int32_t cardNumber, QSize deviceSize)
         return hatchPicture(deviceSize);
     CardCanvas canvas(deviceSize);
     if (isFace(cardNumber)) {
-        const int rank = cardNumber / 4 + 1;
-        const int suit = cardNumber % 4;
+        const int rank = rankOf(cardNumber);
+        const int suit = suitOf(cardNumber);
         if (rank <= 10)
             paintNumberFace(canvas, rank, suit);
         else

@@ -7,8 +7,8 @@
 namespace quillet
 {
 
-// The numbers by which pictures of cards are known: faces 0..51, which are (rank - 1) * 4 + suit,
-// and after a gap the backs.
+// The numbers of the card pictures: the faces have their card's number, 0..51, and after a gap
+// come the backs.
 inline constexpr std::int32_t faces = 52;
 
 enum Suit : std::int32_t { clubs, diamonds, hearts, spades };

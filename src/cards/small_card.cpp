@@ -3,6 +3,7 @@
 #include "cards/card_canvas.h"
 #include "cards/index_glyphs.h"
 #include "cards/pips.h"
+#include "engine/card.h"
 
 #include <cmath>
 
@@ -11,8 +12,8 @@ namespace quillet
 
 QImage renderSmallCard(std::int32_t face, QSize deviceSize)
 {
-    const int rank = face / 4 + 1;
-    const int suit = face % 4;
+    const int rank = rankOf(face);
+    const int suit = suitOf(face);
     const double middle = deviceSize.width() / 2.0;
     const double rankTall = std::round(deviceSize.height() * 0.42);
     const double suitTall = std::round(deviceSize.height() * 0.34);

@@ -22,12 +22,8 @@ using DeckPlace = std::uint8_t;
 // The cards by their places, for loops that ask for many of them.
 inline constexpr std::array<Card, 52> deckBySuit = [] {
     std::array<Card, 52> deck;
-    for (std::int16_t place = 0; place < 52; ++place) {
-        const auto rank = static_cast<std::int16_t>(place % 13 + 1);
-        const auto suit = static_cast<std::int16_t>(place / 13);
-        deck[static_cast<std::size_t>(place)] = {static_cast<std::int16_t>((rank - 1) * 4 + suit),
-                                                 rank, suit};
-    }
+    for (int place = 0; place < 52; ++place)
+        deck[static_cast<std::size_t>(place)] = makeCard(cardIdOf(place % 13 + 1, place / 13));
     return deck;
 }();
 

@@ -1,6 +1,7 @@
 #include "table/card_names.h"
 
 #include "cards/card_numbers.h"
+#include "engine/card.h"
 
 #include <QCoreApplication>
 
@@ -27,8 +28,9 @@ QString cardName(std::int32_t cardNumber)
                                                        "Jack", "Queen", "King"};
     static constexpr std::array<const char*, 4> suits{"clubs", "diamonds", "hearts", "spades"};
     assert(isFace(cardNumber));
-    const auto number = static_cast<std::size_t>(cardNumber);
-    return translated("%1 of %2").arg(translated(ranks[number / 4]), translated(suits[number % 4]));
+    return translated("%1 of %2")
+        .arg(translated(ranks.at(static_cast<std::size_t>(rankOf(cardNumber) - 1))),
+             translated(suits.at(static_cast<std::size_t>(suitOf(cardNumber)))));
 }
 
 QString spokenCard(Slot slot, const CardOnTable& card, bool held)

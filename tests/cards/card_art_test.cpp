@@ -1,3 +1,4 @@
+#include "engine/card.h"
 #include "platform/colour_contrast.h"
 #include "tests/kit/pixels.h"
 
@@ -58,13 +59,13 @@ TEST(CardFaces, blackQueensDifferInTheirOutline)
 TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
 {
     for (int number = 4; number <= 39; ++number) {
-        const int rank = number / 4 + 1;
+        const int rank = rankOf(number);
         int pips = 0, lowest = 99;
         int indexPip = 0;
         const QImage card = cardAt(number, 1).copy(2, 2, cardArtWidth - 4, cardArtHeight - 4);
         for (const Region& mark : regions(card, [](QRgb pixel) { return qGray(pixel) <= 160; }))
             if (mark.around.center().x() < index.right() + 1)
-                indexPip = mark.around.height(); // the suit stands below the rank
+                indexPip = mark.around.height(); // the suit is below the rank
             else if (mark.around.center().x() < cardArtWidth - index.right() - 5) {
                 ++pips;
                 lowest = std::min(lowest, mark.around.height());
@@ -118,7 +119,7 @@ TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
             for (int x = index.left(); x <= index.right(); ++x)
                 if (qGray(card.pixel(x, y)) < qGray(darkest))
                     darkest = card.pixel(x, y);
-        const bool red = number % 4 == 1 || number % 4 == 2;
+        const bool red = suitOf(number) == 1 || suitOf(number) == 2;
         EXPECT_EQ(qRed(darkest) > 150, red) << number;
 
         // Columns side by side without ink part the index from the body; from pips, which look
