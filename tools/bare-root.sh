@@ -43,6 +43,7 @@ for command in "${commands[@]}"; do
     time chroot "$root" env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin \
         bash -c "cd /quillet && $command" 2>&1 | tee -a "$root/quillet/output.log"
 done
+shopt -s nullglob
 if grep -nE ':[0-9]+: warning: |^CMake .*Warning' "$root"/quillet/{,build/}*.log; then
     echo "$release: a newcomer would see these warnings." >&2
     exit 1
