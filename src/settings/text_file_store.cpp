@@ -1,7 +1,6 @@
 #include "settings/text_file_store.h"
 
 #include "faults/run_time_error.h"
-#include "settings/settings_text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,6 +12,7 @@
 #include <cstdio>
 #include <cstring>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillet
@@ -67,6 +67,21 @@ QString behindLinks(const QString& path)
     for (int depth = 0; depth < 40 && file.isSymLink(); ++depth)
         file.setFile(file.symLinkTarget());
     return file.filePath();
+}
+
+// Another one for every state of the file, empty where there is none.
+QString stampOf(const QString& path)
+{
+    struct stat file {
+    };
+    if (::stat(QFile::encodeName(path), &file) != 0)
+        return {};
+    return QStringLiteral("%1 %2 %3 %4.%5")
+        .arg(path)
+        .arg(file.st_ino)
+        .arg(file.st_size)
+        .arg(file.st_ctim.tv_sec)
+        .arg(file.st_ctim.tv_nsec);
 }
 
 StoredFile load(const QString& path)
@@ -181,7 +196,12 @@ TextFileStore::TextFileStore(QString configFolder) : m_configFolder(std::move(co
 std::string TextFileStore::readSetting(const std::string& application, const std::string& section,
                                        const std::string& key, const std::string& defaultText)
 {
-    return load(filePath(application)).text.value(section, key).value_or(defaultText);
+    const QString path = filePath(application);
+    if (const QString stamp = stampOf(path); stamp != m_stamp) {
+        m_text = load(path).text; // empty where there is no file
+        m_stamp = stamp;
+    }
+    return m_text.value(section, key).value_or(defaultText);
 }
 
 std::string TextFileStore::place(const std::string& application)

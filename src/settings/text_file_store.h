@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/settings_store.h"
+#include "settings/settings_text.h"
 
 #include <QString>
 
@@ -9,7 +10,7 @@ namespace quillet
 
 // Keeps settings in one text file per application, <config folder>/<application>/settings.ini.
 //
-// Every call reads the file anew and nothing is held between calls. A write is merged into the
+// The file is read again when it has changed since the last call. A write is merged into the
 // file under a lock and replaces it as a whole, or throws and leaves it as it was. Reading creates
 // nothing; a file that cannot be read, or is no settings text, answers the default texts. The
 // first write keeps a file that is no settings text under another name (settings.ini.bad,
@@ -32,6 +33,8 @@ private:
     [[nodiscard]] QString filePath(const std::string& application) const;
 
     QString m_configFolder;
+    QString m_stamp; // of the file that the text was read from; empty without one
+    SettingsText m_text;
 };
 
 } // namespace quillet
