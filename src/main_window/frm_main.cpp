@@ -32,10 +32,9 @@ struct NoErrorBox : ErrorBox {
     void showError(const std::string&) override {}
 };
 
-QString backgroundPath(const Surroundings& surroundings, const Preferences& preferences)
+QString backgroundPath(const Surroundings& surroundings, const std::string& fileName)
 {
-    return QString::fromStdString(surroundings.programFolder + "/pics/" +
-                                  preferences.prfPKBackground);
+    return QString::fromStdString(surroundings.programFolder + "/pics/" + fileName);
 }
 
 // It stands where the game stood.
@@ -69,6 +68,8 @@ frmMain::frmMain(Surroundings& surroundings)
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
       picStatusBar(new StatusBar(&m_table.canvas()))
 {
+    // The one that nearly every player has is decoded while the window looks its fonts up.
+    m_table.expectBackground(backgroundPath(m_surroundings, usualBackground));
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -104,7 +105,7 @@ bool frmMain::Form_Load()
         m_table.library().cdtInit(cWidth, cHeight);
         loadPreferences(m_surroundings.store, *this);
 
-        if (m_table.loadBackground(backgroundPath(m_surroundings, *this)))
+        if (m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground)))
             AutoSizeToPicture(m_table.background());
         else
             setOuterSize(
@@ -260,7 +261,7 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 
 void frmMain::layOutGame()
 {
-    if (m_table.loadBackground(backgroundPath(m_surroundings, *this)))
+    if (m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground)))
         AutoSizeToPicture(m_table.background());
     isPoker = true;
     m_chart.resetChartColors();

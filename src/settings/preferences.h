@@ -7,6 +7,7 @@ namespace quillet
 {
 
 inline constexpr std::int32_t usualBackFace = 65;
+inline constexpr const char* usualBackground = "vpokerwood.jpg";
 
 // What the player has chosen, as it stands before anything is read from the store. Truth values
 // and widths are those of the store's rules; see preferences_store.h.

@@ -15,7 +15,6 @@ constexpr const char* application = "Quillet";
 constexpr const char* section = "Preferences";
 
 constexpr std::int32_t outlineGreen = 0x0000FF00;
-constexpr const char* usualBackground = "vpokerwood.jpg";
 
 class Reader
 {

@@ -110,21 +110,36 @@ std::optional<Slot> PokerTable::focusedSlot() const
     return static_cast<Slot>(focused - m_pictures.picPoker.begin());
 }
 
+QString PokerTable::backgroundVersion(const QString& path) const
+{
+    const QFileInfo file(path);
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(path)
+        .arg(file.size())
+        .arg(file.lastModified().toMSecsSinceEpoch())
+        .arg(m_pictures.canvas->devicePixelRatioF());
+}
+
+void PokerTable::expectBackground(const QString& path)
+{
+    if (!FileExists(path.toStdString()))
+        return;
+    m_expectedVersion = backgroundVersion(path);
+    m_expected =
+        std::async(std::launch::async, loadPictureFile, path, canvas().devicePixelRatioF());
+}
+
 bool PokerTable::loadBackground(const QString& path)
 {
     m_backgroundPath = path;
     if (!FileExists(path.toStdString()))
         return false;
-    const QFileInfo file(path);
-    const double scale = canvas().devicePixelRatioF();
-    const QString version = QStringLiteral("%1 %2 %3 %4")
-                                .arg(path)
-                                .arg(file.size())
-                                .arg(file.lastModified().toMSecsSinceEpoch())
-                                .arg(scale);
+    const QString version = backgroundVersion(path);
     if (version == m_backgroundVersion)
         return true;
-    m_pictures.thePic = loadPictureFile(path, scale);
+    const bool expected = m_expected.valid() && version == m_expectedVersion;
+    m_pictures.thePic =
+        expected ? m_expected.get() : loadPictureFile(path, canvas().devicePixelRatioF());
     m_backgroundVersion = version;
     return true;
 }

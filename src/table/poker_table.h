@@ -16,6 +16,7 @@
 
 #include <array>
 #include <functional>
+#include <future>
 #include <optional>
 
 class QPainter;
@@ -41,6 +42,8 @@ public:
     // The place of a card that has the keyboard.
     [[nodiscard]] std::optional<Slot> focusedSlot() const;
 
+    // Begins to decode the picture that will likely be the background, on a thread.
+    void expectBackground(const QString& path);
     // Whether there is a file at this path, which then is the background. It is read again only
     // when it has changed. Throws RunTimeError for one that is no picture.
     [[nodiscard]] bool loadBackground(const QString& path);
@@ -79,6 +82,7 @@ signals:
     void cardDoubleClicked(Slot slot);
 
 private:
+    [[nodiscard]] QString backgroundVersion(const QString& path) const;
     void makeDeck();
     void makePlaces();
     void paintOutlines(QPainter& painter, double scale) const;
@@ -97,6 +101,8 @@ private:
     std::array<bool, 5> m_held{};       // whose hold marker shows
     QString m_backgroundPath;
     QString m_backgroundVersion; // of the file and the scale that thePic was read for
+    QString m_expectedVersion;
+    std::future<LoadedPicture> m_expected;
     bool m_closed = false;
 
     CardLibrary m_library;
