@@ -2,13 +2,13 @@
 
 #include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"
+#include "platform/click_tracker.h"
 #include "table/surface.h"
 #include "table/table_geometry.h"
 
 #include <QCursor>
 #include <QGuiApplication>
 #include <QImage>
-#include <QMouseEvent>
 #include <QPixmap>
 
 namespace quillet
@@ -25,18 +25,6 @@ bool countsDevicePixels(const QString& platform)
     return platform == QLatin1String("xcb");
 }
 
-// Swallows its clicks, which would otherwise reach the bar.
-class SilentLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
-    void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
-    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
-};
-
 } // namespace
 
 QPoint pointerTip(double scale, const QString& platform)
@@ -45,14 +33,16 @@ QPoint pointerTip(double scale, const QString& platform)
 }
 
 StatusBar::StatusBar(QWidget* parent)
-    : QWidget(parent), m_lblstatus(new SilentLabel(tr("Welcome to Quillet"), this))
+    : QWidget(parent), m_lblstatus(new QLabel(tr("Welcome to Quillet"), this))
 {
     setObjectName(QStringLiteral("picStatusBar"));
     presentAsLink(*this);
     setAccessibleName(tr("Status bar, opens the web site"));
     setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
+    connect(new ClickTracker(*this), &ClickTracker::clicked, this, &StatusBar::clicked);
     makePointer();
 
+    new ClickTracker(*m_lblstatus); // keeps its clicks from the bar
     m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
     m_lblstatus->setTextFormat(Qt::PlainText);
     m_lblstatus->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -92,19 +82,6 @@ void StatusBar::makePointer()
     hand.setDevicePixelRatio(countsDevicePixels(platform) ? 1 : scale);
     const QPoint tip = pointerTip(scale, platform);
     setCursor(QCursor(hand, tip.x(), tip.y()));
-}
-
-void StatusBar::mousePressEvent(QMouseEvent* event)
-{
-    m_pressed = event->button() == Qt::LeftButton;
-}
-
-void StatusBar::mouseReleaseEvent(QMouseEvent* event)
-{
-    const bool click = m_pressed && event->button() == Qt::LeftButton;
-    m_pressed = false;
-    if (click && rect().contains(event->position().toPoint()))
-        emit clicked();
 }
 
 } // namespace quillet

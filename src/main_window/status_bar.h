@@ -28,15 +28,8 @@ public:
 signals:
     void clicked();
 
-protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    // A double click opens the page once.
-    void mouseDoubleClickEvent(QMouseEvent*) override {}
-
 private:
     QLabel* m_lblstatus; // a child
-    bool m_pressed = false;
 };
 
 } // namespace quillet

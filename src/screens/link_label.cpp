@@ -1,9 +1,9 @@
 #include "screens/link_label.h"
 
 #include "platform/accessible_widgets.h"
+#include "platform/click_tracker.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace quillet
@@ -20,29 +20,13 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
-}
 
-void LinkLabel::mousePressEvent(QMouseEvent* event)
-{
-    m_pressed = event->button() == Qt::LeftButton;
-}
-
-void LinkLabel::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    const bool counts = m_pressed && rect().contains(event->position().toPoint());
-    m_pressed = false;
-    if (counts)
-        emit clicked();
-}
-
-// This event stands in the place of the second press, and another release follows it. The
-// inherited handler would treat it as a press, and the release would count as a second click.
-void LinkLabel::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton)
-        emit doubleClicked();
+    auto* clicks = new ClickTracker(*this);
+    connect(clicks, &ClickTracker::clicked, this, &LinkLabel::clicked);
+    connect(clicks, &ClickTracker::doubleClicked, this, [this](Qt::MouseButton button) {
+        if (button == Qt::LeftButton)
+            emit doubleClicked();
+    });
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)

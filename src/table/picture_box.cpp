@@ -3,7 +3,6 @@
 #include "table/table_canvas.h"
 
 #include <QAccessible>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -14,6 +13,10 @@ namespace quillet
 PictureBox::PictureBox(TableCanvas& canvas) : QWidget(&canvas), m_canvas(canvas)
 {
     canvas.addBox(*this);
+    m_clicks.setActive(m_showing);
+    connect(&m_clicks, &ClickTracker::pressed, this, &PictureBox::mouseDown);
+    connect(&m_clicks, &ClickTracker::clicked, this, &PictureBox::clicked);
+    connect(&m_clicks, &ClickTracker::doubleClicked, this, &PictureBox::doubleClicked);
 }
 
 void PictureBox::place(const QRectF& place, double scale)
@@ -53,6 +56,7 @@ void PictureBox::setShowing(bool showing)
     if (showing == m_showing)
         return;
     m_showing = showing;
+    m_clicks.setActive(showing);
     m_canvas.presentWithNextFrame(m_place);
 }
 
@@ -73,28 +77,6 @@ void PictureBox::activate()
         return;
     emit mouseDown();
     emit clicked();
-}
-
-void PictureBox::mousePressEvent(QMouseEvent* event)
-{
-    m_pressed = m_showing && event->button() == Qt::LeftButton;
-    if (m_showing)
-        emit mouseDown();
-}
-
-void PictureBox::mouseReleaseEvent(QMouseEvent* event)
-{
-    const bool click = m_pressed && event->button() == Qt::LeftButton;
-    m_pressed = false;
-    if (click && rect().contains(event->position().toPoint()))
-        emit clicked();
-}
-
-// Stands for the second press, which the toolkit would otherwise also deliver as one.
-void PictureBox::mouseDoubleClickEvent(QMouseEvent*)
-{
-    if (m_showing)
-        emit doubleClicked();
 }
 
 void PictureBox::paintEvent(QPaintEvent*)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/click_tracker.h"
 #include "table/surface.h"
 
 #include <QRectF>
@@ -55,22 +56,18 @@ signals:
     // Any button.
     void mouseDown();
     void doubleClicked();
-    // Pressed and released over the box with the left button; a double click is one click.
-    void clicked();
+    void clicked(); // see ClickTracker
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     TableCanvas& m_canvas;
+    ClickTracker m_clicks{*this};
     QRectF m_place;
     Surface m_picture;
     Surface m_behind;
     bool m_showing = false;
-    bool m_pressed = false;
     bool m_checked = false;
 };
 
