@@ -1,5 +1,5 @@
 #include "fuzz/fuzzer.h"
-#include "odds/command_line.h"
+#include "odds_program/command_line.h"
 
 #include <algorithm>
 #include <string_view>

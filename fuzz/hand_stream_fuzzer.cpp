@@ -1,7 +1,7 @@
 #include "fuzz/fuzzer.h"
 #include "fuzz/memory_file.h"
 #include "odds/bad_input.h"
-#include "odds/hand_stream.h"
+#include "odds_program/hand_stream.h"
 
 #include <sstream>
 #include <string>

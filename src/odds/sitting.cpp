@@ -218,6 +218,14 @@ void Bankroll::playHand()
 
 } // namespace
 
+OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy)
+{
+    OneHand one{{}, pays};
+    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+        one.chance[outcome] = odds.chanceOf(strategy, outcome).value();
+    return one;
+}
+
 double OneHand::returned() const
 {
     double sum = 0;

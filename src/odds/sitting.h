@@ -1,5 +1,6 @@
 #pragma once
 
+#include "odds/fair_odds.h"
 #include "odds/pays.h"
 
 #include <array>
@@ -27,6 +28,8 @@ struct OneHand {
     // nothing when there is no edge.
     [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;
 };
+
+[[nodiscard]] OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy);
 
 // Takes the share of the work that is done.
 using WorkProgress = std::function<void(double)>;

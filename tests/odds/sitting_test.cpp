@@ -1,5 +1,5 @@
 #include "odds/bad_input.h"
-#include "odds/reports.h"
+#include "odds/sitting.h"
 #include "tests/kit/held_cards.h"
 
 #include <gmock/gmock.h>
@@ -80,12 +80,6 @@ TEST(Sitting, comesOutAsKnown)
     EXPECT_EQ(chancesOfRuin(one, 10'000'000, 4).front(), 1) << "at once";
     EXPECT_THROW((void)chancesOfRuin(one, 10'000'000, 500), BadInput) << "an hour";
     EXPECT_THROW(Sitting({one.chance, parsePays("99999 998 9 9 9 9 9 9 9")}, 10'000'000), BadInput);
-    const auto bars = [&](std::int64_t hands) {
-        return sittingReport(fairOdds(heldCards()), trainersPays(), hands, {}, true, {})[0].outro;
-    };
-    EXPECT_THAT(bars(1), testing::HasSubstr("\n                  -5 |###"));
-    EXPECT_THAT(bars(600), testing::HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));
-    EXPECT_THAT(bars(600), testing::EndsWith("Not shown: 1.0 % below and 4.7 % above.\n"));
     EXPECT_EQ(Sitting(one, 1).quantile(0.5), -5);
     EXPECT_EQ(Sitting(one, 1).quantile(0.6), 0);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "odds/command_line.h"
+#include "odds_program/command_line.h"
 
 #include <iosfwd>
 

@@ -1,9 +1,9 @@
-#include "odds/document.h"
+#include "odds_program/document.h"
 
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 #include <limits>
 #include <ostream>

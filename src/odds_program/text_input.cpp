@@ -1,4 +1,4 @@
-#include "odds/text_input.h"
+#include "odds_program/text_input.h"
 
 #include "odds/bad_input.h"
 

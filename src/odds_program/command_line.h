@@ -2,7 +2,7 @@
 
 #include "odds/bad_input.h"
 #include "odds/pays.h"
-#include "odds/report.h"
+#include "odds_program/report.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "odds/lettering.h"
+#include "odds_program/lettering.h"
 
 #include "shapes/letter_outlines.h"
 #include "shapes/letters.h"

@@ -1,8 +1,8 @@
-#include "odds/hand_stream.h"
+#include "odds_program/hand_stream.h"
 
 #include "odds/bad_input.h"
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include "charts/chart_player.h"
-#include "odds/chart_card.h"
+#include "odds_program/chart_card.h"
 #include "tests/kit/file_text.h"
 #include "tests/kit/held_cards.h"
 

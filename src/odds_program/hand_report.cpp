@@ -1,6 +1,6 @@
 #include "engine/hand_evaluation.h"
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,7 +1,7 @@
-#include "odds/chart_report.h"
+#include "odds_program/chart_report.h"
 
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 #include <array>
 #include <ostream>

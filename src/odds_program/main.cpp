@@ -1,6 +1,6 @@
-#include "odds/answer.h"
 #include "odds/bad_input.h"
-#include "odds/command_line.h"
+#include "odds_program/answer.h"
+#include "odds_program/command_line.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
-#include "odds/output_file.h"
+#include "odds_program/output_file.h"
 
 #include "odds/bad_input.h"
-#include "odds/text_input.h"
+#include "odds_program/text_input.h"
 
 #include <cerrno>
 #include <csignal>

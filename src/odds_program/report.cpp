@@ -1,4 +1,4 @@
-#include "odds/report.h"
+#include "odds_program/report.h"
 
 #include "odds/hand_text.h"
 

@@ -1,7 +1,7 @@
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "odds/hand_text.h"
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 #include <cmath>
 
@@ -116,14 +116,6 @@ Table finalHands(const FairOdds& odds, const Pays& pays, Strategy strategy)
 }
 
 } // namespace
-
-OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy)
-{
-    OneHand one{{}, pays};
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        one.chance[outcome] = odds.chanceOf(strategy, outcome).value();
-    return one;
-}
 
 Report gameReport(const FairOdds& odds, const Pays& pays)
 {

@@ -1,8 +1,9 @@
 #include "engine/random.h"
 #include "odds/bad_input.h"
-#include "odds/command_line.h"
 #include "odds/hand_text.h"
 #include "odds/simulation.h"
+#include "odds_program/command_line.h"
+#include "odds_program/reports.h"
 #include "tests/kit/file_text.h"
 
 #include <gmock/gmock.h>
@@ -295,6 +296,17 @@ TEST(Simulation, playsTheEnginesOwnDecks)
     // for the trainer's: high pairs come some 20 % less often.
     EXPECT_NEAR(played(1, 1).returned(trainersPays()), 0.975, 0.2);
     EXPECT_NEAR(static_cast<double>(played(1, 1).count[9]) / 40000, 0.173, 0.006);
+}
+
+TEST(SittingReport, drawsBarsOfPossibleResults)
+{
+    const FairOdds odds = fairOdds(HeldCards());
+    const auto bars = [&](std::int64_t hands) {
+        return sittingReport(odds, trainersPays(), hands, {}, true, {})[0].outro;
+    };
+    EXPECT_THAT(bars(1), HasSubstr("\n                  -5 |###"));
+    EXPECT_THAT(bars(600), HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));
+    EXPECT_THAT(bars(600), testing::EndsWith("Not shown: 1.0 % below and 4.7 % above.\n"));
 }
 
 } // namespace quillet::test

@@ -3,18 +3,15 @@
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
 #include "odds/fair_odds.h"
-#include "odds/report.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"
+#include "odds_program/report.h"
 
 #include <optional>
 #include <vector>
 
 namespace quillet
 {
-
-// What a hand comes to with one way to play, for the figures of a sitting.
-[[nodiscard]] OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy);
 
 // The worth of the game: returns, what one hand of it does, rows of the chart, final hands.
 [[nodiscard]] Report gameReport(const FairOdds& odds, const Pays& pays);

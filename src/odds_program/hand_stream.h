@@ -1,7 +1,7 @@
 #pragma once
 
-#include "odds/report.h"
-#include "odds/text_input.h"
+#include "odds_program/report.h"
+#include "odds_program/text_input.h"
 
 #include <iosfwd>
 

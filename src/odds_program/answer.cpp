@@ -1,16 +1,16 @@
-#include "odds/answer.h"
+#include "odds_program/answer.h"
 
 #include "charts/chart.h"
 #include "charts/chart_search.h"
-#include "odds/chart_card.h"
-#include "odds/chart_report.h"
-#include "odds/document.h"
-#include "odds/hand_stream.h"
 #include "odds/hand_text.h"
-#include "odds/output_file.h"
-#include "odds/progress_bar.h"
-#include "odds/reports.h"
-#include "odds/text_input.h"
+#include "odds_program/chart_card.h"
+#include "odds_program/chart_report.h"
+#include "odds_program/document.h"
+#include "odds_program/hand_stream.h"
+#include "odds_program/output_file.h"
+#include "odds_program/progress_bar.h"
+#include "odds_program/reports.h"
+#include "odds_program/text_input.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "odds/progress_bar.h"
+#include "odds_program/progress_bar.h"
 
 #include <iostream>
 #include <string>

@@ -1,7 +1,7 @@
-#include "odds/chart_card.h"
+#include "odds_program/chart_card.h"
 
-#include "odds/card_marks.h"
-#include "odds/lettering.h"
+#include "odds_program/card_marks.h"
+#include "odds_program/lettering.h"
 
 #include <algorithm>
 #include <array>

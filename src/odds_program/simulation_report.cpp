@@ -1,4 +1,4 @@
-#include "odds/reports.h"
+#include "odds_program/reports.h"
 
 namespace quillet
 {

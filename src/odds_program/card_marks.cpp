@@ -1,6 +1,6 @@
-#include "odds/card_marks.h"
+#include "odds_program/card_marks.h"
 
-#include "odds/lettering.h"
+#include "odds_program/lettering.h"
 #include "shapes/rank_marks.h"
 #include "shapes/suit_marks.h"
 

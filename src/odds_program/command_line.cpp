@@ -1,4 +1,4 @@
-#include "odds/command_line.h"
+#include "odds_program/command_line.h"
 
 #include "charts/chart.h"
 #include "odds/simulation.h"
