@@ -1,7 +1,6 @@
 #include "table/picture_file.h"
 
 #include "faults/run_time_error.h"
-#include "table/picture_integrity.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -43,6 +42,20 @@ double densityInHead(const QByteArray& head)
     return inInches ? qFromBigEndian<quint16>(head.constData() + unitAt + 1) : 0;
 }
 
+// Whether a file is not cut short, as decoders invent the rest of one that is. A JPEG may have a
+// small picture, with an end marker of its own, before its last scan. Some programs append a few
+// bytes to a GIF. Other formats are left to the decoder.
+bool isComplete(const QByteArray& file)
+{
+    if (file.startsWith("\xff\xd8"))
+        return file.indexOf("\xff\xd9", file.lastIndexOf("\xff\xda")) > 0;
+    if (file.startsWith("GIF8"))
+        return file.right(64).contains(QByteArrayView("\0;", 2));
+    constexpr qsizetype sizeAt = 2;
+    return !file.startsWith("BM") || file.size() < sizeAt + qsizetype{sizeof(quint32)} ||
+           qFromLittleEndian<quint32>(file.constData() + sizeAt) <= file.size();
+}
+
 } // namespace
 
 LoadedPicture loadPictureFile(const QString& path, double scale)
@@ -51,8 +64,8 @@ LoadedPicture loadPictureFile(const QString& path, double scale)
     if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
         throw RunTimeError("Invalid picture: " + path.toStdString());
     QByteArray bytes = file.readAll();
-    // Before a decoder sees it, which would say on stderr what it thinks of the file.
-    if (!goesOnToItsEnd(bytes))
+    // Checked first, because decoders complain on stderr.
+    if (!isComplete(bytes))
         throw RunTimeError("Invalid picture: " + path.toStdString());
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
