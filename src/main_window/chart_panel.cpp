@@ -1,6 +1,7 @@
 #include "main_window/chart_panel.h"
 
 #include "main_window/chart_row.h"
+#include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"
 
 #include <QFontMetricsF>
@@ -13,7 +14,6 @@ namespace quillet
 namespace
 {
 
-constexpr double twips = 15; // per pixel, in which the panel was designed
 constexpr int border = 1;
 constexpr int rowWidth = 167;
 constexpr int captionPixels = 11;
@@ -77,7 +77,8 @@ ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QWidget(parent),
 QLabel* ChartPanel::addCounter(const QString& captionName, const QString& caption,
                                double captionLeft, double captionWidth, const QString& valueName)
 {
-    const int centre = static_cast<int>(std::lround((captionLeft + captionWidth / 2) / twips));
+    const int centre =
+        static_cast<int>(std::lround((captionLeft + captionWidth / 2) / designTwips));
     // The value's spoken name has the caption in it.
     QLabel* captionLabel = whiteLabel(this, captionName, caption, false, Reader::doesNotHear);
     captionLabel->setGeometry(border + centre - counterWidth / 2, border - 2, counterWidth, 16);
@@ -90,10 +91,10 @@ QLabel* ChartPanel::addCounter(const QString& captionName, const QString& captio
 void ChartPanel::layoutChartRows()
 {
     const double innerHeight = height() - 2 * border;
-    const auto places = StrategyChart::layoutChartRows(innerHeight * twips);
+    const auto places = StrategyChart::layoutChartRows(innerHeight * designTwips);
     for (std::size_t row = 0; row < places.size(); ++row) {
         const auto edge = [](double position) {
-            return border + static_cast<int>(std::lround(position / twips));
+            return border + static_cast<int>(std::lround(position / designTwips));
         };
         const int top = edge(places[row].top);
         const int bottom = edge(places[row].top + places[row].height);

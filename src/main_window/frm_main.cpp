@@ -6,7 +6,6 @@
 #include "main_window/main_menus.h"
 #include "main_window/status_bar.h"
 #include "platform/number_keys.h"
-#include "platform/window_exposure.h"
 #include "screens/frm_about.h"
 #include "screens/frm_exit_no_banner.h"
 #include "screens/help_viewer.h"
@@ -52,7 +51,7 @@ void showExitScreen(frmMain& window, const Surroundings& surroundings)
 } // namespace
 
 frmMain::frmMain(Surroundings& surroundings)
-    : m_surroundings(surroundings), m_layout(surroundings.metrics),
+    : m_surroundings(surroundings),
       m_sessionEnd(surroundings.clock,
                    [this] {
                        NoErrorBox nobody;
@@ -66,7 +65,8 @@ frmMain::frmMain(Surroundings& surroundings)
       m_controller(m_state, m_counters, prfPokerAutoDeal,
                    {m_table, *this, m_coach, m_cues, surroundings.decks, surroundings.errorBox}),
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
-      picStatusBar(new StatusBar(&m_table.canvas()))
+      picStatusBar(new StatusBar(&m_table.canvas())),
+      m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)
 {
     // The one that nearly every player has is decoded while the window looks its fonts up.
     m_table.expectBackground(backgroundPath(m_surroundings, usualBackground));
@@ -76,7 +76,15 @@ frmMain::frmMain(Surroundings& surroundings)
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
     setContextMenuPolicy(Qt::NoContextMenu);
-    // A tiling window manager may give the window more room than the table has.
+    makeCentralWidget();
+    makeMenus(*this);
+    connectControls();
+    m_table.canvas().setFocus();
+}
+
+// A tiling window manager may give the window more room than the table has.
+void frmMain::makeCentralWidget()
+{
     auto* middle = new QWidget(this);
     middle->setAutoFillBackground(true);
     QPalette colours = middle->palette();
@@ -86,8 +94,10 @@ frmMain::frmMain(Surroundings& surroundings)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(&m_table.canvas(), 0, Qt::AlignCenter);
     setCentralWidget(middle);
-    makeMenus(*this);
+}
 
+void frmMain::connectControls()
+{
     connect(&m_table, &PokerTable::deckClicked, this, &frmMain::picDeal_Click);
     connect(&m_table, &PokerTable::cardPressed, this,
             [this](Slot slot) { picPoker_MouseDown(static_cast<std::int16_t>(slot)); });
@@ -95,7 +105,6 @@ frmMain::frmMain(Surroundings& surroundings)
             [this](Slot slot) { picPoker_DblClick(static_cast<std::int16_t>(slot)); });
     connect(&m_table.canvas(), &TableCanvas::scaleChanged, picStatusBar, &StatusBar::makePointer);
     connect(picStatusBar, &StatusBar::clicked, this, &frmMain::picStatusBar_Click);
-    m_table.canvas().setFocus();
 }
 
 bool frmMain::Form_Load()
@@ -105,11 +114,8 @@ bool frmMain::Form_Load()
         m_table.library().cdtInit(cWidth, cHeight);
         loadPreferences(m_surroundings.store, *this);
 
-        if (m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground)))
-            AutoSizeToPicture(m_table.background());
-        else
-            setOuterSize(
-                m_layout.outerTwips({designedTable.innerWidth, designedTable.innerHeight}));
+        if (!loadBackground())
+            m_sizer.sizeWithoutPicture();
         m_table.makePictures();
         if (prfAnimationDelay < 0) {
             CalibrationSplash splash;
@@ -259,22 +265,35 @@ void frmMain::keyPressEvent(QKeyEvent* event)
         QMainWindow::keyPressEvent(event);
 }
 
+void frmMain::Form_Resize()
+{
+    guarded(m_surroundings.errorBox, "Form_Resize", [this] { m_sizer.windowResized(isPoker); });
+}
+
+bool frmMain::loadBackground()
+{
+    const bool found = m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground));
+    if (found)
+        m_sizer.AutoSizeToPicture(m_table.background());
+    return found;
+}
+
+void frmMain::placeChartAndStatusBar()
+{
+    const TableMeasures& table = m_table.measures();
+    picStatusBar->move(statusBarPlace(table).topLeft().toPoint());
+    picPokerLabels->setGeometry(chartPlace(table).toRect());
+    picPokerLabels->layoutChartRows();
+}
+
 void frmMain::layOutGame()
 {
-    if (m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground)))
-        AutoSizeToPicture(m_table.background());
+    (void)loadBackground();
     isPoker = true;
     m_chart.resetChartColors();
     placeChartAndStatusBar();
-    inLayout = true;
-    showAndWaitUntilExposed(*this);
-    inLayout = false;
-    if (m_layout.isTooNarrow(m_layout.innerPixels(m_outerSize))) {
-        inLayout = true;
-        setOuterSize(m_layout.widened(m_outerSize));
-        inLayout = false;
+    if (m_sizer.showWindow())
         placeChartAndStatusBar();
-    }
     m_table.shuffleCards();
     m_table.resetGraphics();
     m_cues.prepare();

@@ -7,7 +7,7 @@
 #include "engine/hand_controller.h"
 #include "engine/hand_state.h"
 #include "main_window/surroundings.h"
-#include "main_window/window_layout.h"
+#include "main_window/window_sizer.h"
 #include "platform/session_end.h"
 #include "settings/preferences.h"
 #include "sound/game_cues.h"
@@ -41,7 +41,6 @@ public:
 
     // Lays the table out again and deals; see HandController.
     void initPokerScreen();
-    void AutoSizeToPicture(const LoadedPicture& picture);
     void Form_Resize();
 
     void picDeal_Click(std::int16_t Index);
@@ -60,9 +59,6 @@ public:
     [[nodiscard]] const Counters& counters() const { return m_counters; }
     [[nodiscard]] const StrategyChart& chart() const { return m_chart; }
 
-    std::int32_t cWidth = 0; // card size in logical pixels
-    std::int32_t cHeight = 0;
-
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -71,7 +67,9 @@ protected:
 
 private:
     void FirstInit();
-    void setOuterSize(QSizeF twips);
+    void makeCentralWidget();
+    void connectControls();
+    [[nodiscard]] bool loadBackground();
     void placeChartAndStatusBar();
 
     // GameScreen
@@ -81,7 +79,6 @@ private:
     void shortDelay(std::int32_t delayTime) override;
 
     Surroundings& m_surroundings;
-    WindowLayout m_layout;
     SessionEnd m_sessionEnd;
 
     HandState m_state;
@@ -96,9 +93,9 @@ private:
     ChartPanel* picPokerLabels; // both on the table's canvas
     StatusBar* picStatusBar;
 
-    QSizeF m_outerSize; // twips
-    QSize m_forcedSize; // that was last taken back
-    bool inLayout = false;
+    WindowSizer m_sizer;
+    std::int32_t cWidth = 0; // card size in logical pixels
+    std::int32_t cHeight = 0;
     bool m_firstHandStarted = false;
     bool m_unloading = false;
 };

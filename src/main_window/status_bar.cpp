@@ -38,7 +38,8 @@ StatusBar::StatusBar(QWidget* parent)
     setObjectName(QStringLiteral("picStatusBar"));
     presentAsLink(*this);
     setAccessibleName(tr("Status bar, opens the web site"));
-    setFixedSize(static_cast<int>(statusBarWidth), static_cast<int>(statusBarDesignedHeight / 15));
+    setFixedSize(static_cast<int>(statusBarWidth),
+                 static_cast<int>(statusBarDesignedHeight / designTwips));
     connect(new ClickTracker(*this), &ClickTracker::clicked, this, &StatusBar::clicked);
     makePointer();
 

@@ -1,5 +1,7 @@
 #include "main_window/window_layout.h"
 
+#include "table/table_geometry.h"
+
 #include <cmath>
 
 namespace quillet
@@ -8,18 +10,18 @@ namespace quillet
 namespace
 {
 
-constexpr double frameSlack = 40; // twips, each way
+constexpr double statusBarNormalHeight = 900; // twips, unless fonts are large
+constexpr double windowMinimumWidth = 640;    // pixels, frame included
+constexpr double frameSlack = 40;             // twips, each way
 constexpr double largeFontWidening = 1.055;
 
 } // namespace
 
 QSizeF WindowLayout::frameAllowance() const
 {
-    const double x = m_metrics.twipsPerPixelX;
-    const double y = m_metrics.twipsPerPixelY;
-    return {4 * m_metrics.borderWidth * x + frameSlack,
-            (4 * m_metrics.borderHeight + m_metrics.captionHeight + m_metrics.menuHeight) * y +
-                frameSlack};
+    return toTwips({4 * m_metrics.borderWidth,
+                    4 * m_metrics.borderHeight + m_metrics.captionHeight + m_metrics.menuHeight}) +
+           QSizeF(frameSlack, frameSlack);
 }
 
 double WindowLayout::statusBarHeight() const
@@ -27,13 +29,18 @@ double WindowLayout::statusBarHeight() const
     return m_metrics.largeFonts() ? statusBarDesignedHeight : statusBarNormalHeight;
 }
 
-QSizeF WindowLayout::sizeForPicture(QSizeF picture, double topPieceHeight) const
+int WindowLayout::statusBarPixels() const
 {
-    QSizeF size = picture + frameAllowance() + QSizeF(0, statusBarHeight());
+    return static_cast<int>(statusBarHeight() / m_metrics.twipsPerPixelY);
+}
+
+QSizeF WindowLayout::sizeForPicture(QSizeF picture) const
+{
+    QSizeF size = outerTwips(picture) + QSizeF(0, statusBarHeight());
     if (m_metrics.largeFonts())
         size.rwidth() *= largeFontWidening;
     else
-        size.rheight() += topPieceHeight;
+        size.rheight() += frameEdgeHeight * m_metrics.twipsPerPixelY;
     return size;
 }
 
@@ -46,9 +53,12 @@ QSizeF WindowLayout::innerPixels(QSizeF outer) const
 
 QSizeF WindowLayout::outerTwips(QSizeF innerPixels) const
 {
-    return QSizeF(innerPixels.width() * m_metrics.twipsPerPixelX,
-                  innerPixels.height() * m_metrics.twipsPerPixelY) +
-           frameAllowance();
+    return toTwips(innerPixels) + frameAllowance();
+}
+
+bool WindowLayout::isTooNarrow(QSizeF outer) const
+{
+    return innerPixels(outer).width() < windowMinimumWidth;
 }
 
 QSizeF WindowLayout::widened(QSizeF outer) const
@@ -56,9 +66,9 @@ QSizeF WindowLayout::widened(QSizeF outer) const
     return {windowMinimumWidth * m_metrics.twipsPerPixelX, outer.height()};
 }
 
-bool WindowLayout::isTooNarrow(QSizeF innerPixels) const
+QSizeF WindowLayout::toTwips(QSizeF pixels) const
 {
-    return innerPixels.width() < windowMinimumWidth;
+    return {pixels.width() * m_metrics.twipsPerPixelX, pixels.height() * m_metrics.twipsPerPixelY};
 }
 
 } // namespace quillet

@@ -7,32 +7,35 @@
 namespace quillet
 {
 
-// Designed heights of the status bar: its own, and on a normal screen.
+inline constexpr double designTwips = 15; // per pixel, in which the controls were designed
 inline constexpr double statusBarDesignedHeight = 720; // twips
-inline constexpr double statusBarNormalHeight = 900;   // twips
-inline constexpr double windowMinimumWidth = 640;      // pixels, frame included
 
-// How the main window's size follows from the picture. All sizes in twips, frame and menu bar
-// included, unless said otherwise.
+// Computes the main window's size from its picture. Sizes are in twips and include the frame and
+// the menu bar, unless stated otherwise.
 class WindowLayout
 {
 public:
     explicit WindowLayout(const ScreenMetrics& metrics) : m_metrics(metrics) {}
 
-    // What the frame, the caption and the menu bar take.
-    [[nodiscard]] QSizeF frameAllowance() const;
-    [[nodiscard]] double statusBarHeight() const;
-    [[nodiscard]] QSizeF sizeForPicture(QSizeF picture, double topPieceHeight) const;
+    [[nodiscard]] const ScreenMetrics& metrics() const { return m_metrics; }
+    [[nodiscard]] int statusBarPixels() const;
+    // The picture's size is in pixels.
+    [[nodiscard]] QSizeF sizeForPicture(QSizeF picture) const;
 
     // Conversions between the outer size and the inner size in whole pixels.
     [[nodiscard]] QSizeF innerPixels(QSizeF outer) const;
     [[nodiscard]] QSizeF outerTwips(QSizeF innerPixels) const;
 
-    // The outer size, the minimum width wide.
+    [[nodiscard]] bool isTooNarrow(QSizeF outer) const;
+    // The outer size with the minimum width.
     [[nodiscard]] QSizeF widened(QSizeF outer) const;
-    [[nodiscard]] bool isTooNarrow(QSizeF innerPixels) const;
 
 private:
+    // The frame, the caption and the menu bar.
+    [[nodiscard]] QSizeF frameAllowance() const;
+    [[nodiscard]] double statusBarHeight() const;
+    [[nodiscard]] QSizeF toTwips(QSizeF pixels) const;
+
     ScreenMetrics m_metrics;
 };
 

@@ -36,6 +36,9 @@ public:
 
     void cdtTerm();
 
+    // In logical pixels.
+    [[nodiscard]] QSize cardSize() const { return m_cardSize; }
+
 private:
     const QImage& card(std::int32_t cardNumber, double scale);
 

@@ -10,9 +10,8 @@ TEST(WindowLayout, aLargeFontWindowIsWiderAndHasTheLowBar)
     ScreenMetrics large;
     large.twipsPerPixelX = large.twipsPerPixelY = 12;
     const WindowLayout layout(large);
-    EXPECT_EQ(layout.statusBarHeight(), 720);
-    EXPECT_EQ(layout.frameAllowance(), QSizeF(88, 544));
-    const QSizeF outer = layout.sizeForPicture({9600, 5280}, 168);
+    EXPECT_EQ(layout.statusBarPixels(), 60);
+    const QSizeF outer = layout.sizeForPicture({800, 440});
     EXPECT_DOUBLE_EQ(outer.width(), 1.055 * 9688);
     EXPECT_DOUBLE_EQ(outer.height(), 5280 + 544 + 720) << "the top piece is not added";
 }
