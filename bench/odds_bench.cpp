@@ -8,6 +8,8 @@
 namespace quillet
 {
 
+using namespace odds;
+
 namespace
 {
 

@@ -5,6 +5,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace quillet;
+    using namespace quillet::odds;
     try {
         const charts::Chart chart = charts::parseChart(fuzz::textOf(data, size));
         fuzz::require(charts::parseChart(charts::chartText(chart)) == chart);

@@ -9,6 +9,8 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace quillet;
+    using namespace quillet::odds;
+    using namespace quillet::odds_program;
     std::vector<std::string_view> arguments;
     for (std::string_view left = fuzz::textOf(data, size); !left.empty();) {
         arguments.push_back(left.substr(0, left.find('\n')));

@@ -5,6 +5,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace quillet;
+    using namespace quillet::odds;
     try {
         const auto places = parseHand(fuzz::textOf(data, size));
         fuzz::require(parseHand(holdText(places, holdAll)) == places);

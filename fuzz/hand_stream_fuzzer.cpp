@@ -10,6 +10,8 @@ namespace
 {
 
 using namespace quillet;
+using namespace quillet::odds;
+using namespace quillet::odds_program;
 
 // Lines are what there is in the whole text.
 void compareLines(const fuzz::MemoryFile& file, std::size_t size)

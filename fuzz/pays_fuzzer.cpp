@@ -5,6 +5,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace quillet;
+    using namespace quillet::odds;
     try {
         const Pays pays = parsePays(fuzz::textOf(data, size));
         fuzz::require(looksLikePays(paysText(pays)) && parsePays(paysText(pays)) == pays);

@@ -25,7 +25,7 @@ std::string_view withoutBlanks(std::string_view text)
 
 [[noreturn]] void failAt(std::size_t line, const std::string& why)
 {
-    throw BadInput("line " + std::to_string(line) + ": " + why);
+    throw odds::BadInput("line " + std::to_string(line) + ": " + why);
 }
 
 // What stands where a name is looked for in vain.
@@ -33,7 +33,7 @@ template <typename Kinds>
 [[noreturn]] void failAtName(std::size_t line, const char* what, std::string_view name,
                              const Kinds& kinds)
 {
-    std::string why = std::string("there is no ") + what + " \"" + printable(name) + '"';
+    std::string why = std::string("there is no ") + what + " \"" + odds::printable(name) + '"';
     const char* before = "; the nearest are ";
     for (const std::string_view nearest : nearestNames(kinds, name, suggestions)) {
         why += before + ('"' + std::string(nearest)) + '"';
@@ -80,10 +80,10 @@ Chart parseChart(std::string_view text)
         chart.push_back(rowIn(row, line));
     }
     if (chart.empty())
-        throw BadInput("there is no row in it");
+        throw odds::BadInput("there is no row in it");
     if (chart.back() != Row{nothingRow()}) {
         if (chart.size() == mostRows)
-            throw BadInput("there is no room left for the last row, \"nothing\"");
+            throw odds::BadInput("there is no room left for the last row, \"nothing\"");
         chart.push_back({nothingRow()});
     }
     return chart;

@@ -13,11 +13,11 @@ namespace
 class KeptCards
 {
 public:
-    KeptCards(const DealtHand& hand, Hold hold)
+    KeptCards(const odds::DealtHand& hand, odds::Hold hold)
     {
         for (std::size_t i = 0; i < m_cards.size(); ++i) {
             if ((hold >> i & 1U) != 0)
-                m_cards[m_count++] = cardAt(hand.places[i]);
+                m_cards[m_count++] = odds::cardAt(hand.places[i]);
         }
     }
 
@@ -30,34 +30,34 @@ private:
 
 } // namespace
 
-HoldTable::HoldTable(const HeldCards& heldCards)
+HoldTable::HoldTable(const odds::HeldCards& heldCards)
 {
     const std::span<const Card> none;
     m_facts.resize(heldCards.classes(), HoldFacts(none));
     for (int size = 1; size <= 4; ++size) {
-        forEachClass(size, [&](const SuitSets& sets) {
-            const auto places = placesOf<5>(sets);
+        odds::forEachClass(size, [&](const odds::SuitSets& sets) {
+            const auto places = odds::placesOf<5>(sets);
             const auto held = std::span(places).first(static_cast<std::size_t>(size));
             std::vector<Card> cards;
-            for (const DeckPlace place : held)
-                cards.push_back(cardAt(place));
+            for (const odds::DeckPlace place : held)
+                cards.push_back(odds::cardAt(place));
             m_facts[heldCards.classOf(held)] = HoldFacts(cards);
         });
     }
 }
 
-HoldFacts factsOf(const DealtHand& hand, Hold hold)
+HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold)
 {
     return HoldFacts(KeptCards(hand, hold).cards());
 }
 
-bool allows(const Row& row, const DealtHand& hand, Hold hold)
+bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
 {
     const RowKind& kind = rowKinds()[row.kind];
     if (kind.allows == nullptr && row.discards == 0)
         return true;
     const KeptCards kept(hand, hold);
-    const KeptCards thrown(hand, holdAll & ~hold);
+    const KeptCards thrown(hand, odds::holdAll & ~hold);
     return (kind.allows == nullptr ||
             kind.allows(HoldFacts(kept.cards()), HoldFacts(thrown.cards()))) &&
            fitAll(row.discards, DiscardFacts(kept.cards(), thrown.cards()));
@@ -68,7 +68,8 @@ ChartPlayer::ChartPlayer(const HoldTable& table, const Chart& chart) : m_chart(c
     assert(!chart.empty() && chart.size() <= mostRows && chart.back() == Row{nothingRow()});
     m_rowsOfClass.reserve(table.classes());
     for (std::size_t id = 0; id < table.classes(); ++id)
-        m_rowsOfClass.push_back(rowsThatFit(table.facts(static_cast<HeldCards::ClassId>(id))));
+        m_rowsOfClass.push_back(
+            rowsThatFit(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
 }
 
 ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held) const
@@ -81,19 +82,19 @@ ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held) const
     return rows;
 }
 
-Play ChartPlayer::play(const DealtHand& hand) const
+Play ChartPlayer::play(const odds::DealtHand& hand) const
 {
-    std::array<RowSet, holds> rows{};
+    std::array<RowSet, odds::holds> rows{};
     RowSet any = 0;
-    for (Hold hold = 0; hold < holdAll; ++hold) {
+    for (odds::Hold hold = 0; hold < odds::holdAll; ++hold) {
         rows[hold] = m_rowsOfClass[hand.classOfHold[hold]];
         any |= rows[hold];
     }
-    rows[holdAll] = rowsThatFit(factsOf(hand, holdAll));
-    any |= rows[holdAll];
+    rows[odds::holdAll] = rowsThatFit(factsOf(hand, odds::holdAll));
+    any |= rows[odds::holdAll];
     for (; any != 0; any &= any - 1) {
         Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};
-        for (Hold hold = 0; hold < holds; ++hold) {
+        for (odds::Hold hold = 0; hold < odds::holds; ++hold) {
             if ((rows[hold] >> play.row & 1U) != 0 && allows(m_chart[play.row], hand, hold))
                 play.fitting |= 1U << hold;
         }

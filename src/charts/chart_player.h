@@ -20,9 +20,9 @@ struct Play {
 class HoldTable
 {
 public:
-    explicit HoldTable(const HeldCards& heldCards);
+    explicit HoldTable(const odds::HeldCards& heldCards);
 
-    [[nodiscard]] const HoldFacts& facts(HeldCards::ClassId id) const { return m_facts[id]; }
+    [[nodiscard]] const HoldFacts& facts(odds::HeldCards::ClassId id) const { return m_facts[id]; }
     [[nodiscard]] std::size_t classes() const { return m_facts.size(); }
 
 private:
@@ -35,7 +35,7 @@ class ChartPlayer
 public:
     ChartPlayer(const HoldTable& table, const Chart& chart);
 
-    [[nodiscard]] Play play(const DealtHand& hand) const;
+    [[nodiscard]] Play play(const odds::DealtHand& hand) const;
 
 private:
     using RowSet = std::uint64_t; // bit r for row r of the chart
@@ -48,9 +48,9 @@ private:
 };
 
 // Whether a hold whose cards fit the row may be held after a look at the cards thrown away.
-[[nodiscard]] bool allows(const Row& row, const DealtHand& hand, Hold hold);
+[[nodiscard]] bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold);
 
 // The facts of those cards of a deal that a hold keeps.
-[[nodiscard]] HoldFacts factsOf(const DealtHand& hand, Hold hold);
+[[nodiscard]] HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold);
 
 } // namespace quillet::charts

@@ -15,38 +15,40 @@ namespace
 constexpr std::int64_t shares = 2520;
 
 // Losses in shares of a worth unit.
-using Losses = std::array<Int128, waysToTake>;
+using Losses = std::array<odds::Int128, waysToTake>;
 
-Fraction perCreditPaid(Int128 sum)
+odds::Fraction perCreditPaid(odds::Int128 sum)
 {
-    constexpr Int128 unit = Int128{FairOdds::deals} * shares * wager * DealtHand::worthUnit;
+    constexpr odds::Int128 unit =
+        odds::Int128{odds::FairOdds::deals} * shares * wager * odds::DealtHand::worthUnit;
     return {sum, unit};
 }
 
 } // namespace
 
-void forEachPlayedDeal(const HeldCards& heldCards, const Chart& chart,
+void forEachPlayedDeal(const odds::HeldCards& heldCards, const Chart& chart,
                        const std::function<void(const PlayedDeal&)>& visit)
 {
     const HoldTable table(heldCards);
     const ChartPlayer player(table, chart);
-    forEachClass(5, [&](const SuitSets& sets) {
-        const DealtHand hand(heldCards, placesOf<5>(sets));
+    odds::forEachClass(5, [&](const odds::SuitSets& sets) {
+        const odds::DealtHand hand(heldCards, odds::placesOf<5>(sets));
         const Play play = player.play(hand);
-        visit({hand, classSize(sets), play, hand.bestOf(play.fitting), hand.worstOf(play.fitting)});
+        visit({hand, odds::classSize(sets), play, hand.bestOf(play.fitting),
+               hand.worstOf(play.fitting)});
     });
 }
 
-ChartPrice priceChart(const HeldCards& heldCards, const Chart& chart)
+ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart)
 {
-    Int128 perfect = 0;
+    odds::Int128 perfect = 0;
     std::vector<Losses> losses(chart.size());
     std::vector<std::int64_t> costliest(chart.size(), -1);
     ChartPrice price;
     price.rows.resize(chart.size());
 
     forEachPlayedDeal(heldCards, chart, [&](const PlayedDeal& deal) {
-        const DealtHand& hand = deal.hand;
+        const odds::DealtHand& hand = deal.hand;
         const std::int64_t best = hand.worth[hand.bestHold];
         const std::int64_t worstLoss = best - hand.worth[deal.worstHold];
         const std::int64_t share = shares / std::popcount(deal.play.fitting);
@@ -55,23 +57,23 @@ ChartPrice priceChart(const HeldCards& heldCards, const Chart& chart)
             anyLoss +=
                 share * (best - hand.worth[static_cast<std::size_t>(std::countr_zero(left))]);
 
-        perfect += Int128{best} * shares * deal.members;
+        perfect += odds::Int128{best} * shares * deal.members;
         Losses& row = losses[deal.play.row];
-        row[0] += Int128{best - hand.worth[deal.bestHold]} * shares * deal.members;
-        row[1] += Int128{anyLoss} * deal.members;
-        row[2] += Int128{worstLoss} * shares * deal.members;
+        row[0] += odds::Int128{best - hand.worth[deal.bestHold]} * shares * deal.members;
+        row[1] += odds::Int128{anyLoss} * deal.members;
+        row[2] += odds::Int128{worstLoss} * shares * deal.members;
         RowPrice& told = price.rows[deal.play.row];
         told.deals += deal.members;
         if (worstLoss > costliest[deal.play.row]) {
             costliest[deal.play.row] = worstLoss;
-            told.costliest = {worstLoss, DealtHand::worthUnit};
+            told.costliest = {worstLoss, odds::DealtHand::worthUnit};
             told.example = hand.places;
         }
     });
 
     price.perfect = perCreditPaid(perfect);
     for (std::size_t way = 0; way < waysToTake; ++way) {
-        Int128 lost = 0;
+        odds::Int128 lost = 0;
         for (std::size_t row = 0; row < chart.size(); ++row) {
             lost += losses[row][way];
             price.rows[row].loss[way] = perCreditPaid(losses[row][way]);

@@ -21,12 +21,12 @@ constexpr std::size_t shortEnoughToImprove = 60;
 
 } // namespace
 
-ChartSearch::ChartSearch(const HeldCards& heldCards)
+ChartSearch::ChartSearch(const odds::HeldCards& heldCards)
 {
     findFits(heldCards);
 }
 
-void ChartSearch::findFits(const HeldCards& heldCards)
+void ChartSearch::findFits(const odds::HeldCards& heldCards)
 {
     const auto kinds = rowKinds();
     const HoldTable table(heldCards);
@@ -40,16 +40,17 @@ void ChartSearch::findFits(const HeldCards& heldCards)
     };
     std::vector<std::vector<RowKindId>> kindsOfClass;
     for (std::size_t id = 0; id < table.classes(); ++id)
-        kindsOfClass.push_back(kindsThatFit(table.facts(static_cast<HeldCards::ClassId>(id))));
+        kindsOfClass.push_back(
+            kindsThatFit(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
 
     m_fits.resize(kinds.size());
     std::vector<double> credits(kinds.size());
     std::vector<double> members(kinds.size());
-    forEachClass(5, [&](const SuitSets& sets) {
-        const DealtHand hand(heldCards, placesOf<5>(sets));
-        const std::int64_t size = classSize(sets);
+    odds::forEachClass(5, [&](const odds::SuitSets& sets) {
+        const odds::DealtHand hand(heldCards, odds::placesOf<5>(sets));
+        const std::int64_t size = odds::classSize(sets);
         const auto deal = static_cast<std::uint32_t>(m_deals++);
-        const auto enter = [&](RowKindId kind, Hold hold) {
+        const auto enter = [&](RowKindId kind, odds::Hold hold) {
             if (!allows({kind}, hand, hold))
                 return;
             const Loss loss = (hand.worth[hand.bestHold] - hand.worth[hold]) * size;
@@ -60,12 +61,12 @@ void ChartSearch::findFits(const HeldCards& heldCards)
                 fits.push_back({deal, loss});
             fits.back().loss = std::max(fits.back().loss, loss);
         };
-        for (Hold hold = 0; hold < holdAll; ++hold) {
+        for (odds::Hold hold = 0; hold < odds::holdAll; ++hold) {
             for (const RowKindId kind : kindsOfClass[hand.classOfHold[hold]])
                 enter(kind, hold);
         }
-        for (const RowKindId kind : kindsThatFit(factsOf(hand, holdAll)))
-            enter(kind, holdAll);
+        for (const RowKindId kind : kindsThatFit(factsOf(hand, odds::holdAll)))
+            enter(kind, odds::holdAll);
     });
     for (std::size_t kind = 0; kind < kinds.size(); ++kind)
         m_worth.push_back(credits[kind] / std::max(members[kind], 1.0));

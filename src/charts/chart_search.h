@@ -19,7 +19,7 @@ public:
     // Called with the share of the work done, 0 to 1, whenever something has been done.
     using Progress = std::function<void(double)>;
 
-    explicit ChartSearch(const HeldCards& heldCards);
+    explicit ChartSearch(const odds::HeldCards& heldCards);
 
     // The best chart found with at most so many rows, 1..mostRows, the row for nothing included.
     [[nodiscard]] Chart best(std::size_t rows, const Progress& progress = {});
@@ -57,7 +57,7 @@ private:
     // For one kind of row: what the chart would gain if it played what it fits.
     struct Offer;
 
-    void findFits(const HeldCards& heldCards);
+    void findFits(const odds::HeldCards& heldCards);
     void stand(const Chart& chart);
     [[nodiscard]] std::vector<Loss> gainsOfRemoval() const;
     [[nodiscard]] Change bestRemoval() const;

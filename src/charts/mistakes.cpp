@@ -53,14 +53,14 @@ std::string_view plainKind(const HoldFacts& held)
 class Tally
 {
 public:
-    void add(std::size_t row, const DealtHand& hand, Hold played, int members)
+    void add(std::size_t row, const odds::DealtHand& hand, odds::Hold played, int members)
     {
         const std::int64_t cost = hand.worth[hand.bestHold] - hand.worth[played];
         if (cost == 0)
             return;
         Kind& kind = m_kinds[{row, plainKind(factsOf(hand, hand.bestHold))}];
         kind.told.deals += members;
-        kind.cost += Int128{cost} * members;
+        kind.cost += odds::Int128{cost} * members;
         if (cost > kind.costliest) {
             kind.costliest = cost;
             kind.told.example = hand.places;
@@ -71,15 +71,16 @@ public:
 
     [[nodiscard]] std::vector<Mistake> mistakes(const Chart& chart)
     {
-        std::vector<std::pair<Int128, Mistake>> all;
+        std::vector<std::pair<odds::Int128, Mistake>> all;
         for (auto& [key, kind] : m_kinds) {
             kind.told.row = rowText(chart[key.first]);
             kind.told.instead = key.second;
-            kind.told.cost = {kind.cost, Int128{FairOdds::deals} * wager * DealtHand::worthUnit};
-            kind.told.costliest = {kind.costliest, DealtHand::worthUnit};
+            kind.told.cost = {kind.cost, odds::Int128{odds::FairOdds::deals} * wager *
+                                             odds::DealtHand::worthUnit};
+            kind.told.costliest = {kind.costliest, odds::DealtHand::worthUnit};
             all.emplace_back(kind.cost, kind.told);
         }
-        std::ranges::stable_sort(all, std::greater(), &std::pair<Int128, Mistake>::first);
+        std::ranges::stable_sort(all, std::greater(), &std::pair<odds::Int128, Mistake>::first);
         std::vector<Mistake> sorted;
         sorted.reserve(all.size());
         for (const auto& entry : all)
@@ -90,7 +91,7 @@ public:
 private:
     struct Kind {
         Mistake told;
-        Int128 cost = 0; // in worth units
+        odds::Int128 cost = 0; // in worth units
         std::int64_t costliest = 0;
     };
 
@@ -99,7 +100,7 @@ private:
 
 } // namespace
 
-std::vector<Mistake> mistakesOf(const HeldCards& heldCards, const Chart& chart)
+std::vector<Mistake> mistakesOf(const odds::HeldCards& heldCards, const Chart& chart)
 {
     Tally tally;
     forEachPlayedDeal(heldCards, chart, [&tally](const PlayedDeal& deal) {

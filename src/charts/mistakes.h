@@ -19,15 +19,15 @@ struct Mistake {
     std::string row;          // of the chart
     std::string_view instead; // what perfect play holds, in the words of charts
     std::int64_t deals = 0;
-    Fraction cost;
-    Fraction costliest;                 // in credits, of the example
-    std::array<DeckPlace, 5> example{}; // the dearest deal
-    Hold played = 0;                    // of the example, by the chart
-    Hold best = 0;                      // of the example, by perfect play
+    odds::Fraction cost;
+    odds::Fraction costliest;                 // in credits, of the example
+    std::array<odds::DeckPlace, 5> example{}; // the dearest deal
+    odds::Hold played = 0;                    // of the example, by the chart
+    odds::Hold best = 0;                      // of the example, by perfect play
 };
 
 // All deals in which the best hold that a chart allows is not the perfect one, each in one kind,
 // the dearest kind first.
-[[nodiscard]] std::vector<Mistake> mistakesOf(const HeldCards& heldCards, const Chart& chart);
+[[nodiscard]] std::vector<Mistake> mistakesOf(const odds::HeldCards& heldCards, const Chart& chart);
 
 } // namespace quillet::charts

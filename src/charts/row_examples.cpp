@@ -35,7 +35,7 @@ RowExample withMixedSuits(const RowExample& example, std::mt19937& chance)
         std::ranges::next_permutation(suits);
     struct Dealt {
         unsigned place;
-        Hold kept;
+        odds::Hold kept;
     };
     std::array<Dealt, 5> cards{};
     for (std::size_t i = 0; i < cards.size(); ++i)
@@ -44,7 +44,7 @@ RowExample withMixedSuits(const RowExample& example, std::mt19937& chance)
     std::ranges::sort(cards, {}, &Dealt::place);
     RowExample mixed;
     for (std::size_t i = 0; i < cards.size(); ++i) {
-        mixed.places[i] = static_cast<DeckPlace>(cards[i].place);
+        mixed.places[i] = static_cast<odds::DeckPlace>(cards[i].place);
         mixed.hold |= cards[i].kept << i;
     }
     return mixed;
@@ -52,7 +52,8 @@ RowExample withMixedSuits(const RowExample& example, std::mt19937& chance)
 
 } // namespace
 
-std::vector<std::optional<RowExample>> rowExamples(const HeldCards& heldCards, const Chart& chart)
+std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCards,
+                                                   const Chart& chart)
 {
     std::vector<Choice> choices(chart.size());
     std::mt19937 chance; // from its usual seed: the same examples every time

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -56,4 +56,4 @@ std::string printable(std::string_view text, std::size_t maxLetters)
     return shown;
 }
 
-} // namespace quillet
+} // namespace quillet::odds

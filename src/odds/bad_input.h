@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // Arguments, a hand, a chart or a pay table that make no sense; what() says where and why.
@@ -19,4 +19,4 @@ public:
 // escapes such as \x1b, and no more than a line of it.
 [[nodiscard]] std::string printable(std::string_view text, std::size_t maxLetters = 60);
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace quillet
+namespace quillet::odds
 {
 
 DealtHand::DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending)
@@ -117,4 +117,4 @@ void DealtHand::findAccepted(const HeldCards& heldCards)
     }
 }
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -7,7 +7,7 @@
 #include <bit>
 #include <cstdint>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // A hold as a set of bits, bit i for the i-th card of the hand.
@@ -80,4 +80,4 @@ void forEachLargerHold(Hold hold, const Visit& visit)
     }
 }
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -6,7 +6,7 @@
 #include <cassert>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -149,4 +149,4 @@ FairOdds fairOdds(const HeldCards& heldCards)
     return totals.result();
 }
 
-} // namespace quillet
+} // namespace quillet::odds

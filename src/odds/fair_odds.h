@@ -7,7 +7,7 @@
 #include <array>
 #include <cstdint>
 
-namespace quillet
+namespace quillet::odds
 {
 
 enum class Strategy { perfect, chartBest, chartAverage, chartWorst };
@@ -45,4 +45,4 @@ struct FairOdds {
 
 [[nodiscard]] FairOdds fairOdds(const HeldCards& heldCards);
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -3,7 +3,7 @@
 #include <cassert>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -88,4 +88,4 @@ std::string textOf(Int128 number)
     return {digits.rbegin(), digits.rend()};
 }
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace quillet
+namespace quillet::odds
 {
 
 __extension__ using Int128 = __int128;
@@ -37,4 +37,4 @@ private:
 
 [[nodiscard]] std::string textOf(Int128 number);
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -6,7 +6,7 @@
 #include <cctype>
 #include <span>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -104,4 +104,4 @@ std::string holdText(const std::array<DeckPlace, 5>& places, Hold hold)
     return text.empty() ? "nothing" : text;
 }
 
-} // namespace quillet
+} // namespace quillet::odds

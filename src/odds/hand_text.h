@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // Reads "9c Tc Jc Kc Ad": ranks A, 2 to 9, T or 10, J, Q, K and suits c, d, h, s in either case or
@@ -19,4 +19,4 @@ namespace quillet
 // The held cards with blanks between them; "nothing" when none is held.
 [[nodiscard]] std::string holdText(const std::array<DeckPlace, 5>& places, Hold hold);
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <functional>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -129,4 +129,4 @@ void HeldCards::countHandsOf()
     });
 }
 
-} // namespace quillet
+} // namespace quillet::odds

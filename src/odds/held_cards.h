@@ -9,7 +9,7 @@
 #include <span>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 using OutcomeCounts = std::array<std::int32_t, outcomes>;
@@ -74,4 +74,4 @@ private:
     std::vector<std::int16_t> m_playCode;
 };
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -171,4 +171,4 @@ std::string paysText(const Pays& pays)
     return text;
 }
 
-} // namespace quillet
+} // namespace quillet::odds

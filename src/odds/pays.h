@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // What a final hand can come to: outcome 0 pays nothing, the others are the paying hands, best
@@ -38,4 +38,4 @@ inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 // "4000 250 125 45 30 20 15 10 5", as parsePays reads it.
 [[nodiscard]] std::string paysText(const Pays& pays);
 
-} // namespace quillet
+} // namespace quillet::odds

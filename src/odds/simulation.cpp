@@ -14,7 +14,7 @@
 #include <thread>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -118,4 +118,4 @@ Simulation simulate(const HeldCards& heldCards, std::uint64_t seed, std::int64_t
     return result;
 }
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // What so many hands of one way to play came to.
@@ -45,4 +45,4 @@ struct Simulation {
 [[nodiscard]] Simulation playHands(const HeldCards& heldCards, RandomSource& random,
                                    std::int64_t hands);
 
-} // namespace quillet
+} // namespace quillet::odds

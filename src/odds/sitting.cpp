@@ -13,7 +13,7 @@
 #include <numeric>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -332,4 +332,4 @@ std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands, st
     return ruined;
 }
 
-} // namespace quillet
+} // namespace quillet::odds

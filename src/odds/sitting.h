@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // The chance of each outcome of one hand, as a way to play gives it, and what each pays.
@@ -74,4 +74,4 @@ private:
                                                    std::int64_t bankroll,
                                                    const WorkProgress& progress = {});
 
-} // namespace quillet
+} // namespace quillet::odds

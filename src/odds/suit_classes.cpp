@@ -1,6 +1,6 @@
 #include "odds/suit_classes.h"
 
-namespace quillet
+namespace quillet::odds
 {
 
 namespace
@@ -73,4 +73,4 @@ int classSize(const SuitSets& sets)
     return ordersByEqualPairs[equalPairs];
 }
 
-} // namespace quillet
+} // namespace quillet::odds

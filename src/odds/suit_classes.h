@@ -10,7 +10,7 @@
 #include <span>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds
 {
 
 // Sets of cards that become the same when suits change names form one class. Every member of a
@@ -68,4 +68,4 @@ void forEachMember(SuitSets sets, const Visit& visit)
 // How many members the class of these sets has, 1 to 24.
 [[nodiscard]] int classSize(const SuitSets& sets);
 
-} // namespace quillet
+} // namespace quillet::odds

@@ -23,7 +23,7 @@
 #include <thread>
 #include <unistd.h>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -37,21 +37,21 @@ auto parsedFile(const std::string& path, Parse parse)
     TextInput file(path);
     try {
         return parse(file.all(maxBytes));
-    } catch (const BadInput& bad) {
-        throw BadInput(file.name() + ": " + bad.what());
+    } catch (const odds::BadInput& bad) {
+        throw odds::BadInput(file.name() + ": " + bad.what());
     }
 }
 
 // The table that was asked for, or that of the file which was named.
-Pays paysFor(const std::string& text)
+odds::Pays paysFor(const std::string& text)
 {
     if (text.empty())
-        return trainersPays();
-    if (looksLikePays(text))
-        return parsePays(text);
+        return odds::trainersPays();
+    if (odds::looksLikePays(text))
+        return odds::parsePays(text);
     try {
-        return parsedFile(text, parsePays);
-    } catch (const BadInput&) {
+        return parsedFile(text, odds::parsePays);
+    } catch (const odds::BadInput&) {
         throw;
     } catch (const std::runtime_error& error) {
         throw std::runtime_error(
@@ -95,7 +95,7 @@ bool wantsColour()
            terminal != nullptr && std::string_view(terminal) != "dumb";
 }
 
-void writeBestCharts(std::ostream& out, const Request& request, const HeldCards& heldCards,
+void writeBestCharts(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
                      const Style& style)
 {
     charts::ChartSearch search(heldCards);
@@ -126,7 +126,8 @@ void writeBestCharts(std::ostream& out, const Request& request, const HeldCards&
         style);
 }
 
-void writeCardFile(const Request& request, const HeldCards& heldCards, const charts::Chart& asked)
+void writeCardFile(const Request& request, const odds::HeldCards& heldCards,
+                   const charts::Chart& asked)
 {
     charts::Chart chart = asked.empty() ? charts::trainersChart() : asked;
     ProgressBar bar;
@@ -139,26 +140,27 @@ void writeCardFile(const Request& request, const HeldCards& heldCards, const cha
     writeFile(*request.cardFile, page.str());
 }
 
-void answerSitting(std::ostream& out, const Request& request, const HeldCards& heldCards,
+void answerSitting(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
                    const Style& style)
 {
     ProgressBar bar;
     const Report report =
-        sittingReport(fairOdds(heldCards), heldCards.pays(), request.hands, request.bankroll,
+        sittingReport(odds::fairOdds(heldCards), heldCards.pays(), request.hands, request.bankroll,
                       isatty(STDOUT_FILENO) == 1, [&bar](double share) { bar.show(share); });
     writeReport(out, report, style);
 }
 
-void answerSimulation(std::ostream& out, const Request& request, const HeldCards& heldCards,
+void answerSimulation(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
                       const Style& style)
 {
     ProgressBar bar;
-    const Simulation simulation =
-        simulate(heldCards, request.seed, request.hands,
-                 std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
-                     bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
-                 });
-    writeReport(out, simulationReport(simulation, fairOdds(heldCards), heldCards.pays()), style);
+    const odds::Simulation simulation =
+        odds::simulate(heldCards, request.seed, request.hands,
+                       std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
+                           bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
+                       });
+    writeReport(out, simulationReport(simulation, odds::fairOdds(heldCards), heldCards.pays()),
+                style);
 }
 
 } // namespace
@@ -184,22 +186,23 @@ void answer(const Request& request, std::ostream& out)
         break;
     }
     checkFiles(request);
-    const Pays pays = paysFor(request.pays);
+    const odds::Pays pays = paysFor(request.pays);
     if (request.question == Question::game && inputWaits())
         throw BadUsage("there is something on standard input; add - to have its hands answered");
-    std::array<DeckPlace, 5> places{};
+    std::array<odds::DeckPlace, 5> places{};
     if (request.question == Question::hand) {
-        places = parseHand(request.hand);
+        places = odds::parseHand(request.hand);
         std::ranges::sort(places);
     }
     const charts::Chart chart = request.chartFile.empty()
                                     ? charts::Chart{}
                                     : parsedFile(request.chartFile, charts::parseChart);
 
-    const HeldCards heldCards(pays);
+    const odds::HeldCards heldCards(pays);
     switch (request.question) {
     case Question::hand:
-        writeReport(out, handReport(heldCards, DealtHand(heldCards, places), request.allHolds),
+        writeReport(out,
+                    handReport(heldCards, odds::DealtHand(heldCards, places), request.allHolds),
                     style);
         break;
     case Question::handsFromInput: {
@@ -233,9 +236,9 @@ void answer(const Request& request, std::ostream& out)
         writeBestCharts(out, request, heldCards, style);
         break;
     default:
-        writeReport(out, gameReport(fairOdds(heldCards), pays), style);
+        writeReport(out, gameReport(odds::fairOdds(heldCards), pays), style);
         break;
     }
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

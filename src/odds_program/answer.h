@@ -4,11 +4,11 @@
 
 #include <iosfwd>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // Works out and prints what was asked for. Throws BadInput for what makes no sense, and other
 // errors for what cannot be done.
 void answer(const Request& request, std::ostream& out);
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <sstream>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -52,9 +52,9 @@ std::string used(const std::string& id, double x, double y, double scale, const 
 
 } // namespace
 
-std::string drawnCard(DeckPlace place, bool kept, const Box& box)
+std::string drawnCard(odds::DeckPlace place, bool kept, const Box& box)
 {
-    const Card card = cardAt(place);
+    const Card card = odds::cardAt(place);
     const auto suit = static_cast<std::size_t>(card.suit);
     const auto rank = static_cast<std::size_t>(card.rank - 1);
     const bool red = suit == 1 || suit == 2;
@@ -102,4 +102,4 @@ std::string cardMarkDefinitions()
     return text;
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

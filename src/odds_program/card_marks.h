@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 struct Box {
@@ -15,9 +15,9 @@ struct Box {
 };
 
 // A small card for SVG: its rank beside its suit. One to keep stands out from the others.
-[[nodiscard]] std::string drawnCard(DeckPlace place, bool kept, const Box& box);
+[[nodiscard]] std::string drawnCard(odds::DeckPlace place, bool kept, const Box& box);
 
 // The definitions of all ranks and suits.
 [[nodiscard]] std::string cardMarkDefinitions();
 
-} // namespace quillet
+} // namespace quillet::odds_program

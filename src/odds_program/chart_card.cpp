@@ -8,7 +8,7 @@
 #include <functional>
 #include <ostream>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -111,8 +111,8 @@ std::string returnText(const ChartPrice& price)
 
 std::string lossText(const ChartPrice& price)
 {
-    const Fraction loss = price.loss(Taken::worst);
-    return "Loses " + (loss == Fraction() ? "nothing" : (loss * 100).decimals(6)) +
+    const odds::Fraction loss = price.loss(Taken::worst);
+    return "Loses " + (loss == odds::Fraction() ? "nothing" : (loss * 100).decimals(6)) +
            " against perfect play";
 }
 
@@ -136,7 +136,7 @@ std::array<std::size_t, 5> orderOf(const RowExample& example)
 {
     std::array<std::size_t, 5> order{0, 1, 2, 3, 4};
     std::ranges::stable_sort(order, std::greater(), [&example](std::size_t i) {
-        const int rank = cardAt(example.places[i]).rank;
+        const int rank = odds::cardAt(example.places[i]).rank;
         return ((example.hold >> i & 1U) != 0 ? 100 : 0) + (rank == 1 ? 14 : rank);
     });
     return order;
@@ -172,11 +172,11 @@ void writeRow(std::ostream& out, const std::string& name, std::size_t number,
     out << "</g>\n";
 }
 
-std::string payLine(const Pays& pays)
+std::string payLine(const odds::Pays& pays)
 {
     std::string text = "Pays for five credits: ";
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        text += (outcome == 1 ? "" : ", ") + std::string(outcomeName(outcome)) + ' ' +
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        text += (outcome == 1 ? "" : ", ") + std::string(odds::outcomeName(outcome)) + ' ' +
                 std::to_string(pays[outcome]);
     return text;
 }
@@ -184,7 +184,7 @@ std::string payLine(const Pays& pays)
 } // namespace
 
 void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& price,
-                    const std::vector<std::optional<RowExample>>& examples, const Pays& pays)
+                    const std::vector<std::optional<RowExample>>& examples, const odds::Pays& pays)
 {
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"210mm\" height=\"297mm\" "
            "viewBox=\"0 0 210 297\">\n<title>"
@@ -210,4 +210,4 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
         << drawnInMiddle(rowsBottom + 10, {payLine(pays), 2}, wood) << "</svg>\n";
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -7,13 +7,13 @@
 #include <optional>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // A chart as a page to print: A4, upright, as SVG. Each row has a hand for an example, the cards
 // to keep in front.
 void writeChartCard(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price,
                     const std::vector<std::optional<charts::RowExample>>& examples,
-                    const Pays& pays);
+                    const odds::Pays& pays);
 
-} // namespace quillet
+} // namespace quillet::odds_program

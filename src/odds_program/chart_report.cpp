@@ -7,7 +7,7 @@
 #include <ostream>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -65,10 +65,10 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
     for (std::size_t row = 0; row < chart.size(); ++row) {
         const RowPrice& told = price.rows[row];
         std::vector<Cell> cells{charts::rowText(chart[row]), told.deals};
-        for (const Fraction& loss : told.loss)
+        for (const odds::Fraction& loss : told.loss)
             cells.emplace_back(Exact{loss, 6, true});
-        const bool costs = told.costliest != Fraction();
-        cells.push_back(costs ? Cell(Cards{told.example, holdAll}) : Cell(std::string()));
+        const bool costs = told.costliest != odds::Fraction();
+        cells.push_back(costs ? Cell(Cards{told.example, odds::holdAll}) : Cell(std::string()));
         cells.emplace_back(Exact{told.costliest, 4});
         rows.rows.push_back(std::move(cells));
         if (told.deals == 0)
@@ -81,7 +81,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
-    const Fraction& returned = price.returned[static_cast<std::size_t>(Taken::worst)];
+    const odds::Fraction& returned = price.returned[static_cast<std::size_t>(Taken::worst)];
     out << "# " << chart.size() << (chart.size() == 1 ? " row." : " rows.")
         << " Of every 100 credits bet it loses " << (price.loss(Taken::worst) * 100).decimals(6)
         << " against\n# perfect play, taking the worst of the holds that fit a row. It returns\n# "
@@ -89,13 +89,14 @@ void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& pri
         << charts::chartText(chart);
 }
 
-void reportPlays(std::ostream& out, const HeldCards& heldCards, const Chart& chart)
+void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const Chart& chart)
 {
     out << "deal,hold\n";
     charts::forEachPlayedDeal(heldCards, chart, [&out](const charts::PlayedDeal& deal) {
-        out << holdText(deal.hand.places, holdAll) << ','
-            << (deal.worstHold == 0 ? "" : holdText(deal.hand.places, deal.worstHold)) << "\n";
+        out << odds::holdText(deal.hand.places, odds::holdAll) << ','
+            << (deal.worstHold == 0 ? "" : odds::holdText(deal.hand.places, deal.worstHold))
+            << "\n";
     });
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -4,7 +4,7 @@
 
 #include <iosfwd>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // Every row that a chart can have, with its meaning.
@@ -15,6 +15,6 @@ void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts:
 
 // Each class of deals with the hold by which the chart plays it, the worst of those that fit, as
 // comma-separated values.
-void reportPlays(std::ostream& out, const HeldCards& heldCards, const charts::Chart& chart);
+void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const charts::Chart& chart);
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -18,7 +18,8 @@ namespace
 
 [[noreturn]] void needs(std::string_view option, const std::string& what, std::string_view word)
 {
-    throw BadUsage(std::string(option) + " needs " + what + ", not '" + printable(word) + "'");
+    throw BadUsage(std::string(option) + " needs " + what + ", not '" + odds::printable(word) +
+                   "'");
 }
 
 // "20", "1e6", "10k" or "10M".
@@ -204,7 +205,7 @@ void Parser::takeOption()
     const std::string name(m_word.substr(0, equals));
     const auto* const kind = std::ranges::find(optionKinds, name, &OptionKind::name);
     if (kind == optionKinds.end())
-        throw BadUsage("unknown option '" + printable(name) + "'");
+        throw BadUsage("unknown option '" + odds::printable(name) + "'");
     std::string_view value;
     if (equals != std::string_view::npos) {
         if (!kind->hasValue)
@@ -251,9 +252,9 @@ void Parser::checkValues() const
         throw BadUsage("--format and --exact do not go with --best-chart for one number of rows");
     if (question == Question::handsFromInput && data && exact)
         throw BadUsage("--exact is for text only with hands on standard input");
-    if (question == Question::sitting && m_request.hands > mostHands)
+    if (question == Question::sitting && m_request.hands > odds::mostHands)
         throw BadUsage("--sitting takes no more than 10M hands");
-    if (question == Question::simulation && m_request.hands > mostSimulated)
+    if (question == Question::simulation && m_request.hands > odds::mostSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");
 }
 
@@ -304,4 +305,4 @@ Options
 )";
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 enum class Question {
@@ -49,10 +49,10 @@ struct Request {
 };
 
 // Arguments that make no sense; what() says why.
-class BadUsage : public BadInput
+class BadUsage : public odds::BadInput
 {
 public:
-    explicit BadUsage(const std::string& why) : BadInput(why + "\nTry quillet-odds --help") {}
+    explicit BadUsage(const std::string& why) : odds::BadInput(why + "\nTry quillet-odds --help") {}
 };
 
 // Reads the arguments that follow the program's name.
@@ -60,4 +60,4 @@ public:
 
 [[nodiscard]] std::string_view helpText();
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -8,7 +8,7 @@
 #include <limits>
 #include <ostream>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6", "8/5", 
 constexpr std::size_t royal = 1; // outcome
 constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
-std::string percent(const Fraction& share, int places)
+std::string percent(const odds::Fraction& share, int places)
 {
     return (share * 100).decimals(places);
 }
@@ -33,35 +33,35 @@ void writePayTables(std::ostream& out)
            "| full house/flush | perfect play | variance | the chart | it loses |\n"
            "|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
-        const Pays pays = parsePays(name);
-        const FairOdds odds = fairOdds(HeldCards(pays));
-        const Fraction& perfect = odds.returnOf(Strategy::perfect);
-        const Fraction& chart = odds.returnOf(Strategy::chartBest);
+        const odds::Pays pays = odds::parsePays(name);
+        const odds::FairOdds odds = odds::fairOdds(odds::HeldCards(pays));
+        const odds::Fraction& perfect = odds.returnOf(odds::Strategy::perfect);
+        const odds::Fraction& chart = odds.returnOf(odds::Strategy::chartBest);
         out << "| " << name << " | " << percent(perfect, 6) << " | "
-            << decimals(oneHand(odds, pays, Strategy::perfect).variance(), 4) << " | "
+            << decimals(odds::oneHand(odds, pays, odds::Strategy::perfect).variance(), 4) << " | "
             << percent(chart, 6) << " | " << percent(perfect - chart, 6) << " |\n";
     }
 }
 
-void writeTrainersTable(std::ostream& out, const FairOdds& odds)
+void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds)
 {
     out << "\n## The trainer's pay table\n\n"
            "| hand | pays | chance in %, perfect play | one in | by the chart | one in |\n"
            "|---|---|---|---|---|---|\n";
-    const Pays pays = trainersPays();
-    for (std::size_t i = 0; i < outcomes; ++i) {
-        const std::size_t outcome = (i + 1) % outcomes;
-        out << "| " << outcomeName(outcome) << " | " << pays[outcome];
-        for (const Strategy strategy : {Strategy::perfect, Strategy::chartBest}) {
-            const Fraction& chance = odds.chanceOf(strategy, outcome);
+    const odds::Pays pays = odds::trainersPays();
+    for (std::size_t i = 0; i < odds::outcomes; ++i) {
+        const std::size_t outcome = (i + 1) % odds::outcomes;
+        out << "| " << odds::outcomeName(outcome) << " | " << pays[outcome];
+        for (const odds::Strategy strategy : {odds::Strategy::perfect, odds::Strategy::chartBest}) {
+            const odds::Fraction& chance = odds.chanceOf(strategy, outcome);
             out << " | " << percent(chance, 6) << " | "
-                << Fraction(chance.denominator(), chance.numerator()).decimals(2);
+                << odds::Fraction(chance.denominator(), chance.numerator()).decimals(2);
         }
         out << " |\n";
     }
 }
 
-void writeMistakes(std::ostream& out, const HeldCards& heldCards)
+void writeMistakes(std::ostream& out, const odds::HeldCards& heldCards)
 {
     out << "\n## What the trainer's chart plays wrongly\n\n"
            "Deals in which the best hold that the coach accepts is not the perfect one, and what\n"
@@ -70,11 +70,11 @@ void writeMistakes(std::ostream& out, const HeldCards& heldCards)
            "|---|---|---|---|---|---|\n";
     for (const charts::Mistake& mistake : charts::mistakesOf(heldCards, charts::trainersChart()))
         out << "| " << mistake.row << " | " << mistake.instead << " | " << mistake.deals << " | "
-            << percent(mistake.cost, 6) << " | " << holdText(mistake.example, holdAll) << " | "
-            << mistake.costliest.decimals(4) << " |\n";
+            << percent(mistake.cost, 6) << " | " << odds::holdText(mistake.example, odds::holdAll)
+            << " | " << mistake.costliest.decimals(4) << " |\n";
 }
 
-void writeSittings(std::ostream& out, const FairOdds& odds)
+void writeSittings(std::ostream& out, const odds::FairOdds& odds)
 {
     out << "\n## Sittings\n\n"
            "Chances in % and credits won or lost, for perfect play of the trainer's pay table "
@@ -84,9 +84,9 @@ void writeSittings(std::ostream& out, const FairOdds& odds)
            "| hands | behind | even | ahead | 5 % | 25 % | 50 % | 75 % | 95 % | a royal | 500 lost "
            "|\n"
            "|---|---|---|---|---|---|---|---|---|---|---|\n";
-    const OneHand one = oneHand(odds, trainersPays(), Strategy::perfect);
+    const odds::OneHand one = odds::oneHand(odds, odds::trainersPays(), odds::Strategy::perfect);
     for (const std::int64_t hands : {100, 600, 2400, 10000}) {
-        const Sitting sitting(one, hands);
+        const odds::Sitting sitting(one, hands);
         out << "| " << hands;
         for (const auto& [least, most] :
              {std::pair{-endless, std::int64_t{-1}}, {0, 0}, {1, endless}})
@@ -94,14 +94,14 @@ void writeSittings(std::ostream& out, const FairOdds& odds)
         for (const double share : {0.05, 0.25, 0.5, 0.75, 0.95})
             out << " | " << sitting.quantile(share);
         out << " | " << decimals(100 * one.chanceOfAtLeastOne(royal, hands), 2) << " | "
-            << decimals(100 * chancesOfRuin(one, hands, 500).back(), 2) << " |\n";
+            << decimals(100 * odds::chancesOfRuin(one, hands, 500).back(), 2) << " |\n";
     }
 }
 
-void writeCharts(std::ostream& out, const HeldCards& heldCards, const FairOdds& odds)
+void writeCharts(std::ostream& out, const odds::HeldCards& heldCards, const odds::FairOdds& odds)
 {
-    const Fraction trainers =
-        odds.returnOf(Strategy::perfect) - odds.returnOf(Strategy::chartWorst);
+    const odds::Fraction trainers =
+        odds.returnOf(odds::Strategy::perfect) - odds.returnOf(odds::Strategy::chartWorst);
     out << "\n## Charts\n\n"
            "What the best chart that was found with so many rows loses of 100 credits, when of\n"
            "holds that fit a row the worst is taken. The trainer's own 21 rows lose "
@@ -135,8 +135,8 @@ void writeCharts(std::ostream& out, const HeldCards& heldCards, const FairOdds& 
 
 void writeDocument(std::ostream& out)
 {
-    const HeldCards heldCards;
-    const FairOdds odds = fairOdds(heldCards);
+    const odds::HeldCards heldCards;
+    const odds::FairOdds odds = odds::fairOdds(heldCards);
     out << "# The odds of Jacks or Better\n\n"
            "Every figure is exact for a fairly shuffled deck and rounded only to be printed.\n"
            "`quillet-odds --document` writes this page.\n\n";
@@ -147,4 +147,4 @@ void writeDocument(std::ostream& out)
     writeCharts(out, heldCards, odds);
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -2,10 +2,10 @@
 
 #include <iosfwd>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // What the odds are, for six pay tables, as a page in Markdown. Takes some ten seconds.
 void writeDocument(std::ostream& out);
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -6,7 +6,7 @@
 #include <functional>
 #include <numeric>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -20,19 +20,20 @@ std::int64_t asNumber(bool truth)
 }
 
 // "1 Royal Flush, 8 Flush".
-std::string waysText(const OutcomeCounts& counts)
+std::string waysText(const odds::OutcomeCounts& counts)
 {
     std::string text;
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome) {
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome) {
         if (counts[outcome] > 0)
             text += (text.empty() ? "" : ", ") + std::to_string(counts[outcome]) + " " +
-                    std::string(outcomeName(outcome));
+                    std::string(odds::outcomeName(outcome));
     }
     return text.empty() ? "nothing that pays" : text;
 }
 
 // The discards that the hold misses, and how much.
-std::string penaltiesText(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
+std::string penaltiesText(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                          odds::Hold hold)
 {
     std::string text;
     for (std::size_t card = 0; hold != 0 && card < hand.places.size(); ++card) {
@@ -40,13 +41,13 @@ std::string penaltiesText(const HeldCards& heldCards, const DealtHand& hand, Hol
             continue;
         const double penalty = hand.penaltyOf(heldCards, hold, card);
         if (penalty > 0)
-            text += (text.empty() ? "" : ", ") + cardText(hand.places[card]) + " " +
+            text += (text.empty() ? "" : ", ") + odds::cardText(hand.places[card]) + " " +
                     decimals(penalty, 4);
     }
     return text;
 }
 
-std::string marks(const DealtHand& hand, Hold hold)
+std::string marks(const odds::DealtHand& hand, odds::Hold hold)
 {
     std::string text = hand.worth[hold] == hand.worth[hand.bestHold] ? "best" : "";
     if (!text.empty() && hand.isAccepted(hold))
@@ -56,12 +57,12 @@ std::string marks(const DealtHand& hand, Hold hold)
     return text;
 }
 
-std::string why(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
+std::string why(const odds::HeldCards& heldCards, const odds::DealtHand& hand, odds::Hold hold)
 {
-    const OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+    const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
     const int draws = std::accumulate(counts.begin(), counts.end(), 0);
     std::string text = "Of " + std::to_string(draws) + (draws == 1 ? " draw, " : " draws, ") +
-                       (hold == 0 ? "five new cards" : holdText(hand.places, hold)) +
+                       (hold == 0 ? "five new cards" : odds::holdText(hand.places, hold)) +
                        (hold == 0 ? " make " : " makes ") + waysText(counts) + ".";
     const std::string penalties = penaltiesText(heldCards, hand, hold);
     if (!penalties.empty())
@@ -72,11 +73,12 @@ std::string why(const HeldCards& heldCards, const DealtHand& hand, Hold hold)
 
 } // namespace
 
-Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
+Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand, bool all)
 {
     Table table{"holds",
-                holdText(hand.places, holdAll) + ": row " + std::to_string(hand.chartCode) +
-                    " of the chart, " + std::string(playName(hand.chartCode)) + "\n\n",
+                odds::holdText(hand.places, odds::holdAll) + ": row " +
+                    std::to_string(hand.chartCode) + " of the chart, " +
+                    std::string(playName(hand.chartCode)) + "\n\n",
                 {{"number", "No."},
                  {"hold", "Hold"},
                  {"expected", "Expected"},
@@ -88,21 +90,22 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
                  {"draws", ""}},
                 {},
                 {}};
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        table.columns.push_back({std::string(outcomeName(outcome)), ""});
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        table.columns.push_back({std::string(odds::outcomeName(outcome)), ""});
     table.columns.push_back({"missed discards", ""});
 
-    std::array<Hold, holds> order{};
+    std::array<odds::Hold, odds::holds> order{};
     std::iota(order.begin(), order.end(), 0U);
-    std::ranges::stable_sort(order, std::greater(), [&](Hold hold) { return hand.worth[hold]; });
-    const Hold charts = hand.bestAccepted();
-    const Fraction best = hand.expectedCredits(hand.bestHold);
+    std::ranges::stable_sort(order, std::greater(),
+                             [&](odds::Hold hold) { return hand.worth[hold]; });
+    const odds::Hold charts = hand.bestAccepted();
+    const odds::Fraction best = hand.expectedCredits(hand.bestHold);
     std::int64_t number = 0;
-    for (const Hold hold : order) {
+    for (const odds::Hold hold : order) {
         ++number;
         if (!all && number > static_cast<std::int64_t>(shownByDefault) && hold != charts)
             continue;
-        const OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+        const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
         std::vector<Cell> row{number,
                               Cards{hand.places, hold},
                               Exact{hand.expectedCredits(hold), 8},
@@ -112,7 +115,7 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
                               asNumber(hold == charts),
                               asNumber(hand.isAccepted(hold)),
                               std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
-        for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+        for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
             row.emplace_back(std::int64_t{counts[outcome]});
         row.emplace_back(penaltiesText(heldCards, hand, hold));
         table.rows.push_back(std::move(row));
@@ -123,4 +126,4 @@ Report handReport(const HeldCards& heldCards, const DealtHand& hand, bool all)
     return {table};
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -9,7 +9,7 @@
 #include <optional>
 #include <ostream>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -21,14 +21,15 @@ std::string credits(std::int64_t worth)
 {
     constexpr std::int64_t decimals = 100'000'000;
     const auto scaled = static_cast<std::int64_t>(
-        (Int128{2} * worth * decimals + DealtHand::worthUnit) / (Int128{2} * DealtHand::worthUnit));
+        (odds::Int128{2} * worth * decimals + odds::DealtHand::worthUnit) /
+        (odds::Int128{2} * odds::DealtHand::worthUnit));
     const std::string digits = std::to_string(scaled % decimals);
     return std::to_string(scaled / decimals) + "." + std::string(8 - digits.size(), '0') + digits;
 }
 
-void writeLine(std::ostream& out, const DealtHand& hand, Format format)
+void writeLine(std::ostream& out, const odds::DealtHand& hand, Format format)
 {
-    const Hold charts = hand.bestAccepted();
+    const odds::Hold charts = hand.bestAccepted();
     const std::int64_t best = hand.worth[hand.bestHold];
     struct Field {
         std::string name;
@@ -36,11 +37,11 @@ void writeLine(std::ostream& out, const DealtHand& hand, Format format)
         bool isText;
     };
     const auto fields =
-        std::to_array<Field>({{"hand", holdText(hand.places, holdAll), true},
+        std::to_array<Field>({{"hand", odds::holdText(hand.places, odds::holdAll), true},
                               {"row", std::to_string(hand.chartCode), false},
-                              {"best", holdText(hand.places, hand.bestHold), true},
+                              {"best", odds::holdText(hand.places, hand.bestHold), true},
                               {"expected", credits(best), false},
-                              {"chart", holdText(hand.places, charts), true},
+                              {"chart", odds::holdText(hand.places, charts), true},
                               {"chart expected", credits(hand.worth[charts]), false},
                               {"cost", credits(best - hand.worth[charts]), false}});
     std::string line;
@@ -55,34 +56,34 @@ void writeLine(std::ostream& out, const DealtHand& hand, Format format)
 }
 
 // The cards of the next line that has any, in order; nothing at the end. Counts the lines.
-std::optional<std::array<DeckPlace, 5>> nextHand(TextInput& in, int& number)
+std::optional<std::array<odds::DeckPlace, 5>> nextHand(TextInput& in, int& number)
 {
     constexpr std::size_t maxBytes = 4096;
     try {
         for (std::string line; in.takeLine(line, maxBytes); ++number) {
             if (line.find_first_not_of(" \t\r") == line.find('#'))
                 continue;
-            auto places = parseHand(line);
+            auto places = odds::parseHand(line);
             std::ranges::sort(places);
             ++number;
             return places;
         }
-    } catch (const BadInput& error) {
-        throw BadInput("line " + std::to_string(number) + ": " + error.what());
+    } catch (const odds::BadInput& error) {
+        throw odds::BadInput("line " + std::to_string(number) + ": " + error.what());
     }
     return std::nullopt;
 }
 
 } // namespace
 
-void answerHands(TextInput& in, std::ostream& out, const HeldCards& heldCards, bool allHolds,
+void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCards, bool allHolds,
                  const Style& style)
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
     bool first = true;
     for (int number = 1; const auto places = nextHand(in, number);) {
-        const DealtHand hand(heldCards, *places);
+        const odds::DealtHand hand(heldCards, *places);
         if (style.format != Format::text) {
             writeLine(out, hand, style.format);
             continue;
@@ -93,4 +94,4 @@ void answerHands(TextInput& in, std::ostream& out, const HeldCards& heldCards, b
     }
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

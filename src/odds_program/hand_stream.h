@@ -5,13 +5,13 @@
 
 #include <iosfwd>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // Answers hands that come one a line: a block of text, or a line of comma-separated values or JSON
 // for each. What follows # is a comment, and empty lines are left out. Throws BadInput, with the
 // line's number, at the first that is no hand.
-void answerHands(TextInput& in, std::ostream& out, const HeldCards& heldCards, bool allHolds,
+void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCards, bool allHolds,
                  const Style& style);
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <map>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -128,4 +128,4 @@ std::string svgNumber(double value)
     return number == "-0" ? "0" : number;
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // A line of capitals in the trainer's own letters, for SVG.
@@ -25,4 +25,4 @@ struct Lettering {
 // Rounded to a thousandth and as short as it gets.
 [[nodiscard]] std::string svgNumber(double value);
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -15,7 +15,7 @@
 // 0 when the answer was written, 1 when something could not be read or written, 2 for bad input.
 int main(int argc, char** argv)
 {
-    using namespace quillet;
+    using namespace quillet::odds_program;
     constexpr int exitBadInput = 2;
     std::ios::sync_with_stdio(false);
     const auto complain = [](const char* why) {
@@ -29,7 +29,7 @@ int main(int argc, char** argv)
         const std::vector<std::string_view> arguments(argv + std::min(argc, 1), argv + argc);
         answer(parseArguments(arguments), std::cout);
         std::cout.flush();
-    } catch (const BadInput& error) {
+    } catch (const quillet::odds::BadInput& error) {
         complain(error.what());
         return exitBadInput;
     } catch (const std::ios::failure&) {

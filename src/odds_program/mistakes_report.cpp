@@ -1,6 +1,6 @@
 #include "odds_program/reports.h"
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
@@ -20,18 +20,18 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
                  {"costs", ""}},
                 {},
                 {}};
-    Fraction all;
+    odds::Fraction all;
     std::int64_t deals = 0;
     for (const charts::Mistake& mistake : mistakes) {
         all = all + mistake.cost;
         deals += mistake.deals;
     }
-    Fraction running;
+    odds::Fraction running;
     for (const charts::Mistake& mistake : mistakes) {
         running = running + mistake.cost;
         table.rows.push_back(
             {mistake.row, std::string(mistake.instead), mistake.deals, Exact{mistake.cost, 5, true},
-             Rounded{100 * running.value() / all.value(), 0}, Cards{mistake.example, holdAll},
+             Rounded{100 * running.value() / all.value(), 0}, Cards{mistake.example, odds::holdAll},
              Cards{mistake.example, mistake.played}, Cards{mistake.example, mistake.best},
              Exact{mistake.costliest, 4}});
     }
@@ -40,4 +40,4 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
     return {table};
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -15,7 +15,7 @@
 #include <system_error>
 #include <unistd.h>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -148,7 +148,7 @@ void writeFile(const std::string& path, const std::string& content)
         std::cout << content;
         return;
     }
-    const std::string name = printable(path, 255);
+    const std::string name = odds::printable(path, 255);
     try {
         const auto old = statusOf(path);
         constexpr mode_t writable = S_IWUSR | S_IWGRP | S_IWOTH;
@@ -175,4 +175,4 @@ bool wouldReplace(const std::string& output, const std::string& input)
            isSame(read, written);
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

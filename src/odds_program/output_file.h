@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // Writes a file whole or throws a std::runtime_error that says why not. A file of that name, or the
@@ -15,4 +15,4 @@ void writeFile(const std::string& path, const std::string& content);
 // Whether writing the output would replace the input, which may be standard input.
 [[nodiscard]] bool wouldReplace(const std::string& output, const std::string& input);
 
-} // namespace quillet
+} // namespace quillet::odds_program

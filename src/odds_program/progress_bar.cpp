@@ -4,7 +4,7 @@
 #include <string>
 #include <unistd.h>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -33,4 +33,4 @@ void ProgressBar::show(double share)
     std::cerr << "\r[" << bar << "] " << percent << " %" << std::flush;
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // A bar on the terminal for work that takes longer than a second. Nothing when standard error is
@@ -22,4 +22,4 @@ private:
     int m_percent = -1; // shown
 };
 
-} // namespace quillet
+} // namespace quillet::odds_program

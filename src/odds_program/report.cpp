@@ -9,7 +9,7 @@
 #include <sstream>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -38,7 +38,7 @@ std::string plain(const Cell& cell)
         }
         std::string operator()(const Cards& cards) const
         {
-            return holdText(cards.places, cards.hold);
+            return odds::holdText(cards.places, cards.hold);
         }
     } const text;
     return std::visit(text, cell);
@@ -319,4 +319,4 @@ std::string decimals(double value, int places)
     return text.data();
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // An answer is worked out into tables, and the tables are printed in any format: as columns for
@@ -17,7 +17,7 @@ namespace quillet
 
 // An exact number, shown with so many decimals; in text a share may be shown as a percentage.
 struct Exact {
-    Fraction value;
+    odds::Fraction value;
     int places = 0;
     bool inPercent = false;
 };
@@ -30,8 +30,8 @@ struct Rounded {
 
 // The cards of a hand that are held; all of them stand for the hand.
 struct Cards {
-    std::array<DeckPlace, 5> places{};
-    Hold hold = holdAll;
+    std::array<odds::DeckPlace, 5> places{};
+    odds::Hold hold = odds::holdAll;
 };
 
 using Cell = std::variant<std::string, std::int64_t, Exact, Rounded, Cards>;
@@ -70,4 +70,4 @@ void writeReport(std::ostream& out, const Report& report, const Style& style);
 // Rounded to so many decimals.
 [[nodiscard]] std::string decimals(double value, int places);
 
-} // namespace quillet
+} // namespace quillet::odds_program

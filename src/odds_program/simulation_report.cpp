@@ -1,9 +1,10 @@
 #include "odds_program/reports.h"
 
-namespace quillet
+namespace quillet::odds_program
 {
 
-Report simulationReport(const Simulation& simulation, const FairOdds& fair, const Pays& pays)
+Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds& fair,
+                        const odds::Pays& pays)
 {
     const std::int64_t played = simulation.perfect.hands();
     Table returns{
@@ -19,15 +20,16 @@ Report simulationReport(const Simulation& simulation, const FairOdds& fair, cons
          {"fair return", "From a fair deck"}},
         {},
         {}};
-    const auto add = [&](const char* name, const PlayedHands& hands, Strategy strategy) {
+    const auto add = [&](const char* name, const odds::PlayedHands& hands,
+                         odds::Strategy strategy) {
         returns.rows.push_back(
             {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
              played < 2 ? Cell(std::string("unknown")) : Cell(Rounded{100 * hands.margin(pays), 4}),
              Exact{fair.returnOf(strategy), 4, true}});
     };
-    add("Best holds", simulation.perfect, Strategy::perfect);
-    add("Chart, best choice", simulation.chart, Strategy::chartBest);
-    if (played < tellingHands)
+    add("Best holds", simulation.perfect, odds::Strategy::perfect);
+    add("Chart, best choice", simulation.chart, odds::Strategy::chartBest);
+    if (played < odds::tellingHands)
         returns.outro =
             "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
             "2 % of it and comes once in 40,000 hands, and the margin itself is computed\n"
@@ -42,15 +44,15 @@ Report simulationReport(const Simulation& simulation, const FairOdds& fair, cons
                   {"fair chart", "Fair deck"}},
                  {},
                  {}};
-    const auto expected = [&](Strategy strategy, std::size_t outcome) {
+    const auto expected = [&](odds::Strategy strategy, std::size_t outcome) {
         return Rounded{static_cast<double>(played) * fair.chanceOf(strategy, outcome).value(), 1};
     };
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        counts.rows.push_back({std::string(outcomeName(outcome)), simulation.perfect.count[outcome],
-                               expected(Strategy::perfect, outcome),
-                               simulation.chart.count[outcome],
-                               expected(Strategy::chartBest, outcome)});
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        counts.rows.push_back(
+            {std::string(odds::outcomeName(outcome)), simulation.perfect.count[outcome],
+             expected(odds::Strategy::perfect, outcome), simulation.chart.count[outcome],
+             expected(odds::Strategy::chartBest, outcome)});
     return {returns, counts};
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -7,7 +7,7 @@
 #include <limits>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -21,7 +21,7 @@ Rounded percent(double share)
 }
 
 // How the sittings spread. The lowest hundredth and the twentieth that royals lift are only named.
-std::string barsOf(const Sitting& sitting)
+std::string barsOf(const odds::Sitting& sitting)
 {
     constexpr std::int64_t maxBars = 16;
     constexpr double widest = 44;
@@ -52,10 +52,11 @@ std::string barsOf(const Sitting& sitting)
 
 // Computes the same for perfect play and the chart, side by side.
 template <typename Compute>
-auto forBoth(const std::array<OneHand, 2>& plays, const Compute& compute,
-             const WorkProgress& progress)
+auto forBoth(const std::array<odds::OneHand, 2>& plays, const Compute& compute,
+             const odds::WorkProgress& progress)
 {
-    auto chart = std::async(std::launch::async, [&] { return compute(plays[1], WorkProgress{}); });
+    auto chart =
+        std::async(std::launch::async, [&] { return compute(plays[1], odds::WorkProgress{}); });
     auto perfect = compute(plays[0], progress);
     return std::array{std::move(perfect), chart.get()};
 }
@@ -71,7 +72,7 @@ Table tableOf(const char* name, std::string intro, const char* field, const char
             {}};
 }
 
-Table netTable(const std::array<Sitting, 2>& sittings, std::int64_t hands)
+Table netTable(const std::array<odds::Sitting, 2>& sittings, std::int64_t hands)
 {
     Table net = tableOf("sitting",
                         "A session of " + std::to_string(hands) +
@@ -93,12 +94,12 @@ Table netTable(const std::array<Sitting, 2>& sittings, std::int64_t hands)
     return net;
 }
 
-Table onceTable(const std::array<OneHand, 2>& plays, std::int64_t hands)
+Table onceTable(const std::array<odds::OneHand, 2>& plays, std::int64_t hands)
 {
     Table once = tableOf("at least once", "\nThe chance in % of each paying hand at least once\n\n",
                          "final hand", "Final hand");
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
-        once.rows.push_back({std::string(outcomeName(outcome)),
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        once.rows.push_back({std::string(odds::outcomeName(outcome)),
                              percent(plays[0].chanceOfAtLeastOne(outcome, hands)),
                              percent(plays[1].chanceOfAtLeastOne(outcome, hands))});
     return once;
@@ -122,15 +123,16 @@ Table ruinTable(const std::array<std::array<double, 10>, 2>& ruined, std::int64_
 
 } // namespace
 
-Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
-                     std::optional<std::int64_t> bankroll, bool bars, const WorkProgress& progress)
+Report sittingReport(const odds::FairOdds& odds, const odds::Pays& pays, std::int64_t hands,
+                     std::optional<std::int64_t> bankroll, bool bars,
+                     const odds::WorkProgress& progress)
 {
-    const std::array<OneHand, 2> plays{oneHand(odds, pays, Strategy::perfect),
-                                       oneHand(odds, pays, Strategy::chartBest)};
+    const std::array<odds::OneHand, 2> plays{odds::oneHand(odds, pays, odds::Strategy::perfect),
+                                             odds::oneHand(odds, pays, odds::Strategy::chartBest)};
     const auto sittings = forBoth(
         plays,
-        [hands](const OneHand& one, const WorkProgress& report) {
-            return Sitting(one, hands, report);
+        [hands](const odds::OneHand& one, const odds::WorkProgress& report) {
+            return odds::Sitting(one, hands, report);
         },
         progress);
     Report report{netTable(sittings, hands), onceTable(plays, hands)};
@@ -139,8 +141,8 @@ Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
     if (bankroll) {
         const auto ruined = forBoth(
             plays,
-            [&](const OneHand& one, const WorkProgress& reportWork) {
-                return chancesOfRuin(one, hands, *bankroll, reportWork);
+            [&](const odds::OneHand& one, const odds::WorkProgress& reportWork) {
+                return odds::chancesOfRuin(one, hands, *bankroll, reportWork);
             },
             progress);
         report.push_back(ruinTable(ruined, hands, *bankroll));
@@ -148,4 +150,4 @@ Report sittingReport(const FairOdds& odds, const Pays& pays, std::int64_t hands,
     return report;
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

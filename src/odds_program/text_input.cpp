@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 namespace
@@ -20,7 +20,7 @@ std::string decoded(std::string text)
 {
     const bool halfZero = text.size() > 1 && (text[0] == '\0') != (text[1] == '\0');
     if (halfZero || text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff"))
-        throw BadInput("the text is UTF-16; save it as UTF-8");
+        throw odds::BadInput("the text is UTF-16; save it as UTF-8");
     return text.starts_with("\xef\xbb\xbf") ? text.substr(3) : text;
 }
 
@@ -34,8 +34,8 @@ std::string sizeText(std::size_t bytes)
 } // namespace
 
 TextInput::TextInput(const std::string& path, std::ostream* flushed)
-    : m_name(isStandardInput(path) ? "standard input" : printable(path, 255)), m_flushed(flushed),
-      m_file(STDIN_FILENO), m_ownsFile(!isStandardInput(path))
+    : m_name(isStandardInput(path) ? "standard input" : odds::printable(path, 255)),
+      m_flushed(flushed), m_file(STDIN_FILENO), m_ownsFile(!isStandardInput(path))
 {
     if (m_ownsFile)
         m_file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -76,7 +76,7 @@ std::string TextInput::all(std::size_t maxBytes)
     while (fill()) {
         text += m_left;
         if (text.size() > maxBytes)
-            throw BadInput("the text is longer than " + sizeText(maxBytes));
+            throw odds::BadInput("the text is longer than " + sizeText(maxBytes));
     }
     return decoded(std::move(text));
 }
@@ -90,7 +90,7 @@ bool TextInput::takeLine(std::string& line, std::size_t maxBytes)
         end = m_left.find('\n');
         line += m_left.substr(0, end);
         if (line.size() > maxBytes)
-            throw BadInput("the line is longer than " + sizeText(maxBytes));
+            throw odds::BadInput("the line is longer than " + sizeText(maxBytes));
         m_left = end == std::string_view::npos ? std::string_view() : m_left.substr(end + 1);
         if (end == std::string_view::npos && !fill())
             break;
@@ -100,4 +100,4 @@ bool TextInput::takeLine(std::string& line, std::size_t maxBytes)
     return true;
 }
 
-} // namespace quillet
+} // namespace quillet::odds_program

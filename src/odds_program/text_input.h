@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillet
+namespace quillet::odds_program
 {
 
 // A text from a file, a pipe or a device. "-" and "/dev/stdin" are standard input. It is UTF-8,
@@ -41,4 +41,4 @@ private:
     std::string_view m_left; // of the buffer
 };
 
-} // namespace quillet
+} // namespace quillet::odds_program

@@ -27,7 +27,7 @@ std::string complaintAbout(std::string_view text)
     try {
         (void)parseChart(text);
         return "none";
-    } catch (const BadInput& error) {
+    } catch (const odds::BadInput& error) {
         return error.what();
     }
 }
@@ -66,8 +66,8 @@ TEST(Chart, isReadAsAPersonWritesIt)
 
 TEST(DiscardKinds, tellWhatIsThrownAway)
 {
-    const auto shown = [](std::string_view hand, Hold hold) {
-        DealtHand dealt(heldCards(), parseHand(hand));
+    const auto shown = [](std::string_view hand, odds::Hold hold) {
+        odds::DealtHand dealt(heldCards(), odds::parseHand(hand));
         std::string text;
         for (DiscardSet asked = 1; asked < 1U << discardKinds().size(); asked <<= 1U) {
             if (allows({nothingRow(), asked}, dealt, hold))
@@ -75,7 +75,7 @@ TEST(DiscardKinds, tellWhatIsThrownAway)
         }
         return text;
     };
-    constexpr Hold firstTwo = 3;
+    constexpr odds::Hold firstTwo = 3;
     EXPECT_EQ(shown("JcQc9c9h2d", firstTwo),
               "a flush card|a straight card|at most 1 straight card|no high|no ace|no king|"
               "no queen|no jack|no 10|a 9|no 8|");
@@ -93,13 +93,14 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
     EXPECT_EQ(chartIn("trainer.chart"), chart);
     forEachPlayedDeal(heldCards(), chart, [](const PlayedDeal& deal) {
         std::array<Card, 5> cards;
-        std::ranges::transform(deal.hand.places, cards.begin(), cardAt);
+        std::ranges::transform(deal.hand.places, cards.begin(), odds::cardAt);
         const std::int16_t code = EvaluatePokerHand(cards, false);
         std::uint32_t accepted = 0;
-        for (Hold hold = 0; hold < holds; ++hold)
+        for (odds::Hold hold = 0; hold < odds::holds; ++hold)
             accepted |= judgeHold(cards, holdFlags(hold), code).correct ? 1U << hold : 0;
-        ASSERT_EQ(static_cast<int>(deal.play.row) + 1, code) << holdText(deal.hand.places, holdAll);
-        ASSERT_EQ(deal.play.fitting, accepted) << holdText(deal.hand.places, holdAll);
+        ASSERT_EQ(static_cast<int>(deal.play.row) + 1, code)
+            << odds::holdText(deal.hand.places, odds::holdAll);
+        ASSERT_EQ(deal.play.fitting, accepted) << odds::holdText(deal.hand.places, odds::holdAll);
         ASSERT_EQ(deal.hand.chartCode, code);
         ASSERT_EQ(deal.hand.accepted, accepted);
     });
@@ -128,7 +129,8 @@ TEST(ChartPrice, comesOutAsKnown)
     mixed.push_back({nothingRow()});
     const auto returns = [](const Chart& chart, const char* pays) {
         std::string text;
-        for (const Fraction& returned : priceChart(HeldCards(parsePays(pays)), chart).returned)
+        for (const odds::Fraction& returned :
+             priceChart(odds::HeldCards(odds::parsePays(pays)), chart).returned)
             text += returned.text() + " ";
         return text;
     };
@@ -144,7 +146,7 @@ TEST(Chart, withoutLossPlaysAllDealsPerfectly)
 {
     const Chart chart = chartIn("perfect.chart");
     const ChartPrice price = priceChart(heldCards(), chart);
-    for (const Fraction& returned : price.returned)
+    for (const odds::Fraction& returned : price.returned)
         EXPECT_EQ(returned.text(), "1653526326983/1661102543100");
     for (std::size_t row = 0; row < chart.size(); ++row)
         EXPECT_GT(price.rows[row].deals, 0) << rowText(chart[row]);
@@ -157,7 +159,7 @@ TEST(Mistakes, addUpToWhatTheChartLoses)
 {
     const ChartPrice price = priceChart(heldCards(), trainersChart());
     std::int64_t deals = 0;
-    Fraction cost;
+    odds::Fraction cost;
     const std::vector<Mistake> mistakes = mistakesOf(heldCards(), trainersChart());
     for (const Mistake& mistake : mistakes) {
         deals += mistake.deals;
@@ -168,7 +170,7 @@ TEST(Mistakes, addUpToWhatTheChartLoses)
     EXPECT_EQ(mistakes.size(), 14U);
     EXPECT_EQ(mistakes[4].row, "3 to a royal");
     EXPECT_EQ(mistakes[4].instead, "4 to a straight flush");
-    EXPECT_EQ(holdText(mistakes[4].example, mistakes[4].best), "9c Tc Jc Kc");
+    EXPECT_EQ(odds::holdText(mistakes[4].example, mistakes[4].best), "9c Tc Jc Kc");
     EXPECT_EQ(mistakes[4].costliest.decimals(4), "5.7724");
 }
 

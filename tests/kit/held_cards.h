@@ -6,9 +6,9 @@ namespace quillet::test
 {
 
 // Of the trainer's pay table.
-inline const HeldCards& heldCards()
+inline const odds::HeldCards& heldCards()
 {
-    static const HeldCards theHeldCards;
+    static const odds::HeldCards theHeldCards;
     return theHeldCards;
 }
 

@@ -12,6 +12,8 @@
 namespace quillet::test
 {
 
+using namespace odds;
+
 namespace
 {
 

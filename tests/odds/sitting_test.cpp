@@ -10,6 +10,8 @@
 namespace quillet::test
 {
 
+using namespace odds;
+
 namespace
 {
 

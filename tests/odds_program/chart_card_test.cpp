@@ -12,6 +12,9 @@
 namespace quillet::test
 {
 
+using namespace odds;
+using namespace odds_program;
+
 using testing::HasSubstr;
 
 namespace

@@ -21,6 +21,8 @@
 namespace quillet::test
 {
 
+using namespace odds;
+
 namespace
 {
 

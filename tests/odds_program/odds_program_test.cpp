@@ -24,6 +24,9 @@
 namespace quillet::test
 {
 
+using namespace odds;
+using namespace odds_program;
+
 using testing::HasSubstr;
 
 namespace
