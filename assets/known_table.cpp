@@ -25,11 +25,10 @@ int main(int argc, char** argv)
         return 2;
     }
     TextFileStore store(QString::fromLocal8Bit(argv[1]));
-    for (const auto& [key, text] : {std::pair{"prfAnimationDelay", "60"}, // quick cards
-                                    {"prfSound", "False"},
-                                    {"prfPokerAutoDeal", "False"},
-                                    {"prfShowPokerPlay", "False"}})
-        store.writeSetting("Quillet", "Preferences", key, text);
+    store.save({{"prfAnimationDelay", "60"}, // quick cards
+                {"prfSound", "False"},
+                {"prfPokerAutoDeal", "False"},
+                {"prfShowPokerPlay", "False"}});
     BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;

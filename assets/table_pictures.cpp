@@ -26,12 +26,11 @@ class Photographer
 public:
     explicit Photographer(const QString& folder) : m_folder(folder)
     {
-        for (const auto& [key, text] : {std::pair{"prfAnimationDelay", "300"},
-                                        {"prfAnimation", "False"},
-                                        {"prfSound", "False"},
-                                        {"prfPokerAutoDeal", "False"},
-                                        {"prfShowPokerPlay", "False"}})
-            m_store.writeSetting("Quillet", "Preferences", key, text);
+        m_store.save({{"prfAnimationDelay", "300"},
+                      {"prfAnimation", "False"},
+                      {"prfSound", "False"},
+                      {"prfPokerAutoDeal", "False"},
+                      {"prfShowPokerPlay", "False"}});
     }
 
     bool run()

@@ -44,10 +44,9 @@ void hand(benchmark::State& state)
 {
     const QTemporaryDir config;
     TextFileStore store(config.path());
-    for (const auto& [key, text] : {std::pair{"prfAnimationDelay", std::to_string(state.range(0))},
-                                    {"prfPokerAutoDeal", "False"},
-                                    {"prfSound", "False"}})
-        store.writeSetting("Quillet", "Preferences", key, text);
+    store.save({{"prfAnimationDelay", std::to_string(state.range(0))},
+                {"prfPokerAutoDeal", "False"},
+                {"prfSound", "False"}});
     BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;

@@ -4,6 +4,7 @@
 #include "settings/numeric_text.h"
 
 #include <string>
+#include <utility>
 
 namespace quillet
 {
@@ -11,37 +12,36 @@ namespace quillet
 namespace
 {
 
-constexpr const char* application = "Quillet";
-constexpr const char* section = "Preferences";
-
 constexpr std::int32_t outlineGreen = 0x0000FF00;
 
+// Reads the stored settings, which it loads once.
 class Reader
 {
 public:
-    explicit Reader(SettingsStore& store) : m_store(store) {}
+    explicit Reader(const SettingsStore& store) : m_store(store), m_settings(store.load()) {}
 
-    [[nodiscard]] std::string text(const std::string& key, const std::string& defaultText)
+    [[nodiscard]] std::string text(const std::string& key, const std::string& defaultText) const
     {
-        return m_store.readSetting(application, section, key, defaultText);
+        return readSetting(m_settings, key, defaultText);
     }
 
-    [[nodiscard]] bool truth(const std::string& key) { return text(key, "True") != "False"; }
+    [[nodiscard]] bool truth(const std::string& key) const { return text(key, "True") != "False"; }
 
-    // The stored text as the rule converts it; an error of the rule is told with the key.
+    // The text as the rule converts it. Errors of the rule name the key and the file.
     template <typename Rule>
-    [[nodiscard]] auto converted(const std::string& key, const std::string& defaultText, Rule rule)
+    [[nodiscard]] auto converted(const std::string& key, const std::string& defaultText,
+                                 Rule rule) const
     {
-        const std::string stored = text(key, defaultText);
         try {
-            return rule(stored);
+            return rule(text(key, defaultText));
         } catch (const RunTimeError& error) {
-            throw RunTimeError(key + ": " + error.what() + " in " + m_store.place(application));
+            throw RunTimeError(key + ": " + error.what() + " in " + m_store.location());
         }
     }
 
 private:
-    SettingsStore& m_store;
+    const SettingsStore& m_store;
+    Settings m_settings;
 };
 
 std::int32_t outlineColour(const std::string& text)
@@ -68,17 +68,16 @@ std::int16_t scrollPosition(const std::string& text)
 
 } // namespace
 
-void loadPreferences(SettingsStore& store, Preferences& preferences)
+void loadPreferences(const SettingsStore& store, Preferences& preferences)
 {
-    Reader reader(store);
+    const Reader reader(store);
     preferences.prfCardOutlineColor =
         outlineColour(reader.text("prfCardOutlineColor", "&H0000FF00&"));
     preferences.prfPKBackFace =
         reader.converted("prfPKBackFace", std::to_string(usualBackFace), backFace);
     preferences.prfShowPokerPlay = reader.truth("prfShowPokerPlay");
     preferences.prfPokerAutoDeal = reader.truth("prfPokerAutoDeal");
-    static_cast<void>(reader.truth("isPoker")); // there is one game, whatever was stored
-    preferences.isPoker = true;
+    preferences.isPoker = true; // there is one game, whatever was stored
     preferences.prfShowHide = reader.truth("prfShowHide");
     preferences.prfAnimation = reader.truth("prfAnimation");
     preferences.prfSound = reader.truth("prfSound");
@@ -91,8 +90,9 @@ void loadPreferences(SettingsStore& store, Preferences& preferences)
 
 void savePreferences(const Preferences& preferences, SettingsStore& store)
 {
-    const auto text = [&store](const char* key, const std::string& value) {
-        store.writeSetting(application, section, key, value);
+    Settings settings;
+    const auto text = [&settings](const char* key, std::string value) {
+        writeSetting(settings, key, std::move(value));
     };
     const auto number = [&text](const char* key, std::int32_t value) {
         text(key, std::to_string(value));
@@ -115,6 +115,7 @@ void savePreferences(const Preferences& preferences, SettingsStore& store)
     number("prfBannerDelay", preferences.prfBannerDelay);
     if (!preferences.prfPKBackground.empty())
         text("prfPKBackground", preferences.prfPKBackground);
+    store.save(settings);
 }
 
 } // namespace quillet

@@ -1,28 +1,27 @@
 #pragma once
 
+#include "settings/settings.h"
+
 #include <string>
 
 namespace quillet
 {
 
-// A per-user store of texts (UTF-8) that lasts between runs.
+// The player's settings, which last between runs.
 class SettingsStore
 {
 public:
     virtual ~SettingsStore() = default;
 
-    // The stored text, which may be empty, or the default text when the key does not exist.
-    [[nodiscard]] virtual std::string readSetting(const std::string& application,
-                                                  const std::string& section,
-                                                  const std::string& key,
-                                                  const std::string& defaultText) = 0;
+    // Empty where no settings can be read.
+    [[nodiscard]] virtual Settings load() const = 0;
 
-    // Where the texts of an application are kept, for a player who has to mend one.
-    [[nodiscard]] virtual std::string place(const std::string& application) = 0;
+    // Stores these settings together and keeps all others. Throws RunTimeError on failure; then
+    // everything stays as it was.
+    virtual void save(const Settings& settings) = 0;
 
-    // Throws RunTimeError when the text cannot be stored; what was stored before stays whole.
-    virtual void writeSetting(const std::string& application, const std::string& section,
-                              const std::string& key, const std::string& text) = 0;
+    // For error messages: the file that the player may have to repair.
+    [[nodiscard]] virtual std::string location() const = 0;
 };
 
 } // namespace quillet

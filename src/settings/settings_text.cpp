@@ -155,18 +155,24 @@ std::optional<SettingsText::Line> SettingsText::parseLine(std::string_view raw,
     return line;
 }
 
-std::optional<std::string> SettingsText::value(std::string_view section, std::string_view key) const
+Settings SettingsText::settings(std::string_view section) const
 {
-    const Line* found = find(section, key);
-    return found == nullptr ? std::nullopt : std::optional(found->value);
+    Settings result;
+    for (const Line& line : m_lines)
+        if (line.key && line.section == section)
+            writeSetting(result, *line.key, line.value);
+    return result;
 }
 
 void SettingsText::setValue(const std::string& section, const std::string& key,
                             std::string_view value)
 {
+    const Line* found = find(section, key);
+    if (found != nullptr && found->value == value)
+        return;
     Line entry{escaped(key, misreadInNames) + "=" + escaped(value, "") + m_carriageReturn, section,
                false, key, std::string(value)};
-    if (const Line* found = find(section, key))
+    if (found != nullptr)
         m_lines[static_cast<std::size_t>(found - m_lines.data())] = std::move(entry);
     else
         insertEntry(std::move(entry));

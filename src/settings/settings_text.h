@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/settings.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,9 +22,9 @@ public:
     // Nothing when a line is of no known kind, or the bytes are not plain UTF-8 text.
     [[nodiscard]] static std::optional<SettingsText> parse(std::string_view bytes);
 
-    // Of a key that stands there twice, the last value counts.
-    [[nodiscard]] std::optional<std::string> value(std::string_view section,
-                                                   std::string_view key) const;
+    // In the order of the file.
+    [[nodiscard]] Settings settings(std::string_view section) const;
+    // Leaves the line as it is if it has this value already.
     void setValue(const std::string& section, const std::string& key, std::string_view value);
 
     [[nodiscard]] std::string bytes() const;

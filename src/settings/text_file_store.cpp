@@ -1,6 +1,7 @@
 #include "settings/text_file_store.h"
 
 #include "faults/run_time_error.h"
+#include "settings/settings_text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,9 +24,10 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr qint64 largestFile = 1'048'576;
+constexpr const char* section = "Preferences";
+constexpr qint64 maxFileBytes = 1'048'576;
 
-// A write takes milliseconds. Who waits is the player, with a closing window.
+// A save takes milliseconds, and the player is waiting for the window to close.
 constexpr auto lockPatience = 2s;
 constexpr auto staleLock = 10s;
 
@@ -34,7 +36,7 @@ enum class FileState { missing, good, broken, unreadable };
 struct StoredFile {
     FileState state = FileState::missing;
     SettingsText text; // empty unless good
-    QString trouble;   // why it is unreadable
+    QString error;     // why it is unreadable
 };
 
 [[noreturn]] void fail(const QString& path, const QString& cause)
@@ -69,22 +71,7 @@ QString behindLinks(const QString& path)
     return file.filePath();
 }
 
-// Another one for every state of the file, empty where there is none.
-QString stampOf(const QString& path)
-{
-    struct stat file {
-    };
-    if (::stat(QFile::encodeName(path), &file) != 0)
-        return {};
-    return QStringLiteral("%1 %2 %3 %4.%5")
-        .arg(path)
-        .arg(file.st_ino)
-        .arg(file.st_size)
-        .arg(file.st_ctim.tv_sec)
-        .arg(file.st_ctim.tv_nsec);
-}
-
-StoredFile load(const QString& path)
+StoredFile readFile(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink())
@@ -92,17 +79,17 @@ StoredFile load(const QString& path)
     // Opening a pipe would wait for its other end.
     if (!info.isFile())
         return {FileState::unreadable, {}, QStringLiteral("It is not a file")};
-    if (info.size() > largestFile)
+    if (info.size() > maxFileBytes)
         return {FileState::broken, {}, {}};
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {FileState::unreadable, {}, file.errorString()};
-    const QByteArray bytes = file.read(largestFile + 1);
+    const QByteArray bytes = file.read(maxFileBytes + 1);
     if (file.error() != QFileDevice::NoError)
         return {FileState::unreadable, {}, file.errorString()};
     std::optional<SettingsText> text;
-    if (bytes.size() <= largestFile)
+    if (bytes.size() <= maxFileBytes)
         text = SettingsText::parse({bytes.data(), static_cast<std::size_t>(bytes.size())});
     if (!text)
         return {FileState::broken, {}, {}};
@@ -134,7 +121,7 @@ void take(QLockFile& lock, const QString& path)
 }
 
 // Gives the file the first free of its spare names, and answers it; empty when that fails.
-QString setAside(const QString& path)
+QString moveAside(const QString& path)
 {
     for (int number = 1; number < 1000; ++number) {
         const QString name = path + ".bad" + (number == 1 ? QString() : QString::number(number));
@@ -145,7 +132,7 @@ QString setAside(const QString& path)
 }
 
 // What a save writes first. One that was killed leaves it behind for the next to write over.
-QString unfinished(const QString& path)
+QString temporaryName(const QString& path)
 {
     return path + ".new";
 }
@@ -153,7 +140,7 @@ QString unfinished(const QString& path)
 // The new file is safe on the disk before the old one is touched.
 void replace(const QString& path, const std::string& bytes, bool keepOld)
 {
-    QFile file(unfinished(path));
+    QFile file(temporaryName(path));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         fail(path, file.errorString());
     const auto removed = qScopeGuard([&file] { file.remove(); });
@@ -175,7 +162,7 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
 
     QString aside;
     if (keepOld) {
-        aside = setAside(path);
+        aside = moveAside(path);
         if (aside.isEmpty())
             fail(path, QStringLiteral("The damaged file there cannot be kept aside"));
     }
@@ -193,52 +180,45 @@ TextFileStore::TextFileStore() : TextFileStore(userConfigFolder()) {}
 
 TextFileStore::TextFileStore(QString configFolder) : m_configFolder(std::move(configFolder)) {}
 
-std::string TextFileStore::readSetting(const std::string& application, const std::string& section,
-                                       const std::string& key, const std::string& defaultText)
+Settings TextFileStore::load() const
 {
-    const QString path = filePath(application);
-    if (const QString stamp = stampOf(path); stamp != m_stamp) {
-        m_text = load(path).text; // empty where there is no file
-        m_stamp = stamp;
-    }
-    return m_text.value(section, key).value_or(defaultText);
+    return readFile(filePath()).text.settings(section);
 }
 
-std::string TextFileStore::place(const std::string& application)
+void TextFileStore::save(const Settings& settings)
 {
-    return filePath(application).toStdString();
-}
-
-void TextFileStore::writeSetting(const std::string& application, const std::string& section,
-                                 const std::string& key, const std::string& text)
-{
-    const QString path = filePath(application);
-    // What is stored already needs no disk: closing the window mostly changes nothing.
-    if (load(path).text.value(section, key) == text && !QFile::exists(unfinished(path)))
+    const QString path = filePath();
+    const auto merged = [&settings](SettingsText text) {
+        for (const auto& [key, value] : settings)
+            text.setValue(section, key, value);
+        return text.bytes();
+    };
+    // Nothing has changed for most players who close the window.
+    const SettingsText before = readFile(path).text;
+    if (merged(before) == before.bytes() && !QFile::exists(temporaryName(path)))
         return;
     if (!makeFolder(QFileInfo(path).path()))
-        fail(path, QStringLiteral("The folder cannot be made"));
+        fail(path, QStringLiteral("The folder cannot be created"));
 
     QLockFile lock(path + ".lock");
     take(lock, path);
-    StoredFile stored = load(path);
+    const StoredFile stored = readFile(path);
     if (stored.state == FileState::unreadable)
-        fail(path, stored.trouble);
-    stored.text.setValue(section, key, text);
-    const std::string bytes = stored.text.bytes();
-    if (bytes.size() > largestFile)
+        fail(path, stored.error);
+    const std::string bytes = merged(stored.text);
+    if (bytes.size() > maxFileBytes)
         fail(path, QStringLiteral("The text is too long"));
     replace(path, bytes, stored.state == FileState::broken);
 }
 
-QString TextFileStore::filePath(const std::string& application) const
+std::string TextFileStore::location() const
 {
-    // Dots are encoded too, or "." and ".." would lead elsewhere; no other name becomes "%".
-    QString folder = QString::fromUtf8(
-        QByteArray::fromStdString(application).toPercentEncoding(QByteArray(), "."));
-    if (folder.isEmpty())
-        folder = QStringLiteral("%");
-    return behindLinks(m_configFolder + '/' + folder + "/settings.ini");
+    return filePath().toStdString();
+}
+
+QString TextFileStore::filePath() const
+{
+    return behindLinks(m_configFolder + "/Quillet/settings.ini");
 }
 
 } // namespace quillet

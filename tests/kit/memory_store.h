@@ -3,40 +3,33 @@
 #include "faults/run_time_error.h"
 #include "settings/settings_store.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 #include <string>
 
 namespace quillet::test
 {
 
-// Keeps the texts in memory and notes every call.
+// Keeps the texts in memory and notes what is saved.
 class MemoryStore : public SettingsStore
 {
 public:
-    std::string readSetting(const std::string& application, const std::string& section,
-                            const std::string& key, const std::string& defaultText) override
-    {
-        EXPECT_EQ(application + "/" + section, "Quillet/Preferences");
-        log += key + " ";
-        return texts.contains(key) ? texts[key] : defaultText;
-    }
+    [[nodiscard]] Settings load() const override { return {texts.begin(), texts.end()}; }
 
-    std::string place(const std::string&) override { return "memory"; }
-
-    void writeSetting(const std::string& application, const std::string& section,
-                      const std::string& key, const std::string& text) override
+    void save(const Settings& settings) override
     {
-        EXPECT_EQ(application + "/" + section, "Quillet/Preferences");
-        if (key == failingKey)
+        if (fails)
             throw RunTimeError("Disk full");
-        log += key + "=" + text + " ";
-        texts[key] = text;
+        for (const auto& [key, text] : settings) {
+            log += key + "=" + text + " ";
+            texts[key] = text;
+        }
     }
+
+    [[nodiscard]] std::string location() const override { return "memory"; }
 
     std::map<std::string, std::string> texts;
-    std::string log, failingKey;
+    std::string log;
+    bool fails = false;
 };
 
 } // namespace quillet::test

@@ -64,16 +64,16 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "no file";
     }
 
-    [[nodiscard]] std::string read(const std::string& key)
+    [[nodiscard]] std::string read(const std::string& key) const
     {
-        return store.readSetting("Quillet", "Preferences", key, "default");
+        return readSetting(store.load(), key, "default");
     }
 
-    // Writes, and answers what the store threw.
+    // Saves one setting and returns what the store threw.
     std::string write(const std::string& key, const std::string& text)
     {
         try {
-            store.writeSetting("Quillet", "Preferences", key, text);
+            store.save({{key, text}});
             return "";
         } catch (const RunTimeError& error) {
             return error.what();
@@ -108,13 +108,9 @@ TEST_F(TextFileStoreTest, textsLastAndAnEmptyOneIsNotMissing)
     EXPECT_EQ(read("k"), "default");
     EXPECT_FALSE(QDir(m_home.filePath("config")).exists());
 
-    EXPECT_EQ(write("k", "a=b\n"), "");
-    EXPECT_EQ(write("empty", ""), "");
-    store.writeSetting("../x", "Preferences", "k", "other application");
-    TextFileStore later(m_home.filePath("config"));
-    EXPECT_EQ(later.readSetting("Quillet", "Preferences", "k", "default"), "a=b\n");
-    EXPECT_EQ(later.readSetting("Quillet", "Preferences", "empty", "default"), "");
-    EXPECT_EQ(later.readSetting("../x", "Preferences", "k", "default"), "other application");
+    store.save({{"k", "a=b\n"}, {"empty", ""}});
+    EXPECT_EQ(read("k"), "a=b\n");
+    EXPECT_EQ(read("empty"), "");
     EXPECT_EQ(fileText(), "[Preferences]\nk=a=b\\n\nempty=\n");
     EXPECT_EQ(leftovers(), QStringList());
 }
@@ -148,9 +144,10 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
         EXPECT_THAT(write("k", std::string(5000, 'x')),
                     testing::AllOf(testing::StartsWith("The settings cannot be stored in /"),
                                    HasSubstr(bytes > 0 ? "File too large" : "disk")));
+        EXPECT_THROW(store.save({{"k", "new"}, {"l", std::string(5000, 'x')}}), RunTimeError);
         EXPECT_EQ(write("k", "old"), "") << "nothing to store";
     }
-    EXPECT_EQ(fileText(), "[Preferences]\nk=old\n");
+    EXPECT_EQ(fileText(), "[Preferences]\nk=old\n") << "all of a save, or nothing";
     EXPECT_EQ(leftovers(), QStringList());
 
     EXPECT_THAT(write("k", std::string(1024 * 1024, 'x')), testing::EndsWith("too long"));
@@ -202,7 +199,7 @@ TEST(UsersStore, liesInTheHomeOfTheUserDatabaseWhereNoneIsSet)
     qunsetenv("HOME");
     qputenv("XDG_CONFIG_HOME", "relative");
     const std::string known = ::getpwuid(::getuid())->pw_dir;
-    EXPECT_EQ(TextFileStore().place("Quillet"), known + "/.config/Quillet/settings.ini");
+    EXPECT_EQ(TextFileStore().location(), known + "/.config/Quillet/settings.ini");
     qputenv("HOME", home);
     config.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", config);
 }
@@ -212,7 +209,7 @@ TEST_F(TextFileStoreTest, writersMergeTheirKeys)
     const auto writer = [this](const std::string& name) {
         TextFileStore own(m_home.filePath("config"));
         for (int i = 0; i < 6; ++i)
-            own.writeSetting("Quillet", "Preferences", name + std::to_string(i), name);
+            own.save({{name + std::to_string(i), name}});
     };
     std::thread first(writer, "first"), second(writer, "second");
     first.join();
