@@ -86,7 +86,7 @@ void judgements(benchmark::State& state)
     for ([[maybe_unused]] auto step : state) {
         const std::array<bool, 5> held{(next & 1) != 0, (next & 2) != 0, (next & 4) != 0,
                                        (next & 8) != 0, (next & 16) != 0};
-        benchmark::DoNotOptimize(judgeHold(hands[next], held, plays[next]));
+        benchmark::DoNotOptimize(isCorrectHold(hands[next], held, plays[next]));
         next = (next + 1) % handCount;
     }
 }

@@ -31,7 +31,7 @@ void holdBestPlay(frmMain& window)
         std::array<bool, 5> held{};
         for (std::size_t slot = 0; slot < held.size(); ++slot)
             held[slot] = (choice >> slot & 1U) != 0;
-        if (!judgeHold(hand.hand, held, hand.handCode).correct)
+        if (!isCorrectHold(hand.hand, held, hand.handCode))
             continue;
         for (std::int16_t slot = 0; slot < 5; ++slot)
             if (held[static_cast<std::size_t>(slot)])

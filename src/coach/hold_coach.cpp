@@ -24,7 +24,7 @@ void HoldCoach::showBestPlay(std::int16_t playCode)
 bool HoldCoach::acceptHold(const HandState& state)
 {
     m_chart.resetChartColors();
-    if (!state.judgePending || judgeHold(state.hand, state.holdFlags, state.handCode).correct)
+    if (!state.judgePending || isCorrectHold(state.hand, state.holdFlags, state.handCode))
         return true;
 
     m_chart.highlightMissedPlay(state.handCode);

@@ -7,7 +7,7 @@ namespace quillet
 {
 
 // Judges the player's hold against the best play of the dealt hand and shows the result on the
-// chart. What is referenced outlives the coach.
+// chart. Both references must outlive the coach.
 class HoldCoach : public HandCoach
 {
 public:

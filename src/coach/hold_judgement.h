@@ -8,15 +8,9 @@
 namespace quillet
 {
 
-struct HoldJudgement {
-    int cardsHeld = 0;
-    std::int16_t play = 0; // play code of the held cards alone
-    bool correct = false;
-};
-
-// What a hold amounts to, against the play code that the five cards call for. Any hold of that
-// play with as many cards as it keeps is correct, whichever cards they are.
-[[nodiscard]] HoldJudgement judgeHold(const std::array<Card, 5>& hand,
-                                      const std::array<bool, 5>& holdFlags, std::int16_t bestPlay);
+// Whether the held cards alone have the play code bestPlay, and are as many as that play keeps.
+// They need not be the cards that gave the hand this code.
+[[nodiscard]] bool isCorrectHold(const std::array<Card, 5>& hand,
+                                 const std::array<bool, 5>& holdFlags, std::int16_t bestPlay);
 
 } // namespace quillet

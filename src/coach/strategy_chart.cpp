@@ -1,6 +1,7 @@
 #include "coach/strategy_chart.h"
 
 #include <cassert>
+#include <cstddef>
 
 namespace quillet
 {
@@ -41,7 +42,7 @@ constexpr ChartRowColours straightFlushWinner{0x00FF00, black};
 constexpr ChartRowColours otherWinner{0x00C000, black};
 constexpr int straightFlushRow = 1;
 
-std::size_t placeOf(int row)
+std::size_t indexOf(int row)
 {
     assert(row >= 0 && row < chartRows);
     return static_cast<std::size_t>(row);
@@ -51,7 +52,7 @@ std::size_t placeOf(int row)
 
 std::string_view StrategyChart::caption(int row)
 {
-    return captions[placeOf(row)];
+    return captions[indexOf(row)];
 }
 
 std::array<ChartRowPlace, chartRows> StrategyChart::layoutChartRows(double panelHeight)
@@ -89,7 +90,7 @@ void StrategyChart::highlightWinner(std::int16_t playCode)
 
 ChartRowState StrategyChart::state(int row) const
 {
-    return m_states[placeOf(row)];
+    return m_states[indexOf(row)];
 }
 
 ChartRowColours StrategyChart::colours(int row) const
@@ -115,7 +116,7 @@ void StrategyChart::highlight(std::int16_t playCode, ChartRowState state)
 
 void StrategyChart::setState(int row, ChartRowState state)
 {
-    ChartRowState& current = m_states[placeOf(row)];
+    ChartRowState& current = m_states[indexOf(row)];
     if (current == state)
         return;
     current = state;

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string_view>
+#include <utility>
 
 namespace quillet
 {
@@ -29,7 +30,7 @@ struct ChartRowPlace {
     double height;
 };
 
-// The chart beside the table: row r stands for play code r + 1, best play first. At most one row
+// The chart beside the table: row r is play code r + 1, best play first. At most one row
 // is lit at a time.
 class StrategyChart
 {
@@ -37,8 +38,8 @@ public:
     // The row's caption as it is shown, trailing blanks included.
     [[nodiscard]] static std::string_view caption(int row);
 
-    // Where the rows lie in a panel of this inner height, in its own units: stacked from the
-    // bottom edge, with room for two more rows at the top.
+    // The rows in a panel of this inner height, in its own units: stacked from the bottom edge,
+    // with room for two more rows at the top.
     [[nodiscard]] static std::array<ChartRowPlace, chartRows> layoutChartRows(double panelHeight);
 
     // Called with the row after each change of its colours.

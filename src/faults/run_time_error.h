@@ -1,12 +1,14 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace quillet
 {
 
-// What a procedure that promises an error box reports; what() is the description in the box.
+// Thrown inside a procedure that promises an error box; what() is the description in the box.
 class RunTimeError : public std::runtime_error
 {
 public:
@@ -26,7 +28,7 @@ public:
     return RunTimeError("Division by zero");
 }
 
-// Shows a message to the player, with an OK button only and the application's title.
+// Shows a message to the player, with only an OK button and the application's title.
 class ErrorBox
 {
 public:
@@ -34,8 +36,8 @@ public:
     virtual void showError(const std::string& text) = 0;
 };
 
-// The one guard: runs the body; an error in it is shown between the two texts and ends the
-// body there. Answers whether the body ran to its end.
+// Runs the body. If it throws, shows the error between the two texts. Returns whether the body
+// completed.
 template <typename Body>
 bool guardedWithText(ErrorBox& box, const std::string& before, const std::string& after,
                      Body&& body)
@@ -51,6 +53,7 @@ bool guardedWithText(ErrorBox& box, const std::string& before, const std::string
     return false;
 }
 
+// The same with the text of most procedures.
 template <typename Body>
 bool guarded(ErrorBox& box, const std::string& procedure, Body&& body)
 {

@@ -97,7 +97,7 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
         const std::int16_t code = EvaluatePokerHand(cards, false);
         std::uint32_t accepted = 0;
         for (odds::Hold hold = 0; hold < odds::holds; ++hold)
-            accepted |= judgeHold(cards, holdFlags(hold), code).correct ? 1U << hold : 0;
+            accepted |= isCorrectHold(cards, holdFlags(hold), code) ? 1U << hold : 0;
         ASSERT_EQ(static_cast<int>(deal.play.row) + 1, code)
             << odds::holdText(deal.hand.places, odds::holdAll);
         ASSERT_EQ(deal.play.fitting, accepted) << odds::holdText(deal.hand.places, odds::holdAll);

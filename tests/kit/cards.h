@@ -60,11 +60,11 @@ constexpr HoldFlags holdFlags(unsigned bits)
     return flags;
 }
 
-// A hold that the coach takes.
+// A hold that the coach accepts.
 inline std::optional<HoldFlags> acceptedHold(const std::array<Card, 5>& hand, std::int16_t bestPlay)
 {
     for (unsigned bits = 0; bits < 32; ++bits) {
-        if (judgeHold(hand, holdFlags(bits), bestPlay).correct)
+        if (isCorrectHold(hand, holdFlags(bits), bestPlay))
             return holdFlags(bits);
     }
     return {};

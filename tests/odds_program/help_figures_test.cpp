@@ -187,7 +187,7 @@ TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)
             EXPECT_EQ(play, rows) << dealt;
         }
         refused += wrong;
-        EXPECT_EQ(judgeHold(cards, held, play).correct, !wrong) << dealt << ": " << kept;
+        EXPECT_EQ(isCorrectHold(cards, held, play), !wrong) << dealt << ": " << kept;
     }
     EXPECT_EQ(refused, 2);
     EXPECT_EQ(rows, 21);
