@@ -8,18 +8,18 @@
 namespace quillet
 {
 
-// So many points where the desktop's own font has 9, and more where that is larger.
-[[nodiscard]] inline double besideDesktopFont(int points)
+// `points` beside a desktop font of up to 9 points, more beside a larger one.
+[[nodiscard]] inline double scaledToDesktopFont(int points)
 {
     return points * std::max(1.0, QFont().pointSizeF() / 9);
 }
 
-// The fonts of the designed windows, with what a Linux desktop has in their place.
+// The fonts of the designed windows, and what Linux desktops have instead.
 [[nodiscard]] inline QFont boldComicSans(int points)
 {
     QFont font;
     font.setFamilies({"Comic Sans MS", "Comic Neue", "sans-serif"});
-    font.setPointSizeF(besideDesktopFont(points));
+    font.setPointSizeF(scaledToDesktopFont(points));
     font.setBold(true);
     return font;
 }
@@ -28,7 +28,7 @@ namespace quillet
 {
     QFont font;
     font.setFamilies({"Small Fonts", "sans-serif"});
-    font.setPointSizeF(besideDesktopFont(8));
+    font.setPointSizeF(scaledToDesktopFont(8));
     return font;
 }
 

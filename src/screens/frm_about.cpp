@@ -6,7 +6,7 @@
 #include "screens/single_window.h"
 #include "screens/web_pages.h"
 
-#include <QDialogButtonBox>
+#include <QApplication>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -21,7 +21,7 @@ namespace
 
 constexpr QSize iconSize(64, 64);
 
-// The window's icon stands in where the program was built without its own pictures.
+// The window icon if the program was built without its own pictures, as in tests.
 QIcon programIcon()
 {
     QIcon icon;

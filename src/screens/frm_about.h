@@ -4,8 +4,6 @@
 
 #include <QDialog>
 
-class QLabel;
-
 namespace quillet
 {
 

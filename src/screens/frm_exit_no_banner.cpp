@@ -52,7 +52,7 @@ frmExitNoBanner::frmExitNoBanner(PageOpener& pages, QWidget* parent)
 {
     setObjectName("frmExitNoBanner");
     setWindowTitle("More Texas Hold'em Resources..");
-    wearItsOwnColours();
+    applyPalette();
 
     auto* lblTitle = namedLabel("lblTitle", "Visit the Home Page for more Poker Goodies..");
     lblTitle->setFont(boldComicSans(15));
@@ -70,9 +70,9 @@ frmExitNoBanner::frmExitNoBanner(PageOpener& pages, QWidget* parent)
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-// The window is light grey with black text on every desktop; all other shades follow from the
-// grey, so that its buttons stay readable where the desktop is dark.
-void frmExitNoBanner::wearItsOwnColours()
+// Light grey with black text on every desktop. All other shades are derived from the grey, so the
+// buttons stay readable on a dark desktop.
+void frmExitNoBanner::applyPalette()
 {
     QPalette colours(QColor(0xC0, 0xC0, 0xC0));
     colours.setColor(QPalette::WindowText, Qt::black);
@@ -105,7 +105,7 @@ void frmExitNoBanner::addButtons(QVBoxLayout& layout)
     buttons->addStretch();
     layout.addLayout(buttons);
 
-    // Whoever leaves with Enter has not asked for a browser.
+    // Leaving with Enter must not open a browser.
     command1->setDefault(true);
     command1->setFocus();
 }
@@ -128,15 +128,15 @@ void frmExitNoBanner::openHomePage()
 void frmExitNoBanner::cmdOK_Click()
 {
     openHomePage();
-    endEverything();
+    finish();
 }
 
 void frmExitNoBanner::Command1_Click()
 {
-    endEverything();
+    finish();
 }
 
-void frmExitNoBanner::endEverything()
+void frmExitNoBanner::finish()
 {
     emit unloadMainWindow();
     done(QDialog::Accepted);

@@ -9,9 +9,8 @@ class QVBoxLayout;
 namespace quillet
 {
 
-// The last window: offers the web site's home page and ends the program when it closes, in
-// whatever way. It is shown with exec(); what ending means is the business of its owner, who
-// connects the two signals.
+// The last window. It offers the home page, and the program ends when it is closed, however that
+// happens. Its owner shows it with exec() and decides in the two signals how to end.
 class frmExitNoBanner : public QDialog
 {
     Q_OBJECT
@@ -24,18 +23,17 @@ public:
     void reject() override;
 
 signals:
-    // Sent once, before this window goes.
+    // Sent once, before this window closes.
     void unloadMainWindow();
-    // Sent by the two buttons alone, after this window has gone: exec() would return, but the
-    // program ends here.
+    // Sent only by the two buttons, after this window has closed and before exec() returns.
     void endProgram();
 
 private:
     void cmdOK_Click();
     void Command1_Click();
     void openHomePage();
-    void endEverything();
-    void wearItsOwnColours();
+    void finish();
+    void applyPalette();
     void addLinkLabels(QVBoxLayout& layout);
     void addFooter(QVBoxLayout& layout);
     void addButtons(QVBoxLayout& layout);

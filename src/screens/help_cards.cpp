@@ -1,6 +1,7 @@
 #include "screens/help_cards.h"
 
 #include "cards/small_card.h"
+#include "engine/card.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
@@ -30,15 +31,16 @@ Measures measuresIn(const QTextDocument& document)
     return {std::round(QFontMetricsF(document.defaultFont()).height() * 2.5)};
 }
 
-// Below 0 for what is no card.
+// -1 if this is not a card.
 int faceOf(const QString& card)
 {
     const auto rank = QStringView(u"A23456789TJQK").indexOf(card.front());
     const auto suit = QStringView(u"cdhs").indexOf(card.back());
-    return card.size() == 2 && rank >= 0 && suit >= 0 ? static_cast<int>(4 * rank + suit) : -1;
+    const bool isCard = card.size() == 2 && rank >= 0 && suit >= 0;
+    return isCard ? cardIdOf(static_cast<int>(rank) + 1, static_cast<int>(suit)) : -1;
 }
 
-// "9c Tc Jc Kc Ad/Ad": the cards, and those of them that are held. Any other name has no cards.
+// "9c Tc Jc Kc Ad/Ad": the cards, then those that are held. Other names have no cards.
 class PictureName
 {
 public:
@@ -107,7 +109,7 @@ QSizeF HelpCards::intrinsicSize(QTextDocument* document, int /*position*/,
     return {cards * card.step, card.height + card.raise};
 }
 
-void HelpCards::drawObject(QPainter* painter, const QRectF& place, QTextDocument* document,
+void HelpCards::drawObject(QPainter* painter, const QRectF& area, QTextDocument* document,
                            int /*position*/, const QTextFormat& format)
 {
     const QTransform toPixels = painter->deviceTransform();
@@ -116,11 +118,11 @@ void HelpCards::drawObject(QPainter* painter, const QRectF& place, QTextDocument
     };
     const Measures card = measuresIn(*document);
     const QSize size(pixels(card.width), pixels(card.height));
-    QPoint corner = toPixels.map(place.topLeft()).toPoint();
+    QPoint corner = toPixels.map(area.topLeft()).toPoint();
     const PictureName picture(format);
 
     painter->save();
-    // In device pixels, on which all edges of a card lie.
+    // In device pixels, so that the edges of the cards are sharp.
     painter->setWorldTransform(toPixels.inverted() * painter->worldTransform());
     for (const QString& name : picture.cards()) {
         const QPoint lowered(0, picture.isHeld(name) ? 0 : pixels(card.raise));

@@ -7,27 +7,27 @@
 namespace quillet
 {
 
-// Shows the hands of the help as small cards. The text has a picture before each hand, which is
-// painted anew at the scale of the display and in the size of the letters. The hand stays below
-// it as text, to be read aloud, found and copied.
+// Shows the hands of the help as small cards: a picture before each hand, painted at the scale of
+// the display and in proportion to the font. The hand stays below it as text, which can be read
+// aloud, found and copied.
 class HelpCards : public QObject, public QTextObjectInterface
 {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    // Paints the pictures of this document, to which it belongs.
+    // Paints the pictures of this document, which owns it.
     explicit HelpCards(QTextDocument* document);
 
-    // The hands are the texts of the elements "hand". The cards of the element "hold" that follows
-    // are held, and so raised.
+    // A hand is the text of a span of class "hand". The cards of the next span of class "hold" are
+    // held and painted higher.
     [[nodiscard]] static QString withPictures(const QString& html);
 
-    // What was copied, as text or as HTML, without the places of the pictures.
+    // Copied text or HTML without its pictures.
     [[nodiscard]] static QString withoutPictures(QString copied);
 
     QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
-    void drawObject(QPainter* painter, const QRectF& place, QTextDocument* document, int position,
+    void drawObject(QPainter* painter, const QRectF& area, QTextDocument* document, int position,
                     const QTextFormat& format) override;
 };
 

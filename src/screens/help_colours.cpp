@@ -21,7 +21,7 @@ QColor mixed(const QColor& ground, const QColor& ink, double share)
             channel(ground.blue(), ink.blue())};
 }
 
-// What is said of a colour of the chart stands on this colour.
+// The background that the help gives to words about a colour of the chart.
 QString chartColourRule(const QString& name, void (StrategyChart::*light)(std::int16_t),
                         std::int16_t playCode)
 {

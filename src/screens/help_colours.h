@@ -7,11 +7,10 @@
 namespace quillet
 {
 
-// The desktop's own link colour, or a blue that can be read where it has forgotten that its
-// background is dark.
+// The desktop's link colour, or a readable blue if that has too little contrast.
 [[nodiscard]] QColor readableLinkColour(const QPalette& palette);
 
-// Dresses the help text, which names no colours itself, for this desktop.
+// The style of the help text in the colours of this desktop.
 [[nodiscard]] QString helpStyleSheet(const QPalette& palette);
 
 } // namespace quillet

@@ -25,22 +25,22 @@ HelpFile readHelpFile(const QString& path)
     if (!info.exists())
         return unreadable("is missing. It should be here: " + path);
     if (!info.isFile())
-        return unreadable("cannot be read, because this is not a file: " + path);
+        return unreadable("is not a regular file: " + path);
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return unreadable("cannot be read (" + file.errorString() + "): " + path);
     const QByteArray bytes = file.read(sizeLimit + 1);
     if (bytes.size() > sizeLimit)
-        return unreadable("is too large to be shown (more than 4 MB): " + path);
+        return unreadable("is too large (more than 4 MB): " + path);
     if (bytes.isEmpty())
         return unreadable("is empty: " + path);
 
-    // Stateless: a character that is cut off at the end of the file is an error as well.
+    // Stateless, so that a character cut off at the end of the file is an error, too.
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString html = utf8(bytes);
     if (utf8.hasError())
-        return unreadable("cannot be read, because it is not a UTF-8 text: " + path);
+        return unreadable("is not UTF-8 text: " + path);
     return {html, {}};
 }
 

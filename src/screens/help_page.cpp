@@ -23,12 +23,12 @@ constexpr const char* documentAddress = "quillet-help:/quillet.hlp";
 HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_normalSize(font().pointSizeF())
 {
     setOpenLinks(false);
-    setWordWrapMode(QTextOption::WordWrap); // rather scrolls sideways than breaks a word
+    setWordWrapMode(QTextOption::WordWrap); // scrolls sideways if a word is too long
     document()->setDocumentMargin(16);
     new HelpCards(document());
-    takeColoursFromPalette();
+    applyPalette();
     connect(this, &QTextBrowser::anchorClicked, this, &HelpPage::followLink);
-    connect(this, &QTextBrowser::sourceChanged, this, &HelpPage::searchOnFromHere);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpPage::searchFromVisibleText);
 }
 
 void HelpPage::showText(const QString& html)
@@ -63,8 +63,8 @@ void HelpPage::followLink(const QUrl& target)
         emit webLinkClicked(target);
 }
 
-// After a jump the reader looks here, so the next search starts here as well.
-void HelpPage::searchOnFromHere()
+// After a jump the next search starts at the first visible line.
+void HelpPage::searchFromVisibleText()
 {
     setTextCursor(cursorForPosition(QPoint(0, 0)));
 }
@@ -72,7 +72,7 @@ void HelpPage::searchOnFromHere()
 HelpPage::Found HelpPage::search(const QString& text, QTextDocument::FindFlags direction)
 {
     if (find(text, direction))
-        return Found::onward;
+        return Found::next;
     const QTextCursor before = textCursor();
     const int scrolledTo = verticalScrollBar()->value();
     QTextCursor otherEnd(document());
@@ -112,7 +112,7 @@ void HelpPage::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        takeColoursFromPalette();
+        applyPalette();
 }
 
 QMimeData* HelpPage::createMimeDataFromSelection() const
@@ -124,13 +124,13 @@ QMimeData* HelpPage::createMimeDataFromSelection() const
     return copied;
 }
 
-// A text takes its colours when it is set. Loading the page again would add to its history.
-void HelpPage::takeColoursFromPalette()
+// The text takes its colours when it is set. Loading the page would add to the history.
+void HelpPage::applyPalette()
 {
     QPalette colours = palette();
     const QColor selection = colours.color(QPalette::Active, QPalette::Highlight);
     if (colours.color(QPalette::Inactive, QPalette::Highlight) != selection) {
-        // What was found must stay visible while the keyboard is in the search field.
+        // The match must stay visible while the search field has the focus.
         colours.setColor(QPalette::Inactive, QPalette::Highlight, selection);
         colours.setColor(QPalette::Inactive, QPalette::HighlightedText,
                          colours.color(QPalette::Active, QPalette::HighlightedText));

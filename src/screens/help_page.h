@@ -5,23 +5,23 @@
 namespace quillet
 {
 
-// The help text itself: its colours, its links, the search in it and its size. It shows what it
-// is given and loads nothing else, from disk or network.
+// The help text with its colours, links, search and font size. It shows only the given text and
+// loads nothing else from disk or network.
 class HelpPage : public QTextBrowser
 {
     Q_OBJECT
 
 public:
-    enum class Found { onward, afterWrapping, nowhere };
+    enum class Found { next, afterWrapping, nowhere };
 
     explicit HelpPage(QWidget* parent = nullptr);
 
     void showText(const QString& html);
     void showContents();
 
-    // Selects the next place of the text, going round at the end.
+    // Selects the next match, and wraps at the end.
     Found search(const QString& text, QTextDocument::FindFlags direction);
-    // Selects the first place at or after the present one, for a text that is being typed.
+    // Selects the first match at or after the current one, while the text is being typed.
     Found searchWhileTyping(const QString& text);
 
     void zoomBy(int points);
@@ -36,9 +36,9 @@ protected:
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
 private:
-    void takeColoursFromPalette();
+    void applyPalette();
     void followLink(const QUrl& target);
-    void searchOnFromHere();
+    void searchFromVisibleText();
 
     QString m_html;
     qreal m_normalSize;

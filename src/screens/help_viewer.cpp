@@ -28,7 +28,7 @@ QAction* addCommand(QToolBar& bar, const QString& text, const QList<QKeySequence
     QAction* action = bar.addAction(text, std::forward<Act>(act));
     action->setShortcuts(keys);
     action->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
-    // Qt keeps the buttons of a tool bar out of the reach of the Tab key.
+    // By default, Tab skips the buttons of a tool bar.
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     return action;
 }
@@ -36,12 +36,12 @@ QAction* addCommand(QToolBar& bar, const QString& text, const QList<QKeySequence
 void prepare(QToolBar& bar)
 {
     bar.setMovable(false);
-    // Shows what a narrow window leaves no room for.
+    // The menu of the commands that do not fit in a narrow window.
     if (auto* more = bar.findChild<QToolButton*>("qt_toolbar_ext_button"))
         more->setAccessibleName("More commands");
 }
 
-// Styles draw the edge of a field in a shade of the window's colour, which on black is nothing.
+// Styles draw a field's edge in a shade of the window colour, which is invisible on black.
 class SearchField : public QLineEdit
 {
 protected:
@@ -55,7 +55,7 @@ protected:
     }
 };
 
-// Right of the game, as far as the screen has room.
+// Right of the game, as far as the screen allows.
 QPoint placeBeside(const QWidget& game, QSize size)
 {
     const QRect screen = game.screen()->availableGeometry();
@@ -93,27 +93,7 @@ HelpViewer::HelpViewer(PageOpener& pages, QWidget* parent)
     setWindowTitle("Quillet Help");
     setContextMenuPolicy(Qt::PreventContextMenu);
 
-    m_page->setObjectName("helpPage");
-    m_page->setAccessibleName("Help text");
-    m_page->setFrameShape(QFrame::NoFrame);
-    connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
-        openWebPage(m_pages, address.toEncoded().toStdString());
-    });
-    // The answer of a search has a line of its own, and more where it is long: in the bar it would
-    // disappear where the window is narrow.
-    m_message->setObjectName("helpMessage");
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
-    m_message->setContentsMargins(8, 4, 8, 4);
-    m_message->hide();
-    auto* middle = new QWidget;
-    auto* column = new QVBoxLayout(middle);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_page, 1);
-    column->addWidget(m_message);
-    setCentralWidget(middle);
-
+    setCentralWidget(layOutPage());
     auto* commands = new QToolBar("Commands");
     addNavigation(*commands);
     addZoom(*commands);
@@ -127,6 +107,30 @@ HelpViewer::HelpViewer(PageOpener& pages, QWidget* parent)
 
     resize(QSize(820, 680).boundedTo(screen()->availableSize() - QSize(40, 80)));
     m_page->setFocus();
+}
+
+QWidget* HelpViewer::layOutPage()
+{
+    m_page->setObjectName("helpPage");
+    m_page->setAccessibleName("Help text");
+    m_page->setFrameShape(QFrame::NoFrame);
+    connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
+        openWebPage(m_pages, address.toEncoded().toStdString());
+    });
+    // Messages of the search get their own line, which wraps. In the tool bar they would be cut
+    // off.
+    m_message->setObjectName("helpMessage");
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    m_message->setContentsMargins(8, 4, 8, 4);
+    m_message->hide();
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_page, 1);
+    column->addWidget(m_message);
+    return page;
 }
 
 void HelpViewer::addNavigation(QToolBar& bar)
@@ -188,7 +192,7 @@ void HelpViewer::openAtContents(const QString& path)
     m_page->showText(file.problem.isEmpty()
                          ? file.html
                          : "<h1>No help to show</h1><p>" + file.problem.toHtmlEscaped() + "</p>");
-    tell({});
+    showMessage({});
 }
 
 void HelpViewer::searchNext(QTextDocument::FindFlags direction)
@@ -199,16 +203,16 @@ void HelpViewer::searchNext(QTextDocument::FindFlags direction)
         return;
     }
     switch (m_page->search(text, direction)) {
-    case HelpPage::Found::onward:
-        tell({});
+    case HelpPage::Found::next:
+        showMessage({});
         break;
     case HelpPage::Found::afterWrapping:
-        tell(direction.testFlag(QTextDocument::FindBackward)
-                 ? "Reached the top; the search went on from the end."
-                 : "Reached the end; the search went on from the top.");
+        showMessage(direction.testFlag(QTextDocument::FindBackward)
+                        ? "Reached the top; continued from the end."
+                        : "Reached the end; continued from the top.");
         break;
     case HelpPage::Found::nowhere:
-        tell(notFound(text));
+        showMessage(notFound(text));
     }
 }
 
@@ -216,10 +220,10 @@ void HelpViewer::searchTyped(const QString& text)
 {
     const bool missing =
         !text.isEmpty() && m_page->searchWhileTyping(text) == HelpPage::Found::nowhere;
-    tell(missing ? notFound(text) : QString());
+    showMessage(missing ? notFound(text) : QString());
 }
 
-void HelpViewer::tell(const QString& message)
+void HelpViewer::showMessage(const QString& message)
 {
     m_message->setText(message);
     m_message->setVisible(!message.isEmpty());

@@ -11,8 +11,8 @@ class QLineEdit;
 namespace quillet
 {
 
-// The help window: modeless, at most one, deleted when it is closed. It reports a help file that
-// cannot be read itself, in the place of the text.
+// The help window: modeless, at most one, deleted when it is closed. If the help file cannot be
+// read, it shows why instead of the text.
 class HelpViewer : public QMainWindow
 {
     Q_OBJECT
@@ -27,12 +27,13 @@ public:
     void openAtContents(const QString& path);
 
 private:
+    [[nodiscard]] QWidget* layOutPage();
     void addNavigation(QToolBar& bar);
     void addSearch(QToolBar& bar);
     void addZoom(QToolBar& bar);
     void searchNext(QTextDocument::FindFlags direction);
     void searchTyped(const QString& text);
-    void tell(const QString& message);
+    void showMessage(const QString& message);
 
     PageOpener& m_pages;
     HelpPage* m_page;

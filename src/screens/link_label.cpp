@@ -16,7 +16,7 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
-    setContentsMargins(0, 2, 0, 2); // in one line with plain labels
+    setContentsMargins(0, 2, 0, 2); // aligned with plain labels
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
@@ -43,7 +43,7 @@ void LinkLabel::keyPressEvent(QKeyEvent* event)
     }
 }
 
-// Styles differ in whether they draw a focus frame around a label, so this draws its own.
+// Not every style draws a focus frame around labels.
 void LinkLabel::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);

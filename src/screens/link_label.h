@@ -5,9 +5,9 @@
 namespace quillet
 {
 
-// A line of text that acts when it is clicked, or when Enter or Space is pressed on it. A double
-// click gives clicked() for its first click and doubleClicked() for its second, so whoever wants
-// one answer to it connects clicked() alone.
+// A line of text that can be clicked, or activated with Enter or Space. A double click sends
+// clicked() for its first click and doubleClicked() for its second; connect only clicked() to react
+// once.
 class LinkLabel : public QLabel
 {
     Q_OBJECT

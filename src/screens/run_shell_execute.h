@@ -8,12 +8,12 @@
 namespace quillet
 {
 
-// Hands an address to the desktop and returns at once; nobody learns whether it could be opened.
+// Asks the desktop to open an address and returns at once. A failure is not reported.
 void RunShellExecute(PageOpener& pages, const std::string& sTopic, const std::string& sFile,
                      const std::string& sParams, const std::string& sDirectory,
                      std::int32_t nShowCmd);
 
-// The one way in which the program's links call it.
+// How the program's links call it.
 void openWebPage(PageOpener& pages, const std::string& address);
 
 } // namespace quillet

@@ -6,8 +6,8 @@
 namespace quillet
 {
 
-// The open window of this class, or null. A closed one that is not yet deleted (it may have to
-// wait for the end of a pause) does not count.
+// The open window of this class, or null. A window that is closed but not yet deleted (a pause can
+// delay that) does not count.
 template <typename Window>
 [[nodiscard]] Window* openWindow()
 {

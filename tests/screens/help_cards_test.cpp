@@ -70,7 +70,7 @@ TEST(HelpCards, aHandIsFoundAndCopiedAsText)
 {
     HelpPage page;
     page.showText(handAndHold);
-    EXPECT_EQ(page.search("9c Th Ad", {}), HelpPage::Found::onward);
+    EXPECT_EQ(page.search("9c Th Ad", {}), HelpPage::Found::next);
     page.selectAll();
     page.copy();
     const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();

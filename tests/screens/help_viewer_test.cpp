@@ -71,9 +71,9 @@ TEST_F(HelpViewerTest, aFileThatCannotBeShownIsReportedInTheWindowWithItsPath)
     const QString missing = m_folder.filePath("a<b>.hlp");
     EXPECT_THAT(shownFor(present(missing)), HasSubstr("is missing"));
     EXPECT_THAT(shownFor(present(missing)), HasSubstr(missing.toStdString()));
-    EXPECT_THAT(shownFor(present(m_folder.path())), HasSubstr("not a file"));
+    EXPECT_THAT(shownFor(present(m_folder.path())), HasSubstr("not a regular file"));
     EXPECT_THAT(shownFor(present(fileWith({}))), HasSubstr("is empty"));
-    EXPECT_THAT(shownFor(present(fileWith("caf\xe9"))), HasSubstr("not a UTF-8 text"));
+    EXPECT_THAT(shownFor(present(fileWith("caf\xe9"))), HasSubstr("not UTF-8 text"));
 
     const QString path = fileWith("x");
     ASSERT_TRUE(QFile::resize(path, 4 * 1024 * 1024 + 1));
@@ -147,10 +147,10 @@ TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
     EXPECT_GT(found(), first);
     press(viewer, Qt::Key_F3);
     EXPECT_EQ(found(), first);
-    EXPECT_EQ(message.text(), "Reached the end; the search went on from the top.");
+    EXPECT_EQ(message.text(), "Reached the end; continued from the top.");
     press(viewer, Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_GT(found(), first);
-    EXPECT_EQ(message.text(), "Reached the top; the search went on from the end.");
+    EXPECT_EQ(message.text(), "Reached the top; continued from the end.");
     press(viewer, Qt::Key_F3);
 
     QTest::keyClicks(&control(viewer, "helpSearch"), "<b>");
