@@ -10,7 +10,7 @@ namespace quillet
 namespace
 {
 
-// A stripe of the tartan and how far it reaches from the middle of the repeat to either side.
+// A stripe of the tartan, up to `reach` on both sides of the middle of the repeat.
 struct Stripe {
     double reach;
     QRgb colour;
@@ -46,8 +46,8 @@ QRgb mixed(QRgb first, QRgb second, int firstShare)
                 channel(qBlue(first), qBlue(second)));
 }
 
-// Woven thread by thread: every device pixel shows a little more of the thread that lies above
-// there, in the slanted steps of a twill.
+// Woven thread by thread: each device pixel shows mostly the upper thread, in the diagonal steps of
+// a twill.
 QImage tartan(const CardCanvas& canvas, QSize size)
 {
     QImage cloth(size, QImage::Format_RGB32);
@@ -67,7 +67,7 @@ QImage tartan(const CardCanvas& canvas, QSize size)
 constexpr double pitch = 11;
 constexpr double ribbon = 9.6;
 
-// A ribbon's piece that lies on top, upright at the origin. Its ends dip under the neighbours.
+// The visible piece of a ribbon, vertical, centred on the origin. Its ends go under the neighbours.
 void paintRibbon(QPainter& painter, QRgb colour, QRgb shade)
 {
     constexpr double reach = pitch - ribbon / 2;
@@ -102,7 +102,7 @@ void paintWeave(CardCanvas& canvas)
         constexpr int reach = 8;
         for (int row = -reach; row <= reach; ++row) {
             for (int column = -reach; column <= reach; ++column) {
-                // The corners of the turned square lie outside the card.
+                // Outside the card.
                 if (std::abs(row + column) > 13 || std::abs(row - column) > 10)
                     continue;
                 painter.save();

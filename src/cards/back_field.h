@@ -16,7 +16,7 @@ inline constexpr double fieldWidth = 84;
 inline constexpr double fieldHeight = 118;
 
 // Fills the printed area with `ground`, lets `paint` draw on the grid, clipped to the area, and
-// puts a fine frame line around it.
+// draws a thin frame around it.
 void paintField(CardCanvas& canvas, QRgb ground, QRgb frame,
                 const std::function<void(QPainter&)>& paint);
 

@@ -9,11 +9,11 @@ namespace quillet
 namespace
 {
 
-// Brass: stands out on dark wood, and lets a black or red mark under it be read.
+// Brass: visible on dark wood, and black and red marks under it stay readable.
 constexpr QRgb ink = 0xffb98a2e;
 constexpr QRgb paper = 0xffffffff;
 
-// How far the middle of a pixel lies inside the card with rounded corners; negative outside.
+// The distance of a pixel's centre from the card's rounded edge; negative outside the card.
 double depthInside(int x, int y, QSize size, double radius)
 {
     const double fromSide = std::min(x, size.width() - 1 - x) + 0.5;
@@ -31,12 +31,12 @@ QImage hatchPicture(QSize deviceSize)
     picture.fill(Qt::transparent);
     const double scale = deviceSize.width() / double(cardArtWidth);
     const int line = std::max(1, static_cast<int>(std::lround(scale)));
-    // Where a line is rounded up, the lattice is wider, so that the ink stays below a quarter.
+    // Wider if the line was rounded up, so that the ink covers less than a quarter.
     const int period = static_cast<int>(std::lround(8 * std::max(scale, double(line)))) * 2;
     const double radius = 6 * scale;
     const int innerFrom = static_cast<int>(std::lround(3 * scale));
 
-    // Measured from the middle outwards, the lattice is its own mirror image both ways.
+    // Measured from the centre, so that the lattice is symmetric in both directions.
     const auto onLattice = [&](int x, int y) {
         const int fromMiddleX = std::max(x, deviceSize.width() - 1 - x) - deviceSize.width() / 2;
         const int fromMiddleY = std::max(y, deviceSize.height() - 1 - y) - deviceSize.height() / 2;

@@ -27,7 +27,7 @@ void paintAt(QPainter& painter, Placed place, std::string_view picture, const Pa
     painter.restore();
 }
 
-// Paints what belongs to the upper half, then the same turned half round about the middle.
+// Paints the upper half, then the same rotated by 180 degrees as the lower half.
 template <typename Paint>
 void paintBothHalves(QPainter& painter, const Paint& paint)
 {
@@ -60,7 +60,7 @@ constexpr std::string_view bud = R"(
     :gd.5 M0 5.5 C-3 5.5 -5 3 -5.6 -1 C-3.5 1.5 -1.5 2.5 0 3.5 Z;
 )";
 
-// An ivy leaf: its stalk at the origin, its tip up.
+// An ivy leaf, its stalk at the origin, its tip up.
 constexpr std::string_view ivyLeaf = R"(
     -s.8 M0 4 L0 -1;
     |gd.5 M0 -15 C-1.6 -12.5 -2.6 -11 -3.4 -8.6 C-5 -9.6 -6.6 -9.8 -8.4 -9.4

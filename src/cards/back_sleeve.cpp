@@ -9,12 +9,12 @@ namespace quillet
 namespace
 {
 
-// Four aces, in the order in which they lie over each other.
+// The aces of the fan, lowest first.
 constexpr std::array<int, 4> fan = {clubs, diamonds, spades, hearts};
 constexpr double firstAngle = -38;
 constexpr double angleStep = 22;
 
-// The coat's arm with its cuff and the shirt's. The wrist is at the origin, the arm hangs down.
+// The arm of the coat with its cuff and the shirt's. The wrist is at the origin, the arm below it.
 constexpr std::string_view arm = R"(
     nd1 M-17 12 C-6 7 6 7 17 12 L20 34 C24 46 26 60 28 90 L-32 90 C-28 62 -24 46 -20 34 Z;
     m- M-17 14 L-20 34 C-24 46 -27 60 -30 90 L-23 90 C-19 62 -15 46 -12 34 L-11 12 Z;
@@ -28,7 +28,7 @@ constexpr std::string_view arm = R"(
     gd.7 O13 39 2.5 O14.4 46.6 2.5; h- O12.4 38.2 .9 O13.8 45.8 .9;
 )";
 
-// The palm and the fingers, which close in front of the fan.
+// The palm, and the fingers in front of the fan.
 constexpr std::string_view fist = R"(
     sd.9 M-12.6 3 C-15 -3 -16 -9 -13.4 -14 C-10 -18.4 4 -20 10 -17.6 C13.6 -17.6 15.4 -15 14.6 -12.4
         C16.8 -11 17 -8 15.4 -6.4 C16.4 -4.4 16 -2 14.4 -.8 C14.8 1 14 2.6 12.8 3.4

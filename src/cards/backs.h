@@ -2,15 +2,18 @@
 
 #include "cards/card_canvas.h"
 
+#include <QImage>
+#include <QSize>
+
 #include <cstdint>
 
 namespace quillet
 {
 
-// The see-through overlay: white and one ink, pixel by pixel.
+// The see-through overlay, without antialiasing: every opaque pixel is white or ink.
 [[nodiscard]] QImage hatchPicture(QSize deviceSize);
 
-// Any back but the hatch; another number leaves the card as it is.
+// Paints any back except the hatch. Other numbers paint nothing.
 void paintBack(CardCanvas& canvas, std::int32_t cardNumber);
 
 } // namespace quillet

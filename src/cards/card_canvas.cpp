@@ -2,8 +2,6 @@
 
 #include "cards/card_art.h"
 
-#include <QPainterPath>
-
 #include <algorithm>
 #include <cmath>
 
@@ -64,7 +62,7 @@ void CardCanvas::beginInPixels(QPainter& painter)
 
 void CardCanvas::turnUpperHalf(double slope)
 {
-    // Turning a picture half round reverses the order of its pixels.
+    // Rotating a picture by 180 degrees reverses the order of its pixels.
     const int width = m_image.width();
     const int count = width * m_image.height();
     auto* const pixels = reinterpret_cast<QRgb*>(m_image.bits());

@@ -7,8 +7,8 @@
 namespace quillet
 {
 
-// A card picture being made: the white card with its edge to begin with, painted on the grid of
-// 96 x 130 units whatever the size of the picture.
+// A card picture in the making. It starts as a white card with its edge, and is painted on a grid
+// of 96 x 130 units, whatever the size of the picture.
 class CardCanvas
 {
 public:
@@ -17,20 +17,20 @@ public:
     [[nodiscard]] double scaleX() const { return m_scaleX; }
     [[nodiscard]] double scaleY() const { return m_scaleY; }
 
-    // Device pixels of a line that is `units` wide on the grid, never fewer than one.
+    // The width in device pixels of a line that is `units` wide on the grid, at least 1.
     [[nodiscard]] int lineWidth(double units) const;
 
-    // The place on the grid of the device pixel boundary nearest to x or y.
+    // The device pixel boundary nearest to x or y, in grid units.
     [[nodiscard]] double snappedX(double x) const;
     [[nodiscard]] double snappedY(double y) const;
 
-    // A painter with antialiasing that works on the grid. End it before using the picture.
+    // Starts an antialiasing painter on the grid. End it before using the picture.
     void begin(QPainter& painter);
     // The same in device pixels.
     void beginInPixels(QPainter& painter);
 
-    // Replaces everything below the line through the middle that falls by `slope` (device pixels
-    // down for one to the right) by the half above it, turned half round.
+    // Replaces the half below a line through the centre by the half above it, rotated by 180
+    // degrees. `slope` is how many device pixels the line falls for each pixel to the right.
     void turnUpperHalf(double slope = 0);
 
     [[nodiscard]] QImage& image() { return m_image; }

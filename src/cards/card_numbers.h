@@ -14,7 +14,7 @@ inline constexpr std::int32_t faces = 52;
 enum Suit : std::int32_t { clubs, diamonds, hearts, spades };
 
 enum Back : std::int32_t {
-    hatchBack = 53, // also the crosshatch that is laid over card places and finished hands
+    hatchBack = 53, // also the crosshatch over empty card places and finished hands
     plaidBack,
     weaveBack,
     robotBack,
@@ -29,9 +29,9 @@ enum Back : std::int32_t {
     sleeveBack
 };
 inline constexpr std::int32_t firstBack = hatchBack;
-inline constexpr std::int32_t usualBack = sleeveBack;
+inline constexpr std::int32_t defaultBack = sleeveBack;
 
-// What players call the backs, from the first one on.
+// The backs by name, from the first one.
 inline constexpr std::array<std::string_view, 13> backNames{
     "Hatch",    "Plaid",    "Weave", "Robot",  "Roses", "IvyBlack", "IvyBlue",
     "FishCyan", "FishBlue", "Shell", "Castle", "Beach", "Sleeve"};

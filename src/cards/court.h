@@ -2,15 +2,19 @@
 
 #include "cards/picture_text.h"
 
+#include <QPainter>
+
+#include <string_view>
+
 namespace quillet
 {
 
-// The colours of a court. Six in all: w white, k black, r red, g gold, b blue, s skin; the roles
-// R robe, L lining, P pattern, H hair, C cap and S sash stand for some of them.
+// The colours of a court: w white, k black, r red, g gold, b blue, s skin. The roles R robe,
+// L lining, P pattern, H hair, C cap and S sash are some of these.
 [[nodiscard]] Palette courtPalette(int rank, int suit);
 
-// Upper half figures on the grid, looking out of the court's frame. What lies below the slanted
-// line through the middle is covered later.
+// The upper half of a figure, on the grid. The part below the slanted line through the centre is
+// covered later.
 void paintKing(QPainter& painter, int suit, const Palette& palette);
 void paintQueen(QPainter& painter, int suit, const Palette& palette);
 void paintJack(QPainter& painter, int suit, const Palette& palette);

@@ -1,5 +1,5 @@
+#include "cards/card_numbers.h"
 #include "cards/court.h"
-#include "cards/pips.h"
 
 #include <QPen>
 
@@ -13,7 +13,7 @@ namespace
 
 constexpr double pitch = 7;
 
-// One repeat of the pattern on the cloth of each suit, about the origin.
+// One repeat of the cloth's pattern for each suit, centred on the origin.
 constexpr std::array<std::string_view, 4> repeats = {
     "P- O0 -1.5 1.15 O-1.4 .7 1.15 O1.4 .7 1.15; -P.6 M0 0 L0 3;",
     "-P.8 M0 -3.5 L3.5 0 L0 3.5 L-3.5 0 Z; P- O0 0 1;",

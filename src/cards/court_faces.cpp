@@ -18,7 +18,7 @@ constexpr QRgb gold = 0xfff0b93a;
 constexpr QRgb blue = 0xff23509c;
 constexpr QRgb skin = 0xfffadfc4;
 
-// The line that parts the two half figures falls to the right, to leave room for the hand.
+// The line between the two half figures falls to the right, to leave room for the hand.
 constexpr double slope = 0.25;
 
 struct Roles {
@@ -89,7 +89,7 @@ void paintFigure(CardCanvas& canvas, int rank, int suit)
     painters[static_cast<std::size_t>(rank - 11)](painter, suit, palette);
     paintSash(painter, palette);
 
-    // A white rim keeps the mark apart from the hat or veil that it touches.
+    // A white rim separates the mark from the hat or veil.
     const QPointF mark(canvas.snappedX(31), canvas.snappedY(18.5));
     paintPip(painter, suit, mark, 17.5, white);
     paintPip(painter, suit, mark, 15, suitColour(suit));

@@ -1,5 +1,5 @@
+#include "cards/card_numbers.h"
 #include "cards/court.h"
-#include "cards/pips.h"
 
 #include <array>
 #include <cstddef>

@@ -1,5 +1,5 @@
+#include "cards/card_numbers.h"
 #include "cards/court.h"
-#include "cards/pips.h"
 
 #include <array>
 #include <cstddef>
@@ -56,8 +56,8 @@ constexpr std::string_view veil = R"(
     |-k.5 M49 13.6 C43 14.6 40.6 19 40.6 26 C40.4 34 39 41 35 47;
 )";
 
-// The queen of clubs stands in no veil but in a wide collar, and has her hair up: at a glance she
-// is another than the queen of spades.
+// The queen of clubs wears a wide collar instead of a veil, and her hair up, so that she differs
+// from the queen of spades at a glance.
 constexpr std::string_view collar = R"(
     |wk.8 M49 52 L34.4 47 C29.6 41 28.8 34 31.6 27.4 C36.6 29 40.6 33 42.6 38 L49 38;
     :-k.5 M41.6 43.4 L30.6 32; :-k.5 M41.4 45 L30.4 38.4; :-k.5 M42 41 L33.4 28.6;

@@ -5,7 +5,7 @@
 namespace quillet
 {
 
-// The upper left corner of the frame around a court, on the grid.
+// The upper left corner of the frame around a court card's figure, on the grid.
 inline constexpr double courtLeft = 22;
 inline constexpr double courtTop = 8;
 

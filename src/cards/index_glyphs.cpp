@@ -1,8 +1,10 @@
 #include "cards/index_glyphs.h"
 
 #include "cards/picture_text.h"
+#include "shapes/rank_marks.h"
 
 #include <QPainterPathStroker>
+#include <QTransform>
 
 #include <algorithm>
 #include <array>
@@ -28,11 +30,11 @@ QPainterPath makeOutline(const RankMark& mark)
     outline.setFillRule(Qt::WindingFill);
     if (!mark.turned)
         return outline;
-    return QTransform(-1, 0, 0, -1, mark.width, rankHeight).map(outline);
+    return QTransform(-1, 0, 0, -1, mark.width, rankMarkHeight).map(outline);
 }
 
-// Moves a coordinate so that every guide falls on a whole device pixel, and what lies between
-// two guides follows in proportion.
+// Moves a coordinate so that every guide is on a whole device pixel. Between two guides it moves
+// in proportion.
 double fitted(double value, const std::vector<double>& guides, double scale, double origin)
 {
     const auto onPixel = [&](double guide) { return std::round(guide * scale + origin); };

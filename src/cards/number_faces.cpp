@@ -2,9 +2,9 @@
 #include "cards/index_glyphs.h"
 #include "cards/picture_text.h"
 #include "cards/pips.h"
+#include "shapes/rank_marks.h"
 
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -15,12 +15,11 @@ namespace
 
 constexpr double indexCentre = 10.5;
 constexpr double indexTop = 7;
-// The columns keep four pixels clear of the index, so that nobody counts it among the pips.
+// Four pixels between the index and the columns, so that it is not counted as a pip.
 constexpr double indexPipHeight = 14;
 constexpr double bodyPipHeight = 20;
 
-// Body pips on the grid. Those of the upper half have a turned partner in the lower one, those
-// alone have none.
+// Body pips on the grid. Those in `upper` are repeated in the lower half, upside down.
 struct PipLayout {
     std::vector<QPointF> upper;
     std::vector<QPointF> alone;
@@ -58,8 +57,8 @@ const PipLayout& layoutOf(int rank)
     return layouts[static_cast<std::size_t>(rank)];
 }
 
-// Paints a pip with its top and bottom on whole device pixels. The right column mirrors the left
-// one exactly, also where the width is odd.
+// Paints a pip with its top and bottom on whole device pixels. The right column is an exact mirror
+// image of the left one, also for odd widths.
 void paintCrispPip(CardCanvas& canvas, int suit, QPointF place, double height)
 {
     const double x = place.x() < middle   ? canvas.snappedX(place.x())
@@ -102,7 +101,7 @@ void paintIndex(CardCanvas& canvas, int rank, int suit)
     painter.fillPath(rankOutline(rank, indexCentre, indexTop, canvas.scaleX(), canvas.scaleY()),
                      QColor::fromRgba(suitColour(suit)));
     painter.end();
-    paintCrispPip(canvas, suit, {indexCentre, indexTop + rankHeight + 3 + indexPipHeight / 2},
+    paintCrispPip(canvas, suit, {indexCentre, indexTop + rankMarkHeight + 3 + indexPipHeight / 2},
                   indexPipHeight);
 }
 

@@ -12,7 +12,7 @@
 namespace quillet
 {
 
-// The colours that the letters of a picture text stand for. '-' is no colour.
+// The colours of the letters in a picture text. '-' is no colour.
 class Palette
 {
 public:
@@ -31,8 +31,7 @@ private:
 // segment. A fault in the text asserts.
 [[nodiscard]] QPainterPath readPath(std::string_view text);
 
-// The outline that has `half` on one side of the upright line x = axis and its reflection on the
-// other. `half` starts and ends on the axis.
+// `half` joined with its reflection in the line x = axis. `half` starts and ends on this line.
 [[nodiscard]] QPainterPath completedAcross(const QPainterPath& half, double axis);
 
 // Paints a picture given as text. Each shape is "fill line width path;" with palette letters for

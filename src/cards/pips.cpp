@@ -16,8 +16,7 @@ QPainterPath makeOutline(const SuitMark& mark)
 {
     QPainterPath outline = readPath(mark.whole);
     const QPainterPath rest = completedAcross(readPath(mark.half), 0);
-    // What is completed runs round the same way as the circles, or it would cut a hole where they
-    // meet.
+    // In the direction of the circles, or their overlap would be a hole.
     outline.addPath(outline.isEmpty() ? rest : rest.toReversed());
     return outline;
 }

@@ -4,6 +4,7 @@
 #include "cards/index_glyphs.h"
 #include "cards/pips.h"
 #include "engine/card.h"
+#include "shapes/rank_marks.h"
 
 #include <cmath>
 
@@ -19,7 +20,7 @@ QImage renderSmallCard(std::int32_t face, QSize deviceSize)
     const double suitTall = std::round(deviceSize.height() * 0.34);
     const double gap = std::round(deviceSize.height() * 0.05);
     const double top = std::floor((deviceSize.height() - rankTall - gap - suitTall) / 2);
-    const double scale = rankTall / rankHeight;
+    const double scale = rankTall / rankMarkHeight;
 
     CardCanvas canvas(deviceSize);
     QPainter painter;

@@ -8,8 +8,8 @@
 namespace quillet
 {
 
-// A face (0..51) for a line of text: nothing but its rank and its suit, both as large as fits.
-// Exactly `deviceSize` pixels, transparent outside the rounded corners.
+// A face (0..51) for a line of text: only a rank and a suit, as large as possible. Exactly
+// `deviceSize` pixels, transparent outside the rounded corners.
 [[nodiscard]] QImage renderSmallCard(std::int32_t face, QSize deviceSize);
 
 } // namespace quillet

@@ -16,15 +16,15 @@ struct PenStroke {
     const char* path;
 };
 
-// A rank for the corner of a card, rankMarkHeight high, as straight-edged pieces and pen strokes.
-// The guides are the edges of its stems and bars, in rising order.
+// A rank for the corner of a card, rankMarkHeight high, as filled pieces and pen strokes. The
+// guides are the edges of its stems and bars, ascending.
 struct RankMark {
     double width;
     const char* pieces;
     std::vector<PenStroke> strokes;
     std::vector<double> guidesX;
     std::vector<double> guidesY;
-    bool turned = false; // by half a turn: the nine is the six
+    bool turned = false; // by 180 degrees: the nine is the six
 };
 
 // Ace to king.

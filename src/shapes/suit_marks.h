@@ -7,9 +7,8 @@ namespace quillet
 
 inline constexpr double suitMarkHeight = 18;
 
-// A suit's mark: upright, suitMarkHeight high, centred on the origin. Its outline lies on one side
-// of the line x = 0, from the line to the line, and its reflection on the other; circles may stand
-// beside it.
+// A suit's mark: upright, suitMarkHeight high, centred on the origin. `half` is the left half of
+// its outline, from the line x = 0 back to it. `whole` needs no reflection.
 struct SuitMark {
     const char* whole;
     const char* half;

@@ -25,7 +25,7 @@ void CardLibrary::cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int3
         throw RunTimeError("The card library is closed");
     // An edited settings file can name a back that does not exist.
     if (drawMode == drawBack && !isBack(cardNumber))
-        cardNumber = usualBack;
+        cardNumber = defaultBack;
     if (drawMode == drawBack || (drawMode == drawFace && isFace(cardNumber)))
         dc.drawPixels(card(cardNumber, dc.scale()), QPointF(x, y));
 }

@@ -24,7 +24,7 @@ namespace quillet
 namespace
 {
 
-static_assert(usualBackFace == usualBack);
+static_assert(usualBackFace == defaultBack);
 
 QImage framePicture(FramePiece piece)
 {
