@@ -1,4 +1,4 @@
-// Writes every card face and back on one sheet, at scale 1 or 2, to look at the artwork:
+// Draws all card faces and backs on one sheet, at scale 1 or 2, for a look at the artwork:
 //   cmake --build --preset release --target contact_sheet
 //   build/release/assets/contact_sheet FOLDER 2
 
@@ -21,7 +21,7 @@ constexpr int gap = 8;
 constexpr int columns = 13;
 constexpr int rows = 5;
 
-// One row for each suit, aces first, and a last one of backs.
+// A row for each suit, aces first, and a row of backs.
 int cardAt(int row, int column)
 {
     return row < 4 ? quillet::cardIdOf(column + 1, row) : quillet::firstBack + column;

@@ -1,5 +1,5 @@
-// The trainer with the hand of the pictures at every deal, and with the settings below the folder
-// that it is given, so that its window can be played and recorded. See tools/record-hand.sh.
+// The trainer with the known hand at every deal and the settings of the given folder, for
+// tools/record-hand.sh, which plays and records it.
 
 #include "assets/known_hand.h"
 #include "main_window/frm_main.h"

@@ -1,5 +1,5 @@
-// Plays a hand in the real window and writes what the player sees: a refused hold and a paid hand.
-// See the target documentation_pictures.
+// Plays the known hand in the real window and saves two pictures: a refused hold and a paid hand.
+// Used by the target documentation_pictures.
 
 #include "assets/known_hand.h"
 #include "main_window/frm_main.h"
@@ -77,7 +77,7 @@ private:
         m_decks,
         {},
         QUILLET_PROGRAM_FOLDER,
-        // Nothing is waited for.
+        // No pauses.
         [](std::int32_t, const auto&) { QCoreApplication::processEvents(); },
         [](int) {}};
     frmMain m_window{m_surroundings};

@@ -12,7 +12,7 @@ int main(int argumentCount, char** arguments)
         return EXIT_FAILURE;
     }
     const std::filesystem::path folder = arguments[1];
-    for (const quillet::Cue& cue : quillet::makeCues()) {
+    for (const quillet::CueFile& cue : quillet::makeCues()) {
         std::ofstream file(folder / cue.fileName, std::ios::binary);
         file << cue.bytes;
         file.close();

@@ -8,7 +8,7 @@ namespace quillet::test
 
 TEST(Sounds, makerWritesTheCommittedFiles)
 {
-    for (const Cue& cue : makeCues())
+    for (const CueFile& cue : makeCues())
         EXPECT_TRUE(cue.bytes == fileText(QUILLET_WAVS_FOLDER "/" + cue.fileName)) << cue.fileName;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QTransform>
 
+#include <algorithm>
+
 namespace quillet::artwork
 {
 

@@ -11,7 +11,7 @@ namespace quillet::artwork
 namespace
 {
 
-// One pass of a running mean along a line of the mask; three passes come close to a bell curve.
+// One pass of a running mean along a line of the mask. Three passes approximate a Gaussian blur.
 void smoothLine(std::vector<float>& line, int reach)
 {
     const int count = static_cast<int>(line.size());

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QColor>
 #include <QImage>
 #include <QPainterPath>
+#include <QPointF>
 #include <QRect>
+#include <QSize>
 
-#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace quillet::artwork
@@ -22,7 +23,7 @@ struct Colour {
 [[nodiscard]] Colour mix(const Colour& from, const Colour& to, double share);
 [[nodiscard]] Colour lit(const Colour& colour, double factor);
 
-// How much of each pixel a shape covers, 0 to 1; nothing outside its bounds.
+// The coverage of each pixel by a shape, 0 to 1; 0 outside its bounds.
 class Mask
 {
 public:
@@ -32,7 +33,7 @@ public:
     [[nodiscard]] float at(int x, int y) const;
     void set(int x, int y, float cover);
 
-    // Widths and distances of these are pixels of the picture.
+    // All widths and distances in pixels.
     [[nodiscard]] Mask blurred(double radius) const;
     [[nodiscard]] Mask shifted(int dx, int dy) const;
     [[nodiscard]] Mask without(const Mask& other) const;
@@ -44,9 +45,8 @@ private:
     std::vector<float> m_cover;
 };
 
-// A picture that is painted in its own units while its pixels may be finer. Only the shapes'
-// outlines come from Qt; colours are reckoned here, so that a processor with other vector
-// instructions gives the same bytes.
+// A picture that is painted in its own units, at any resolution. Qt supplies only the outlines of
+// shapes. Colours are computed here, so that every processor gives the same bytes.
 class Canvas
 {
 public:
@@ -56,7 +56,7 @@ public:
     [[nodiscard]] QRect bounds() const { return {0, 0, m_width, m_height}; }
     [[nodiscard]] Mask mask(const QPainterPath& shape) const;
 
-    // The shader is asked for the colour at a point, in the canvas's units.
+    // The shader returns the colour at a point, in the canvas's units.
     template <typename Shader>
     void shade(const Mask& mask, const Shader& shader)
     {

@@ -6,7 +6,7 @@
 namespace quillet::artwork
 {
 
-// Fulled wool: no weave to be seen, only short hairs in every direction.
+// Felted wool: short hairs in every direction, no visible weave.
 class Felt
 {
 public:
@@ -19,7 +19,7 @@ private:
     Noise m_noise;
 };
 
-// Writing-table leather: small pebbles with creases between them, lit from above.
+// Desk leather: small bumps with creases between them, lit from above.
 class Leather
 {
 public:

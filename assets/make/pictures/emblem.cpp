@@ -24,7 +24,7 @@ QPainterPath ring(const QPointF& centre, double outer, double inner)
     return between(disc(centre, outer), disc(centre, inner));
 }
 
-// Small lozenges all the way round, with room left where the quill crosses.
+// A ring of small lozenges, with a gap for the quill.
 QPainterPath beading(const QPointF& centre, double radius)
 {
     QPainterPath beads;

@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// What the pictures on a table are made of.
+// The materials of the pictures on a table.
 struct Ornament {
     InlayMaterial metal;   // lines, figures, names
     InlayMaterial accent;  // the quill, the name, the best line of the pay table

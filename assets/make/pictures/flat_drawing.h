@@ -9,7 +9,7 @@
 namespace quillet::artwork
 {
 
-// A drawing in plain colours, its parts from the lowest to the topmost, in a square box.
+// A drawing in plain colours in a square box, its lowest part first.
 struct FlatShape {
     QPainterPath path;
     Colour colour;
@@ -19,7 +19,7 @@ struct FlatDrawing {
     std::vector<FlatShape> shapes;
 };
 
-// The drawing in a picture of `size` by `size` pixels.
+// Renders the drawing as a picture of `size` by `size` pixels.
 [[nodiscard]] Canvas toPixels(const FlatDrawing& drawing, int size);
 [[nodiscard]] QByteArray toSvg(const FlatDrawing& drawing);
 

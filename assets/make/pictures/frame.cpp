@@ -17,8 +17,8 @@ constexpr double windowHeight = designedTable.innerHeight;
 
 enum class Matter { wood, brass, joint };
 
-// One facet of the moulding, from the outside inwards; the slopes are those at its two edges,
-// 1 for a facet that turns wholly outwards.
+// One facet of the moulding, outermost first. The slopes are those at its two edges; 1 faces fully
+// outwards.
 struct Facet {
     double until; // share of the width
     double slopeFrom;
@@ -26,7 +26,7 @@ struct Facet {
     Matter matter;
 };
 
-// The status bar reaches the inmost two pixels of the lower rail, so the brass keeps clear of them.
+// The status bar covers the innermost two pixels of the lower rail, so the brass stops before them.
 constexpr std::array<Facet, 8> moulding{{
     {0.05, 0, 0, Matter::joint},
     {0.22, 0.9, 0.6, Matter::wood},
@@ -38,12 +38,12 @@ constexpr std::array<Facet, 8> moulding{{
     {1.01, 0, 0, Matter::joint},
 }};
 
-// The side of the frame that a place belongs to, which mitres the corners.
+// The side of the frame at a point. The corners are mitred.
 struct Rail {
     double inward; // 0 at the outer edge, 1 at the inner
     double along;
-    double facing; // 1 where the outer facets turn to the light, -1 where they turn away
-    double joint;  // distance from the mitre
+    double facing; // 1 if the outer facets face the light, -1 if they face away
+    double joint;  // distance from the mitre joint
 };
 
 Rail railAt(double x, double y)

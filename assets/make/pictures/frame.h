@@ -6,8 +6,8 @@
 namespace quillet::artwork
 {
 
-// A piece of the table's frame. The window stretches each along its length; they are drawn so that
-// the corners are right after that.
+// A piece of the table's frame. The window stretches each piece along its length; the corners are
+// right after that.
 [[nodiscard]] Canvas framePiece(FramePiece piece);
 
 } // namespace quillet::artwork

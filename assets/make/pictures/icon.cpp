@@ -50,7 +50,7 @@ void addQuill(FlatDrawing& drawing, const Quill& feather, double outline, bool f
 FlatDrawing fullDrawing()
 {
     FlatDrawing drawing{64, {}};
-    // The quill points as it does on the table.
+    // The quill points as on the table.
     addCard(drawing, {27, 12, 30, 40}, 4, 13, 1.5, paper);
     const QTransform turned = QTransform::fromTranslate(42, 32).rotate(13).translate(-42, -32);
     drawing.shapes.push_back({turned.map(roundedPath({31, 16, 22, 32}, 2)), wine});
@@ -62,7 +62,7 @@ FlatDrawing fullDrawing()
     return drawing;
 }
 
-// Small pictures keep their edges on whole pixels and have no room for turned cards.
+// In small icons edges are on whole pixels, and the cards are upright for lack of room.
 struct SmallIcon {
     int size;
     QRectF back;

@@ -9,7 +9,7 @@ namespace quillet::artwork
 
 inline constexpr std::array iconSizes{16, 22, 24, 32, 48, 64, 128, 256, 512};
 
-// Two cards and a quill. Below 48 pixels it is drawn anew with less in it.
+// Two cards and a quill. Below 48 pixels a simpler drawing.
 [[nodiscard]] FlatDrawing iconDrawing(int size);
 
 } // namespace quillet::artwork

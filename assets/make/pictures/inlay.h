@@ -5,23 +5,23 @@
 namespace quillet::artwork
 {
 
-// What lines, letters and marks are made of.
+// The material of lines, letters and marks.
 struct InlayMaterial {
     Colour light;
     Colour dark;
-    double bevel = 1; // how plainly the edges catch the light
+    double bevel = 1; // strength of the light on the edges
 };
 
 [[nodiscard]] InlayMaterial brass();
 [[nodiscard]] InlayMaterial silver();
 [[nodiscard]] InlayMaterial ivory();
 
-// Lets the shape into the surface: a dark joint round it, then the material with a slow sheen,
-// its edges lit from the upper left.
+// Inlays the shape in the surface: a dark joint around it, then the material with a soft sheen, its
+// edges lit from the upper left.
 void inlay(Canvas& canvas, const QPainterPath& shape, const InlayMaterial& material);
 
-// A sunk field: darkened along its edges as if light fell in from above left. `depth` in the
-// canvas's units.
+// Makes the shape look sunk: its edges are darkened, with the light from the upper left. `depth` is
+// in the canvas's units.
 void sink(Canvas& canvas, const QPainterPath& shape, double depth, double strength);
 
 void castShadow(Canvas& canvas, const QPainterPath& shape, double distance, double strength);
@@ -29,7 +29,7 @@ void castShadow(Canvas& canvas, const QPainterPath& shape, double distance, doub
 [[nodiscard]] QPainterPath rectanglePath(const QRectF& rectangle);
 [[nodiscard]] QPainterPath roundedPath(const QRectF& rectangle, double radius);
 
-// A rectangle whose corners are scooped out, as on an engraved plate.
+// A rectangle with concave corners, as on an engraved plate.
 [[nodiscard]] QPainterPath scoopedPath(const QRectF& rectangle, double radius);
 
 // The band between two outlines.

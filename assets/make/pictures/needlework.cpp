@@ -12,7 +12,7 @@ void sew(Canvas& canvas, const QPainterPath& line, const Colour& thread)
     QPainterPathStroker stroker;
     stroker.setWidth(1.3);
     stroker.setCapStyle(Qt::RoundCap);
-    stroker.setDashPattern(QList<qreal>{3.0, 2.6}); // in widths of the thread
+    stroker.setDashPattern(QList<qreal>{3.0, 2.6}); // in thread widths
     const QPainterPath stitches = stroker.createStroke(line);
     const Mask body = canvas.mask(stitches);
     canvas.fill(body.shifted(1, 2).blurred(2), rgb(0x03150b, 0.7));

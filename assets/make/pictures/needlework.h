@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// A seam of short stitches along the lines, each lying in a dent of its own.
+// A seam of short stitches along the lines, each in its own dent.
 void sew(Canvas& canvas, const QPainterPath& line, const Colour& thread);
 
 // A border pressed into leather: two lines along the rectangle's edge and a row of lozenges.

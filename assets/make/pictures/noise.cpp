@@ -55,7 +55,7 @@ double Noise::at(double x, double y) const
     const double u = eased(dx);
     const double upper = a + (b - a) * u;
     const double lower = c + (d - c) * u;
-    // Gradient noise stays within 0.71; brought to about the whole range.
+    // Gradient noise stays within 0.71; scaled to nearly the whole range.
     return (upper + (lower - upper) * eased(dy)) * 1.4;
 }
 

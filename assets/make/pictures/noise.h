@@ -17,7 +17,7 @@ public:
     // Sum of octaves, each half as wide and half as strong as the one before.
     [[nodiscard]] double layered(double x, double y, int octaves) const;
 
-    // 0 to 1, with nothing in common between neighbouring cells.
+    // 0 to 1, independent for neighbouring cells.
     [[nodiscard]] double cell(int x, int y) const;
 
 private:

@@ -15,7 +15,7 @@ namespace quillet::artwork
 namespace
 {
 
-// As the plate names the hands of the pay table.
+// The names of the hands on the plate.
 constexpr std::array<std::string_view, 9> handNames{"ROYAL",       "STRAIGHT FLUSH", "4 OF A KIND",
                                                     "FULL HOUSE",  "FLUSH",          "STRAIGHT",
                                                     "3 OF A KIND", "2 PAIR",         "HIGH PAIR"};
@@ -53,8 +53,8 @@ void paintTitle(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
     inlay(canvas, suitMark(diamonds, {middle, y}, 7.5), ornament.metal);
 }
 
-// Dots from the name of a hand to its credits. All lines share one grid, so that their dots stand
-// in columns, each in the middle of a pixel.
+// Dots from the name of a hand to its credits. All lines use one grid, so their dots form columns,
+// each in the middle of a pixel.
 void addLeader(QPainterPath& dots, double from, double to, double gridRight, double y)
 {
     constexpr double apart = 5;

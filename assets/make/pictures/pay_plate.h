@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// The pay table for five credits, on a dark plate let into the table.
+// The pay table for five credits, on a dark plate set into the table.
 void paintPayPlate(Canvas& canvas, const Ornament& ornament, const QRectF& plate);
 
 } // namespace quillet::artwork

@@ -16,7 +16,7 @@ namespace quillet::artwork
 namespace
 {
 
-// 192 dots an inch: tells the program that the picture is kept at twice its size.
+// 192 dots per inch mark a picture that is stored at twice its size.
 constexpr int dotsPerMetre = 7559;
 constexpr int jpegQuality = 91;
 

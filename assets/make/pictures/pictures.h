@@ -5,8 +5,8 @@
 namespace quillet::artwork
 {
 
-// Draws every picture and writes it below the folder, in `pics`, `frame`, `icons` and `pointer`.
-// Throws std::runtime_error where a file cannot be written.
+// Draws all pictures and writes them to `pics`, `frame`, `icons` and `pointer` in the folder.
+// Throws std::runtime_error if a file cannot be written.
 void writePictures(const QString& folder);
 
 } // namespace quillet::artwork

@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// A hand that points upwards, 32 units square; the tip of its finger is the hot spot.
+// A hand that points up, 32 units square. The fingertip is the hot spot.
 inline constexpr QPoint handHotSpot{12, 9};
 
 [[nodiscard]] Canvas pointingHand(double scale);

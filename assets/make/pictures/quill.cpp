@@ -15,13 +15,13 @@ namespace
 
 constexpr double vaneBegins = 0.27;
 
-// The quill lies along x, its point at 0 and its feather's tip at 1, bending a little upwards.
+// The quill along the x axis, from its point at 0 to the feather's tip at 1, bent slightly upwards.
 double spine(double x)
 {
     return 0.055 - 0.22 * (x - 0.5) * (x - 0.5);
 }
 
-// How far the vane reaches from the shaft; it is broader on its trailing side.
+// The width of the vane beside the shaft. It is broader on the trailing side.
 double vaneReach(double x, bool trailing)
 {
     const double t = (x - vaneBegins) / (1 - vaneBegins);
@@ -29,7 +29,7 @@ double vaneReach(double x, bool trailing)
     return (trailing ? 0.182 : 0.098) * swell;
 }
 
-// A few places where the barbs have parted, as in a feather that has been used.
+// A few gaps between the barbs, as in a used feather.
 double partedReach(double x, bool trailing)
 {
     constexpr std::array trailingGaps{0.47, 0.66};
@@ -43,7 +43,7 @@ double partedReach(double x, bool trailing)
     return reach;
 }
 
-// Barbs lean towards the feather's tip: their ends lie further along than their roots.
+// Barbs lean towards the feather's tip.
 QPointF barbEnd(double x, bool trailing, double share, double breadth)
 {
     const double reach = share * partedReach(x, trailing) * breadth;
@@ -115,7 +115,7 @@ QPainterPath nib(double breadth)
 Quill quill(QPointF point, QPointF tip, double breadth)
 {
     const QPointF along = tip - point;
-    // Turned and scaled only, so that the feather keeps its hand.
+    // Only rotated and scaled, never mirrored.
     const QTransform place(along.x(), along.y(), -along.y(), along.x(), point.x(), point.y());
     return {place.map(vane(breadth)), place.map(barbs(breadth)), place.map(shaft(breadth)),
             place.map(nib(breadth))};

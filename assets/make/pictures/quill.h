@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// A writing quill, in parts so that each can have its own colour.
+// A writing quill in parts, so that each can have its own colour.
 struct Quill {
     QPainterPath vane;
     QPainterPath barbs; // fine lines across the vane
@@ -13,8 +13,8 @@ struct Quill {
     QPainterPath nib;
 };
 
-// The quill from the point of its nib to the tip of its feather. `breadth` makes it stouter
-// than life, for small pictures.
+// The quill from the point of its nib to the tip of its feather. A larger `breadth` makes it
+// stouter, for small pictures.
 [[nodiscard]] Quill quill(QPointF point, QPointF tip, double breadth = 1);
 
 } // namespace quillet::artwork

@@ -8,7 +8,7 @@
 namespace quillet::artwork
 {
 
-// Qt joins outlines with a tolerance that would show in a mark as small as that of the cards.
+// Qt joins outlines with a tolerance that would be visible in marks as small as those of the cards.
 QPainterPath suitMark(Suit suit, QPointF centre, double height)
 {
     constexpr double large = 20;

@@ -7,7 +7,7 @@
 namespace quillet::artwork
 {
 
-// The suit mark of the cards, this high, centred on the point.
+// The suit mark of the cards, `height` high, centred on the point.
 [[nodiscard]] QPainterPath suitMark(Suit suit, QPointF centre, double height);
 
 } // namespace quillet::artwork

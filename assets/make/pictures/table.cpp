@@ -6,7 +6,8 @@
 #include "assets/make/pictures/table_geometry.h"
 #include "assets/make/pictures/wood.h"
 
-#include <cmath>
+#include <algorithm>
+#include <cstdint>
 
 namespace quillet::artwork
 {
@@ -16,8 +17,8 @@ namespace
 
 const QRectF wholeTable(QPointF(0, 0), tableSize);
 
-// The tray is a part of the field, with a line of its own as far above the cards as the nearest
-// line lies below them.
+// The tray is the part of the field under the cards. Its upper line has the same distance from the
+// cards as the nearest line below them.
 double trayTop(double nextLineBelow)
 {
     const QRectF card = cardPlaces().front();
@@ -29,7 +30,7 @@ QRectF tray(double top)
     return {QPointF(playField().left(), top), playField().bottomRight()};
 }
 
-// Crossbanding: a narrow band round the field whose grain runs across it, mitred at the corners.
+// Crossbanding: a narrow band around the field with its grain across, mitred at the corners.
 void paintRim(Canvas& canvas, const Wood& wood)
 {
     const QRectF area = framedArea();
@@ -52,7 +53,7 @@ void paintLines(Canvas& canvas, const InlayMaterial& metal)
     inlay(canvas, lines, metal);
 }
 
-// A fine frame round the deck, so that its place is there when the deck is in the air.
+// A thin frame around the deck, visible while the deck moves.
 void paintDeckFrame(Canvas& canvas, const InlayMaterial& metal)
 {
     const QRectF frame = deckSeen().adjusted(-9, -9, 9, 9);
@@ -60,7 +61,7 @@ void paintDeckFrame(Canvas& canvas, const InlayMaterial& metal)
           metal);
 }
 
-// The light falls on the middle of the table; the frame shades its edges.
+// The light falls on the middle of the table, and the frame shades its edges.
 void paintLight(Canvas& canvas, double strength)
 {
     const QPainterPath whole = rectanglePath(wholeTable);
@@ -79,7 +80,7 @@ Wood rimWood(Colour light, Colour dark, std::uint32_t seed)
         {.light = light, .dark = dark, .bandWidth = 9, .figure = 0.4, .pores = 0.8, .seed = seed});
 }
 
-// A table whose field is covered all over.
+// A table with a covered field.
 template <typename Cover>
 Canvas coveredTable(const Wood& rim, const Cover& cover)
 {
@@ -147,7 +148,7 @@ Canvas nightTable()
     Canvas canvas =
         coveredTable(rimWood(rgb(0x7d563b), rgb(0x3a2315), 53), Leather(rgb(0x23365f), 59));
     const InlayMaterial wornFoil{rgb(0xa9b3c4), rgb(0x6f7a8e), 0.6};
-    // The rows of lozenges leave the cards too little air, so the tray has a plain line.
+    // Lozenges would be too close to the cards, so the tray has a plain line.
     const double line = 0.8;
     const QRectF tooled = playField().adjusted(1, 1, -1, -1);
     const double top = trayTop(tooled.bottom() - line);

@@ -5,7 +5,7 @@
 namespace quillet::artwork
 {
 
-// The three tables that a player can choose from.
+// The three tables of Preferences.
 [[nodiscard]] Canvas woodTable();
 [[nodiscard]] Canvas feltTable();
 [[nodiscard]] Canvas nightTable();

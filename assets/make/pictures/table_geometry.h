@@ -12,19 +12,19 @@
 namespace quillet::artwork
 {
 
-// Where things lie on the table, in the picture's units: where the program puts them.
+// Positions on the table, in the picture's units, as the program uses them.
 inline const QSize tableSize =
     QSizeF(designedTable.innerWidth,
            designedTable.innerHeight - designedTable.statusBarHeight - frameEdgeHeight)
         .toSize();
-inline constexpr double tableScale = 2; // the pictures are kept at twice their size
+inline constexpr double tableScale = 2; // the pictures are stored at twice their size
 
 [[nodiscard]] inline std::array<QRectF, 5> cardPlaces()
 {
     return quillet::cardPlaces(designedTable);
 }
 
-// The pile of four, not its box.
+// The pile of four cards, not its box.
 [[nodiscard]] inline QRectF deckSeen()
 {
     const QPointF corner = deckPlace(designedTable).topLeft();
@@ -33,7 +33,7 @@ inline constexpr double tableScale = 2; // the pictures are kept at twice their 
             designedTable.cardHeight + 3 * pileStep.y()};
 }
 
-// What the frame's pieces leave free, up to the piece at the chart's left.
+// The area inside the frame's pieces, up to the piece left of the chart.
 [[nodiscard]] inline QRectF framedArea()
 {
     const std::vector<FramePlace> frame = tableFrame(designedTable);
@@ -42,7 +42,7 @@ inline constexpr double tableScale = 2; // the pictures are kept at twice their 
             QPointF(chartFrame(designedTable).rect.left(), bottom->rect.top())};
 }
 
-// The covered part of it.
+// Its covered part.
 [[nodiscard]] inline QRectF playField()
 {
     return framedArea().adjusted(7, 7, -7, -7);

@@ -7,8 +7,8 @@ namespace quillet::artwork
 
 Wood::Wood(const WoodLook& look) : m_look(look), m_warp(look.seed), m_fibre(look.seed + 7919) {}
 
-// A board is a flat cut through rings round the heart of the tree. Far from the heart they run
-// as stripes; near it they close into long arches, because the trunk tapers.
+// A board is a flat cut through the rings around the heart of the tree. Far from the heart they
+// are stripes; near it they close into long arches, because the trunk tapers.
 double Wood::rings(double along, double across) const
 {
     double depth = across;
@@ -23,7 +23,7 @@ double Wood::rings(double along, double across) const
     return depth / m_look.bandWidth;
 }
 
-// Pores are cut lengthwise too: dashes along the grain, most of them where a ring begins.
+// Pores are cut lengthwise, too: dashes along the grain, mostly where a ring begins.
 double Wood::pores(double along, double across, double ring) const
 {
     constexpr double cellLength = 8;
@@ -48,14 +48,14 @@ Colour Wood::at(double along, double across) const
 {
     const double ring = rings(along, across);
     const double place = ring - std::floor(ring);
-    // Spring wood is pale and darkens slowly; the next spring begins at once.
+    // Spring wood is pale and darkens slowly, up to the sharp edge of the next spring.
     const double growth = place * place * (place < 0.93 ? 1.0 : (1 - place) / 0.07);
     const double year = m_warp.cell(static_cast<int>(std::floor(ring)), 77);
     double tone = 0.66 - 0.42 * growth * (0.45 + 0.8 * year) + 0.12 * (year - 0.5);
     tone += 0.16 * m_warp.at(along / 420 + 9.5, across / 46);
     tone += 0.09 * m_fibre.at(along / 95, across / 1.9);
     tone += 0.06 * m_fibre.at(along / 34, across / 0.75);
-    // Light plays across the grain where the fibres rise and fall.
+    // Shimmer across the grain, where the fibres rise and fall.
     tone += 0.06 * m_warp.at(along / 26 + across / 90, across / 105 + 40);
     const Colour wood = mix(m_look.dark, m_look.light, tone);
     return lit(wood, 1 - 0.26 * m_look.pores * pores(along, across, ring));

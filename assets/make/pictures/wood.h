@@ -12,15 +12,15 @@ namespace quillet::artwork
 struct WoodLook {
     Colour light;
     Colour dark;
-    double bandWidth = 16; // from one broad growth ring to the next
-    double figure = 1;     // how far the rings wander, 0 for ruled lines
-    double pores = 1;      // how plainly the short dark pores show
+    double bandWidth = 16; // distance between broad growth rings
+    double figure = 1;     // waviness of the rings, 0 for straight lines
+    double pores = 1;      // strength of the short dark pores
     std::optional<double> heart =
-        std::nullopt; // where across the grain the rings close into arches
+        std::nullopt; // position across the grain where the rings close into arches
     std::uint32_t seed = 1;
 };
 
-// Sawn wood without end: a colour for every place along and across its grain.
+// An endless board: a colour for every point along and across its grain.
 class Wood
 {
 public:

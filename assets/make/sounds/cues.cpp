@@ -8,12 +8,12 @@ namespace quillet
 namespace
 {
 
-// Notes of the scale of C, in hertz.
+// Notes of the C major scale, in hertz.
 constexpr double c4 = 261.63, e4 = 329.63, f4 = 349.23, g4 = 392.00, a4 = 440.00, c5 = 523.25,
                  e5 = 659.26, g5 = 783.99, c6 = 1046.50, e6 = 1318.51, g6 = 1567.98;
 
-// Heard ten times a hand, so it is short, dark and soft: a card's edge touches the felt, the card
-// claps flat on the table, and its last bit of slide dies away.
+// Played up to ten times a hand, so it is short, dark and soft: the card's edge touches the felt,
+// the card falls flat on the table and slides to a stop.
 SoundBuffer deal()
 {
     SoundBuffer buffer(110);
@@ -26,7 +26,7 @@ SoundBuffer deal()
     return buffer;
 }
 
-// Two steps down: not this hold.
+// Two notes down.
 SoundBuffer wrong()
 {
     SoundBuffer buffer(380);
@@ -36,8 +36,8 @@ SoundBuffer wrong()
     return buffer;
 }
 
-// The wrong cues lie as low as a laptop's speaker reaches: from 300 Hz on.
-// One dull knock across two neighbouring bars, not quite together.
+// The wrong cues are as low as a laptop's speaker allows: from 300 Hz.
+// One dull knock on two neighbouring bars, not quite at once.
 SoundBuffer wrong2()
 {
     SoundBuffer buffer(230);
@@ -58,8 +58,8 @@ SoundBuffer wrong3()
     return buffer;
 }
 
-// The win cues climb one chord of C: the first takes two notes of it, the second three, and the
-// third all five over a bass note and under a bell.
+// The win cues climb a C major chord: the first plays two of its notes, the second three, the third
+// all five with a bass note and a bell.
 SoundBuffer pokerWin1()
 {
     SoundBuffer buffer(195);
@@ -95,7 +95,7 @@ SoundBuffer pokerWin3()
 
 } // namespace
 
-std::vector<Cue> makeCues()
+std::vector<CueFile> makeCues()
 {
     return {{"deal.wav", waveFile(deal())},           {"wrong.wav", waveFile(wrong())},
             {"wrong2.wav", waveFile(wrong2())},       {"wrong3.wav", waveFile(wrong3())},

@@ -6,12 +6,12 @@
 namespace quillet
 {
 
-struct Cue {
+struct CueFile {
     std::string fileName;
     std::string bytes;
 };
 
-// Every cue of the trainer as a wave file, the same on every run and every machine.
-[[nodiscard]] std::vector<Cue> makeCues();
+// All cues of the trainer as wave files, the same on every run and machine.
+[[nodiscard]] std::vector<CueFile> makeCues();
 
 } // namespace quillet

@@ -15,7 +15,7 @@ namespace
 
 constexpr double pi = std::numbers::pi;
 
-// The factor by which one frame shrinks what loses 60 dB in this many seconds.
+// The factor per frame of a decay by 60 dB in `seconds`.
 double decayPerFrame(double seconds)
 {
     return settled(std::pow(10, -3 / (seconds * cueRate)));
@@ -43,7 +43,7 @@ void ring(std::vector<double>& channel, std::size_t start, double hertz, double 
     }
 }
 
-// A two-pole band filter in its state-variable form, which stays stable at every width used here.
+// A two-pole band-pass filter in state-variable form, stable at every width used here.
 class BandFilter
 {
 public:
@@ -67,8 +67,8 @@ private:
     double m_band = 0, m_low = 0;
 };
 
-// Noise between -1 and 1. The engine's numbers are fixed by the language, a library's
-// distributions are not.
+// Noise between -1 and 1. The C++ standard fixes the numbers of the engine, but not those of its
+// distributions.
 class Noise
 {
 public:
@@ -121,7 +121,7 @@ void pluckHarp(SoundBuffer& buffer, const Note& note)
         modes[i] = {n * std::sqrt(1 + stiffness * n * n),
                     settled(std::sin(pi * n * pluckedAt)) / (n * n), 0.62 / (0.25 + 0.75 * n)};
     }
-    // The tongue of the wooden body, which gives the pluck its knock.
+    // The knock of the wooden body.
     modes[8] = {6.27, 0.09, 0.05};
     strike(buffer, note, modes);
     puff(buffer, {note.start, 2600, 0.9, note.level * 0.35, 0.001, 0.022, note.place});

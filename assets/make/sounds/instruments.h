@@ -9,7 +9,7 @@ namespace quillet
 
 // One mode of a vibrating body.
 struct Mode {
-    double ratio;   // of its frequency to the note's
+    double ratio;   // of its frequency to that of the note
     double level;   // amplitude at the strike
     double seconds; // until it has fallen by 60 dB
 };
@@ -22,24 +22,24 @@ struct Note {
     double place;
 };
 
-// A puff of noise in a band around a frequency, such as a nail on a string or paper on felt.
+// A burst of noise in a band around a frequency, such as a nail on a string or paper on felt.
 struct Puff {
     double start;
     double hertz;
     double width; // of the band, as a share of its frequency
     double level;
     double rise;    // seconds until it is at its loudest
-    double seconds; // until it has fallen by 60 dB after that
+    double seconds; // then until it has fallen by 60 dB
     double place;
 };
 
-// Lets the modes of a struck or plucked body ring from the note's start to the buffer's end. The
-// two channels are tuned a hair apart, which beats softly like paired strings.
+// Adds the modes of a struck or plucked body from the start of the note to the end of the buffer.
+// The two channels are slightly detuned, which beats softly like paired strings.
 void strike(SoundBuffer& buffer, const Note& note, std::span<const Mode> modes);
 
 void puff(SoundBuffer& buffer, const Puff& noise);
 
-// A small harp with a wooden body: stiff strings, bright at the pluck and mellow after it.
+// A small harp with a wooden body: stiff strings, bright when plucked, then mellow.
 void pluckHarp(SoundBuffer& buffer, const Note& note);
 
 // A low wooden bar, damped by the player's hand.

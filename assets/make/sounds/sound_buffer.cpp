@@ -16,7 +16,7 @@ std::size_t framesIn(double milliseconds)
     return static_cast<std::size_t>(std::lround(milliseconds * cueRate / 1000));
 }
 
-// Takes out everything far below the cues, and with it any constant offset.
+// Removes frequencies far below the cues, including any constant offset.
 void removeRumble(std::vector<double>& samples)
 {
     const double keep = settled(std::exp(-2 * std::numbers::pi * 30 / cueRate));

@@ -9,8 +9,8 @@ namespace quillet
 
 inline constexpr int cueRate = 48000;
 
-// A coefficient without the last bits in which one machine's math library may differ from
-// another's, so that everybody who makes the sounds gets the same bytes.
+// A coefficient without its last bits, in which math libraries may differ, so that the sounds have
+// the same bytes on every machine.
 [[nodiscard]] double settled(double coefficient);
 
 // Stereo sound in the making; both channels have the same length.
@@ -25,13 +25,13 @@ struct SoundBuffer {
     std::vector<double> left, right;
 };
 
-// Bends loud samples towards 1 without ever reaching it, which makes a short burst fuller.
+// Compresses loud samples towards 1 but below it, which makes a short burst sound fuller.
 void soften(SoundBuffer& buffer, double drive);
 
-// Brings the buffer to its final form: no DC, silence at both ends, the given peak (dBFS).
+// The final form: no constant offset, silence at both ends, the given peak in dBFS.
 void finish(SoundBuffer& buffer, double fadeOutMilliseconds, double peakDecibels);
 
-// A wave file of 16 bits, stereo. Samples must lie within -1 and 1.
+// A 16-bit stereo wave file. Samples must be between -1 and 1.
 [[nodiscard]] std::string waveFile(const SoundBuffer& buffer);
 
 } // namespace quillet
