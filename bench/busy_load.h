@@ -4,7 +4,7 @@
 #include <thread>
 #include <vector>
 
-// Other programs at work: so many threads that never rest, as long as this lives.
+// Background load: N busy threads during the lifetime of the object.
 class BusyLoad
 {
 public:
@@ -23,5 +23,5 @@ public:
 
 private:
     std::atomic<bool> m_enough = false;
-    std::vector<std::jthread> m_threads; // joined before the flag goes
+    std::vector<std::jthread> m_threads; // joined before the flag is destroyed
 };

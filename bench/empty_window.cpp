@@ -1,5 +1,4 @@
-// The least that a window of the toolkit takes to start: one in the colour of the table, of its
-// size.
+// The lower limit for the trainer's start: an empty window of the same size and colour.
 #include <QApplication>
 #include <QWidget>
 

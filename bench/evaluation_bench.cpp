@@ -35,7 +35,7 @@ std::vector<std::array<Card, 5>> randomHands()
     return hands;
 }
 
-// The first cards of each hand over the fillers, from none to all five at random.
+// A random number of each hand's cards, none to five, over fillers.
 std::vector<std::array<Card, 5>> randomHolds()
 {
     BlendingRandom random(stoppedClock, 2);

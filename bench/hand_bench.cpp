@@ -1,6 +1,6 @@
-// What a hand costs the processor: the real window with its real pauses, at the flight delay that
-// is named (0 leaves the counting loops out, so the difference is theirs). A real display shows
-// the real cost; without one it is played off screen.
+// Processor time of a hand in the real window with its real pauses, at the named flight delay. The
+// difference from delay 0 is the cost of the counting loops. Only a real display shows the real
+// cost; without one the hand is played off screen.
 #include "coach/hold_judgement.h"
 #include "engine/random.h"
 #include "main_window/frm_main.h"
@@ -67,7 +67,7 @@ void hand(benchmark::State& state)
         holdBestPlay(window);
         window.picDeal_Click(0);
     };
-    draw(); // the first hand has been dealt with the start
+    draw(); // the program deals the first hand itself
     for ([[maybe_unused]] auto step : state) {
         window.picDeal_Click(0);
         draw();

@@ -13,7 +13,7 @@ using namespace odds;
 namespace
 {
 
-// What quillet-odds works out before it prints: every deal, every hold, every draw.
+// The computations of quillet-odds: every deal, every hold, every draw.
 void theWholeGame(benchmark::State& state)
 {
     for ([[maybe_unused]] auto step : state)

@@ -1,8 +1,7 @@
-// Starts the trainer itself on the display and tells how long the player waits for the table, at a
-// second start and at the very first one, which measures the machine, next to an empty window of
-// the toolkit; then leaves it alone for a minute. Needs an X display. The counter "main ms" is the
-// processor time of the main thread, which other programs' work hardly changes; the rest of the
-// time is the clock's on the wall.
+// Starts the trainer on an X display and measures the wall time to the visible table: for an empty
+// window for comparison, for a second start, and for the very first start, which measures the
+// machine. Then it leaves the trainer idle for a minute. The counter "main ms" is the processor
+// time of the main thread, on which other programs have little influence.
 #include "bench/busy_load.h"
 
 #include <QDir>
@@ -31,7 +30,7 @@ public:
     {
         QDir(m_config.path()).mkdir("Quillet");
         QFile settings(m_config.path() + "/Quillet/settings.ini");
-        // One that has been started before has calibrated flights.
+        // After the first start the flights are calibrated.
         if (start == Start::second && settings.open(QIODevice::WriteOnly))
             settings.write("[Preferences]\nprfAnimationDelay=300\nprfBannerDelay=300\n"
                            "prfPokerAutoDeal=False\n");
@@ -49,7 +48,7 @@ public:
         m_process.waitForFinished();
     }
 
-    // Milliseconds of the main thread on the processor so far.
+    // Processor time of the main thread so far, in milliseconds.
     [[nodiscard]] double mainThreadTime() const
     {
         QFile times(QStringLiteral("/proc/%1/task/%1/schedstat").arg(m_process.processId()));
@@ -58,7 +57,7 @@ public:
         return times.readLine().split(' ').value(0).toDouble() / 1e6;
     }
 
-    // Milliseconds of all threads.
+    // The same of all threads.
     [[nodiscard]] double processorTime() const
     {
         clockid_t clock = 0;
@@ -68,7 +67,7 @@ public:
         return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
     }
 
-    // Resident megabytes.
+    // Resident memory in megabytes.
     [[nodiscard]] double memory() const
     {
         constexpr double pageSize = 4096;
@@ -83,7 +82,7 @@ private:
     QProcess m_process;
 };
 
-// Whether wood shows across the middle of the screen, where the table's window comes up.
+// Whether the middle of the screen, where the window opens, shows wood.
 bool tableIsVisible()
 {
     QScreen* screen = QGuiApplication::primaryScreen();
@@ -95,8 +94,7 @@ bool tableIsVisible()
     return warm > 300;
 }
 
-// Waits until the trainer has done nothing for three seconds: no pause of the first deal is as
-// long.
+// Waits until the trainer has been idle for three seconds. No pause of the first deal is that long.
 void waitUntilIdle(const Trainer& trainer)
 {
     double before = -1;
@@ -106,7 +104,7 @@ void waitUntilIdle(const Trainer& trainer)
     }
 }
 
-// The range is the number of other programs at work.
+// The range is the number of busy programs beside it.
 void startToVisibleTable(benchmark::State& state, Start start)
 {
     const BusyLoad load(state.range(0));

@@ -1,4 +1,4 @@
-// What the table costs: a frame of a flight, the repaint, the pictures of the calibration.
+// The cost of the table: a frame of a flight, a repaint, the calibration.
 #include "bench/busy_load.h"
 #include "platform/system_clock.h"
 #include "table/counting_loop.h"
@@ -14,7 +14,7 @@ namespace
 
 using namespace quillet;
 
-// In the shipped wood, with a card to fly.
+// The wood table with a flying card.
 struct Painted : test::PaintedTable {
     explicit Painted(double scale)
     {
@@ -26,7 +26,7 @@ struct Painted : test::PaintedTable {
     SystemClock clock;
 };
 
-// Without any delay; the time of one frame is told beside that of the flight.
+// Without delay. The counter shows the time of one frame.
 void flight(benchmark::State& state)
 {
     Painted painted(static_cast<double>(state.range(0)));
@@ -53,7 +53,7 @@ void oneDelayUnit(benchmark::State& state)
         countingLoop(1);
 }
 
-// The range is the number of other programs at work.
+// The range is the number of busy programs beside it.
 void firstStartCalibration(benchmark::State& state)
 {
     const BusyLoad load(state.range(0));
