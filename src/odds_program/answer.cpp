@@ -5,7 +5,6 @@
 #include "odds/hand_text.h"
 #include "odds_program/chart_card.h"
 #include "odds_program/chart_report.h"
-#include "odds_program/document.h"
 #include "odds_program/hand_stream.h"
 #include "odds_program/output_file.h"
 #include "odds_program/progress_bar.h"
@@ -16,10 +15,8 @@
 #include <array>
 #include <cstdlib>
 #include <iostream>
-#include <poll.h>
 #include <sstream>
 #include <string>
-#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
@@ -69,22 +66,6 @@ void checkFiles(const Request& request)
             return wouldReplace(*request.cardFile, input);
         }))
         throw BadUsage("--card would replace the file that is read");
-}
-
-// Whether hands may be waiting on standard input: in a file that is not at its end, or in a pipe
-// that has something or is about to.
-bool inputWaits()
-{
-    struct stat input {
-    };
-    if (fstat(STDIN_FILENO, &input) != 0)
-        return false;
-    if (S_ISREG(input.st_mode))
-        return lseek(STDIN_FILENO, 0, SEEK_CUR) < input.st_size;
-    constexpr int patience = 50; // milliseconds
-    pollfd waiting{STDIN_FILENO, POLLIN, 0};
-    return S_ISFIFO(input.st_mode) && poll(&waiting, 1, patience) == 1 &&
-           (waiting.revents & POLLIN) != 0;
 }
 
 bool wantsColour()
@@ -179,16 +160,11 @@ void answer(const Request& request, std::ostream& out)
     case Question::rowKinds:
         reportRowKinds(out);
         return;
-    case Question::document:
-        writeDocument(out);
-        return;
     default:
         break;
     }
     checkFiles(request);
     const odds::Pays pays = paysFor(request.pays);
-    if (request.question == Question::game && inputWaits())
-        throw BadUsage("there is something on standard input; add - to have its hands answered");
     std::array<odds::DeckPlace, 5> places{};
     if (request.question == Question::hand) {
         places = odds::parseHand(request.hand);

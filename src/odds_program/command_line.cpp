@@ -83,9 +83,8 @@ struct OptionKind {
 using Value = std::string_view;
 
 // Of a repeated option the last value counts.
-constexpr std::array<OptionKind, 16> optionKinds{{
+constexpr std::array<OptionKind, 14> optionKinds{{
     {"--rows"},
-    {"--document"},
     {"--mistakes"},
     {"--plays", false, [](Request&, Value) {}, "--chart"},
     {"--sitting", true, [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
@@ -95,7 +94,6 @@ constexpr std::array<OptionKind, 16> optionKinds{{
     {"--card", true, [](Request& r, Value v) { r.cardFile = v; }},
     {"--pays", true, [](Request& r, Value v) { r.pays = v; }},
     {"--format", true, [](Request& r, Value v) { r.style.format = formatIn(v); }},
-    {"--csv", false, [](Request& r, Value) { r.style.format = Format::csv; }},
     {"--exact", false, [](Request& r, Value) { r.style.exact = true; }},
     {"--all", false, [](Request& r, Value) { r.allHolds = true; }, "hands"},
     {"--bankroll", true, [](Request& r, Value v) { r.bankroll = countIn("--bankroll", v); },
@@ -113,21 +111,20 @@ struct Combination {
 };
 
 // The first whose options are given is what is asked.
-constexpr std::array<Combination, 14> combinations{{
+constexpr std::array<Combination, 13> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
-    {Question::document, {"--document"}, ""},
     {Question::card, {"--card", "--best-chart"}, "--pays"},
     {Question::card, {"--card"}, "--chart --pays"},
     {Question::plays, {"--chart", "--plays"}, "--pays"},
-    {Question::chartMistakes, {"--chart", "--mistakes"}, "--pays --format --csv --exact"},
-    {Question::chart, {"--chart"}, "--pays --format --csv --exact"},
-    {Question::bestChart, {"--best-chart"}, "--pays --format --csv --exact"},
-    {Question::mistakes, {"--mistakes"}, "--pays --format --csv --exact"},
-    {Question::sitting, {"--sitting"}, "--pays --format --csv --bankroll"},
-    {Question::simulation, {"--simulate"}, "--pays --format --csv --exact --seed"},
-    {Question::handsFromInput, {input}, "--pays --format --csv --exact --all"},
-    {Question::hand, {hand}, "--pays --format --csv --exact --all"},
-    {Question::game, {}, "--pays --format --csv --exact"},
+    {Question::chartMistakes, {"--chart", "--mistakes"}, "--pays --format --exact"},
+    {Question::chart, {"--chart"}, "--pays --format --exact"},
+    {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
+    {Question::mistakes, {"--mistakes"}, "--pays --format --exact"},
+    {Question::sitting, {"--sitting"}, "--pays --format --bankroll"},
+    {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
+    {Question::handsFromInput, {input}, "--pays --format --exact --all"},
+    {Question::hand, {hand}, "--pays --format --exact --all"},
+    {Question::game, {}, "--pays --format --exact"},
 }};
 
 // Goes through the arguments, each an option with its value or a word of a hand.
@@ -288,7 +285,6 @@ Questions, one at a time
   --card FILE          the trainer's chart, or that of --chart or --best-chart,
                        as a page to print (SVG)
   --rows               the rows that a chart can have
-  --document           all of this for six pay tables, as a Markdown page
   --version, --help
 
 Options

@@ -26,7 +26,6 @@ enum class Question {
     bestChart,
     card,
     rowKinds,
-    document,
     help,
     version
 };

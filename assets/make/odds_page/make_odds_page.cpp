@@ -1,18 +1,26 @@
-#include "odds_program/document.h"
-
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
+#include "charts/mistakes.h"
+#include "odds/fair_odds.h"
 #include "odds/hand_text.h"
-#include "odds_program/reports.h"
+#include "odds/sitting.h"
+#include "odds_program/report.h"
 
+#include <array>
+#include <cstdint>
+#include <iostream>
 #include <limits>
-#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
 
-namespace quillet::odds_program
-{
+// Writes docs/odds.md to the standard output, in about ten seconds.
 
 namespace
 {
+
+using namespace quillet;
+using odds_program::decimals;
 
 constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6", "8/5", "7/5", "6/5"};
 constexpr std::size_t royal = 1; // outcome
@@ -26,11 +34,11 @@ std::string percent(const odds::Fraction& share, int places)
 void writePayTables(std::ostream& out)
 {
     out << "## Pay tables\n\n"
-           "What comes back of 100 credits paid when five are paid for each hand and a royal pays\n"
-           "4000, the variance of one hand of perfect play in wagers squared, and what the\n"
-           "trainer's chart loses against perfect play with the best of the holds that the coach\n"
-           "accepts. The chart is made for 9/6.\n\n"
-           "| full house/flush | perfect play | variance | the chart | it loses |\n"
+           "The return in % at five credits a hand, where a royal pays 4000. The variance is that\n"
+           "of one hand of perfect play, in wagers squared. The chart's player takes the best of\n"
+           "the holds that the coach accepts; the loss is against perfect play. The chart is made\n"
+           "for 9/6.\n\n"
+           "| full house/flush | perfect play | variance | the chart | loss |\n"
            "|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
         const odds::Pays pays = odds::parsePays(name);
@@ -46,7 +54,7 @@ void writePayTables(std::ostream& out)
 void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds)
 {
     out << "\n## The trainer's pay table\n\n"
-           "| hand | pays | chance in %, perfect play | one in | by the chart | one in |\n"
+           "| hand | pays | chance in %, perfect play | one in | chance in %, chart | one in |\n"
            "|---|---|---|---|---|---|\n";
     const odds::Pays pays = odds::trainersPays();
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
@@ -63,10 +71,13 @@ void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds)
 
 void writeMistakes(std::ostream& out, const odds::HeldCards& heldCards)
 {
-    out << "\n## What the trainer's chart plays wrongly\n\n"
-           "Deals in which the best hold that the coach accepts is not the perfect one, and what\n"
-           "they cost of 100 credits over all deals.\n\n"
-           "| the chart's row | perfect play holds | deals | cost | dearest deal | it costs |\n"
+    out << "\n## Where the trainer's chart goes wrong\n\n"
+           "Deals in which the best hold that the coach accepts is not the perfect one. The cost "
+           "is\n"
+           "per 100 credits bet over all deals; the last column is the cost of the costliest deal "
+           "in\n"
+           "credits.\n\n"
+           "| the chart's row | perfect play holds | deals | cost | costliest deal | its cost |\n"
            "|---|---|---|---|---|---|\n";
     for (const charts::Mistake& mistake : charts::mistakesOf(heldCards, charts::trainersChart()))
         out << "| " << mistake.row << " | " << mistake.instead << " | " << mistake.deals << " | "
@@ -76,13 +87,13 @@ void writeMistakes(std::ostream& out, const odds::HeldCards& heldCards)
 
 void writeSittings(std::ostream& out, const odds::FairOdds& odds)
 {
-    out << "\n## Sittings\n\n"
-           "Chances in % and credits won or lost, for perfect play of the trainer's pay table "
-           "from\n"
-           "a fairly shuffled deck; the last column is the chance to have lost a bankroll of 500\n"
-           "credits on the way.\n\n"
-           "| hands | behind | even | ahead | 5 % | 25 % | 50 % | 75 % | 95 % | a royal | 500 lost "
-           "|\n"
+    out << "\n## Sessions\n\n"
+           "Perfect play at the trainer's pay table, from a fairly shuffled deck. The columns 5 % "
+           "to\n"
+           "95 % are results in credits: that share of sessions ends at or below. The others are\n"
+           "chances in %; the last is the chance of losing a bankroll of 500 credits on the "
+           "way.\n\n"
+           "| hands | behind | even | ahead | 5 % | 25 % | 50 % | 75 % | 95 % | a royal | ruin |\n"
            "|---|---|---|---|---|---|---|---|---|---|---|\n";
     const odds::OneHand one = odds::oneHand(odds, odds::trainersPays(), odds::Strategy::perfect);
     for (const std::int64_t hands : {100, 600, 2400, 10000}) {
@@ -103,9 +114,9 @@ void writeCharts(std::ostream& out, const odds::HeldCards& heldCards, const odds
     const odds::Fraction trainers =
         odds.returnOf(odds::Strategy::perfect) - odds.returnOf(odds::Strategy::chartWorst);
     out << "\n## Charts\n\n"
-           "What the best chart that was found with so many rows loses of 100 credits, when of\n"
-           "holds that fit a row the worst is taken. The trainer's own 21 rows lose "
-        << percent(trainers, 4) << ".\n\n| rows | loses |\n|---|---|\n";
+           "The loss per 100 credits of the best chart found with each number of rows, taking the\n"
+           "worst of the holds that fit a row. The trainer's own 21 rows lose "
+        << percent(trainers, 4) << ".\n\n| rows | loss |\n|---|---|\n";
     charts::ChartSearch search(heldCards);
     charts::Chart shown;
     for (const std::size_t rows : {12U, 16U, 21U, 24U, 30U}) {
@@ -116,35 +127,28 @@ void writeCharts(std::ostream& out, const odds::HeldCards& heldCards, const odds
         if (rows == 24)
             shown = chart;
     }
-    out << "\nThe one of 24 rows, best first:\n\n";
+    out << "\nThe chart of 24 rows, best first:\n\n";
     for (const charts::Row& row : shown)
         out << "1. " << charts::rowText(row) << "\n";
     out << "\n### Without loss\n\n"
-           "Rows may ask about the cards thrown away, too. The shortest chart found that plays\n"
-           "every deal perfectly, `assets/charts/perfect.chart`, has 34 rows, of which seven ask.\n"
-           "The search for it started from charts without loss that were gathered greedily, 82 to\n"
-           "125 rows long. Over and over it put dozens of rows in by chance, many of them rows of\n"
-           "the chart that ask something else. Then it took out, in an order of chance, each row\n"
-           "without which the others can still be put in an order that loses nothing. What came "
-           "out\n"
-           "went on if it was no longer and asked no more. Four such runs of some minutes ended\n"
-           "with 34 rows, and three in which no row asks more than two things with 35.\n";
+           "A row may also put conditions on the discards. The shortest chart found that plays "
+           "every\n"
+           "deal perfectly, `assets/charts/perfect.chart`, has 34 rows, seven of them with\n"
+           "conditions.\n";
 }
 
 } // namespace
 
-void writeDocument(std::ostream& out)
+int main()
 {
     const odds::HeldCards heldCards;
     const odds::FairOdds odds = odds::fairOdds(heldCards);
-    out << "# The odds of Jacks or Better\n\n"
-           "Every figure is exact for a fairly shuffled deck and rounded only to be printed.\n"
-           "`quillet-odds --document` writes this page.\n\n";
-    writePayTables(out);
-    writeTrainersTable(out, odds);
-    writeMistakes(out, heldCards);
-    writeSittings(out, odds);
-    writeCharts(out, heldCards, odds);
+    std::cout << "# The odds of Jacks or Better\n\n"
+                 "Every figure is exact for a fairly shuffled deck and rounded only for printing.\n"
+                 "CONTRIBUTING.md says how to write this page again.\n\n";
+    writePayTables(std::cout);
+    writeTrainersTable(std::cout, odds);
+    writeMistakes(std::cout, heldCards);
+    writeSittings(std::cout, odds);
+    writeCharts(std::cout, heldCards, odds);
 }
-
-} // namespace quillet::odds_program
