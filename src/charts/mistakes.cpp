@@ -1,6 +1,7 @@
 #include "charts/mistakes.h"
 
 #include "charts/chart_price.h"
+#include "charts/plain_kinds.h"
 #include "engine/pay_table.h"
 #include "odds/fair_odds.h"
 
@@ -16,40 +17,6 @@ namespace quillet::charts
 namespace
 {
 
-// The kinds of hold that a student tells apart, the first that fits.
-constexpr std::array<std::string_view, 23> plainKinds{"royal",
-                                                      "straight flush",
-                                                      "4 of a kind",
-                                                      "full house",
-                                                      "flush",
-                                                      "straight",
-                                                      "3 of a kind",
-                                                      "2 pair",
-                                                      "4 to a royal",
-                                                      "4 to a straight flush",
-                                                      "high pair",
-                                                      "3 to a royal",
-                                                      "4 to a flush",
-                                                      "low pair",
-                                                      "4 to an outside straight",
-                                                      "4 to an inside straight",
-                                                      "3 to a straight flush",
-                                                      "4 high",
-                                                      "3 high",
-                                                      "2 high",
-                                                      "10 and face, suited",
-                                                      "1 high",
-                                                      "nothing"};
-
-std::string_view plainKind(const HoldFacts& held)
-{
-    const auto fits = [&held](std::string_view name) {
-        return rowKinds()[*findRowKind(name)].fits(held);
-    };
-    const auto found = std::ranges::find_if(plainKinds, fits);
-    return found == plainKinds.end() ? "other cards" : *found;
-}
-
 class Tally
 {
 public:
@@ -58,7 +25,7 @@ public:
         const std::int64_t cost = hand.worth[hand.bestHold] - hand.worth[played];
         if (cost == 0)
             return;
-        Kind& kind = m_kinds[{row, plainKind(factsOf(hand, hand.bestHold))}];
+        Kind& kind = m_kinds[{row, plainKindName(plainKindOf(factsOf(hand, hand.bestHold)))}];
         kind.told.deals += members;
         kind.cost += odds::Int128{cost} * members;
         if (cost > kind.costliest) {
