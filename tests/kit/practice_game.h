@@ -1,0 +1,27 @@
+#pragma once
+
+#include "charts/chart_player.h"
+#include "practice/decisions.h"
+
+namespace quillet::practice::test
+{
+
+// What every test of practice needs; made once, as it takes a moment.
+struct Game {
+    odds::HeldCards heldCards;
+    Decisions decisions{heldCards};
+    charts::HoldTable table{heldCards};
+};
+
+inline const Game& game()
+{
+    static const Game theGame;
+    return theGame;
+}
+
+inline const Decisions& decisions()
+{
+    return game().decisions;
+}
+
+} // namespace quillet::practice::test
