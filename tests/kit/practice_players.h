@@ -1,0 +1,86 @@
+#pragma once
+
+#include "charts/chart_price.h"
+#include "practice/questions.h"
+#include "tests/kit/practice_game.h"
+
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quillet::practice::test
+{
+
+// The best chart of 12 rows, as quillet-odds --best-chart 12 finds it.
+inline constexpr std::string_view bestOf12 =
+    "4 of a kind\nstraight or better, dealt\n3 of a kind\n2 pair\n4 to a flush\npair\n"
+    "4 to an outside straight\n3 to a straight flush, high for each gap but one\n2 high, suited\n"
+    "2 high, lowest\n1 high\nnothing";
+
+// A player whose return is known exactly: perfect play or the best hold that a chart allows, but
+// sometimes, once in so many hands, any of the 32 holds.
+class Player
+{
+public:
+    Player(const std::optional<charts::Chart>& chart, int slipsOneIn = 0) : m_slipsOneIn(slipsOneIn)
+    {
+        const charts::ChartPrice price =
+            charts::priceChart(game().heldCards, chart.value_or(charts::trainersChart()));
+        perfect = price.perfect.value();
+        returned = chart ? price.returned[0].value() : perfect;
+        if (chart)
+            m_chart.emplace(game().table, *chart);
+        if (slipsOneIn == 0)
+            return;
+        double blind = 0; // loses so much
+        for (const Decision& decision : decisions().all())
+            blind += decision.probability() * decision.anyHoldCost() / 5;
+        returned += (perfect - blind - returned) / slipsOneIn;
+    }
+
+    odds::Hold hold(const odds::DealtHand& hand, std::mt19937_64& chance) const
+    {
+        if (m_slipsOneIn > 0 && chance() % static_cast<unsigned>(m_slipsOneIn) == 0)
+            return static_cast<odds::Hold>(chance() % odds::holds);
+        return m_chart ? hand.bestOf(m_chart->play(hand).fitting) : hand.bestHold;
+    }
+
+    double returned = 0;
+    double perfect = 0;
+
+private:
+    int m_slipsOneIn;
+    std::optional<charts::ChartPlayer> m_chart;
+};
+
+// One player's session. Always the same for the same seed.
+class Session
+{
+public:
+    Session(const Player& player, std::uint64_t seed)
+        : m_player(player), m_questions(decisions(), seed), m_chance(seed)
+    {
+    }
+
+    void answerUntil(std::size_t count)
+    {
+        while (answers.size() < count) {
+            asked.push_back(m_questions.next(record));
+            const odds::DealtHand hand(game().heldCards, heldDeal(asked.back().cards, 0).places);
+            answers.push_back(answerTo(decisions(), hand, m_player.hold(hand, m_chance)));
+            record.add(answers.back());
+        }
+    }
+
+    Record record{decisions()};
+    std::vector<Question> asked;
+    std::vector<Answer> answers;
+
+private:
+    const Player& m_player;
+    Questions m_questions;
+    std::mt19937_64 m_chance;
+};
+
+} // namespace quillet::practice::test
