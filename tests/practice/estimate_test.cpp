@@ -1,0 +1,67 @@
+#include "practice/estimate.h"
+#include "tests/kit/practice_players.h"
+
+#include <gmock/gmock.h>
+
+namespace quillet::practice::test
+{
+
+namespace
+{
+
+// Some sessions of so many answers: how many intervals hold the exact return, and whether they are
+// this narrow on average, in percentage points.
+int insideOf(const Player& player, std::size_t answers, int sessions, double halfWidth)
+{
+    int inside = 0;
+    double sum = 0;
+    for (int seed = 1; seed <= sessions; ++seed) {
+        Session session(player, static_cast<std::uint64_t>(seed));
+        session.answerUntil(answers);
+        const Estimate told = estimateReturn(decisions(), session.answers, player.perfect);
+        EXPECT_NEAR(told.returned + told.closeLoss + told.slipLoss, player.perfect, 1e-12);
+        const double exact = player.returned;
+        inside += exact >= told.low - 1e-12 && exact <= told.high + 1e-12 ? 1 : 0;
+        sum += 50 * (told.high - told.low);
+    }
+    EXPECT_LT(sum, halfWidth * sessions);
+    return inside;
+}
+
+} // namespace
+
+// The benchmark has the same for many more sessions.
+TEST(Estimate, holdsTheExactReturnOfPlayersWhoseReturnIsKnown)
+{
+    const auto chart = charts::trainersChart();
+    for (const Player& player : {Player({}), Player(chart)}) {
+        EXPECT_GE(insideOf(player, 200, 15, 0.5), 14);
+        EXPECT_GE(insideOf(player, 1000, 4, 0.2), 4);
+    }
+    const Player twelveRows(charts::parseChart(bestOf12));
+    EXPECT_GE(insideOf(twelveRows, 200, 15, 0.6), 13);
+    EXPECT_GE(insideOf(twelveRows, 1000, 4, 0.3), 3);
+    EXPECT_GE(insideOf(Player(chart, 20), 200, 15, 2.5), 13);
+    EXPECT_GE(insideOf(Player(chart, 20), 1000, 4, 1.2), 3);
+}
+
+// Someone who keeps a kicker with each low pair does not hold blindly.
+TEST(Estimate, doesNotTakeAHabitForSlips)
+{
+    const DecisionId habit = decisions().find("low pair over 1 high").value();
+    Questions questions(decisions(), 1);
+    Record record(decisions());
+    std::vector<Answer> answers;
+    while (answers.size() < 200) {
+        const DecisionId id = questions.next(record).decision;
+        answers.push_back({id, id == habit ? 0.75 : 0.0, id == habit});
+        record.add(answers.back());
+    }
+    const Estimate told = estimateReturn(decisions(), answers, 0.9954);
+    EXPECT_NEAR(told.closeLoss, decisions()[habit].probability() * 0.75 / 5, 0.005);
+    EXPECT_LT(told.slipLoss, 0.005);
+    EXPECT_EQ(told.low, estimateReturn(decisions(), answers, 0.9954).low) << "no chance in it";
+    EXPECT_LT(estimateReturn(decisions(), {}, 0.9954).low, 0.97) << "no answers yet";
+}
+
+} // namespace quillet::practice::test
