@@ -14,12 +14,11 @@ namespace
 
 using namespace quillet;
 
-// The wood table with a flying card.
+// The wood table.
 struct Painted : test::PaintedTable {
     explicit Painted(double scale)
     {
         paint(loadPictureFile(QStringLiteral(QUILLET_ASSETS "/pics/vpokerwood.jpg"), scale), scale);
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColour);
         QApplication::processEvents();
     }
 
@@ -60,9 +59,9 @@ void firstStartCalibration(benchmark::State& state)
     Painted painted(1.0);
     for ([[maybe_unused]] auto step : state) {
         painted.preferences.prfBannerDelay = 0;
-        DelayMeter(painted.pictures, painted.library, painted.preferences, painted.clock, painted,
+        DelayMeter(painted.canvas, painted.library, painted.preferences, painted.clock, painted,
                    [] {})
-            .InitAnimDelay({468, 60});
+            .InitAnimDelay(Painted::measures);
     }
     state.counters["flight delay"] = painted.preferences.prfAnimationDelay;
     state.counters["banner delay"] = painted.preferences.prfBannerDelay;

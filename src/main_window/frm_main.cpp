@@ -121,9 +121,7 @@ bool frmMain::Form_Load()
             CalibrationSplash splash;
             splash.show();
             splash.advance();
-            m_table.measureDelays(*this, m_surroundings.clock,
-                                  QSizeF(statusBarWidth, picStatusBar->height()),
-                                  [&splash] { splash.advance(); });
+            m_table.measureDelays(*this, m_surroundings.clock, [&splash] { splash.advance(); });
         }
         FirstInit();
     });

@@ -2,7 +2,6 @@
 
 #include "table/counting_loop.h"
 #include "table/picture_box.h"
-#include "table/table_canvas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -91,8 +90,8 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
     guardedWithText(m_errorBox, "Error in AnimateCard  ", "", [&] {
         prepareTable();
         const Path path(fromX, fromY, toX, toY);
-        m_pictures.canvas->refresh();
-        m_pictures.canvas->setPersistentImage(false);
+        m_canvas.refresh();
+        m_canvas.setPersistentImage(false);
 
         std::int32_t& major = path.alongX ? fromX : fromY;
         std::int32_t& minor = path.alongX ? fromY : fromX;
@@ -107,41 +106,42 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
             drawFrame(fromX, fromY, path, cardNumber, drawMode);
             countingLoop(delayFlown(m_preferences.prfAnimationDelay));
         }
-        land(toX, toY);
+        land(toX, toY, cardNumber, drawMode);
     });
 }
 
 void CardFlight::prepareTable()
 {
-    TableCanvas& canvas = *m_pictures.canvas;
-    Surface& board = m_pictures.BoardBuffer;
-    canvas.setPersistentImage(true);
-    if (board.size() != canvas.innerSize() || board.scale() != canvas.scale())
-        board = Surface(canvas.innerSize(), canvas.scale());
-    board.copyFrom(canvas.kept(), {0, 0}, canvas.innerSize(), {0, 0});
-    for (PictureBox* box : m_pictures.picDeal)
-        box->setShowing(false);
-    // No event is handled on the way, so that what is uncovered meanwhile waits for the next card.
-    canvas.presentWholeWindowWithNextFrame();
-    canvas.refresh();
-
-    // The cards on the table are what the flying one's rounded corners show.
-    for (const PictureBox* box : m_pictures.picPoker)
-        if (box->isShowing())
-            board.copyPixels(box->picture(), box->picture().image().rect(),
-                             box->devicePlace().topLeft());
+    m_canvas.setPersistentImage(true);
+    sizePictures();
+    BoardBuffer.copyFrom(m_canvas.kept(), {0, 0}, m_canvas.innerSize(), {0, 0});
+    m_pile.setShowing(false);
+    // No event is handled during a flight, so the display is whole again only with the next one.
+    m_canvas.presentWholeWindowWithNextFrame();
+    m_canvas.refresh();
+    // The rounded corners of the flying card show the cards on the table.
+    m_canvas.copyBoxesTo(BoardBuffer);
     m_lastFrame = {};
+}
+
+void CardFlight::sizePictures()
+{
+    const double scale = m_canvas.scale();
+    if (BoardBuffer.size() == m_canvas.innerSize() && BoardBuffer.scale() == scale)
+        return;
+    BoardBuffer = Surface(m_canvas.innerSize(), scale);
+    picBuffer = picAnimate = Surface(m_library.cardSize(), scale);
 }
 
 void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
                            std::int32_t cardNumber, std::int32_t drawMode)
 {
-    Surface& board = m_pictures.BoardBuffer;
-    const QSizeF card = m_pictures.picAnimate.picture.size();
+    const QSizeF card = picBuffer.size();
+    const double scale = BoardBuffer.scale();
     const QPointF at(x, y);
 
-    m_pictures.picBuffer.copyFrom(board, at, card, {0, 0});
-    m_library.cdtDraw(board, x, y, cardNumber, drawMode, whiteColour);
+    picBuffer.copyFrom(BoardBuffer, at, card, {0, 0});
+    m_library.cdtDraw(BoardBuffer, x, y, cardNumber, drawMode, whiteColour);
 
     QPointF corner = at;
     if (path.movingDown) {
@@ -151,34 +151,31 @@ void CardFlight::drawFrame(std::int32_t x, std::int32_t y, const Path& path,
     } else if (path.movingRight) {
         corner.rx() -= trail;
     }
-    show(deviceRect({at, card}, board.scale()),
-         deviceRect({corner, card + QSizeF(trail, trail)}, board.scale()));
+    show(deviceRect({at, card}, scale), deviceRect({corner, card + QSizeF(trail, trail)}, scale));
 
-    board.copyFrom(m_pictures.picBuffer, {0, 0}, card, at);
+    BoardBuffer.copyFrom(picBuffer, {0, 0}, card, at);
 }
 
-void CardFlight::land(std::int32_t toX, std::int32_t toY)
+void CardFlight::land(std::int32_t toX, std::int32_t toY, std::int32_t cardNumber,
+                      std::int32_t drawMode)
 {
-    TableCanvas& canvas = *m_pictures.canvas;
-    Surface& board = m_pictures.BoardBuffer;
-    const Surface& card = m_pictures.picAnimate.picture;
+    const QSizeF card = picAnimate.size();
     const QPointF at(toX, toY);
-    board.copyFrom(card, {0, 0}, card.size(), at);
-    show(deviceRect({at, card.size()}, board.scale()), {});
-    board.copyFrom(canvas.kept(), at, card.size(), at);
-    for (const PictureBox* box : m_pictures.picPoker)
-        if (box->isShowing())
-            board.copyPixels(canvas.kept(), box->devicePlace(), box->devicePlace().topLeft());
-    canvas.setPersistentImage(true);
-    m_pictures.picDeal[0]->setShowing(true);
+    // Here the rounded corners show the table without its cards.
+    picAnimate.copyFrom(m_canvas.kept(), at, card, {0, 0});
+    m_library.cdtDraw(picAnimate, 0, 0, cardNumber, drawMode, whiteColour);
+    BoardBuffer.copyFrom(picAnimate, {0, 0}, card, at);
+    show(deviceRect({at, card}, BoardBuffer.scale()), {});
+    m_canvas.setPersistentImage(true);
+    m_pile.top().setShowing(true);
 }
 
-// A card ends and begins at device pixels of its own, so that the copy also takes in the pixels of
-// this frame's card and of the last one's.
+// The position of each frame is rounded to device pixels by itself, so the copy includes the
+// pixels of this frame's card and of the last one's.
 void CardFlight::show(const QRect& card, const QRect& copied)
 {
-    m_pictures.canvas->liftOverBoxes(card);
-    m_pictures.canvas->copyPixels(m_pictures.BoardBuffer, copied | card | m_lastFrame);
+    m_canvas.liftOverBoxes(card);
+    m_canvas.copyPixels(BoardBuffer, copied | card | m_lastFrame);
     m_lastFrame = card;
 }
 

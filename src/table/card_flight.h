@@ -3,7 +3,8 @@
 #include "faults/run_time_error.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
-#include "table/table_pictures.h"
+#include "table/deck_pile.h"
+#include "table/table_canvas.h"
 
 #include <cstdint>
 
@@ -15,9 +16,10 @@ namespace quillet
 class CardFlight
 {
 public:
-    CardFlight(TablePictures& pictures, CardLibrary& library, const Preferences& preferences,
-               ErrorBox& errorBox)
-        : m_pictures(pictures), m_library(library), m_preferences(preferences), m_errorBox(errorBox)
+    CardFlight(TableCanvas& canvas, DeckPile& pile, CardLibrary& library,
+               const Preferences& preferences, ErrorBox& errorBox)
+        : m_canvas(canvas), m_pile(pile), m_library(library), m_preferences(preferences),
+          m_errorBox(errorBox)
     {
     }
 
@@ -31,16 +33,21 @@ private:
     struct Path;
 
     void prepareTable();
+    void sizePictures();
     void drawFrame(std::int32_t x, std::int32_t y, const Path& path, std::int32_t cardNumber,
                    std::int32_t drawMode);
-    void land(std::int32_t toX, std::int32_t toY);
+    void land(std::int32_t toX, std::int32_t toY, std::int32_t cardNumber, std::int32_t drawMode);
     void show(const QRect& card, const QRect& copied);
 
-    TablePictures& m_pictures;
+    TableCanvas& m_canvas;
+    DeckPile& m_pile;
     CardLibrary& m_library;
     const Preferences& m_preferences;
     ErrorBox& m_errorBox;
-    QRect m_lastFrame; // where the card lies on the display, in device pixels
+    Surface BoardBuffer; // the table with the flying card
+    Surface picBuffer;   // the table under the card
+    Surface picAnimate;  // the card where it lands
+    QRect m_lastFrame;   // where the card lies on the display, in device pixels
 };
 
 } // namespace quillet

@@ -3,7 +3,6 @@
 #include "cards/card_numbers.h"
 #include "table/counting_loop.h"
 #include "table/delay_calibration.h"
-#include "table/table_canvas.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -39,17 +38,22 @@ QImage bannerPicture(QSize size)
 
 } // namespace
 
-DelayMeter::DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
+DelayMeter::DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences,
                        Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
-    : m_pictures(pictures), m_library(library), m_preferences(preferences), m_clock(clock),
+    : m_canvas(canvas), m_library(library), m_preferences(preferences), m_clock(clock),
       m_errorBox(errorBox), m_afterRound(std::move(afterRound))
 {
 }
 
-void DelayMeter::InitAnimDelay(QSizeF strip)
+void DelayMeter::InitAnimDelay(const TableMeasures& table)
 {
     guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [&] {
-        const double scale = m_pictures.canvas->scale();
+        const double scale = m_canvas.scale();
+        const QSizeF strip(statusBarWidth, table.statusBarHeight);
+        m_board = Surface(m_canvas.innerSize(), scale);
+        m_under = Surface(m_library.cardSize(), scale);
+        const QSizeF pile = rejectPileSize(table);
+        m_frame = {std::nearbyint(pile.width()), std::nearbyint(pile.height())};
         m_bannerStrip = Surface(strip, scale);
         picBanner3 = bannerPicture((strip * scale).toSize());
         m_preferences.prfAnimationDelay = 0;
@@ -92,16 +96,13 @@ double DelayMeter::secondsTaken(const std::function<void()>& frames)
 
 double DelayMeter::flightRound(std::int32_t delay)
 {
-    Surface& board = m_pictures.BoardBuffer;
-    const QSizeF size(std::nearbyint(m_pictures.picReject.place.width()),
-                      std::nearbyint(m_pictures.picReject.place.height()));
     return secondsTaken([&] {
         for (int frame = 0; frame < flightFrames; ++frame) {
-            m_pictures.picBuffer.copyFrom(board, {0, 0}, size, {0, 0});
-            m_library.cdtDraw(board, 0, 0, beachBack, drawBack, whiteColour);
-            m_pictures.canvas->copyPixels(
-                board, deviceRect({{0, -trail}, size + QSizeF(trail, trail)}, board.scale()));
-            board.copyFrom(m_pictures.picBuffer, {0, 0}, size, {0, 0});
+            m_under.copyFrom(m_board, {0, 0}, m_frame, {0, 0});
+            m_library.cdtDraw(m_board, 0, 0, beachBack, drawBack, whiteColour);
+            m_canvas.copyPixels(m_board, deviceRect({{0, -trail}, m_frame + QSizeF(trail, trail)},
+                                                    m_board.scale()));
+            m_board.copyFrom(m_under, {0, 0}, m_frame, {0, 0});
             countingLoop(delay);
         }
     });

@@ -4,7 +4,8 @@
 #include "platform/clock.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
-#include "table/table_pictures.h"
+#include "table/table_canvas.h"
+#include "table/table_geometry.h"
 
 #include <cstdint>
 #include <functional>
@@ -19,13 +20,13 @@ class DelayMeter
 {
 public:
     // afterRound is called after every measured round, to let events run and show progress.
-    DelayMeter(TablePictures& pictures, CardLibrary& library, Preferences& preferences,
-               Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound);
+    DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences, Clock& clock,
+               ErrorBox& errorBox, std::function<void()> afterRound);
 
-    // Sets prfAnimationDelay, prfBannerDelay (that of a banner that slides into a strip of this
-    // size, in logical pixels) and prfScrollVal. An error is shown in a box; the delays keep the
-    // values they had reached.
-    void InitAnimDelay(QSizeF strip);
+    // Sets prfAnimationDelay, prfScrollVal and prfBannerDelay (that of a banner sliding into a
+    // strip as large as the status bar). An error is shown in a box; the delays keep the values
+    // they had reached.
+    void InitAnimDelay(const TableMeasures& table);
 
 private:
     // Nothing when the round would probably end too late.
@@ -36,12 +37,15 @@ private:
     [[nodiscard]] double bannerRound(std::int32_t delay);
     [[nodiscard]] double secondsPerDelayUnit();
 
-    TablePictures& m_pictures;
+    TableCanvas& m_canvas;
     CardLibrary& m_library;
     Preferences& m_preferences;
     Clock& m_clock;
     ErrorBox& m_errorBox;
     std::function<void()> m_afterRound;
+    Surface m_board; // of the table's size
+    Surface m_under; // of a card's size
+    QSizeF m_frame;  // logical pixels that a frame copies
     Surface m_bannerStrip;
     QImage picBanner3;               // what slides into it
     std::int64_t m_started = 0;      // milliseconds of the clock

@@ -6,6 +6,8 @@
 #include <QRectF>
 #include <QWidget>
 
+#include <array>
+
 namespace quillet
 {
 
@@ -70,5 +72,8 @@ private:
     bool m_showing = false;
     bool m_checked = false;
 };
+
+// The card places of a table, left to right.
+using CardBoxes = std::array<PictureBox*, 5>;
 
 } // namespace quillet

@@ -3,16 +3,12 @@
 #include "cards/card_numbers.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
-#include "platform/file_exists.h"
 #include "table/card_names.h"
 #include "table/init_anim_delay.h"
 #include "table/masked_blit.h"
 #include "table/picture_box.h"
-#include "table/picture_file.h"
 #include "table/table_canvas.h"
 
-#include <QDateTime>
-#include <QFileInfo>
 #include <QPainter>
 
 #include <algorithm>
@@ -25,12 +21,6 @@ namespace
 {
 
 static_assert(usualBackFace == defaultBack);
-
-QImage framePicture(FramePiece piece)
-{
-    const QImage picture(QStringLiteral(":/frame/%1.png").arg(QLatin1String(fileName(piece))));
-    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
 
 // The places of a held card's marks, in device pixels.
 struct HoldMarker {
@@ -52,46 +42,41 @@ struct HoldMarker {
 
 PokerTable::PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent)
     : QObject(parent), m_preferences(preferences), m_errorBox(errorBox),
-      m_pile(m_pictures, m_library), m_painter(m_pictures, m_library, m_pile),
-      m_flight(m_pictures, m_library, preferences, errorBox)
+      m_canvas(*new TableCanvas(parent)), m_pile(m_canvas, m_library),
+      m_painter(m_canvas, m_background.picture(), picPoker, m_pile, m_library),
+      m_flight(m_canvas, m_pile, m_library, preferences, errorBox)
 {
-    setObjectName(QStringLiteral("pokerTable"));
-    m_pictures.canvas = new TableCanvas(parent);
-    canvas().setObjectName(QStringLiteral("table"));
-    canvas().setAccessibleName(tr("Card table"));
-    canvas().setFocusPolicy(Qt::ClickFocus);
-    canvas().setOverlays(
+    setObjectName("pokerTable");
+    m_canvas.setObjectName("table");
+    m_canvas.setAccessibleName("Card table");
+    m_canvas.setFocusPolicy(Qt::ClickFocus);
+    m_canvas.setOverlays(
         [this](QPainter& painter, double scale) { paintOutlines(painter, scale); });
-    connect(&canvas(), &TableCanvas::scaleChanged, this, &PokerTable::followScale);
-    makeDeck();
+    connect(&m_canvas, &TableCanvas::scaleChanged, this, &PokerTable::followScale);
+    connectDeck();
     makePlaces();
-    for (const FramePiece piece : allFramePieces)
-        m_pictures.framePieces[static_cast<std::size_t>(piece)] = framePicture(piece);
 }
 
-void PokerTable::makeDeck()
+void PokerTable::connectDeck()
 {
-    // Index 0 comes last and so lies on top: the player's clicks carry it.
-    for (std::size_t i = m_pictures.picDeal.size(); i-- > 0;) {
-        auto* deck = new PictureBox(canvas());
-        m_pictures.picDeal[i] = deck;
-        deck->setObjectName(QStringLiteral("picDeal%1").arg(i));
+    for (std::size_t i = 0; i < m_pile.boxes().size(); ++i) {
+        PictureBox& deck = *m_pile.boxes()[i];
         if (i > 0)
-            hideFromReaders(*deck); // beneath the first
+            hideFromReaders(deck); // beneath the first
         else
-            presentAsButton(*deck);
-        deck->setAccessibleName(tr("Deck"));
-        connect(deck, &PictureBox::clicked, this,
+            presentAsButton(deck);
+        deck.setAccessibleName("Deck");
+        connect(&deck, &PictureBox::clicked, this,
                 [this, i] { emit deckClicked(static_cast<std::int16_t>(i)); });
     }
-    m_pictures.picDeal[0]->setFocusPolicy(Qt::TabFocus);
+    m_pile.top().setFocusPolicy(Qt::TabFocus);
 }
 
 void PokerTable::makePlaces()
 {
     for (const Slot slot : allSlots) {
-        auto* place = new PictureBox(canvas());
-        m_pictures.picPoker[slot] = place;
+        auto* place = new PictureBox(m_canvas);
+        picPoker[slot] = place;
         place->setObjectName(QStringLiteral("picPoker%1").arg(slot));
         place->setFocusPolicy(Qt::TabFocus);
         presentAsCheckBox(*place);
@@ -104,56 +89,32 @@ void PokerTable::makePlaces()
 
 std::optional<Slot> PokerTable::focusedSlot() const
 {
-    const auto focused = std::ranges::find_if(m_pictures.picPoker, &QWidget::hasFocus);
-    if (focused == m_pictures.picPoker.end())
+    const auto focused = std::ranges::find_if(picPoker, &QWidget::hasFocus);
+    if (focused == picPoker.end())
         return std::nullopt;
-    return static_cast<Slot>(focused - m_pictures.picPoker.begin());
-}
-
-QString PokerTable::backgroundVersion(const QString& path) const
-{
-    const QFileInfo file(path);
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(path)
-        .arg(file.size())
-        .arg(file.lastModified().toMSecsSinceEpoch())
-        .arg(m_pictures.canvas->devicePixelRatioF());
+    return static_cast<Slot>(focused - picPoker.begin());
 }
 
 void PokerTable::expectBackground(const QString& path)
 {
-    if (!FileExists(path.toStdString()))
-        return;
-    m_expectedVersion = backgroundVersion(path);
-    m_expected =
-        std::async(std::launch::async, loadPictureFile, path, canvas().devicePixelRatioF());
+    m_background.expect(path, m_canvas.devicePixelRatioF());
 }
 
 bool PokerTable::loadBackground(const QString& path)
 {
-    m_backgroundPath = path;
-    if (!FileExists(path.toStdString()))
-        return false;
-    const QString version = backgroundVersion(path);
-    if (version == m_backgroundVersion)
-        return true;
-    const bool expected = m_expected.valid() && version == m_expectedVersion;
-    m_pictures.thePic =
-        expected ? m_expected.get() : loadPictureFile(path, canvas().devicePixelRatioF());
-    m_backgroundVersion = version;
-    return true;
+    return m_background.load(path, m_canvas.devicePixelRatioF());
 }
 
 void PokerTable::setMeasures(const TableMeasures& measures)
 {
     m_measures = measures;
     const QSizeF inner(measures.innerWidth, measures.innerHeight);
-    canvas().setFixedSize(inner.toSize().expandedTo({1, 1}));
+    m_canvas.setFixedSize(inner.toSize().expandedTo({1, 1}));
 }
 
 void PokerTable::makePictures()
 {
-    m_painter.sizePictures(m_measures, canvas().devicePixelRatioF());
+    m_painter.sizePictures(m_measures, m_canvas.devicePixelRatioF());
 }
 
 void PokerTable::paintFirstTable()
@@ -166,7 +127,7 @@ void PokerTable::resetGraphics()
 {
     guarded(m_errorBox, "resetGraphics", [this] {
         const QSizeF inner(m_measures.innerWidth, m_measures.innerHeight);
-        if (canvas().innerSize() != inner || canvas().scale() != canvas().devicePixelRatioF())
+        if (m_canvas.innerSize() != inner || m_canvas.scale() != m_canvas.devicePixelRatioF())
             makePictures();
         for (const Slot slot : allSlots) {
             takeAway(slot);
@@ -186,11 +147,11 @@ void PokerTable::shuffleCards()
     m_pile.shuffleCards(m_preferences.prfPKBackFace);
 }
 
-void PokerTable::measureDelays(Preferences& preferences, Clock& clock, QSizeF strip,
+void PokerTable::measureDelays(Preferences& preferences, Clock& clock,
                                std::function<void()> afterRound)
 {
-    DelayMeter(m_pictures, m_library, preferences, clock, m_errorBox, std::move(afterRound))
-        .InitAnimDelay(strip);
+    DelayMeter(m_canvas, m_library, preferences, clock, m_errorBox, std::move(afterRound))
+        .InitAnimDelay(m_measures);
 }
 
 void PokerTable::close()
@@ -201,13 +162,13 @@ void PokerTable::close()
 
 bool PokerTable::isCardShowing(Slot slot) const
 {
-    return m_pictures.picPoker[slot]->isShowing();
+    return picPoker[slot]->isShowing();
 }
 
 void PokerTable::takeAway(Slot slot)
 {
     m_cards[slot] = {};
-    m_pictures.picPoker[slot]->setShowing(false);
+    picPoker[slot]->setShowing(false);
     describe(slot);
 }
 
@@ -216,29 +177,23 @@ void PokerTable::flyCardTo(Slot slot)
     // The deck's picture in the table is what is seen during the flight.
     showDeck();
     const std::int32_t backNumber = m_preferences.prfPKBackFace;
-    const QPointF start = m_pictures.picDeal[0]->place().topLeft() + flyingCardOffset;
-    const QPoint from = start.toPoint();
-    const QPoint to = m_pictures.picPoker[slot]->place().topLeft().toPoint();
-    OffScreenBox& card = m_pictures.picAnimate;
-    card.place.moveTopLeft(start);
-    // Where the card lands, its rounded corners show the table of that place.
-    card.picture.copyFrom(canvas().kept(), to, card.place.size(), {0, 0});
-    m_library.cdtDraw(card.picture, 0, 0, backNumber, drawBack, whiteColour);
+    const QPoint from = (m_pile.top().place().topLeft() + flyingCardOffset).toPoint();
+    const QPoint to = picPoker[slot]->place().topLeft().toPoint();
     std::int32_t x = from.x();
     std::int32_t y = from.y();
     m_flight.AnimateCard(x, y, to.x(), to.y(), 1, backNumber, drawBack);
 
     // A flight that broke off has left the table to be drawn on directly, and the deck hidden.
-    canvas().setPersistentImage(true);
-    m_pictures.picDeal[0]->setShowing(true);
+    m_canvas.setPersistentImage(true);
+    m_pile.top().setShowing(true);
     show(slot, {CardOnTable::Side::back, backNumber, false});
-    canvas().refresh();
+    m_canvas.refresh();
 }
 
 void PokerTable::showFace(Slot slot, std::int16_t cardId, bool finished)
 {
     show(slot, {CardOnTable::Side::face, cardId, finished});
-    m_pictures.picPoker[slot]->refresh();
+    picPoker[slot]->refresh();
 }
 
 void PokerTable::showHold(Slot slot, bool held)
@@ -246,28 +201,27 @@ void PokerTable::showHold(Slot slot, bool held)
     if (m_held[slot] == held)
         return;
     m_held[slot] = held;
-    const QRectF place = m_pictures.picPoker[slot]->place();
-    canvas().presentWithNextFrame(place.adjusted(-4, -4, 4, 4));
+    const QRectF place = picPoker[slot]->place();
+    m_canvas.presentWithNextFrame(place.adjusted(-4, -4, 4, 4));
     describe(slot);
 }
 
 void PokerTable::showDeck()
 {
-    PictureBox& deck = *m_pictures.picDeal[0];
+    PictureBox& deck = m_pile.top();
     const QPointF at = deck.place().topLeft();
     const QSizeF size = deck.place().size();
-    canvas().keptForDrawing().copyFrom(deck.picture(), {0, 0}, size, at);
-    m_pictures.BoardBuffer.copyFrom(deck.picture(), {0, 0}, size, at);
+    m_canvas.keptForDrawing().copyFrom(deck.picture(), {0, 0}, size, at);
     deck.setShowing(true);
 }
 
 void PokerTable::recover()
 {
-    canvas().setPersistentImage(true);
+    m_canvas.setPersistentImage(true);
     for (const Slot slot : allSlots)
         showHold(slot, false);
-    m_pictures.picDeal[0]->setShowing(true);
-    canvas().refresh();
+    m_pile.top().setShowing(true);
+    m_canvas.refresh();
 }
 
 void PokerTable::paintOutlines(QPainter& painter, double scale) const
@@ -276,7 +230,7 @@ void PokerTable::paintOutlines(QPainter& painter, double scale) const
     for (const Slot slot : allSlots) {
         if (!m_held[slot])
             continue;
-        const QRect card = m_pictures.picPoker[slot]->devicePlace();
+        const QRect card = picPoker[slot]->devicePlace();
         const HoldMarker marker(card, scale);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(colour, marker.width));
@@ -295,33 +249,26 @@ void PokerTable::show(Slot slot, const CardOnTable& card)
 {
     m_cards[slot] = card;
     paintCard(slot);
-    m_pictures.picPoker[slot]->setShowing(true);
+    picPoker[slot]->setShowing(true);
     describe(slot);
 }
 
 void PokerTable::paintCard(Slot slot)
 {
     const CardOnTable& card = m_cards[slot];
-    PictureBox& place = *m_pictures.picPoker[slot];
+    PictureBox& place = *picPoker[slot];
     place.restoreTableBehind();
     if (card.side != CardOnTable::Side::none)
         m_library.cdtDraw(place.picture(), 0, 0, card.number,
                           card.side == CardOnTable::Side::face ? drawFace : drawBack, whiteColour);
     if (card.hatched)
-        layHatch(slot);
-}
-
-void PokerTable::layHatch(Slot slot)
-{
-    Surface& hatch = m_pictures.picAnimate.picture;
-    m_painter.paintHatch(hatch);
-    Surface& card = m_pictures.picPoker[slot]->picture();
-    MaskedBlit(card, card, hatch, wholeOf(hatch), 0, 0, whiteColour);
+        MaskedBlit(place.picture(), place.picture(), m_painter.hatch(), wholeOf(m_painter.hatch()),
+                   0, 0, whiteColour);
 }
 
 void PokerTable::describe(Slot slot)
 {
-    PictureBox& place = *m_pictures.picPoker[slot];
+    PictureBox& place = *picPoker[slot];
     place.setChecked(m_held[slot]);
     place.setAccessibleName(spokenCard(slot, m_cards[slot], m_held[slot]));
 }
@@ -333,11 +280,12 @@ void PokerTable::followScale()
     if (m_closed)
         return;
     // A flight may have been the first to paint in the new pixels, and of them only its own.
-    canvas().presentWholeWindowWithNextFrame();
-    if (canvas().scale() == canvas().devicePixelRatioF())
+    m_canvas.presentWholeWindowWithNextFrame();
+    if (m_canvas.scale() == m_canvas.devicePixelRatioF())
         return;
     // A picture that has been spoiled meanwhile stays as it was read.
-    guarded(m_errorBox, "followScale", [this] { (void)loadBackground(m_backgroundPath); });
+    guarded(m_errorBox, "followScale",
+            [this] { m_background.reload(m_canvas.devicePixelRatioF()); });
     makePictures();
     std::array<bool, 5> showing{};
     for (const Slot slot : allSlots)
@@ -345,10 +293,10 @@ void PokerTable::followScale()
     m_painter.repaint(m_measures, m_preferences.prfPKBackFace);
     for (const Slot slot : allSlots) {
         paintCard(slot);
-        m_pictures.picPoker[slot]->setShowing(showing[slot]);
+        picPoker[slot]->setShowing(showing[slot]);
     }
     showDeck();
-    canvas().refresh();
+    m_canvas.refresh();
 }
 
 } // namespace quillet

@@ -8,15 +8,14 @@
 #include "table/card_library.h"
 #include "table/card_on_table.h"
 #include "table/deck_pile.h"
+#include "table/table_background.h"
 #include "table/table_painter.h"
-#include "table/table_pictures.h"
 
 #include <QObject>
 #include <QString>
 
 #include <array>
 #include <functional>
-#include <future>
 #include <optional>
 
 class QPainter;
@@ -36,18 +35,17 @@ public:
     PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent);
 
     // The widget to look at; chart and status bar lie on it.
-    [[nodiscard]] TableCanvas& canvas() { return *m_pictures.canvas; }
+    [[nodiscard]] TableCanvas& canvas() { return m_canvas; }
     // Is to be open (cdtInit) before anything is painted.
     [[nodiscard]] CardLibrary& library() { return m_library; }
     // The place of a card that has the keyboard.
     [[nodiscard]] std::optional<Slot> focusedSlot() const;
 
+    [[nodiscard]] const LoadedPicture& background() const { return m_background.picture(); }
     // Begins to decode the picture that will likely be the background, on a thread.
     void expectBackground(const QString& path);
-    // Whether there is a file at this path, which then is the background. It is read again only
-    // when it has changed. Throws RunTimeError for one that is no picture.
+    // See TableBackground.
     [[nodiscard]] bool loadBackground(const QString& path);
-    [[nodiscard]] const LoadedPicture& background() const { return m_pictures.thePic; }
 
     // Sizes the canvas; all places follow from the measures at the next painting.
     void setMeasures(const TableMeasures& measures);
@@ -61,9 +59,8 @@ public:
     void DrawDealDeck();
     void shuffleCards();
 
-    // Measures the speed of flights and of a banner in a strip of this size; see DelayMeter.
-    void measureDelays(Preferences& preferences, Clock& clock, QSizeF strip,
-                       std::function<void()> afterRound);
+    // Measures the speed of flights and of a banner; see DelayMeter.
+    void measureDelays(Preferences& preferences, Clock& clock, std::function<void()> afterRound);
 
     // The program is about to end; nothing is painted any more.
     void close();
@@ -82,13 +79,11 @@ signals:
     void cardDoubleClicked(Slot slot);
 
 private:
-    [[nodiscard]] QString backgroundVersion(const QString& path) const;
-    void makeDeck();
+    void connectDeck();
     void makePlaces();
     void paintOutlines(QPainter& painter, double scale) const;
     void show(Slot slot, const CardOnTable& card);
     void paintCard(Slot slot);
-    void layHatch(Slot slot);
     void describe(Slot slot);
     void followScale();
 
@@ -96,17 +91,15 @@ private:
     ErrorBox& m_errorBox;
 
     TableMeasures m_measures;
-    TablePictures m_pictures;
     std::array<CardOnTable, 5> m_cards; // what the places show
     std::array<bool, 5> m_held{};       // whose hold marker shows
-    QString m_backgroundPath;
-    QString m_backgroundVersion; // of the file and the scale that thePic was read for
-    QString m_expectedVersion;
-    std::future<LoadedPicture> m_expected;
     bool m_closed = false;
 
+    TableCanvas& m_canvas; // a child of the parent
+    TableBackground m_background;
     CardLibrary m_library;
     DeckPile m_pile;
+    CardBoxes picPoker{}; // children of the canvas
     TablePainter m_painter;
     CardFlight m_flight;
 };

@@ -66,6 +66,14 @@ void TableCanvas::presentWholeWindowWithNextFrame()
         widget->update();
 }
 
+void TableCanvas::copyBoxesTo(Surface& surface) const
+{
+    for (const PictureBox* box : m_boxes)
+        if (box->isShowing())
+            surface.copyPixels(box->picture(), box->picture().image().rect(),
+                               box->devicePlace().topLeft());
+}
+
 void TableCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

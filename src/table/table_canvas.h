@@ -35,7 +35,6 @@ public:
     [[nodiscard]] const Surface& kept() const { return m_kept; }
     // What is drawn on while the persistent image is on.
     [[nodiscard]] Surface& keptForDrawing() { return m_kept; }
-    [[nodiscard]] const Surface& screen() const { return m_screen; }
 
     // Copies these device pixels, each to its own place, to where drawing goes at present.
     void copyPixels(const Surface& source, const QRect& place);
@@ -56,6 +55,8 @@ public:
     void setOverlays(OverlayPainter overlays) { m_overlays = std::move(overlays); }
 
     void addBox(PictureBox& box) { m_boxes.push_back(&box); }
+    // Copies the pictures of all boxes that are showing, each to its own place.
+    void copyBoxesTo(Surface& surface) const;
 
 signals:
     // The display's pixels have become smaller or larger than those of the pictures.

@@ -2,7 +2,6 @@
 
 #include "cards/card_numbers.h"
 #include "table/masked_blit.h"
-#include "table/picture_box.h"
 #include "table/table_canvas.h"
 
 #include <QPainter>
@@ -13,111 +12,85 @@ namespace quillet
 namespace
 {
 
-void resize(OffScreenBox& box, QSizeF size, double scale)
+QImage framePicture(FramePiece piece)
 {
-    box.place.setSize(size);
-    box.picture = Surface(size, scale);
+    const QImage picture(QString(":/frame/%1.png").arg(fileName(piece)));
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace
+
+TablePainter::TablePainter(TableCanvas& canvas, const LoadedPicture& background,
+                           const CardBoxes& cards, DeckPile& pile, CardLibrary& library)
+    : m_canvas(canvas), m_background(background), m_cards(cards), m_pile(pile), m_library(library)
+{
+    for (const FramePiece piece : allFramePieces)
+        m_framePieces[static_cast<std::size_t>(piece)] = framePicture(piece);
+}
 
 void TablePainter::sizePictures(const TableMeasures& table, double scale)
 {
     const QSizeF card(table.cardWidth, table.cardHeight);
     m_stretched.clear();
-    m_pictures.canvas->resizePictures({table.innerWidth, table.innerHeight}, scale);
-    m_pictures.BoardBuffer = Surface({table.innerWidth, table.innerHeight}, scale);
-    m_pictures.picBuffer = Surface(card, scale);
-    resize(m_pictures.picAnimate, card, scale);
-    resize(m_pictures.picDealBack, deckSize(table), scale);
-    resize(m_pictures.picReject, rejectPileSize(table), scale);
-    resize(m_pictures.picRejectBack, rejectPileSize(table), scale);
-    for (PictureBox* box : m_pictures.picPoker)
+    m_canvas.resizePictures({table.innerWidth, table.innerHeight}, scale);
+    for (PictureBox* box : m_cards)
         box->place({box->place().topLeft(), card}, scale);
-    for (PictureBox* box : m_pictures.picDeal)
-        box->place({box->place().topLeft(), deckSize(table)}, scale);
+    m_pile.resize(deckSize(table), scale);
+    m_hatch = Surface(card, scale);
+    m_hatch.fill(Qt::white);
+    m_library.cdtDraw(m_hatch, 0, 0, hatchBack, drawBack, whiteColour);
 }
 
 void TablePainter::paintBackground()
 {
-    Surface& kept = m_pictures.canvas->keptForDrawing();
+    Surface& kept = m_canvas.keptForDrawing();
     kept.fill(Qt::black);
-    const LoadedPicture& picture = m_pictures.thePic;
-    const QSize size = deviceRect({{0, 0}, picture.logicalSize}, kept.scale()).size();
-    kept.drawPixels(stretched(picture.image, size), {0, 0});
+    const QSize size = deviceRect({{0, 0}, m_background.logicalSize}, kept.scale()).size();
+    kept.drawPixels(stretched(m_background.image, size), {0, 0});
 }
 
 void TablePainter::paintFirstTable(const TableMeasures& table)
 {
     paintFrame(firstFrame(table));
-    m_pictures.canvas->refresh();
-    for (PictureBox* box : m_pictures.picPoker)
+    m_canvas.refresh();
+    for (PictureBox* box : m_cards)
         box->copyTableBehind();
-
-    m_pictures.picReject.place = m_pictures.picRejectBack.place = firstRejectPlace(table);
-    copyTableBehind(m_pictures.picReject);
-    copyTableBehind(m_pictures.picRejectBack);
-
-    for (PictureBox* box : m_pictures.picDeal) {
-        box->place(firstDeckPlace(table), m_pictures.canvas->scale());
-        box->copyTableBehind();
-    }
-    m_pictures.picDealBack.place = firstDeckPlace(table);
-    copyTableBehind(m_pictures.picDealBack);
-    m_pictures.BoardBuffer = m_pictures.canvas->kept();
+    m_pile.place(firstDeckPlace(table));
 }
 
 void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
 {
-    TableCanvas& canvas = *m_pictures.canvas;
-    for (PictureBox* box : m_pictures.picDeal)
-        box->setShowing(false);
-    for (PictureBox* box : m_pictures.picPoker)
+    m_pile.setShowing(false);
+    for (PictureBox* box : m_cards)
         box->setShowing(false);
 
     paintBackground();
-    m_pictures.picReject.place = m_pictures.picRejectBack.place = rejectPlace(table);
-    placeDeck(table);
+    m_pile.place(deckPlace(table));
     placeCards(table);
     paintAroundStatusBar(table);
     paintFrame(tableFrame(table));
-    for (PictureBox* box : m_pictures.picPoker)
+    for (PictureBox* box : m_cards)
         box->copyTableBehind();
     paintPosts(table);
-    m_pictures.BoardBuffer = canvas.kept();
 
     m_pile.DrawDealDeck(backNumber);
     layHatches();
-    m_pictures.picReject.picture.copyFrom(m_pictures.picRejectBack.picture, {0, 0},
-                                          m_pictures.picReject.place.size(), {0, 0});
-    for (PictureBox* box : m_pictures.picDeal)
-        box->setShowing(true);
-    canvas.refresh();
-}
-
-void TablePainter::placeDeck(const TableMeasures& table)
-{
-    const QRectF place = deckPlace(table);
-    for (PictureBox* box : m_pictures.picDeal) {
-        box->place(place, m_pictures.canvas->scale());
-        box->copyTableBehind();
-    }
-    m_pictures.picDealBack.place = m_pictures.picDeal[0]->place();
-    copyTableBehind(m_pictures.picDealBack);
+    m_pile.setShowing(true);
+    m_canvas.refresh();
 }
 
 void TablePainter::placeCards(const TableMeasures& table)
 {
     const auto places = cardPlaces(table);
     for (std::size_t slot = 0; slot < places.size(); ++slot)
-        m_pictures.picPoker[slot]->place(places[slot], m_pictures.canvas->scale());
+        m_cards[slot]->place(places[slot], m_canvas.scale());
 }
 
 // The bar is black. From its end to the chart there is the wood of the table's lower right corner,
 // which the chart hides. Both go under the rails, which are painted later.
 void TablePainter::paintAroundStatusBar(const TableMeasures& table)
 {
-    Surface& kept = m_pictures.canvas->keptForDrawing();
+    Surface& kept = m_canvas.keptForDrawing();
     const QRectF bar = statusBarPlace(table);
     const double top = bar.top() - frameEdgeHeight / 2;
     const double height = table.innerHeight - top;
@@ -130,7 +103,7 @@ void TablePainter::paintAroundStatusBar(const TableMeasures& table)
 
 void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
 {
-    Surface& kept = m_pictures.canvas->keptForDrawing();
+    Surface& kept = m_canvas.keptForDrawing();
     for (const FramePlace& place : frame)
         kept.drawPixels(
             stretched(framePiece(place.piece), deviceRect(place.rect, kept.scale()).size()),
@@ -143,7 +116,7 @@ void TablePainter::paintPosts(const TableMeasures& table)
 {
     constexpr double railWood = 9; // logical pixels of a rail's height, up to its gilt
     constexpr double gilt = 4;
-    Surface& kept = m_pictures.canvas->keptForDrawing();
+    Surface& kept = m_canvas.keptForDrawing();
     const double scale = kept.scale();
     const QRect post = deviceRect(chartFrame(table).rect, scale);
     const int wood = deviceSize(railWood, scale);
@@ -174,31 +147,15 @@ const QImage& TablePainter::stretched(const QImage& picture, QSize size)
 
 const QImage& TablePainter::framePiece(FramePiece piece) const
 {
-    return m_pictures.framePieces[static_cast<std::size_t>(piece)];
-}
-
-void TablePainter::copyTableBehind(OffScreenBox& box)
-{
-    box.picture.copyFrom(m_pictures.canvas->kept(), box.place.topLeft(), box.place.size(), {0, 0});
-}
-
-void TablePainter::paintHatch(Surface& picture)
-{
-    picture.fill(Qt::white);
-    m_library.cdtDraw(picture, 0, 0, hatchBack, drawBack, whiteColour);
+    return m_framePieces[static_cast<std::size_t>(piece)];
 }
 
 void TablePainter::layHatches()
 {
-    Surface& hatch = m_pictures.picAnimate.picture;
-    paintHatch(hatch);
-    const PixelRect whole = wholeOf(hatch);
-
-    Surface& table = m_pictures.canvas->keptForDrawing();
-    for (const PictureBox* box : m_pictures.picPoker)
-        MaskedBlit(table, table, hatch, whole, box->place().x(), box->place().y(), whiteColour);
-    for (OffScreenBox* back : {&m_pictures.picDealBack, &m_pictures.picRejectBack})
-        MaskedBlit(back->picture, back->picture, hatch, whole, 0, 0, whiteColour);
+    Surface& table = m_canvas.keptForDrawing();
+    for (const PictureBox* box : m_cards)
+        MaskedBlit(table, table, m_hatch, wholeOf(m_hatch), box->place().x(), box->place().y(),
+                   whiteColour);
 }
 
 } // namespace quillet

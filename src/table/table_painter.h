@@ -2,7 +2,9 @@
 
 #include "table/card_library.h"
 #include "table/deck_pile.h"
-#include "table/table_pictures.h"
+#include "table/picture_box.h"
+#include "table/picture_file.h"
+#include "table/table_geometry.h"
 
 #include <map>
 #include <tuple>
@@ -10,32 +12,27 @@
 namespace quillet
 {
 
-// Paints the table: background, frame, deck and the hatched places of the cards. It knows the
-// pictures only.
+// Paints the table: background, frame, deck and the hatched places of the cards.
 class TablePainter
 {
 public:
-    TablePainter(TablePictures& pictures, CardLibrary& library, DeckPile& pile)
-        : m_pictures(pictures), m_library(library), m_pile(pile)
-    {
-    }
+    // All must outlive the painter.
+    TablePainter(TableCanvas& canvas, const LoadedPicture& background, const CardBoxes& cards,
+                 DeckPile& pile, CardLibrary& library);
 
-    // Makes every picture anew for this table and scale. The boxes are sized but not yet placed.
+    // Makes every picture again for this table and scale. The boxes are sized but not yet placed.
     void sizePictures(const TableMeasures& table, double scale);
 
-    // The background picture becomes the window's own.
     void paintBackground();
-    // Before the first game: the frame all round, the pieces at their first places.
+    // Before the first game: the frame and the deck.
     void paintFirstTable(const TableMeasures& table);
     // Before each game: everything but the cards.
     void repaint(const TableMeasures& table, std::int32_t backNumber);
 
-    // The crosshatch on white, which is what an overlay lets through, outside its rounded corners,
-    // too.
-    void paintHatch(Surface& picture);
+    // The crosshatch on white, the colour that an overlay lets through.
+    [[nodiscard]] const Surface& hatch() const { return m_hatch; }
 
 private:
-    void placeDeck(const TableMeasures& table);
     void placeCards(const TableMeasures& table);
     void paintAroundStatusBar(const TableMeasures& table);
     void paintFrame(const std::vector<FramePlace>& frame);
@@ -43,14 +40,17 @@ private:
     // The picture in this size in device pixels.
     const QImage& stretched(const QImage& picture, QSize size);
     const QImage& framePiece(FramePiece piece) const;
-    void copyTableBehind(OffScreenBox& box);
     void layHatches();
 
-    TablePictures& m_pictures;
-    CardLibrary& m_library;
+    TableCanvas& m_canvas;
+    const LoadedPicture& m_background;
+    const CardBoxes& m_cards;
     DeckPile& m_pile;
+    CardLibrary& m_library;
+    std::array<QImage, 4> m_framePieces; // by FramePiece
+    Surface m_hatch;
 
-    // Pictures stretched to device pixels, which costs more than all else, by picture and size.
+    // By picture and size: stretching takes longer than all other painting.
     using StretchKey = std::tuple<qint64, int, int>;
     std::map<StretchKey, QImage> m_stretched;
 };

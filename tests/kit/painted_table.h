@@ -19,10 +19,7 @@ struct PaintedTable : ErrorBox {
         std::int32_t width = 0;
         std::int32_t height = 0;
         library.cdtInit(width, height);
-        pictures.canvas = &canvas;
-        for (std::size_t i = pictures.picDeal.size(); i-- > 0;)
-            pictures.picDeal.at(i) = new PictureBox(canvas);
-        for (PictureBox*& box : pictures.picPoker)
+        for (PictureBox*& box : picPoker)
             box = new PictureBox(canvas);
         canvas.setFixedSize(800, 514);
         canvas.show();
@@ -31,7 +28,7 @@ struct PaintedTable : ErrorBox {
     void paint(const LoadedPicture& background, double scale)
     {
         painter.sizePictures(measures, scale);
-        pictures.thePic = background;
+        thePic = background;
         painter.repaint(measures, sleeve);
     }
 
@@ -43,11 +40,12 @@ struct PaintedTable : ErrorBox {
     Preferences preferences;
     std::vector<std::string> errors;
     TableCanvas canvas;
-    TablePictures pictures;
+    LoadedPicture thePic;
     CardLibrary library;
-    DeckPile pile{pictures, library};
-    TablePainter painter{pictures, library, pile};
-    CardFlight flight{pictures, library, preferences, *this};
+    DeckPile pile{canvas, library};
+    CardBoxes picPoker{};
+    TablePainter painter{canvas, thePic, picPoker, pile, library};
+    CardFlight flight{canvas, pile, library, preferences, *this};
 };
 
 } // namespace quillet::test

@@ -17,13 +17,7 @@ namespace
 
 // A table with our frame, its deck in Sleeve backs.
 struct FramedTable : PaintedTable {
-    FramedTable(const LoadedPicture& background, double scale)
-    {
-        for (const FramePiece piece : allFramePieces)
-            pictures.framePieces[std::size_t(piece)] =
-                QImage(QString(":/frame/%1.png").arg(fileName(piece)));
-        paint(background, scale);
-    }
+    FramedTable(const LoadedPicture& background, double scale) { paint(background, scale); }
 };
 
 std::set<QRgb> coloursIn(const QImage& picture, const QRect& place)
@@ -45,7 +39,7 @@ TEST(PresentedTable, railsPostsBarAndPileMeetAtEveryScale)
         SCOPED_TRACE(scale);
         const auto at = [scale](double position) { return deviceOrigin(position, scale); };
         FramedTable table({grey, grey.size()}, scale);
-        const QImage& pile = table.pictures.picDeal[0]->picture().image();
+        const QImage& pile = table.pile.top().picture().image();
         QImage expected(pile.size(), pile.format());
         expected.fill(Qt::gray);
         for (int back = 0; back < 4; ++back)

@@ -27,13 +27,12 @@ protected:
             for (int x = 0; x < wood.width(); ++x)
                 wood.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 256));
         paint({wood, QSizeF(800, 440)}, GetParam());
-        const PictureBox& deck = *pictures.picDeal[0];
+        const PictureBox& deck = pile.top();
         canvas.keptForDrawing().copyPixels(deck.picture(), deck.picture().image().rect(),
                                            deck.devicePlace().topLeft());
         for (const std::size_t slot : {1U, 2U, 3U}) {
-            library.cdtDraw(pictures.picPoker.at(slot)->picture(), 0, 0, sleeve, drawBack,
-                            whiteColour);
-            pictures.picPoker.at(slot)->setShowing(true);
+            library.cdtDraw(picPoker.at(slot)->picture(), 0, 0, sleeve, drawBack, whiteColour);
+            picPoker.at(slot)->setShowing(true);
         }
         canvas.refresh();
         bare = presented(canvas);
@@ -41,8 +40,6 @@ protected:
 
     void fly(QPoint from, QPoint to)
     {
-        pictures.picAnimate.picture.copyFrom(canvas.kept(), to, QSizeF(96, 130), {0, 0});
-        library.cdtDraw(pictures.picAnimate.picture, 0, 0, sleeve, drawBack, whiteColour);
         std::int32_t x = from.x();
         std::int32_t y = from.y();
         flight.AnimateCard(x, y, to.x(), to.y(), 1, sleeve, drawBack);
@@ -76,9 +73,9 @@ TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
           QPoint(0, -20), QPoint(25, -10), QPoint(-25, -12), QPoint()})
         flights.emplace_back(from, from + way);
     for (const std::size_t slot : {0U, 4U}) { // the second over cards
-        const QPoint place = pictures.picPoker[slot]->place().topLeft().toPoint();
+        const QPoint place = picPoker[slot]->place().topLeft().toPoint();
         EXPECT_EQ(deviceRect({place, QSizeF()}, GetParam()).topLeft(),
-                  pictures.picPoker[slot]->devicePlace().topLeft());
+                  picPoker[slot]->devicePlace().topLeft());
         flights.emplace_back(QPoint(209, 95), place);
     }
     for (const auto& [start, end] : flights) {
@@ -93,10 +90,9 @@ TEST_P(CardFlightTest, everyFrameIsOneWholeCardOnTheTable)
         const QPoint way = end - start;
         EXPECT_EQ(frames, std::max(std::abs(way.x()), std::abs(way.y())));
         EXPECT_EQ(cardOn(presented(canvas)), deviceRect({end, QSizeF()}, GetParam()).topLeft());
-        EXPECT_EQ(pictures.BoardBuffer.image(), canvas.kept().image());
         EXPECT_TRUE(canvas.persistentImage());
-        EXPECT_TRUE(pictures.picDeal[0]->isShowing());
-        EXPECT_FALSE(pictures.picDeal[1]->isShowing());
+        EXPECT_TRUE(pile.top().isShowing());
+        EXPECT_FALSE(pile.boxes()[1]->isShowing());
         canvas.refresh();
         EXPECT_EQ(presented(canvas), bare);
     }
@@ -138,8 +134,9 @@ TEST_P(CardFlightTest, theHatchLiesExactlyOnTheCardPlaces)
     Surface hatch({96, 130}, GetParam());
     hatch.fill(Qt::white);
     library.cdtDraw(hatch, 0, 0, hatchBack, drawBack, whiteColour);
-    for (const PictureBox* place : pictures.picPoker) {
-        QImage expected = pictures.BoardBuffer.image().copy(place->devicePlace());
+    for (PictureBox* place : picPoker) {
+        place->restoreTableBehind();
+        QImage expected = place->picture().image();
         QPainter(&expected).drawImage(0, 0, inkOf(hatch.image()));
         EXPECT_EQ(canvas.kept().image().copy(place->devicePlace()), expected);
     }
