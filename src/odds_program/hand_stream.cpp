@@ -2,12 +2,16 @@
 
 #include "odds/bad_input.h"
 #include "odds/hand_text.h"
+#include "odds_program/data_output.h"
 #include "odds_program/reports.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace quillet::odds_program
 {
@@ -27,32 +31,17 @@ std::string credits(std::int64_t worth)
     return std::to_string(scaled / decimals) + "." + std::string(8 - digits.size(), '0') + digits;
 }
 
-void writeLine(std::ostream& out, const odds::DealtHand& hand, Format format)
+std::vector<Field> fieldsOf(const odds::DealtHand& hand)
 {
-    const odds::Hold charts = hand.bestAccepted();
+    const odds::Hold chart = hand.bestAccepted();
     const std::int64_t best = hand.worth[hand.bestHold];
-    struct Field {
-        std::string name;
-        std::string value;
-        bool isText;
-    };
-    const auto fields =
-        std::to_array<Field>({{"hand", odds::holdText(hand.places, odds::holdAll), true},
-                              {"row", std::to_string(hand.chartCode), false},
-                              {"best", odds::holdText(hand.places, hand.bestHold), true},
-                              {"expected", credits(best), false},
-                              {"chart", odds::holdText(hand.places, charts), true},
-                              {"chart expected", credits(hand.worth[charts]), false},
-                              {"cost", credits(best - hand.worth[charts]), false}});
-    std::string line;
-    for (const auto& field : fields) {
-        line += line.empty() ? (format == Format::json ? "{" : "")
-                             : (format == Format::json ? ", " : ",");
-        if (format == Format::json)
-            line += "\"" + field.name + "\": ";
-        line += format == Format::json && field.isText ? "\"" + field.value + "\"" : field.value;
-    }
-    out << line << (format == Format::json ? "}\n" : "\n");
+    return {{"hand", odds::holdText(hand.places, odds::holdAll), true},
+            {"row", std::to_string(hand.chartCode)},
+            {"best", odds::holdText(hand.places, hand.bestHold), true},
+            {"expected", credits(best)},
+            {"chart", odds::holdText(hand.places, chart), true},
+            {"chart expected", credits(hand.worth[chart])},
+            {"cost", credits(best - hand.worth[chart])}};
 }
 
 // The cards of the next line that has any, in order; nothing at the end. Counts the lines.
@@ -81,16 +70,22 @@ void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCa
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
-    bool first = true;
+    const char* separator = "";
     for (int number = 1; const auto places = nextHand(in, number);) {
         const odds::DealtHand hand(heldCards, *places);
-        if (style.format != Format::text) {
-            writeLine(out, hand, style.format);
-            continue;
+        switch (style.format) {
+        case Format::text:
+            out << std::exchange(separator, "\n");
+            writeReport(out, handReport(heldCards, hand, allHolds), style);
+            break;
+        case Format::csv:
+            writeCsvValues(out, fieldsOf(hand));
+            break;
+        case Format::json:
+            writeJsonObject(out, fieldsOf(hand));
+            out << '\n';
+            break;
         }
-        out << (first ? "" : "\n");
-        first = false;
-        writeReport(out, handReport(heldCards, hand, allHolds), style);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "odds_program/report.h"
 
 #include "odds/hand_text.h"
+#include "odds_program/data_output.h"
 
 #include <algorithm>
 #include <array>
@@ -176,23 +177,13 @@ std::string dataText(const Cell& cell)
     return rounded == nullptr ? plain(cell) : decimals(rounded->value, places);
 }
 
-std::string quoted(const std::string& text)
-{
-    if (text.find_first_of(",\"\n") == std::string::npos)
-        return text;
-    std::string result = "\"";
-    for (const char c : text)
-        result += c == '"' ? "\"\"" : std::string(1, c);
-    return result + '"';
-}
-
 std::string fractionOf(const Cell& cell)
 {
     const auto* exact = std::get_if<Exact>(&cell);
     return exact == nullptr ? "" : exact->value.text();
 }
 
-// Whether some cell of the column is exact, so that it takes a second field.
+// Whether some cell of the column is exact, so that CSV needs a second column.
 bool hasFractions(const Table& table, std::size_t column)
 {
     return std::ranges::any_of(table.rows, [column](const auto& row) {
@@ -200,75 +191,53 @@ bool hasFractions(const Table& table, std::size_t column)
     });
 }
 
+// An exact figure is followed by its fraction. CSV has as many fields in every row.
+std::vector<Field> fieldsOf(const Table& table, const std::vector<Cell>& row, Format format)
+{
+    std::vector<Field> fields;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const std::string& name = table.columns[i].field;
+        fields.push_back({name, dataText(row[i]), !isNumber(row[i])});
+        if (std::holds_alternative<Exact>(row[i]) ||
+            (format == Format::csv && hasFractions(table, i)))
+            fields.push_back({name + " fraction", fractionOf(row[i]), true});
+    }
+    return fields;
+}
+
 void writeWideCsv(std::ostream& out, const Table& table)
 {
-    std::string titles;
-    for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        titles += (i == 0 ? "" : ",") + table.columns[i].field;
-        if (hasFractions(table, i))
-            titles += "," + table.columns[i].field + " fraction";
-    }
-    out << titles << "\n";
-    for (const auto& row : table.rows) {
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            out << (i == 0 ? "" : ",") << quoted(dataText(row[i]));
-            if (hasFractions(table, i))
-                out << ',' << fractionOf(row[i]);
-        }
-        out << "\n";
-    }
+    const std::vector<Cell> none(table.columns.size());
+    const auto& first = table.rows.empty() ? none : table.rows.front();
+    writeCsvNames(out, fieldsOf(table, first, Format::csv));
+    for (const auto& row : table.rows)
+        writeCsvValues(out, fieldsOf(table, row, Format::csv));
 }
 
 void writeLongCsv(std::ostream& out, const Report& report)
 {
     out << "table,row,field,value,fraction\n";
-    for (const Table& table : report) {
-        for (const auto& row : table.rows) {
+    for (const Table& table : report)
+        for (const auto& row : table.rows)
             for (std::size_t i = 1; i < row.size(); ++i)
-                out << table.name << ',' << quoted(dataText(row[0])) << ','
-                    << table.columns[i].field << ',' << quoted(dataText(row[i])) << ','
-                    << fractionOf(row[i]) << "\n";
-        }
-    }
-}
-
-std::string jsonText(const std::string& text)
-{
-    std::string result = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\')
-            result += '\\';
-        if (static_cast<unsigned char>(c) < ' ') {
-            std::array<char, 8> escape{};
-            std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(c));
-            result += escape.data();
-        } else {
-            result += c;
-        }
-    }
-    return result + '"';
+                writeCsvValues(out, {{"table", table.name},
+                                     {"row", dataText(row[0])},
+                                     {"field", table.columns[i].field},
+                                     {"value", dataText(row[i])},
+                                     {"fraction", fractionOf(row[i])}});
 }
 
 void writeJson(std::ostream& out, const Report& report)
 {
-    out << "{";
-    const char* betweenTables = "\n";
+    const char* beforeTable = "{\n  ";
     for (const Table& table : report) {
-        out << betweenTables << "  " << jsonText(table.name) << ": [";
-        betweenTables = ",\n";
-        const char* betweenRows = "\n";
+        out << beforeTable << jsonText(table.name) << ": [";
+        beforeTable = ",\n  ";
+        const char* beforeRow = "\n    ";
         for (const auto& row : table.rows) {
-            out << betweenRows << "    {";
-            betweenRows = ",\n";
-            for (std::size_t i = 0; i < row.size(); ++i) {
-                const std::string value = dataText(row[i]);
-                out << (i == 0 ? "" : ", ") << jsonText(table.columns[i].field) << ": "
-                    << (isNumber(row[i]) ? value : jsonText(value));
-                if (std::holds_alternative<Exact>(row[i]))
-                    out << ", " << jsonText(table.columns[i].field + " fraction") << ": "
-                        << jsonText(fractionOf(row[i]));
-            }
-            out << "}";
+            out << beforeRow;
+            beforeRow = ",\n    ";
+            writeJsonObject(out, fieldsOf(table, row, Format::json));
         }
         out << "\n  ]";
     }
