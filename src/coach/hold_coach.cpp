@@ -17,7 +17,7 @@ void HoldCoach::highlightWinner(std::int16_t playCode)
 
 void HoldCoach::showBestPlay(std::int16_t playCode)
 {
-    if (m_prfShowPokerPlay)
+    if (m_alwaysShows())
         m_chart.highlightBestPlay(playCode);
 }
 

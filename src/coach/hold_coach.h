@@ -3,6 +3,9 @@
 #include "coach/strategy_chart.h"
 #include "engine/hand_coach.h"
 
+#include <functional>
+#include <utility>
+
 namespace quillet
 {
 
@@ -11,9 +14,9 @@ namespace quillet
 class HoldCoach : public HandCoach
 {
 public:
-    // The player may change prfShowPokerPlay at any time.
-    HoldCoach(StrategyChart& chart, const bool& prfShowPokerPlay)
-        : m_chart(chart), m_prfShowPokerPlay(prfShowPokerPlay)
+    // alwaysShows returns whether the player wants to see the best play after every deal.
+    HoldCoach(StrategyChart& chart, std::function<bool()> alwaysShows)
+        : m_chart(chart), m_alwaysShows(std::move(alwaysShows))
     {
     }
 
@@ -24,7 +27,7 @@ public:
 
 private:
     StrategyChart& m_chart;
-    const bool& m_prfShowPokerPlay;
+    std::function<bool()> m_alwaysShows;
 };
 
 } // namespace quillet

@@ -16,23 +16,24 @@ namespace
 constexpr std::int16_t programsOwnCall = 3;
 constexpr int fadeSteps = 25;
 
-std::string_view wrongCue(std::ptrdiff_t cardsHeld)
+Cue wrongCue(std::ptrdiff_t cardsHeld)
 {
     switch (cardsHeld) {
     case 1:
-        return cues::wrongOne;
+        return Cue::wrongOne;
     case 2:
-        return cues::wrongTwo;
+        return Cue::wrongTwo;
     default:
-        return cues::wrong;
+        return Cue::wrong;
     }
 }
 
 } // namespace
 
-HandController::HandController(HandState& state, Counters& counters, const bool& prfPokerAutoDeal,
-                               GamePorts ports)
-    : m_state(state), m_counters(counters), m_prfPokerAutoDeal(prfPokerAutoDeal), m_ports(ports)
+HandController::HandController(HandState& state, Counters& counters,
+                               std::function<bool()> dealsByItself, GamePorts ports)
+    : m_state(state), m_counters(counters), m_dealsByItself(std::move(dealsByItself)),
+      m_ports(ports)
 {
 }
 
@@ -95,12 +96,12 @@ void HandController::clickDeck(std::int16_t index)
     if (m_next == Next::newGame)
         return;
     // The pause after a hand is for automatic dealing, which the player may have switched off.
-    if (m_finishedHand == m_state.epoch && !m_prfPokerAutoDeal)
+    if (m_finishedHand == m_state.epoch && !m_dealsByItself())
         m_state.handBusy = false;
     if (m_state.handBusy)
         return;
 
-    const bool handComesByItself = m_prfPokerAutoDeal && m_firstDealComing;
+    const bool handComesByItself = m_firstDealComing && m_dealsByItself();
     if (index == programsOwnCall || m_state.handDealt || !handComesByItself)
         showPokerHand();
 }
@@ -177,7 +178,7 @@ void HandController::deal(const std::array<Slot, 5>& order, bool cardsWereShowin
 void HandController::dealCardTo(Slot slot)
 {
     m_ports.table.flyCardTo(slot);
-    m_ports.cues.playSoundCue(cues::deal);
+    m_ports.cues.play(Cue::deal);
 }
 
 void HandController::draw(bool cardsWereShowing)
@@ -216,7 +217,7 @@ void HandController::refuseHold()
     const auto cardsHeld = std::ranges::count(m_state.holdFlags, true);
     m_state.handDealt = true;
     m_state.holdFlags.fill(false);
-    m_ports.cues.playSoundCue(wrongCue(cardsHeld));
+    m_ports.cues.play(wrongCue(cardsHeld));
     m_state.handBusy = false;
 }
 
@@ -246,7 +247,7 @@ bool HandController::pay(std::uint32_t epoch)
     m_ports.coach.highlightWinner(m_state.handCode);
     while (m_counters.total < target) {
         addCredits(std::min(payout->step, static_cast<std::int16_t>(target - m_counters.total)));
-        m_ports.cues.playSoundCue(payout->cue);
+        m_ports.cues.play(payout->cue);
         if (!pause(epoch, payout->pause))
             return false;
     }
@@ -265,11 +266,11 @@ void HandController::finishPaying()
 void HandController::dealNextHandByItself(std::uint32_t epoch)
 {
     m_finishedHand = epoch;
-    if (m_prfPokerAutoDeal && !pause(epoch, 2500))
+    if (m_dealsByItself() && !pause(epoch, 2500))
         return;
     m_state.handBusy = false;
     // The player may have unticked it meanwhile.
-    if (!m_prfPokerAutoDeal)
+    if (!m_dealsByItself())
         return;
     m_state.judgePending = false;
     picDeal_Click(programsOwnCall);

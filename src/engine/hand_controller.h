@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace quillet
@@ -31,9 +32,9 @@ struct GamePorts {
 class HandController
 {
 public:
-    // The player may change prfPokerAutoDeal at any time. All that is referenced outlives the
-    // controller.
-    HandController(HandState& state, Counters& counters, const bool& prfPokerAutoDeal,
+    // dealsByItself returns whether the player wants automatic dealing, which may change at any
+    // time. State and counters must outlive the controller.
+    HandController(HandState& state, Counters& counters, std::function<bool()> dealsByItself,
                    GamePorts ports);
 
     // Sets up the table, fades the status text in and deals. A hand that is running is
@@ -82,7 +83,7 @@ private:
 
     HandState& m_state;
     Counters& m_counters;
-    const bool& m_prfPokerAutoDeal;
+    std::function<bool()> m_dealsByItself;
     GamePorts m_ports;
 
     // What has been asked for in a pause and follows the sequence that was running.

@@ -1,7 +1,5 @@
 #include "engine/pay_table.h"
 
-#include "engine/cue_output.h"
-
 #include <algorithm>
 #include <array>
 
@@ -12,15 +10,15 @@ namespace
 {
 
 constexpr std::array<Payout, 9> payouts{{
-    {1, 4000, 25, cues::greatWin, 500},
-    {2, 250, 25, cues::greatWin, 500},
-    {3, 125, 25, cues::greatWin, 500},
-    {4, 45, 25, cues::greatWin, 500},
-    {6, 30, 15, cues::greatWin, 500},
-    {7, 20, 10, cues::middleWin, 500},
-    {8, 15, 15, cues::smallWin, 500},
-    {10, 10, 10, cues::smallWin, 500},
-    {11, 5, 5, cues::smallWin, 200},
+    {1, 4000, 25, Cue::bigWin, 500},
+    {2, 250, 25, Cue::bigWin, 500},
+    {3, 125, 25, Cue::bigWin, 500},
+    {4, 45, 25, Cue::bigWin, 500},
+    {6, 30, 15, Cue::bigWin, 500},
+    {7, 20, 10, Cue::mediumWin, 500},
+    {8, 15, 15, Cue::smallWin, 500},
+    {10, 10, 10, Cue::smallWin, 500},
+    {11, 5, 5, Cue::smallWin, 200},
 }};
 
 } // namespace

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "engine/cue_output.h"
+
 #include <cstdint>
 #include <span>
-#include <string_view>
 
 namespace quillet
 {
@@ -13,10 +14,10 @@ inline constexpr std::int16_t wager = 5;
 // What a final hand earns and how the win is counted up.
 struct Payout {
     std::int16_t playCode;
-    std::int16_t pays;    // credits
-    std::int16_t step;    // credits added at a time; the last step may be shorter
-    std::string_view cue; // sound at each step
-    std::int32_t pause;   // milliseconds after each step
+    std::int16_t pays;  // credits
+    std::int16_t step;  // credits added at a time; the last step may be shorter
+    Cue cue;            // at each step
+    std::int32_t pause; // milliseconds after each step
 };
 
 // The paying hands, best first.

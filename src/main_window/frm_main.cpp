@@ -60,9 +60,10 @@ frmMain::frmMain(Surroundings& surroundings)
                            guarded(nobody, "Form_Unload",
                                    [this] { savePreferences(*this, m_surroundings.store); });
                    }),
-      m_table(*this, surroundings.errorBox, this), m_coach(m_chart, prfShowPokerPlay),
-      m_cues(prfSound, surroundings.programFolder, surroundings.sound),
-      m_controller(m_state, m_counters, prfPokerAutoDeal,
+      m_table(*this, surroundings.errorBox, this),
+      m_coach(m_chart, [this] { return prfShowPokerPlay; }),
+      m_cues([this] { return prfSound; }, surroundings.programFolder, surroundings.sound),
+      m_controller(m_state, m_counters, [this] { return prfPokerAutoDeal; },
                    {m_table, *this, m_coach, m_cues, surroundings.decks, surroundings.errorBox}),
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
       picStatusBar(new StatusBar(&m_table.canvas())),

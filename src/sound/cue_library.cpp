@@ -115,10 +115,8 @@ std::shared_ptr<const SoundCue> loaded(const std::string& path, std::uintmax_t s
 
 std::shared_ptr<const SoundCue> CueLibrary::find(const std::string& path)
 {
-    // A pipe or a device would block the reader for ever.
+    // Only regular files have a size; reading a pipe would block for ever.
     std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error))
-        return nullptr;
     const auto written = std::filesystem::last_write_time(path, error);
     const auto size = std::filesystem::file_size(path, error);
     if (error || size > mostFileBytes)

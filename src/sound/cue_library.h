@@ -17,7 +17,7 @@ namespace quillet
 class CueLibrary
 {
 public:
-    // Null for a file that is missing, broken, or larger or longer than a cue can sensibly be.
+    // Null for a file that is missing, broken, too large or too long for a cue.
     [[nodiscard]] std::shared_ptr<const SoundCue> find(const std::string& path);
 
 private:

@@ -3,26 +3,28 @@
 #include "engine/cue_output.h"
 #include "sound/sound_output.h"
 
+#include <functional>
 #include <string>
+#include <string_view>
 
 namespace quillet
 {
 
-// The cues of the game: files below the program's folder, heard while the player wants sounds.
+// The cues of the game: files below the program's folder, played if the player wants sounds.
 class GameCues : public CueOutput
 {
 public:
-    // The player may change prfSound at any time. What is referenced outlives the cues.
-    GameCues(const bool& prfSound, std::string programFolder, SoundOutput& output);
+    // The output must outlive the cues.
+    GameCues(std::function<bool()> wantsSound, std::string programFolder, SoundOutput& output);
 
-    // A file that is missing or empty is silent.
-    void playSoundCue(std::string_view fileName) override;
-    // For cues that are about to come. The first after a rest is then not late, even where the
-    // device takes a second to open.
+    void play(Cue cue) override;
+    // Missing and empty files play nothing.
+    void playSoundCue(std::string_view fileName);
+    // Announces a cue, which is then in time even if the device takes a second to open.
     void prepare();
 
 private:
-    const bool& m_prfSound;
+    std::function<bool()> m_wantsSound;
     std::string m_programFolder;
     SoundOutput& m_output;
 };

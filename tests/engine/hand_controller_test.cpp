@@ -20,9 +20,8 @@ TEST(HandController, aDealRunsInItsOrder)
 {
     Game game;
     game.deal(jacks);
-    EXPECT_EQ(game.log.text(),
-              "total-5 fly0 deal.wav fly1 deal.wav fly2 deal.wav fly3 deal.wav fly4 deal.wav "
-              "pause650 face0 face1 face2 face3 face4");
+    EXPECT_EQ(game.log.text(), "total-5 fly0 deal fly1 deal fly2 deal fly3 deal fly4 deal "
+                               "pause650 face0 face1 face2 face3 face4");
     EXPECT_EQ(game.state.hand, hand("Jc Jd 4h 7s 9c"));
     EXPECT_EQ(game.state.handCode, 11);
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);
@@ -36,9 +35,9 @@ TEST(HandController, aDrawRunsInItsOrder)
     game.log.clear();
     game.draw("12");
     EXPECT_EQ(game.log.text(),
-              "hide2 hide3 hide4 hatch0 hatch1 pause600 fly2 deal.wav fly3 deal.wav fly4 deal.wav "
+              "hide2 hide3 hide4 hatch0 hatch1 pause600 fly2 deal fly3 deal fly4 deal "
               "pause250 hatch2 hatch3 hatch4 pause200 "
-              "total10 pokerwin1.wav pause500 total10");
+              "total10 smallWin pause500 total10");
     EXPECT_EQ(game.state.hand, hand("Jc Jd Jh 6s 8c"));
     EXPECT_EQ(game.counters.won, 1);
     EXPECT_EQ(game.chart.state(7), ChartRowState::winner);
@@ -64,7 +63,7 @@ TEST(HandController, theSecondDealFillsTheSlotsFromTheRightAfterAPause)
     EXPECT_EQ(game.chart.state(10), ChartRowState::base);
     EXPECT_THAT(game.state.holdFlags, testing::Each(false));
     EXPECT_EQ(game.log.text().substr(0, 46), "hide0 hide1 hide2 hide3 hide4 pause600 total-5");
-    EXPECT_THAT(game.log.text(), testing::HasSubstr("fly4 deal.wav fly3"));
+    EXPECT_THAT(game.log.text(), testing::HasSubstr("fly4 deal fly3"));
     game.controller.initPokerScreen();
     EXPECT_TRUE(game.state.dealReversed) << "a new game goes on in turn";
 }
@@ -104,12 +103,12 @@ TEST(HandController, wrongHoldsAreRefusedWithTheirCues)
     Game game;
     game.deal(jacks);
     const Counters before = game.counters;
-    for (const auto& [slots, cue] : {std::pair{"", "wrong.wav"},
-                                     {"1", "wrong2.wav"},
-                                     {"34", "wrong3.wav"},
-                                     {"123", "wrong.wav"},
-                                     {"1234", "wrong.wav"},
-                                     {"12345", "wrong.wav"}}) {
+    for (const auto& [slots, cue] : {std::pair{"", "wrong"},
+                                     {"1", "wrongOne"},
+                                     {"34", "wrongTwo"},
+                                     {"123", "wrong"},
+                                     {"1234", "wrong"},
+                                     {"12345", "wrong"}}) {
         game.log.clear();
         game.draw(slots);
         EXPECT_EQ(game.log.text(), cue) << slots;
@@ -132,8 +131,8 @@ TEST(HandController, allFiveHeldFliesNothingAndKeepsThePauses)
     game.log.clear();
     game.draw("12345");
     EXPECT_EQ(game.log.text(), "hatch0 hatch1 hatch2 hatch3 hatch4 pause600 pause250 pause200 "
-                               "total20 pokerwin3.wav pause500 "
-                               "total40 pokerwin3.wav pause500 total40");
+                               "total20 bigWin pause500 "
+                               "total40 bigWin pause500 total40");
 }
 
 TEST(HandController, everyRowPaysInItsSteps)
@@ -146,15 +145,15 @@ TEST(HandController, everyRowPaysInItsSteps)
         int pause = 500;
     };
     const auto rows = std::to_array<Row>({
-        {royal, "12345", 4000, 160, "pokerwin3.wav"},
-        {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "pokerwin3.wav"},
-        {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "pokerwin3.wav"},
-        {fullHouse, "12345", 45, 2, "pokerwin3.wav"},
-        {"Jc Qc Kc Ac 9d 2d 3d 5h 6s 8c", "1234", 30, 2, "pokerwin3.wav"},
-        {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "pokerwin2.wav"},
-        {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "pokerwin1.wav"},
-        {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "pokerwin1.wav"},
-        {jacks, "12", 5, 1, "pokerwin1.wav", 200},
+        {royal, "12345", 4000, 160, "bigWin"},
+        {"9s Ks Qs Js Ts 2c 3d 5h 6s 8c", "12345", 250, 10, "bigWin"},
+        {"7c 7d 7h 7s 2c 3d 4h 5h 6s 8c", "1234", 125, 5, "bigWin"},
+        {fullHouse, "12345", 45, 2, "bigWin"},
+        {"Jc Qc Kc Ac 9d 2d 3d 5h 6s 8c", "1234", 30, 2, "bigWin"},
+        {"4c 5d 6h 7s 8c 2c 3d 5h 6s Tc", "12345", 20, 2, "mediumWin"},
+        {"5c 5d 5h 9s Kc 2c 3d 4h 6s 8c", "123", 15, 1, "smallWin"},
+        {"3c 3d 9h 9s Kc 2c 4d 5h 6s 8c", "1234", 10, 1, "smallWin"},
+        {jacks, "12", 5, 1, "smallWin", 200},
         {"Tc Td 4h 7s 9c 2c 3d 5h 6s 8c", "12", 0, 0, "", 0},
         {"2h 4s 6c 8d Th 3c 5d 7h 9s Jc", "", 0, 0, "", 0},
     });

@@ -77,9 +77,11 @@ public:
         const std::uint32_t epoch = m_state.epoch;
         m_clock.pass(delayTime, [this, epoch] { return m_state.epoch != epoch; });
     }
-    void playSoundCue(std::string_view fileName) override
+    void play(Cue cue) override
     {
-        m_log.add(std::string(fileName.substr(fileName.find_last_of('\\') + 1)));
+        static constexpr std::array names{"deal",     "wrong",     "wrongOne", "wrongTwo",
+                                          "smallWin", "mediumWin", "bigWin"};
+        m_log.add(names.at(static_cast<std::size_t>(cue)));
     }
 
     std::array<bool, 5> holds{};
@@ -119,9 +121,11 @@ struct Game {
     GameLog log;
     LoggedTable table{log, clock, state};
     RecordedErrors errors;
-    HoldCoach coach{chart, prfShowPokerPlay};
-    HandController controller{
-        state, counters, prfPokerAutoDeal, {table, table, coach, table, decks, errors}};
+    HoldCoach coach{chart, [this] { return prfShowPokerPlay; }};
+    HandController controller{state,
+                              counters,
+                              [this] { return prfPokerAutoDeal; },
+                              {table, table, coach, table, decks, errors}};
 };
 
 } // namespace quillet::test

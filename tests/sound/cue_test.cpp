@@ -61,17 +61,20 @@ TEST(GameCues, areFilesBelowTheProgramsFolderForWhoWantsThem)
     } output;
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder.file("wavs"));
-    const std::string deal = folder.file("wavs/deal.wav", flatWave(1000, 100));
+    std::string all = "ready ";
+    for (const char* name : {"wrong", "wrong2", "wrong3", "pokerwin1", "pokerwin2", "pokerwin3"})
+        all += folder.file(std::string("wavs/") + name + ".wav", "x") + ' ';
     bool prfSound = false;
-    GameCues game(prfSound, folder.file(""), output);
+    GameCues game([&prfSound] { return prfSound; }, folder.file(""), output);
     game.prepare();
-    game.playSoundCue(cues::deal);
+    game.play(Cue::wrong);
     EXPECT_EQ(output.heard, "");
     prfSound = true;
     game.prepare();
-    game.playSoundCue(cues::deal);
-    game.playSoundCue(cues::wrong);
-    EXPECT_EQ(output.heard, "ready " + deal + ' ') << "and silence for what is missing";
+    for (const Cue cue : {Cue::deal, Cue::wrong, Cue::wrongOne, Cue::wrongTwo, Cue::smallWin,
+                          Cue::mediumWin, Cue::bigWin})
+        game.play(cue);
+    EXPECT_EQ(output.heard, all) << "and silence for what is missing";
 }
 
 TEST(CueMixer, aCueThatIsCutOffFadesOutUnderItsSuccessor)
