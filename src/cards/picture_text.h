@@ -26,17 +26,15 @@ private:
     std::array<QRgb, 128> m_colours{};
 };
 
-// Reads an outline: absolute commands M x y, L x y, Q (4 numbers), C (6), Z, and two of our own,
-// O x y r for a circle and R x y w h for a rectangle. A command letter stands before each
-// segment. A fault in the text asserts.
+// The outline that the text describes (see path_text.h), without letter strokes.
 [[nodiscard]] QPainterPath readPath(std::string_view text);
 
 // `half` joined with its reflection in the line x = axis. `half` starts and ends on this line.
 [[nodiscard]] QPainterPath completedAcross(const QPainterPath& half, double axis);
 
-// Paints a picture given as text. Each shape is "fill line width path;" with palette letters for
-// fill and line, and no blank before the width, as in "rk.8 M0 0 L4 0 L2 3 Z;". Before the fill,
-// ':' paints the shape and its reflection in the line x = axis, and '|' completes a half outline.
+// Paints a picture that is written as text. Each shape is "fill line width path;" with palette
+// letters for fill and line, as in "rk.8 M0 0 L4 0 L2 3 Z;". A ':' in front paints the shape and
+// its reflection in the line x = axis. A '|' in front joins the outline with its reflection.
 void paintPicture(QPainter& painter, std::string_view text, const Palette& palette,
                   double axis = 0);
 

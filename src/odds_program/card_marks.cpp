@@ -1,11 +1,14 @@
 #include "odds_program/card_marks.h"
 
 #include "odds_program/lettering.h"
+#include "shapes/path_text.h"
 #include "shapes/rank_marks.h"
 #include "shapes/suit_marks.h"
 
 #include <algorithm>
-#include <sstream>
+#include <array>
+#include <cstddef>
+#include <string_view>
 
 namespace quillet::odds_program
 {
@@ -13,37 +16,30 @@ namespace quillet::odds_program
 namespace
 {
 
-// SVG knows the commands of an outline but for the circle and the rectangle.
-std::string svgPath(const char* outline)
+// SVG paths have no circles and rectangles.
+std::string svgPath(std::string_view outline)
 {
-    std::istringstream text(outline);
     std::string path;
-    char command = 0;
-    while (text.get(command)) {
-        if (command != 'O' && command != 'R') {
-            path += command;
-            continue;
-        }
-        double x = 0;
-        double y = 0;
-        double size = 0;
-        text >> x >> y >> size;
-        if (command == 'O') {
-            const std::string r = svgNumber(size);
-            const std::string width = svgNumber(2 * size);
-            path += 'M' + svgNumber(x - size) + ' ' + svgNumber(y) + 'a' + r + ' ' + r + " 0 1 1 " +
-                    width + " 0a" + r + ' ' + r + " 0 1 1 -" + width + " 0Z";
+    for (const PathCommand& command : pathCommands(outline)) {
+        const auto [x, y, width, height, unused, unusedToo] = command.numbers;
+        if (command.letter == 'O') {
+            const double r = width;
+            path += svgCommand('M', std::array{x - r, y});
+            path += svgCommand(
+                'a', std::array{r, r, 0.0, 1.0, 1.0, 2 * r, 0.0, r, r, 0.0, 1.0, 1.0, -2 * r, 0.0});
+            path += 'Z';
+        } else if (command.letter == 'R') {
+            path += svgCommand('M', std::array{x, y});
+            path += svgCommand('l', std::array{width, 0.0, 0.0, height, -width, 0.0});
+            path += 'Z';
         } else {
-            double height = 0;
-            text >> height;
-            path += 'M' + svgNumber(x) + ' ' + svgNumber(y) + 'h' + svgNumber(size) + 'v' +
-                    svgNumber(height) + 'h' + svgNumber(-size) + 'Z';
+            path += svgCommand(command.letter, command.used());
         }
     }
     return path;
 }
 
-std::string used(const std::string& id, double x, double y, double scale, const std::string& fill)
+std::string use(const std::string& id, double x, double y, double scale, const std::string& fill)
 {
     return "<use href=\"#" + id + "\" fill=\"" + fill + "\" stroke=\"" + fill +
            "\" transform=\"translate(" + svgNumber(x) + ' ' + svgNumber(y) + ") scale(" +
@@ -68,11 +64,11 @@ std::string drawnCard(odds::DeckPlace place, bool kept, const Box& box)
            svgNumber(box.y) + "\" width=\"" + svgNumber(box.width) + "\" height=\"" +
            svgNumber(box.height) + "\" rx=\".8\" fill=\"#ffffff\" stroke=\"" +
            (kept ? "#6b3a1c" : "#808080") + "\" stroke-width=\"" + (kept ? ".4" : ".2") + "\"/>" +
-           used(std::string{"r"} + std::to_string(card.rank),
-                box.x + 0.29 * box.width - rankMarks()[rank].width / 2 * rankScale,
-                middle - rankMarkHeight / 2 * rankScale, rankScale, fill) +
-           used(std::string{"s"} + std::to_string(suit), box.x + 0.7 * box.width, middle, suitScale,
-                fill) +
+           use(std::string{"r"} + std::to_string(card.rank),
+               box.x + 0.29 * box.width - rankMarks()[rank].width / 2 * rankScale,
+               middle - rankMarkHeight / 2 * rankScale, rankScale, fill) +
+           use(std::string{"s"} + std::to_string(suit), box.x + 0.7 * box.width, middle, suitScale,
+               fill) +
            "</g>\n";
 }
 
@@ -93,7 +89,7 @@ std::string cardMarkDefinitions()
     }
     int suit = 0;
     for (const SuitMark& mark : suitMarks) {
-        // The line round each covers the seam between the half and its reflection.
+        // The outline of each covers the seam between the half and its reflection.
         const std::string half = svgPath(mark.half) + 'Z';
         text += "<g id=\"s" + std::to_string(suit++) + "\" stroke-width=\".4\"><path d=\"" +
                 svgPath(mark.whole) + "\"/><path d=\"" + half +

@@ -14,7 +14,7 @@ struct Box {
     double height;
 };
 
-// A small card for SVG: its rank beside its suit. One to keep stands out from the others.
+// A small card for SVG: its rank beside its suit. Cards to throw away are pale.
 [[nodiscard]] std::string drawnCard(odds::DeckPlace place, bool kept, const Box& box);
 
 // The definitions of all ranks and suits.

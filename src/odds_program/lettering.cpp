@@ -1,13 +1,14 @@
 #include "odds_program/lettering.h"
 
-#include "shapes/letter_outlines.h"
 #include "shapes/letters.h"
+#include "shapes/path_text.h"
 
 #include <array>
-#include <cassert>
 #include <cctype>
+#include <cmath>
+#include <cstddef>
 #include <cstdio>
-#include <map>
+#include <numbers>
 
 namespace quillet::odds_program
 {
@@ -15,56 +16,81 @@ namespace quillet::odds_program
 namespace
 {
 
-struct Glyph {
-    LetterOutlines outlines;
-    double left; // white to leave before the outline's origin
-    double advance;
-};
-
-Glyph cut(char sign, const char* code)
-{
-    const LetterOutlines outlines(code);
-    const LetterEdges edges(outlines);
-    const bool spaced = std::isalnum(static_cast<unsigned char>(sign)) != 0;
-    const double left = whiteBetweenLetters / 2 -
-                        (spaced ? shareOfOpenSides * edges.opennessOfLeft() : 0.06) -
-                        edges.leftmost();
-    const double right =
-        whiteBetweenLetters / 2 - (spaced ? shareOfOpenSides * edges.opennessOfRight() : 0.02);
-    return {outlines, left, left + edges.rightmost() + right};
-}
-
-const std::map<char, Glyph>& glyphs()
-{
-    static const auto table = [] {
-        std::map<char, Glyph> all;
-        for (const auto& [sign, code] : letterStrokes())
-            all.emplace(sign, cut(sign, code));
-        return all;
-    }();
-    return table;
-}
-
 char capital(char letter)
 {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
 }
 
-std::string path(const LetterOutlines::Points& points)
+LetterPoint inside(double x, double y)
 {
-    std::string text;
-    for (const LetterOutlines::Point& point : points)
-        text += (text.empty() ? 'M' : 'L') + svgNumber(point.x) + ' ' + svgNumber(point.y);
-    return text;
+    return penAt(x, y, printWeight);
 }
 
-// The names of definitions are letters and digits.
+LetterPoint pointOf(const PathCommand& arc, double degrees)
+{
+    const auto& [x, y, rx, ry, start, sweep] = arc.numbers;
+    const double angle = degrees * std::numbers::pi / 180;
+    return inside(x + rx * std::cos(angle), y - ry * std::sin(angle));
+}
+
+// Two arcs, because one cannot be a whole ellipse.
+std::string svgArc(const PathCommand& arc, bool startsStroke)
+{
+    const auto& [x, y, rx, ry, start, part] = arc.numbers;
+    const double sweep = arc.letter == 'E' ? 360 : part;
+    const LetterPoint from = pointOf(arc, start);
+    std::string path = startsStroke ? svgCommand('M', std::array{from.x, from.y}) : "";
+    for (const double share : {0.5, 1.0}) {
+        const LetterPoint to = pointOf(arc, start + share * sweep);
+        path += svgCommand('A', std::array{rx, ry * (1 - printWeight), 0.0, 0.0,
+                                           sweep < 0 ? 1.0 : 0.0, to.x, to.y});
+    }
+    return path;
+}
+
+std::string svgSlant(const PathCommand& slant)
+{
+    std::string path;
+    for (const LetterPoint& corner : slantCorners(slant, printWeight))
+        path += svgCommand(path.empty() ? 'M' : 'L', std::array{corner.x, corner.y});
+    return path + 'Z';
+}
+
+// What the pen draws, and the outlines of slanted strokes.
+struct LetterPaths {
+    std::string pen;
+    std::string slants;
+};
+
+LetterPaths pathsOf(const char* strokes)
+{
+    LetterPaths paths;
+    bool penDown = false;
+    for (PathCommand command : pathCommands(strokes)) {
+        if (command.letter == 'D') {
+            paths.slants += svgSlant(command);
+        } else if (command.letter == 'A' || command.letter == 'E') {
+            paths.pen += svgArc(command, command.letter == 'E' || !penDown);
+        } else {
+            for (std::size_t i = 0; i < command.count; i += 2) {
+                const LetterPoint point = inside(command.numbers[i], command.numbers[i + 1]);
+                command.numbers[i] = point.x;
+                command.numbers[i + 1] = point.y;
+            }
+            paths.pen += svgCommand(command.letter, command.used());
+        }
+        penDown = command.letter != 'E' && command.letter != 'D';
+    }
+    return paths;
+}
+
+// Names of definitions may contain only letters and digits.
 std::string idOf(char sign)
 {
     return std::string{"l"} + std::to_string(static_cast<int>(sign));
 }
 
-// Calls visit for each letter with where its outline's origin stands; returns where the line ends.
+// Calls visit for each letter with the position of its outline's origin. Returns the line's width.
 template <typename Visit>
 double layOut(const Lettering& line, const Visit& visit)
 {
@@ -75,10 +101,9 @@ double layOut(const Lettering& line, const Visit& visit)
             continue;
         }
         const char sign = capital(letter);
-        const auto glyph = glyphs().find(sign);
-        assert(glyph != glyphs().end());
-        visit(sign, x + glyph->second.left + line.tracking / 2);
-        x += glyph->second.advance + line.tracking;
+        const Letter& found = letterOf(sign);
+        visit(sign, x + found.left + line.tracking / 2);
+        x += found.advance + line.tracking;
     }
     return x;
 }
@@ -104,15 +129,11 @@ std::string drawn(const Lettering& line, double x, double y, std::string_view co
 std::string letterDefinitions()
 {
     std::string text;
-    for (const auto& [sign, glyph] : glyphs()) {
-        text += "<g id=\"" + idOf(sign) + "\" stroke-width=\"" + svgNumber(LetterOutlines::weight) +
-                "\"><path fill=\"none\" d=\"";
-        for (const auto& stroke : glyph.outlines.strokes())
-            text += path(stroke);
-        text += "\"/><path stroke=\"none\" d=\"";
-        for (const auto& slant : glyph.outlines.slants())
-            text += path(slant) + 'Z';
-        text += "\"/></g>\n";
+    for (const Letter& letter : letters()) {
+        const LetterPaths paths = pathsOf(letter.strokes);
+        text += "<g id=\"" + idOf(letter.sign) + "\" stroke-width=\"" + svgNumber(printWeight) +
+                "\"><path fill=\"none\" d=\"" + paths.pen + "\"/><path stroke=\"none\" d=\"" +
+                paths.slants + "\"/></g>\n";
     }
     return text;
 }
@@ -126,6 +147,14 @@ std::string svgNumber(double value)
     if (number.ends_with('.'))
         number.pop_back();
     return number == "-0" ? "0" : number;
+}
+
+std::string svgCommand(char letter, std::span<const double> numbers)
+{
+    std::string text(1, letter);
+    for (const double number : numbers)
+        text += svgNumber(number) + ' ';
+    return text;
 }
 
 } // namespace quillet::odds_program

@@ -1,43 +1,40 @@
 #pragma once
 
+#include "shapes/path_text.h"
+
 #include <array>
-#include <map>
-#include <vector>
+#include <span>
 
 namespace quillet
 {
 
-// A letter is a few pen strokes in a box one unit high, y downwards.
-//   M x y  pen down          L x y  line            C x1 y1 x2 y2 x y  curve
-//   A cx cy rx ry from sweep  arc of an ellipse, in degrees, counter-clockwise
-//   O cx cy rx ry             whole ellipse
-//   D x1 y1 x2 y2             slanted stroke downwards, its ends cut level
-// The alphabet holds the capitals and figures that are needed.
-[[nodiscard]] const std::map<char, const char*>& letterStrokes();
-
-// One command of such a code with its numbers, as many as it takes.
-struct PenMove {
-    char command = 0;
-    std::array<double, 6> numbers{};
+// A letter as pen strokes in a box one unit high (see path_text.h), and its space in print.
+struct Letter {
+    char sign;
+    double left;    // white before the box
+    double advance; // from this letter to the next
+    const char* strokes;
 };
-[[nodiscard]] std::vector<PenMove> penMoves(const char* code);
+inline constexpr double printWeight = 0.15;
+inline constexpr double printTracking = 0.06; // between letters
+inline constexpr double blankBetweenWords = 0.42;
+
+// Capitals, figures and punctuation, as many as are needed.
+[[nodiscard]] std::span<const Letter> letters();
+
+// Throws std::out_of_range for any other sign.
+[[nodiscard]] const Letter& letterOf(char sign);
 
 struct LetterPoint {
     double x = 0;
     double y = 0;
 };
 
-// Where the middle of a pen of this weight goes for a point of the box, so that it stays inside.
+// Where the middle of a pen of this weight goes for a point of the box, so that its ink stays
+// inside.
 [[nodiscard]] LetterPoint penAt(double x, double y, double weight);
 
 // The corners of a slanted stroke (D), clockwise from the upper left.
-[[nodiscard]] std::array<LetterPoint, 4> slantCorners(const PenMove& slant, double weight);
-
-// How letters stand beside each other, in heights of a letter: the white between two, the share of
-// it that an open side lends, to which depth it is open at most, and the blank between words.
-inline constexpr double whiteBetweenLetters = 0.25;
-inline constexpr double shareOfOpenSides = 0.72;
-inline constexpr double deepestOpening = 0.30;
-inline constexpr double blankBetweenWords = 0.42;
+[[nodiscard]] std::array<LetterPoint, 4> slantCorners(const PathCommand& slant, double weight);
 
 } // namespace quillet

@@ -6,14 +6,11 @@
 namespace quillet
 {
 
-// Outlines are texts of absolute commands: M x y, L x y, Q (4 numbers), C (6), Z, and two of our
-// own, O x y r for a circle and R x y w h for a rectangle.
-
 inline constexpr double rankMarkHeight = 22;
 
 struct PenStroke {
     double width;
-    const char* path;
+    const char* path; // see path_text.h
 };
 
 // A rank for the corner of a card, rankMarkHeight high, as filled pieces and pen strokes. The

@@ -1,3 +1,4 @@
+#include "assets/make/pictures/alphabet.h"
 #include "assets/make/pictures/pictures.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cstdlib>
 
 namespace quillet::test
@@ -35,8 +37,8 @@ QByteArray content(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// The mean difference of two pictures' colours, 0 to 255. Another release of the toolkit may draw
-// an edge a shade differently.
+// The mean difference of two pictures' colours, 0 to 255. Another version of Qt may draw edges
+// slightly differently.
 double difference(const QString& one, const QString& other)
 {
     if (one.endsWith(".svg"))
@@ -53,7 +55,7 @@ double difference(const QString& one, const QString& other)
 
 } // namespace
 
-TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
+TEST(Pictures, areWrittenAsTheyAreCommitted)
 {
     const QTemporaryDir folder;
     artwork::writePictures(folder.path());
@@ -62,6 +64,17 @@ TEST(Pictures, comeOutOfTheirProgramAsTheyAreCommitted)
     for (const QString& name : written)
         EXPECT_LT(difference(folder.filePath(name), assets.filePath(name)), 1)
             << name.toStdString();
+}
+
+TEST(Letters, haveTheMeasuredSpaceInPrint)
+{
+    for (const Letter& letter : letters()) {
+        if (std::isalnum(static_cast<unsigned char>(letter.sign)) == 0)
+            continue; // punctuation is spaced by eye
+        const Letter measured = artwork::measuredLetter(letter);
+        EXPECT_NEAR(letter.left, measured.left, 0.001) << letter.sign;
+        EXPECT_NEAR(letter.advance, measured.advance, 0.001) << letter.sign;
+    }
 }
 
 } // namespace quillet::test

@@ -13,14 +13,14 @@ namespace quillet::artwork
 namespace
 {
 
-// Joins the strokes of one letter. Every part turns clockwise, as Qt's stroker does; if one turned
-// the other way, its overlaps with the rest would be holes.
+// Joins the strokes of one letter. Every part runs clockwise, like the output of Qt's stroker. A
+// part in the other direction would make holes where it overlaps the rest.
 class Pen
 {
 public:
     explicit Pen(double weight) : m_weight(weight) { m_outline.setFillRule(Qt::WindingFill); }
 
-    QPainterPath write(const char* code);
+    QPainterPath write(const char* text);
 
 private:
     [[nodiscard]] QPointF inside(double x, double y) const
@@ -28,9 +28,15 @@ private:
         const LetterPoint at = penAt(x, y, m_weight);
         return {at.x, at.y};
     }
-    void addArc(const PenMove& arc);
-    void addEllipse(const PenMove& ellipse);
-    void addSlant(const PenMove& slant);
+    // Around the ellipse of an E or A.
+    [[nodiscard]] QRectF boxOf(const PathCommand& ellipse) const
+    {
+        const auto& [cx, cy, rx, ry, from, sweep] = ellipse.numbers;
+        return {inside(cx - rx, cy - ry), inside(cx + rx, cy + ry)};
+    }
+    void addArc(const PathCommand& arc);
+    void addEllipse(const PathCommand& ellipse);
+    void addSlant(const PathCommand& slant);
     void finishStroke();
 
     double m_weight;
@@ -38,47 +44,45 @@ private:
     QPainterPath m_outline;
 };
 
-QPainterPath Pen::write(const char* code)
+QPainterPath Pen::write(const char* text)
 {
-    for (const PenMove& move : penMoves(code)) {
-        const auto& [x1, y1, x2, y2, x3, y3] = move.numbers;
-        if (move.command == 'M') {
+    for (const PathCommand& command : pathCommands(text)) {
+        const auto& [x1, y1, x2, y2, x3, y3] = command.numbers;
+        if (command.letter == 'M') {
             finishStroke();
             m_stroke.moveTo(inside(x1, y1));
-        } else if (move.command == 'L') {
+        } else if (command.letter == 'L') {
             m_stroke.lineTo(inside(x1, y1));
-        } else if (move.command == 'C') {
+        } else if (command.letter == 'C') {
             m_stroke.cubicTo(inside(x1, y1), inside(x2, y2), inside(x3, y3));
-        } else if (move.command == 'A') {
-            addArc(move);
-        } else if (move.command == 'O') {
-            addEllipse(move);
-        } else if (move.command == 'D') {
-            addSlant(move);
+        } else if (command.letter == 'A') {
+            addArc(command);
+        } else if (command.letter == 'E') {
+            addEllipse(command);
+        } else if (command.letter == 'D') {
+            addSlant(command);
         }
     }
     finishStroke();
     return m_outline;
 }
 
-void Pen::addArc(const PenMove& arc)
+void Pen::addArc(const PathCommand& arc)
 {
-    const auto& [cx, cy, rx, ry, from, sweep] = arc.numbers;
-    const QRectF box(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry));
+    const double from = arc.numbers[4];
     if (m_stroke.elementCount() == 0)
-        m_stroke.arcMoveTo(box, from);
-    m_stroke.arcTo(box, from, sweep);
+        m_stroke.arcMoveTo(boxOf(arc), from);
+    m_stroke.arcTo(boxOf(arc), from, arc.numbers[5]);
 }
 
-void Pen::addEllipse(const PenMove& ellipse)
+void Pen::addEllipse(const PathCommand& ellipse)
 {
-    const auto& [cx, cy, rx, ry, unused, unusedToo] = ellipse.numbers;
     finishStroke();
-    m_stroke.addEllipse(QRectF(inside(cx - rx, cy - ry), inside(cx + rx, cy + ry)));
+    m_stroke.addEllipse(boxOf(ellipse));
     finishStroke();
 }
 
-void Pen::addSlant(const PenMove& slant)
+void Pen::addSlant(const PathCommand& slant)
 {
     finishStroke();
     QPolygonF corners;
@@ -91,7 +95,7 @@ void Pen::addSlant(const PenMove& slant)
 void Pen::finishStroke()
 {
     if (m_stroke.elementCount() > 1) {
-        // Stroked at a hundred times the size, because Qt flattens tiny curves to polygons.
+        // Stroked at a hundred times the size, because Qt turns tiny curves into polygons.
         const QPainterPath large =
             stroked(QTransform::fromScale(100, 100).map(m_stroke), 100 * m_weight);
         m_outline.addPath(QTransform::fromScale(0.01, 0.01).map(large));
@@ -101,14 +105,14 @@ void Pen::finishStroke()
 
 struct Glyph {
     QPainterPath outline;
-    double left = 0; // white to leave before the outline's origin
-    double advance = 0;
+    double left; // white before the outline's origin
+    double advance;
 };
 
-// Letters look evenly spaced when the white between them is equal in area, not in distance: an
-// open side such as the L's lends its white to the gap, to a limited depth.
+// The mean depth of the white behind the letter's edge on one side, in heights of a letter.
 double openness(const Mask& mask, bool leftSide)
 {
+    constexpr double deepestOpening = 0.30;
     const QRect area = mask.bounds();
     double white = 0;
     for (int y = area.top() + 1; y < area.bottom(); ++y) {
@@ -120,27 +124,37 @@ double openness(const Mask& mask, bool leftSide)
     return white / (area.height() - 2);
 }
 
+// Letters look evenly spaced if the white between them is equal in area, not in distance. So an
+// open side, such as that of the L, lends some of its white to the gap.
+Glyph spaced(const QPainterPath& outline, double tracking)
+{
+    constexpr double shareOfOpenSides = 0.72;
+    const double white = 0.25 + tracking;
+    const Mask mask = Canvas(QSize(3, 3), 100).mask(outline.translated(1, 1));
+    const QRectF box = outline.boundingRect();
+    const double left = white / 2 - shareOfOpenSides * openness(mask, true) - box.left();
+    return {outline, left,
+            left + box.right() + white / 2 - shareOfOpenSides * openness(mask, false)};
+}
+
 Glyph cut(char letter, const Lettering& lettering)
 {
-    Glyph glyph;
-    glyph.outline = Pen(lettering.weight).write(letterStrokes().at(letter));
-    const Canvas ruler(QSize(3, 3), 100);
-    const QPainterPath moved = glyph.outline.translated(1, 1);
-    const Mask mask = ruler.mask(moved);
-    const double white = whiteBetweenLetters + lettering.tracking;
-    const QRectF box = glyph.outline.boundingRect();
-    if (letter >= '0' && letter <= '9') {
-        // Figures stand in columns.
-        glyph.advance = 0.62 + lettering.weight + lettering.tracking / 2;
-        glyph.left = (glyph.advance - box.width()) / 2 - box.left();
-        return glyph;
-    }
-    glyph.left = white / 2 - shareOfOpenSides * openness(mask, true) - box.left();
-    glyph.advance = glyph.left + box.right() + white / 2 - shareOfOpenSides * openness(mask, false);
-    return glyph;
+    const QPainterPath outline = Pen(lettering.weight).write(letterOf(letter).strokes);
+    if (letter < '0' || letter > '9')
+        return spaced(outline, lettering.tracking);
+    // Figures form columns.
+    const QRectF box = outline.boundingRect();
+    const double advance = 0.62 + lettering.weight + lettering.tracking / 2;
+    return {outline, (advance - box.width()) / 2 - box.left(), advance};
 }
 
 } // namespace
+
+Letter measuredLetter(const Letter& letter)
+{
+    const Glyph glyph = spaced(Pen(printWeight).write(letter.strokes), printTracking);
+    return {letter.sign, glyph.left, glyph.advance, letter.strokes};
+}
 
 QPainterPath letteringPath(std::string_view text, const Lettering& lettering)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shapes/letters.h"
+
 #include <QPainterPath>
 
 #include <string_view>
@@ -7,16 +9,20 @@
 namespace quillet::artwork
 {
 
-// How a line of capitals is cut. Lengths are shares of the height of the capitals.
+// The style of a line of capitals. `weight` and `tracking` are shares of the height of the
+// capitals.
 struct Lettering {
     double capHeight = 10;
     double weight = 0.14;
     double tracking = 0;
 };
 
-// The outline of the line, its baseline beginning at the origin. The alphabet holds the capitals
-// and figures that the pictures need; any other letter throws std::out_of_range.
+// The outline of a line of capitals and figures; its baseline starts at the origin. Throws
+// std::out_of_range for letters that the alphabet lacks.
 [[nodiscard]] QPainterPath letteringPath(std::string_view text, const Lettering& lettering);
+
+// The letter with the space that it needs in print.
+[[nodiscard]] Letter measuredLetter(const Letter& letter);
 
 [[nodiscard]] QPainterPath centredLettering(std::string_view text, const Lettering& lettering,
                                             QPointF middleOfBaseline);
