@@ -132,7 +132,7 @@ void aMinuteOfWaiting(benchmark::State& state)
     }
 }
 
-// Single starts, of which the median is told: one that other programs held up does not count.
+// Single starts. The median ignores a start that other programs delayed.
 void manyStarts(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1);

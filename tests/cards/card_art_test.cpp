@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int hatch = 53;
-constexpr QRect index(3, 4, 18, 50); // upper left, at the cards' own size
+constexpr QRect index(3, 4, 18, 50); // upper left, at scale 1
 
 bool isInk(QRgb pixel)
 {
@@ -45,13 +45,13 @@ TEST(CardFaces, differInGreyAtThumbnailSize)
         for (std::size_t second = first + 1; second < 52; ++second)
             EXPECT_GE(greyDifference(thumbnails[first], thumbnails[second], 64), 20)
                 << first << " and " << second;
-    const QRect rank(3, 4, 18, 25); // six and nine are one mark, turned
+    const QRect rank(3, 4, 18, 25); // the nine is the six upside down
     EXPECT_GE(greyDifference(cardAt(23, 1).copy(rank), cardAt(35, 1).copy(rank), 64), 40);
 }
 
 TEST(CardFaces, blackQueensDifferInTheirOutline)
 {
-    const QRect side(32, 28, 9, 17); // of the head, on the left below the suit's mark
+    const QRect side(32, 28, 9, 17); // left of the head, below the suit's mark
     EXPECT_GE(greyDifference(cardAt(44, 1).copy(side), cardAt(47, 1).copy(side), 64),
               side.width() * side.height() / 2);
 }
@@ -105,7 +105,7 @@ TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
 {
     for (int number = 0; number <= 51; ++number) {
         const QImage card = cardAt(number, 1);
-        std::string lines; // of the index, with a blank for each without ink
+        std::string lines; // of the index: '#' with ink, ' ' without
         for (int y = index.top(); y <= index.bottom(); ++y)
             lines += hasInk(card, {index.left(), y, index.width(), 1}) ? '#' : ' ';
         std::istringstream text(lines);
@@ -122,8 +122,8 @@ TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)
         const bool red = suitOf(number) == 1 || suitOf(number) == 2;
         EXPECT_EQ(qRed(darkest) > 150, red) << number;
 
-        // Columns side by side without ink part the index from the body; from pips, which look
-        // like its suit, more of them.
+        // Columns without ink separate the index from the body: more of them from pips, which look
+        // like its suit.
         const int wanted = number >= 12 && number < 40 ? 4 : 2;
         int clear = 0;
         for (int x = index.center().x(); clear < wanted && x <= index.right() + 5; ++x)
@@ -144,7 +144,7 @@ TEST(CardBacks, areAllDifferentAndNoneIsBlank)
     EXPECT_GT(qBlue(mean(59).pixel(0, 0)), qBlue(mean(58).pixel(0, 0)) + 20) << "IvyBlue, IvyBlack";
 }
 
-TEST(Hatch, isASparseExactlyWhiteRoundedGroundWithOneInkAndAnOutline)
+TEST(Hatch, isWhiteWithSparseInkRoundCornersAndAnOutline)
 {
     constexpr QRgb white = 0xffffffff;
     for (const double factor : {0.74, 1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
@@ -167,7 +167,7 @@ TEST(Hatch, isASparseExactlyWhiteRoundedGroundWithOneInkAndAnOutline)
         EXPECT_EQ(qAlpha(std::next(areas.begin())->first), 255);
         EXPECT_EQ(picture.pixel(0, 0), 0U) << "as any other back";
         EXPECT_EQ(picture.pixel(right, bottom), 0U);
-        // Little ink leaves a face below readable.
+        // With little ink, a face under it stays readable.
         const double share =
             double(std::next(areas.begin())->second) / (picture.width() * picture.height());
         EXPECT_GT(share, 0.10);

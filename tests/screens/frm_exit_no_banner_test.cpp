@@ -29,7 +29,7 @@ protected:
         log.push_back(what + (window.isVisible() ? ", shown" : ", gone") + ", opened " +
                       std::to_string(pages.opened.size()));
     }
-    // Shows the window as the program does and lets the player act once it stands.
+    // Shows the window as the program does and lets the player act once it is visible.
     void runWith(const std::function<void()>& act)
     {
         QTimer::singleShot(0, &window, [&] {

@@ -24,7 +24,7 @@ constexpr const char* handAndHold =
     "<td><span class=\"hold\">Th</span></td></tr></table><img src=\"other.png\">";
 constexpr QRgb ground = 0xff406080;
 
-// Where the cards lie on a display of this scale, from the left.
+// The positions of the cards on a display of this scale, left to right.
 std::vector<QRect> cardsOf(QTextDocument& document, QImage& picture, int scale)
 {
     picture = QImage(QSize(300, 120) * scale, QImage::Format_RGB32);

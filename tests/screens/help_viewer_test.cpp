@@ -35,7 +35,7 @@ protected:
         file.write(bytes);
         return file.fileName();
     }
-    // A contents page, two far sections, the word "needle" once in each of them.
+    // A contents page and two distant sections, each with one "needle".
     QString helpWithTwoSections()
     {
         const QByteArray filling = QByteArray("<p>hay</p>").repeated(80);
@@ -55,7 +55,7 @@ protected:
     {
         return pageOf(viewer).toPlainText().toStdString();
     }
-    // Reaches the command as a player does, by its key.
+    // Runs the command by its key, as a player does.
     static void press(HelpViewer& viewer, int key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(viewer.windowHandle(), static_cast<Qt::Key>(key), modifiers);
@@ -123,7 +123,7 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     EXPECT_LE(viewer.height(), viewer.screen()->availableSize().height() - 80);
 }
 
-TEST(HelpColours, linksAreReadableOnEveryGround)
+TEST(HelpColours, linksAreReadableOnEveryBackground)
 {
     for (const QColor ground : {Qt::white, Qt::black, Qt::darkBlue}) {
         QPalette desktop;
@@ -133,7 +133,7 @@ TEST(HelpColours, linksAreReadableOnEveryGround)
     }
 }
 
-TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
+TEST_F(HelpViewerTest, theSearchWrapsInBothDirectionsAndSaysSo)
 {
     HelpViewer& viewer = present(helpWithTwoSections());
     auto& message = control<QLabel>(viewer, "helpMessage");
@@ -162,7 +162,7 @@ TEST_F(HelpViewerTest, theSearchGoesRoundInBothDirectionsAndSaysSo)
     EXPECT_FALSE(message.visibleRegion().isEmpty()) << "in a narrow window of large letters";
 }
 
-TEST(HelpText, everyLinkLeadsToAPlaceInTheTextAndNothingOutsideIsReferenced)
+TEST(HelpText, everyLinkHasATargetInTheTextAndNothingOutsideIsReferenced)
 {
     const HelpFile file = readHelpFile(QUILLET_HELP_FILE);
     ASSERT_EQ(file.problem, QString());
@@ -179,7 +179,7 @@ TEST(HelpText, everyLinkLeadsToAPlaceInTheTextAndNothingOutsideIsReferenced)
     EXPECT_EQ(outside.match(file.html).captured(), QString());
 }
 
-TEST(HelpText, isWellSetInANarrowWindowWithTheColoursOfTheChart)
+TEST(HelpText, fitsANarrowWindowAndHasTheColoursOfTheChart)
 {
     HelpPage page;
     page.resize(400, 700);
