@@ -1,9 +1,9 @@
 #include "assets/make/pictures/alphabet.h"
 #include "assets/make/pictures/pictures.h"
+#include "tests/kit/file_text.h"
 
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -31,18 +31,12 @@ QStringList filesBelow(const QDir& folder)
     return names;
 }
 
-QByteArray content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The mean difference of two pictures' colours, 0 to 255. Another version of Qt may draw edges
 // slightly differently.
 double difference(const QString& one, const QString& other)
 {
     if (one.endsWith(".svg"))
-        return content(one) == content(other) ? 0 : 255;
+        return fileText(one.toStdString()) == fileText(other.toStdString()) ? 0 : 255;
     const QImage first = QImage(one).convertToFormat(QImage::Format_ARGB32);
     const QImage second = QImage(other).convertToFormat(QImage::Format_ARGB32);
     if (first.isNull() || first.size() != second.size())

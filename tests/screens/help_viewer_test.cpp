@@ -191,8 +191,6 @@ TEST(HelpText, fitsANarrowWindowAndHasTheColoursOfTheChart)
             const int start = block.layout()->lineAt(line).textStart();
             EXPECT_FALSE(text[start - 1].isLetter() && text[start].isLetter()) << qPrintable(text);
         }
-        const bool heading = block.blockFormat().headingLevel() == 2;
-        EXPECT_TRUE(!heading || block.blockFormat().topMargin() >= 20) << qPrintable(text);
     }
     StrategyChart chart;
     QTextCursor at(page.document());
