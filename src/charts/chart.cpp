@@ -5,7 +5,6 @@
 #include "odds/bad_input.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 
 namespace quillet::charts
@@ -91,30 +90,9 @@ Chart parseChart(std::string_view text)
 
 Chart trainersChart()
 {
-    constexpr std::array<std::string_view, playCodes> rows{"royal",
-                                                           "straight flush",
-                                                           "4 of a kind",
-                                                           "full house",
-                                                           "4 to a royal",
-                                                           "flush",
-                                                           "straight",
-                                                           "3 of a kind",
-                                                           "4 to a straight flush, no gap",
-                                                           "2 pair",
-                                                           "high pair",
-                                                           "3 to a royal",
-                                                           "4 to a flush",
-                                                           "low pair",
-                                                           "4 to an outside straight",
-                                                           "2 high, suited",
-                                                           "3 to a straight flush, no gap",
-                                                           "2 high",
-                                                           "10 and face, suited",
-                                                           "1 high",
-                                                           "nothing"};
     Chart chart;
-    for (const std::string_view row : rows)
-        chart.push_back({*findRowKind(row)});
+    for (std::int16_t code = 1; code <= playCodes; ++code)
+        chart.push_back({*findRowKind(playName(code))});
     return chart;
 }
 

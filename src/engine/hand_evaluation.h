@@ -20,7 +20,7 @@ inline constexpr std::int16_t playCodes = 21;
 // How many cards the play keeps; 0 for a code that keeps none, so callers need no special case.
 [[nodiscard]] std::int16_t CardsToHand(std::int16_t playCode);
 
-// The play's name in plain words, for lists and reports; empty for a code of no row.
+// The play's name, which is a row in chart files; empty for an unknown code.
 [[nodiscard]] std::string_view playName(std::int16_t playCode);
 
 // What stands in place `place`, 0..4, of a hand while no card is held there.

@@ -126,7 +126,7 @@ std::size_t outcomeOf(std::int16_t finalCode)
 
 std::string_view outcomeName(std::size_t outcome)
 {
-    return outcome == 0 ? "Nothing" : playName(payTable()[outcome - 1].playCode);
+    return outcome == 0 ? "nothing" : playName(payTable()[outcome - 1].playCode);
 }
 
 bool looksLikePays(std::string_view text)

@@ -23,7 +23,7 @@ inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 // The outcome of a final hand's play code.
 [[nodiscard]] std::size_t outcomeOf(std::int16_t finalCode);
 
-// "Royal Flush" ... "Jacks or Better", or "Nothing".
+// "royal" ... "high pair", or "nothing".
 [[nodiscard]] std::string_view outcomeName(std::size_t outcome);
 
 // Whether the text itself is meant as a pay table, right or wrong, and not as the name of a file.

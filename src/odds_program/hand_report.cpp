@@ -19,14 +19,14 @@ std::int64_t asNumber(bool truth)
     return truth ? 1 : 0;
 }
 
-// "1 Royal Flush, 8 Flush".
+// "royal in 1, flush in 8".
 std::string waysText(const odds::OutcomeCounts& counts)
 {
     std::string text;
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome) {
         if (counts[outcome] > 0)
-            text += (text.empty() ? "" : ", ") + std::to_string(counts[outcome]) + " " +
-                    std::string(odds::outcomeName(outcome));
+            text += (text.empty() ? "" : ", ") + std::string(odds::outcomeName(outcome)) + " in " +
+                    std::to_string(counts[outcome]);
     }
     return text.empty() ? "nothing that pays" : text;
 }
