@@ -19,6 +19,7 @@
 #include <string>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace quillet::odds_program
 {
@@ -26,7 +27,7 @@ namespace quillet::odds_program
 namespace
 {
 
-// What the text in a file means.
+// What the parser makes of the text in a file.
 template <typename Parse>
 auto parsedFile(const std::string& path, Parse parse)
 {
@@ -39,21 +40,28 @@ auto parsedFile(const std::string& path, Parse parse)
     }
 }
 
-// The table that was asked for, or that of the file which was named.
-odds::Pays paysFor(const std::string& text)
+// The value of --pays is a pay table or the name of a file with one.
+odds::HeldCards heldCardsFor(const Request& request)
 {
+    const std::string& text = request.pays;
     if (text.empty())
-        return odds::trainersPays();
+        return odds::HeldCards();
     if (odds::looksLikePays(text))
-        return odds::parsePays(text);
+        return odds::HeldCards(odds::parsePays(text));
     try {
-        return parsedFile(text, odds::parsePays);
+        return odds::HeldCards(parsedFile(text, odds::parsePays));
     } catch (const odds::BadInput&) {
         throw;
     } catch (const std::runtime_error& error) {
         throw std::runtime_error(
             error.what() + std::string("; a pay table is 9/6 or the like, nine numbers or a file"));
     }
+}
+
+charts::Chart chartFor(const Request& request)
+{
+    return request.chartFile.empty() ? charts::trainersChart()
+                                     : parsedFile(request.chartFile, charts::parseChart);
 }
 
 void checkFiles(const Request& request)
@@ -76,44 +84,98 @@ bool wantsColour()
            terminal != nullptr && std::string_view(terminal) != "dumb";
 }
 
-void writeBestCharts(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
-                     const Style& style)
+Style styleFor(const Request& request)
 {
-    charts::ChartSearch search(heldCards);
-    const std::size_t all = request.mostRows - request.leastRows + 1;
-    std::vector<std::vector<Cell>> curve;
-    ProgressBar bar;
-    for (std::size_t rows = request.leastRows; rows <= request.mostRows; ++rows) {
-        const charts::Chart chart = search.best(rows, [&](double share) {
-            const double done = static_cast<double>(rows - request.leastRows) + share;
-            bar.show(done / static_cast<double>(all));
-        });
-        const charts::ChartPrice price = charts::priceChart(heldCards, chart);
-        if (all == 1) {
-            writeChartFile(out, chart, price);
-            return;
-        }
-        curve.push_back({static_cast<std::int64_t>(rows), static_cast<std::int64_t>(chart.size()),
-                         Exact{price.loss(charts::Taken::worst), 6, true}});
-    }
-    writeReport(
-        out,
-        {{"best charts",
-          "What the best chart found with each number of rows loses of 100 credits, taking\n"
-          "the worst of the holds that fit a row\n\n",
-          {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}},
-          curve,
-          {}}},
-        style);
+    Style style = request.style;
+    style.colour = wantsColour();
+    return style;
 }
 
-void writeCardFile(const Request& request, const odds::HeldCards& heldCards,
-                   const charts::Chart& asked)
+Report answerGame(const Request& request)
 {
-    charts::Chart chart = asked.empty() ? charts::trainersChart() : asked;
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    return gameReport(odds::fairOdds(heldCards), heldCards.pays());
+}
+
+Report answerHand(const Request& request)
+{
+    auto places = odds::parseHand(request.hand);
+    std::ranges::sort(places);
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    return handReport(heldCards, odds::DealtHand(heldCards, places), request.allHolds);
+}
+
+void answerHandsFromInput(const Request& request, std::ostream& out)
+{
+    TextInput in("-", &out);
+    answerHands(in, out, heldCardsFor(request), request.allHolds, styleFor(request));
+}
+
+Report answerMistakes(const Request& request)
+{
+    const charts::Chart chart = chartFor(request);
+    return mistakesReport(charts::mistakesOf(heldCardsFor(request), chart));
+}
+
+Report answerSitting(const Request& request)
+{
     ProgressBar bar;
-    if (request.mostRows > 0)
-        chart = charts::ChartSearch(heldCards).best(request.mostRows,
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    return sittingReport(odds::fairOdds(heldCards), heldCards.pays(), request.hands,
+                         request.bankroll, isatty(STDOUT_FILENO) == 1,
+                         [&bar](double share) { bar.show(share); });
+}
+
+Report answerSimulation(const Request& request)
+{
+    ProgressBar bar;
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    const odds::Simulation simulation =
+        odds::simulate(heldCards, request.seed, request.hands,
+                       std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
+                           bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
+                       });
+    return simulationReport(simulation, odds::fairOdds(heldCards), heldCards.pays());
+}
+
+Report answerChart(const Request& request)
+{
+    const charts::Chart chart = chartFor(request);
+    return chartReport(chart, charts::priceChart(heldCardsFor(request), chart));
+}
+
+void answerPlays(const Request& request, std::ostream& out)
+{
+    const charts::Chart chart = chartFor(request);
+    reportPlays(out, heldCardsFor(request), chart);
+}
+
+void answerBestChart(const Request& request, std::ostream& out)
+{
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    charts::ChartSearch search(heldCards);
+    const std::size_t count = request.maxRows - request.minRows + 1;
+    std::vector<PricedChart> found;
+    ProgressBar bar;
+    for (std::size_t rows = request.minRows; rows <= request.maxRows; ++rows) {
+        const charts::Chart chart = search.best(rows, [&](double share) {
+            bar.show((static_cast<double>(found.size()) + share) / static_cast<double>(count));
+        });
+        found.push_back({rows, chart, charts::priceChart(heldCards, chart)});
+    }
+    if (count == 1)
+        writeChartFile(out, found.front().chart, found.front().price);
+    else
+        writeReport(out, bestChartsReport(found), styleFor(request));
+}
+
+void answerCard(const Request& request)
+{
+    ProgressBar bar;
+    charts::Chart chart = chartFor(request);
+    const odds::HeldCards heldCards = heldCardsFor(request);
+    if (request.maxRows > 0)
+        chart = charts::ChartSearch(heldCards).best(request.maxRows,
                                                     [&bar](double share) { bar.show(share); });
     std::ostringstream page;
     writeChartCard(page, chart, charts::priceChart(heldCards, chart),
@@ -121,99 +183,41 @@ void writeCardFile(const Request& request, const odds::HeldCards& heldCards,
     writeFile(*request.cardFile, page.str());
 }
 
-void answerSitting(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
-                   const Style& style)
-{
-    ProgressBar bar;
-    const Report report =
-        sittingReport(odds::fairOdds(heldCards), heldCards.pays(), request.hands, request.bankroll,
-                      isatty(STDOUT_FILENO) == 1, [&bar](double share) { bar.show(share); });
-    writeReport(out, report, style);
-}
-
-void answerSimulation(std::ostream& out, const Request& request, const odds::HeldCards& heldCards,
-                      const Style& style)
-{
-    ProgressBar bar;
-    const odds::Simulation simulation =
-        odds::simulate(heldCards, request.seed, request.hands,
-                       std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
-                           bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
-                       });
-    writeReport(out, simulationReport(simulation, odds::fairOdds(heldCards), heldCards.pays()),
-                style);
-}
-
 } // namespace
 
 void answer(const Request& request, std::ostream& out)
 {
-    Style style = request.style;
-    style.colour = wantsColour();
+    checkFiles(request);
+    const auto print = [&](const Report& report) { writeReport(out, report, styleFor(request)); };
     switch (request.question) {
     case Question::help:
         out << helpText();
-        return;
+        break;
     case Question::version:
         out << "quillet-odds " QUILLET_VERSION "\n";
-        return;
+        break;
     case Question::rowKinds:
-        reportRowKinds(out);
-        return;
-    default:
-        break;
-    }
-    checkFiles(request);
-    const odds::Pays pays = paysFor(request.pays);
-    std::array<odds::DeckPlace, 5> places{};
-    if (request.question == Question::hand) {
-        places = odds::parseHand(request.hand);
-        std::ranges::sort(places);
-    }
-    const charts::Chart chart = request.chartFile.empty()
-                                    ? charts::Chart{}
-                                    : parsedFile(request.chartFile, charts::parseChart);
-
-    const odds::HeldCards heldCards(pays);
-    switch (request.question) {
+        return reportRowKinds(out);
+    case Question::game:
+        return print(answerGame(request));
     case Question::hand:
-        writeReport(out,
-                    handReport(heldCards, odds::DealtHand(heldCards, places), request.allHolds),
-                    style);
-        break;
-    case Question::handsFromInput: {
-        TextInput in("-", &out);
-        answerHands(in, out, heldCards, request.allHolds, style);
-        break;
-    }
+        return print(answerHand(request));
+    case Question::handsFromInput:
+        return answerHandsFromInput(request, out);
     case Question::mistakes:
-        writeReport(out, mistakesReport(charts::mistakesOf(heldCards, charts::trainersChart())),
-                    style);
-        break;
-    case Question::chartMistakes:
-        writeReport(out, mistakesReport(charts::mistakesOf(heldCards, chart)), style);
-        break;
+        return print(answerMistakes(request));
     case Question::sitting:
-        answerSitting(out, request, heldCards, style);
-        break;
+        return print(answerSitting(request));
     case Question::simulation:
-        answerSimulation(out, request, heldCards, style);
-        break;
+        return print(answerSimulation(request));
     case Question::chart:
-        writeReport(out, chartReport(chart, charts::priceChart(heldCards, chart)), style);
-        break;
+        return print(answerChart(request));
     case Question::plays:
-        reportPlays(out, heldCards, chart);
-        break;
-    case Question::card:
-        writeCardFile(request, heldCards, chart);
-        break;
+        return answerPlays(request, out);
     case Question::bestChart:
-        writeBestCharts(out, request, heldCards, style);
-        break;
-    default:
-        writeReport(out, gameReport(odds::fairOdds(heldCards), pays), style);
-        break;
+        return answerBestChart(request, out);
+    case Question::card:
+        return answerCard(request);
     }
 }
 

@@ -89,6 +89,21 @@ void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& pri
         << charts::chartText(chart);
 }
 
+Report bestChartsReport(const std::vector<PricedChart>& found)
+{
+    Table table{"best charts",
+                "Loss per 100 credits of the best chart found with each number of rows, taking\n"
+                "the worst of the holds that fit a row\n\n",
+                {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}},
+                {},
+                {}};
+    for (const PricedChart& priced : found)
+        table.rows.push_back({static_cast<std::int64_t>(priced.rows),
+                              static_cast<std::int64_t>(priced.chart.size()),
+                              Exact{priced.price.loss(Taken::worst), 6, true}});
+    return {table};
+}
+
 void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const Chart& chart)
 {
     out << "deal,hold\n";

@@ -34,9 +34,9 @@ std::int64_t countIn(std::string_view option, std::string_view word)
     double number = -1;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     number *= factor;
-    constexpr double most = 1e15;
+    constexpr double max = 1e15;
     if (error != std::errc() || end != digits.data() + digits.size() || number < 1 ||
-        number > most || number != std::floor(number))
+        number > max || number != std::floor(number))
         needs(option, "a whole number such as 20, 1e6 or 10M", word);
     return static_cast<std::int64_t>(number);
 }
@@ -64,13 +64,13 @@ Format formatIn(std::string_view word)
 void takeRows(Request& request, std::string_view word)
 {
     const auto dots = word.find("..");
-    const auto least = countIn("--best-chart", word.substr(0, dots));
-    const auto most =
-        dots == std::string_view::npos ? least : countIn("--best-chart", word.substr(dots + 2));
-    if (most > static_cast<std::int64_t>(charts::mostRows) || least > most)
+    const auto min = countIn("--best-chart", word.substr(0, dots));
+    const auto max =
+        dots == std::string_view::npos ? min : countIn("--best-chart", word.substr(dots + 2));
+    if (max > static_cast<std::int64_t>(charts::mostRows) || min > max)
         needs("--best-chart", "a number of rows, 1 to 64, or two such as 1..30", word);
-    request.leastRows = static_cast<std::size_t>(least);
-    request.mostRows = static_cast<std::size_t>(most);
+    request.minRows = static_cast<std::size_t>(min);
+    request.maxRows = static_cast<std::size_t>(max);
 }
 
 struct OptionKind {
@@ -111,15 +111,14 @@ struct Combination {
 };
 
 // The first whose options are given is what is asked.
-constexpr std::array<Combination, 13> combinations{{
+constexpr std::array<Combination, 12> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
     {Question::card, {"--card", "--best-chart"}, "--pays"},
     {Question::card, {"--card"}, "--chart --pays"},
+    {Question::mistakes, {"--mistakes"}, "--chart --pays --format --exact"},
     {Question::plays, {"--chart", "--plays"}, "--pays"},
-    {Question::chartMistakes, {"--chart", "--mistakes"}, "--pays --format --exact"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
-    {Question::mistakes, {"--mistakes"}, "--pays --format --exact"},
     {Question::sitting, {"--sitting"}, "--pays --format --bankroll"},
     {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
     {Question::handsFromInput, {input}, "--pays --format --exact --all"},
@@ -240,7 +239,7 @@ void Parser::checkCombination()
 void Parser::checkValues() const
 {
     const Question question = m_request.question;
-    const bool oneChart = m_request.leastRows == m_request.mostRows;
+    const bool oneChart = m_request.minRows == m_request.maxRows;
     const bool data = m_request.style.format != Format::text;
     const bool exact = m_request.style.exact;
     if (question == Question::card && !oneChart)

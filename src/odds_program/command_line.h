@@ -22,7 +22,6 @@ enum class Question {
     simulation,
     chart,
     plays,
-    chartMistakes,
     bestChart,
     card,
     rowKinds,
@@ -34,20 +33,19 @@ enum class Question {
 struct Request {
     Question question = Question::game;
     Style style;
-    std::string pays;       // as parsePays reads it, or a file's name; empty: the trainer's
-    std::string hand;       // its words
-    bool allHolds = false;  // of a hand
-    std::int64_t hands = 0; // of a sitting or a simulation
+    std::string pays;       // a pay table or the name of a file; empty: the trainer's
+    std::string hand;       // the words of Question::hand
+    bool allHolds = false;  // show 32 holds of a hand, not six
+    std::int64_t hands = 0; // count, for Question::sitting and Question::simulation
     std::optional<std::int64_t> bankroll;
     std::uint64_t seed = 1;
-    std::string chartFile;
-    std::size_t leastRows = 0; // of best charts, one for each number of rows
-    std::size_t mostRows = 0;
-    std::optional<std::string>
-        cardFile; // of a chart: the file's, the best of so many rows or the trainer's
+    std::string chartFile;   // empty: the trainer's chart
+    std::size_t minRows = 0; // of --best-chart
+    std::size_t maxRows = 0;
+    std::optional<std::string> cardFile; // the output of --card
 };
 
-// Arguments that make no sense; what() says why.
+// Invalid arguments.
 class BadUsage : public odds::BadInput
 {
 public:

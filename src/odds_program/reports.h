@@ -35,4 +35,13 @@ namespace quillet::odds_program
 // What a chart is worth, and each of its rows.
 [[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);
 
+// The best chart found with at most this number of rows.
+struct PricedChart {
+    std::size_t rows;
+    charts::Chart chart;
+    charts::ChartPrice price;
+};
+
+[[nodiscard]] Report bestChartsReport(const std::vector<PricedChart>& found);
+
 } // namespace quillet::odds_program
