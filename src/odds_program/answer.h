@@ -7,8 +7,7 @@
 namespace quillet::odds_program
 {
 
-// Works out and prints what was asked for. Throws BadInput for what makes no sense, and other
-// errors for what cannot be done.
+// Computes and prints the answer. Throws BadInput for invalid input, other exceptions on failure.
 void answer(const Request& request, std::ostream& out);
 
 } // namespace quillet::odds_program

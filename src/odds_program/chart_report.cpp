@@ -34,8 +34,8 @@ void listKinds(std::ostream& out, const Kinds& kinds)
 void reportRowKinds(std::ostream& out)
 {
     listKinds(out, charts::rowKinds());
-    out << "\nBehind a row and a semicolon it may be asked about the cards thrown away, with\n"
-           "commas between, such as \"4 to a flush; no high, a 10\":\n\n";
+    out << "\nAfter a semicolon a row may list conditions on the discards, with commas between\n"
+           "them, such as \"4 to a flush; no high, a 10\":\n\n";
     listKinds(out, charts::discardKinds());
 }
 
@@ -50,8 +50,8 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
         returns.rows.push_back({std::string(takenNames[way]), Exact{price.returned[way], 8, true}});
 
     Table rows{"rows",
-               "\nWhat each row loses of 100 credits over all deals, the worst hold taken, and\n"
-               "the deal that costs most credits\n\n",
+               "\nThe loss of each row per 100 credits over all deals, taking the worst hold that\n"
+               "fits, and its costliest deal\n\n",
                {{"row", "Row"},
                 {"deals", "Deals"},
                 {"loss of best", ""},
@@ -75,7 +75,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
             idle += "  " + wrapped(charts::rowText(chart[row]));
     }
     if (!idle.empty())
-        rows.outro = "\nThese rows never play:\n" + idle;
+        rows.outro = "\nRows that never apply:\n" + idle;
     return {returns, rows};
 }
 

@@ -7,14 +7,13 @@
 namespace quillet::odds_program
 {
 
-// Every row that a chart can have, with its meaning.
+// All rows that a chart can have and all conditions on discards, with their meanings.
 void reportRowKinds(std::ostream& out);
 
 // The chart as a file, with its price in comments.
 void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price);
 
-// Each class of deals with the hold by which the chart plays it, the worst of those that fit, as
-// comma-separated values.
+// Each class of deals with the worst hold that fits its row of the chart, as CSV.
 void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const charts::Chart& chart);
 
 } // namespace quillet::odds_program

@@ -82,7 +82,7 @@ struct OptionKind {
 
 using Value = std::string_view;
 
-// Of a repeated option the last value counts.
+// If an option is repeated, the last value counts.
 constexpr std::array<OptionKind, 14> optionKinds{{
     {"--rows"},
     {"--mistakes"},
@@ -106,11 +106,11 @@ constexpr std::string_view input = "hands on standard input";
 
 struct Combination {
     Question question;
-    std::array<std::string_view, 2> asks; // given, both if there are two
-    std::string_view also;                // may be given, too
+    std::array<std::string_view, 2> asks; // the options that ask it
+    std::string_view also;                // the options that may go with it
 };
 
-// The first whose options are given is what is asked.
+// The first one whose options are all given is the question.
 constexpr std::array<Combination, 12> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
     {Question::card, {"--card", "--best-chart"}, "--pays"},
@@ -126,13 +126,13 @@ constexpr std::array<Combination, 12> combinations{{
     {Question::game, {}, "--pays --format --exact"},
 }};
 
-// Goes through the arguments, each an option with its value or a word of a hand.
+// Reads the arguments: options with their values, and words of a hand.
 class Parser
 {
 public:
     explicit Parser(std::span<const std::string_view> arguments) : m_left(arguments) {}
 
-    // The first --help or --version decides; what follows it is not looked at.
+    // The first --help or --version decides; arguments after it are ignored.
     [[nodiscard]] Request parse()
     {
         bool optionsEnded = false;
@@ -179,7 +179,7 @@ private:
         m_request.hand += std::string(m_word) + " ";
     }
 
-    // True of the empty name, too.
+    // Also true for the empty name.
     [[nodiscard]] bool isGiven(std::string_view name) const
     {
         return name.empty() || std::ranges::find(m_given, name) != m_given.end();
@@ -266,23 +266,23 @@ std::string_view helpText()
     return R"(Usage: quillet-odds [OPTION]... [HAND | -]
 
 The exact odds of Jacks or Better at five credits a hand, and what it costs to
-play by the trainer's chart. Without a question: what the game returns for a
+play by the trainer's chart. Without arguments: what the game returns with a
 fairly shuffled deck.
 
 Questions, one at a time
   HAND                 the best holds of five cards, such as "9c Tc Jc Kc Ad"
                        or 9♣10♣J♣K♣A♦, and why
-  -                    the hands on standard input, one a line
-  --mistakes           the deals that the chart plays wrongly, in kinds
+  -                    the hands on standard input, one per line
+  --mistakes           the deals that the chart misplays, in groups
   --sitting HANDS      how a session of that many hands turns out
   --simulate HANDS     play that many hands with the trainer's own shuffle,
                        which is not fair
-  --chart FILE         what a chart of your own costs: one row a line, best
-                       first; what follows # is a comment
-  --best-chart ROWS    the best chart found with that many rows, as such a file;
-                       1..30: what each number of rows loses
-  --card FILE          the trainer's chart, or that of --chart or --best-chart,
-                       as a page to print (SVG)
+  --chart FILE         what a chart of your own costs: one row per line, best
+                       first; # starts a comment
+  --best-chart ROWS    the best chart found with at most that many rows, as a
+                       chart file; 1..30: the loss for each number of rows
+  --card FILE          write the trainer's chart, or the one of --chart or
+                       --best-chart, as a page to print (SVG)
   --rows               the rows that a chart can have
   --version, --help
 
@@ -293,10 +293,10 @@ Options
   --bankroll CREDITS   with --sitting: the chance that fewer than five of these
                        are left on the way
   --seed NUMBER        with --simulate: seed of the random numbers (default 1)
-  --plays              with --chart: each deal with the hold that it plays
-  --mistakes           with --chart: its mistakes
+  --plays              with --chart: every deal and the hold that it plays
+  --mistakes           with --chart: the deals that this chart misplays
   --format FORMAT      text, csv or json
-  --exact              fractions in text, too; csv and json have them always
+  --exact              fractions in text too; csv and json always have them
 )";
 }
 

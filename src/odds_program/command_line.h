@@ -29,7 +29,7 @@ enum class Question {
     version
 };
 
-// What the user asked for.
+// The question and its options.
 struct Request {
     Question question = Question::game;
     Style style;
@@ -52,7 +52,7 @@ public:
     explicit BadUsage(const std::string& why) : odds::BadInput(why + "\nTry quillet-odds --help") {}
 };
 
-// Reads the arguments that follow the program's name.
+// Reads the arguments after the program's name. Throws BadUsage.
 [[nodiscard]] Request parseArguments(std::span<const std::string_view> arguments);
 
 [[nodiscard]] std::string_view helpText();

@@ -19,8 +19,8 @@ namespace quillet::odds_program
 namespace
 {
 
-// Worth units as credits with eight decimals. A fraction would reduce first, and there are hundreds
-// of thousands of hands a second.
+// Converts worth units to credits with eight decimals. Fractions would be too slow: this handles
+// hundreds of thousands of hands a second.
 std::string credits(std::int64_t worth)
 {
     constexpr std::int64_t decimals = 100'000'000;
@@ -44,7 +44,7 @@ std::vector<Field> fieldsOf(const odds::DealtHand& hand)
             {"cost", credits(best - hand.worth[chart])}};
 }
 
-// The cards of the next line that has any, in order; nothing at the end. Counts the lines.
+// Returns the sorted cards of the next hand, or nothing at the end. Counts lines in `number`.
 std::optional<std::array<odds::DeckPlace, 5>> nextHand(TextInput& in, int& number)
 {
     constexpr std::size_t maxBytes = 4096;

@@ -8,9 +8,9 @@
 namespace quillet::odds_program
 {
 
-// Answers hands that come one a line: a block of text, or a line of comma-separated values or JSON
-// for each. What follows # is a comment, and empty lines are left out. Throws BadInput, with the
-// line's number, at the first that is no hand.
+// Reads hands, one per line, and prints a block of text or a line of CSV or JSON for each. # starts
+// a comment, and empty lines are ignored. Throws BadInput with the line number at the first line
+// that is not a hand.
 void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCards, bool allHolds,
                  const Style& style);
 

@@ -12,7 +12,8 @@
 #include <string_view>
 #include <vector>
 
-// 0 when the answer was written, 1 when something could not be read or written, 2 for bad input.
+// Returns 0 if the answer was written, 1 if something could not be read or written, 2 for bad
+// input.
 int main(int argc, char** argv)
 {
     using namespace quillet::odds_program;
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
         std::cerr << "quillet-odds: " << why << "\n";
     };
     try {
-        // Nothing is worked out for an output that takes no more.
+        // Stops as soon as the output fails.
         std::cout.exceptions(std::ios::badbit | std::ios::failbit);
         const std::vector<std::string_view> arguments(argv + std::min(argc, 1), argv + argc);
         answer(parseArguments(arguments), std::cout);

@@ -6,9 +6,9 @@ namespace quillet::odds_program
 Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
 {
     Table table{"mistakes",
-                "Deals in which the best hold that the chart allows is not the perfect one: its\n"
-                "row, what perfect play holds instead, what they cost of 100 credits over all\n"
-                "deals, the running percentage, and the costliest deal\n\n",
+                "Deals in which the best hold that the chart allows is not the perfect one: the\n"
+                "chart's row, what perfect play holds instead, the cost per 100 credits over\n"
+                "all deals, the running percentage, and the costliest deal\n\n",
                 {{"row", "Row"},
                  {"instead", "Instead"},
                  {"deals", "Deals"},

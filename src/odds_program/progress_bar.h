@@ -5,8 +5,8 @@
 namespace quillet::odds_program
 {
 
-// A bar on the terminal for work that takes longer than a second. Nothing when standard error is
-// no terminal. The bar goes away with the object.
+// A progress bar on standard error, for work that takes longer than a second. Shown on terminals
+// only, and removed by the destructor.
 class ProgressBar
 {
 public:
@@ -15,11 +15,11 @@ public:
     ProgressBar& operator=(const ProgressBar&) = delete;
     ~ProgressBar();
 
-    void show(double share); // of the work is done
+    void show(double share); // of the work done, 0 to 1
 
 private:
     const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-    int m_percent = -1; // shown
+    int m_percent = -1; // as shown; -1: nothing is
 };
 
 } // namespace quillet::odds_program

@@ -53,7 +53,7 @@ std::string textOf(const Column& column, const Cell& cell)
     return text;
 }
 
-// Red for diamonds and hearts, each of its own; the escapes take no room.
+// Diamonds yellow, hearts red. The escapes take no width.
 std::string coloured(const std::string& cards)
 {
     std::string text;
@@ -93,7 +93,7 @@ std::vector<TextColumn> textColumns(const Table& table, std::size_t maxText)
     return columns;
 }
 
-// Narrow enough for the line.
+// Narrows the text columns until the table fits the line.
 std::vector<TextColumn> fittingColumns(const Table& table)
 {
     std::size_t maxText = lineWidth;
@@ -107,8 +107,8 @@ std::vector<TextColumn> fittingColumns(const Table& table)
     }
 }
 
-// cellText(i) is what column i of the table holds in this line. A cell wider than its column ends
-// its line.
+// cellText(i) is the text of column i in this line. After a cell wider than its column the line
+// breaks.
 template <typename CellText>
 std::string textLine(const std::vector<TextColumn>& columns, const CellText& cellText)
 {
@@ -167,7 +167,7 @@ void writeTextTable(std::ostream& out, const Table& table, const Style& style)
     out << table.outro;
 }
 
-// Data keeps more decimals than a reader wants.
+// CSV and JSON have more decimals than text.
 std::string dataText(const Cell& cell)
 {
     constexpr int places = 12;
@@ -267,7 +267,7 @@ void writeReport(std::ostream& out, const Report& report, const Style& style)
 
 std::string wrapped(const std::string& text)
 {
-    constexpr std::size_t margin = 4; // for callers that set the text in
+    constexpr std::size_t margin = 4; // for callers that indent the text
     std::string result;
     std::string line;
     std::istringstream words(text);

@@ -15,7 +15,7 @@ namespace quillet::odds_program
 namespace
 {
 
-// Without the byte order mark.
+// Removes the byte order mark.
 std::string decoded(std::string text)
 {
     const bool halfZero = text.size() > 1 && (text[0] == '\0') != (text[1] == '\0');

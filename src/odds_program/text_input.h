@@ -8,25 +8,25 @@
 namespace quillet::odds_program
 {
 
-// A text from a file, a pipe or a device. "-" and "/dev/stdin" are standard input. It is UTF-8,
-// with or without a byte order mark. What cannot be opened or read throws a std::runtime_error
-// with the reason; a text that is too long, or UTF-16, throws BadInput.
+// Reads UTF-8 text, with or without a byte order mark, from a file, pipe or device. "-" and
+// "/dev/stdin" are standard input. A failure to open or read throws a std::runtime_error with the
+// reason; text that is too long, or UTF-16, throws BadInput.
 class TextInput
 {
 public:
-    // Before it waits for input it flushes the output, if there is one.
+    // Flushes `flushed`, if any, before it waits for input.
     explicit TextInput(const std::string& path, std::ostream* flushed = nullptr);
     ~TextInput();
     TextInput(const TextInput&) = delete;
     TextInput& operator=(const TextInput&) = delete;
 
-    // As messages show it.
+    // The name for messages.
     [[nodiscard]] const std::string& name() const { return m_name; }
     [[nodiscard]] static bool isStandardInput(std::string_view path);
 
     [[nodiscard]] std::string all(std::size_t maxBytes);
 
-    // Takes the next line, without its end; false when there is none.
+    // Reads the next line, without its end. Returns false at the end of the text.
     [[nodiscard]] bool takeLine(std::string& line, std::size_t maxBytes);
 
 private:
