@@ -1,6 +1,7 @@
 #include "engine/hand_controller.h"
 
 #include "engine/hand_evaluation.h"
+#include "engine/pace.h"
 #include "engine/pay_table.h"
 
 #include <algorithm>
@@ -28,6 +29,19 @@ Cue wrongCue(std::ptrdiff_t cardsHeld)
     }
 }
 
+// Counts a sequence while it runs, also if it ends with an exception.
+class RunningSequence
+{
+public:
+    explicit RunningSequence(int& count) : m_count(count) { ++m_count; }
+    ~RunningSequence() { --m_count; }
+    RunningSequence(const RunningSequence&) = delete;
+    RunningSequence& operator=(const RunningSequence&) = delete;
+
+private:
+    int& m_count;
+};
+
 } // namespace
 
 HandController::HandController(HandState& state, Counters& counters,
@@ -42,13 +56,12 @@ void HandController::runSequence(Body body)
 {
     if (m_next == Next::end)
         return;
-    ++m_sequencesRunning;
+    const RunningSequence running(m_sequencesRunning);
     body();
     while (m_sequencesRunning == 1 && m_next == Next::newGame) {
         m_next = Next::nothing;
         runNewGame();
     }
-    --m_sequencesRunning;
 }
 
 void HandController::initPokerScreen()
@@ -70,10 +83,10 @@ void HandController::runNewGame()
         m_state.holdFlags.fill(false);
         for (int step = 1; step <= fadeSteps; ++step) {
             m_ports.screen.fadeStatusText(step);
-            if (!pause(epoch, 20))
+            if (!pause(epoch, pace::fadeStep))
                 return;
         }
-        if (pause(epoch, 1000))
+        if (pause(epoch, pace::beforeFirstDeal))
             picDeal_Click(programsOwnCall);
     });
     if (!done)
@@ -92,10 +105,10 @@ void HandController::picDeal_Click(std::int16_t Index)
 void HandController::clickDeck(std::int16_t index)
 {
     m_ports.table.showDeck();
-    // A game that has been asked for deals by itself, as soon as the interrupted sequence is over.
+    // The requested game deals automatically when the interrupted sequence has ended.
     if (m_next == Next::newGame)
         return;
-    // The pause after a hand is for automatic dealing, which the player may have switched off.
+    // Only automatic dealing needs the pause after a hand, and the player may have switched it off.
     if (m_finishedHand == m_state.epoch && !m_dealsByItself())
         m_state.handBusy = false;
     if (m_state.handBusy)
@@ -156,13 +169,13 @@ void HandController::deal(const std::array<Slot, 5>& order, bool cardsWereShowin
     }
     m_state.holdFlags.fill(false);
     m_ports.coach.resetChartColors();
-    if (cardsWereShowing && !pause(epoch, 600))
+    if (cardsWereShowing && !pause(epoch, pace::beforeFlights))
         return;
     charge();
 
     for (const Slot slot : order)
         dealCardTo(slot);
-    if (!pause(epoch, 650))
+    if (!pause(epoch, pace::beforeDealtFaces))
         return;
 
     m_state.hand = dealHand(m_state.pokerDeck);
@@ -204,14 +217,14 @@ void HandController::draw(bool cardsWereShowing)
     for (const Slot slot : allSlots)
         if (!replaced[slot])
             m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
-    if (cardsWereShowing && !pause(epoch, 600))
+    if (cardsWereShowing && !pause(epoch, pace::beforeFlights))
         return;
 
     if (flyReplacements(epoch, replaced) && pay(epoch))
         dealNextHandByItself(epoch);
 }
 
-// The hand goes on waiting, and the player holds anew.
+// The hand keeps waiting, and the player chooses the holds again.
 void HandController::refuseHold()
 {
     const auto cardsHeld = std::ranges::count(m_state.holdFlags, true);
@@ -226,13 +239,13 @@ bool HandController::flyReplacements(std::uint32_t epoch, const std::array<bool,
     for (const Slot slot : allSlots)
         if (replaced[slot])
             dealCardTo(slot);
-    if (!pause(epoch, 250))
+    if (!pause(epoch, pace::beforeDrawnFaces))
         return false;
 
     for (const Slot slot : allSlots)
         if (replaced[slot])
             m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
-    return pause(epoch, 200);
+    return pause(epoch, pace::beforePay);
 }
 
 bool HandController::pay(std::uint32_t epoch)
@@ -245,10 +258,13 @@ bool HandController::pay(std::uint32_t epoch)
     const std::int16_t target = addStopping(m_counters.total, payout->pays);
     m_payTarget = target;
     m_ports.coach.highlightWinner(m_state.handCode);
+    const auto countUp =
+        std::ranges::find(pace::countUps, m_state.handCode, &pace::CountUp::playCode);
+    assert(countUp != pace::countUps.end());
     while (m_counters.total < target) {
-        addCredits(std::min(payout->step, static_cast<std::int16_t>(target - m_counters.total)));
-        m_ports.cues.play(payout->cue);
-        if (!pause(epoch, payout->pause))
+        addCredits(std::min(countUp->step, static_cast<std::int16_t>(target - m_counters.total)));
+        m_ports.cues.play(countUp->cue);
+        if (!pause(epoch, countUp->pause))
             return false;
     }
     finishPaying();
@@ -266,10 +282,10 @@ void HandController::finishPaying()
 void HandController::dealNextHandByItself(std::uint32_t epoch)
 {
     m_finishedHand = epoch;
-    if (m_dealsByItself() && !pause(epoch, 2500))
+    if (m_dealsByItself() && !pause(epoch, pace::beforeNextDeal))
         return;
     m_state.handBusy = false;
-    // The player may have unticked it meanwhile.
+    // The player may have switched it off during the pause.
     if (!m_dealsByItself())
         return;
     m_state.judgePending = false;

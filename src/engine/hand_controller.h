@@ -17,7 +17,7 @@
 namespace quillet
 {
 
-// What a game is seen, heard and judged by, and where its decks come from. All outlive the game.
+// The ports of a game. All must outlive it.
 struct GamePorts {
     CardTable& table;
     GameScreen& screen;
@@ -56,8 +56,8 @@ public:
     void endGame();
 
 private:
-    // Runs a sequence, and after the outermost one the new game that was asked for in one of its
-    // pauses: games thus never pile up on the stack. The body throws nothing.
+    // Runs a sequence. After the outermost one it starts the new game, if one was requested during
+    // a pause, so games never nest on the stack.
     template <typename Body>
     void runSequence(Body body);
     void runNewGame();
@@ -72,7 +72,7 @@ private:
     [[nodiscard]] bool pay(std::uint32_t epoch);
     void finishPaying();
     void dealNextHandByItself(std::uint32_t epoch);
-    // A deal or an error that overtakes the fade leaves the status text in its last colour.
+    // Gives the status text its final colour if a deal or an error interrupts the fade.
     void endFade();
     void charge();
     void addCredits(std::int16_t credits);
@@ -86,16 +86,22 @@ private:
     std::function<bool()> m_dealsByItself;
     GamePorts m_ports;
 
-    // What has been asked for in a pause and follows the sequence that was running.
+    // The legal values of what follows, by what the outermost sequence is doing:
+    //                     sequences  next             firstDealComing  payTarget  finishedHand
+    //   no sequence       0          nothing          false            empty      any
+    //   fading, waiting   1 or more  any              true             empty      not the epoch
+    //   dealing, drawing  1 or more  any              false            empty      not the epoch
+    //   paying            1 or more  any              false            set        not the epoch
+    //   hand finished     1 or more  any              false            empty      the epoch
+    // A sequence that runs in the pause of another raises the count. Once `next` is newGame or end,
+    // the epoch has changed, and the sequences that are running end after their pauses. After end
+    // nothing runs, and the others no longer matter.
     enum class Next { nothing, newGame, end };
     Next m_next = Next::nothing;
-    int m_sequencesRunning = 0; // one within another's pause
-    // A new game is about to deal by itself: no hand is dealt, none runs.
-    bool m_firstDealComing = false;
-    // The epoch of the last hand that was drawn and paid.
-    std::optional<std::uint32_t> m_finishedHand;
-    // The total when the win is counted up, in credits; only while it is.
-    std::optional<std::int16_t> m_payTarget;
+    int m_sequencesRunning = 0;
+    bool m_firstDealComing = false;              // automatically, at the start of a game
+    std::optional<std::uint32_t> m_finishedHand; // the epoch of the last hand that was paid
+    std::optional<std::int16_t> m_payTarget;     // the total after the win, in credits
 };
 
 } // namespace quillet

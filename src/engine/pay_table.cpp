@@ -9,17 +9,8 @@ namespace quillet
 namespace
 {
 
-constexpr std::array<Payout, 9> payouts{{
-    {1, 4000, 25, Cue::bigWin, 500},
-    {2, 250, 25, Cue::bigWin, 500},
-    {3, 125, 25, Cue::bigWin, 500},
-    {4, 45, 25, Cue::bigWin, 500},
-    {6, 30, 15, Cue::bigWin, 500},
-    {7, 20, 10, Cue::mediumWin, 500},
-    {8, 15, 15, Cue::smallWin, 500},
-    {10, 10, 10, Cue::smallWin, 500},
-    {11, 5, 5, Cue::smallWin, 200},
-}};
+constexpr std::array<Payout, 9> payouts{
+    {{1, 4000}, {2, 250}, {3, 125}, {4, 45}, {6, 30}, {7, 20}, {8, 15}, {10, 10}, {11, 5}}};
 
 } // namespace
 

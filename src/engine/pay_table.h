@@ -1,7 +1,5 @@
 #pragma once
 
-#include "engine/cue_output.h"
-
 #include <cstdint>
 #include <span>
 
@@ -11,13 +9,10 @@ namespace quillet
 // Credits that one hand costs.
 inline constexpr std::int16_t wager = 5;
 
-// What a final hand earns and how the win is counted up.
+// The pay of a final hand.
 struct Payout {
     std::int16_t playCode;
-    std::int16_t pays;  // credits
-    std::int16_t step;  // credits added at a time; the last step may be shorter
-    Cue cue;            // at each step
-    std::int32_t pause; // milliseconds after each step
+    std::int16_t pays; // credits
 };
 
 // The paying hands, best first.
