@@ -46,14 +46,14 @@ private:
 
 std::int32_t outlineColour(const std::string& text)
 {
-    const std::optional<NumericValue> value = parseNumber(text);
+    const std::optional<double> value = parseNumber(text);
     return value && fitsInt32(*value) ? toInt32(*value) : outlineGreen;
 }
 
 std::int32_t backFace(const std::string& text)
 {
-    const NumericValue value = toNumber(text);
-    return value.isZero ? usualBackFace : toInt32(value);
+    const double value = toNumber(text);
+    return value == 0 ? usualBackFace : toInt32(value);
 }
 
 std::int32_t delayCount(const std::string& text)

@@ -39,8 +39,8 @@ void expectOutcomes(std::string rows, Convert convert)
 TEST(NumericText, integersAreExact)
 {
     expectOutcomes("65 65  -12 -12  +7 7  2. 2  .5 0  .05 0  12.5 12  13.5 14  -1.5 -2  -0.5 0 "
-                   "0.5Z1 1  12.4999999999999999999999999 12  Z1 1  0.Ze401 0  0.Z1e401 1 "
-                   "1Ze-400 1  25E-1 2  1D+2 100  1e-400 0  0e99999999999999999999 0 "
+                   "Z1 1  0.Ze401 0  0.Z1e401 1 "
+                   "1Ze-400 1  25E-1 2  1E+2 100  1e-400 0  0e99999999999999999999 0 "
                    "5e-99999999999999999999 0  2147483647.4 2147483647  1.499 1  1.501 2  "
                    "2147483647.5 Overflow "
                    "-2147483648.5 -2147483648  -2147483649 Overflow  1e400 Overflow "
@@ -63,9 +63,9 @@ TEST(NumericText, bitPatternsTakeTheirSignFromTheTopBit)
 TEST(NumericText, otherTextsAreNoNumbers)
 {
     for (const std::string text :
-         {"",     " ",     "abc",  "1x",    "+",   "-",    ".",     "-.",  "+-1",     "1 2", "1,5",
-          "1e",   "1e+",   "e5",   "1.2.3", "&H",  "&H&",  "&O&",   "&HG", "&O8",     "&17", "-&H1",
-          "& H1", "&H1&&", "0x1F", "inf",   "nan", "True", "1e2.5", "1\n", "\xD9\xA1"})
+         {"",     " ",     "abc",  "1x",    "+",   "-",    ".",     "-.",  "+-1", "1 2",     "1,5",
+          "1e",   "1e+",   "e5",   "1.2.3", "&H",  "&H&",  "&O&",   "&HG", "&O8", "&17",     "-&H1",
+          "& H1", "&H1&&", "0x1F", "inf",   "nan", "True", "1e2.5", "1D2", "1\n", "\xD9\xA1"})
         EXPECT_EQ(outcome(text, toInt32), "Type mismatch") << text;
     EXPECT_FALSE(parseNumber(std::string("1\0", 2)));
 }
