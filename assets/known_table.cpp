@@ -34,11 +34,15 @@ int main(int argc, char** argv)
     MessageErrorBox errorBox;
     SystemClock clock;
     KnownHand decks;
-    Surroundings surroundings{store,      pages,
-                              sound,      errorBox,
-                              clock,      decks,
-                              {},         QUILLET_PROGRAM_FOLDER,
-                              shortDelay, [](int code) { std::_Exit(code); }};
+    Surroundings surroundings{.store = store,
+                              .pages = pages,
+                              .sound = sound,
+                              .errorBox = errorBox,
+                              .clock = clock,
+                              .decks = decks,
+                              .programFolder = QUILLET_PROGRAM_FOLDER,
+                              .shortDelay = shortDelay,
+                              .endProcess = [](int code) { std::_Exit(code); }};
     frmMain window(surroundings);
     return window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
 }

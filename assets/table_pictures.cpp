@@ -69,17 +69,16 @@ private:
     SystemClock m_clock;
     KnownHand m_decks;
     Surroundings m_surroundings{
-        m_store,
-        m_pages,
-        m_sound,
-        m_errorBox,
-        m_clock,
-        m_decks,
-        {},
-        QUILLET_PROGRAM_FOLDER,
-        // No pauses.
-        [](std::int32_t, const auto&) { QCoreApplication::processEvents(); },
-        [](int) {}};
+        .store = m_store,
+        .pages = m_pages,
+        .sound = m_sound,
+        .errorBox = m_errorBox,
+        .clock = m_clock,
+        .decks = m_decks,
+        .programFolder = QUILLET_PROGRAM_FOLDER,
+        // The pictures need no pauses.
+        .shortDelay = [](std::int32_t, const auto&) { QCoreApplication::processEvents(); },
+        .endProcess = [](int) {}};
     frmMain m_window{m_surroundings};
     bool m_written = true;
 };

@@ -53,11 +53,15 @@ void hand(benchmark::State& state)
     SystemClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     ShuffledDecks decks(random);
-    Surroundings surroundings{store,      pages,
-                              sound,      errorBox,
-                              clock,      decks,
-                              {},         QUILLET_PROGRAM_FOLDER,
-                              shortDelay, [](int code) { std::_Exit(code); }};
+    Surroundings surroundings{.store = store,
+                              .pages = pages,
+                              .sound = sound,
+                              .errorBox = errorBox,
+                              .clock = clock,
+                              .decks = decks,
+                              .programFolder = QUILLET_PROGRAM_FOLDER,
+                              .shortDelay = shortDelay,
+                              .endProcess = [](int code) { std::_Exit(code); }};
     frmMain window(surroundings);
     if (!window.Form_Load()) {
         state.SkipWithError("the window did not load");

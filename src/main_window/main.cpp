@@ -13,6 +13,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace
 {
@@ -27,12 +28,36 @@ void useIcons()
     QApplication::setWindowIcon(icon);
 }
 
-// Names the help file, loads the main window and runs the program to its end.
-int Main(quillet::Surroundings& surroundings)
+// Sets the help file, loads the main window and runs the program to its end.
+int Main()
 {
-    surroundings.helpFile = surroundings.programFolder + "/quillet.hlp";
-    quillet::frmMain window(surroundings);
-    const quillet::WindowLoss loss;
+    using namespace quillet;
+
+    TextFileStore store;
+    BrowserOpener pages;
+    SdlSoundOutput sound;
+    MessageErrorBox errorBox;
+    SystemClock clock;
+    BlendingRandom random(timeOfDay);
+    ShuffledDecks decks(random);
+    const std::string folder = QCoreApplication::applicationDirPath().toStdString();
+    Surroundings surroundings{.store = store,
+                              .pages = pages,
+                              .sound = sound,
+                              .errorBox = errorBox,
+                              .clock = clock,
+                              .decks = decks,
+                              .programFolder = folder,
+                              .helpFile = folder + "/quillet.hlp",
+                              .shortDelay = shortDelay,
+                              // Nested event loops may be waiting, so nothing is unwound.
+                              .endProcess = [&sound](int code) {
+                                  sound.stop();
+                                  std::fflush(nullptr);
+                                  std::_Exit(code);
+                              }};
+    frmMain window(surroundings);
+    const WindowLoss loss;
     const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;
     surroundings.endProcess(code);
     return code;
@@ -42,38 +67,11 @@ int Main(quillet::Surroundings& surroundings)
 
 int main(int argc, char* argv[])
 {
-    using namespace quillet;
-
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet"));
     QGuiApplication::setDesktopFileName(QStringLiteral("quillet"));
     useIcons();
-
-    TextFileStore store;
-    BrowserOpener pages;
-    SdlSoundOutput sound;
-    MessageErrorBox errorBox;
-    SystemClock clock;
-    BlendingRandom random(timeOfDay);
-    ShuffledDecks decks(random);
-    Surroundings surroundings{
-        store,
-        pages,
-        sound,
-        errorBox,
-        clock,
-        decks,
-        {},
-        QCoreApplication::applicationDirPath().toStdString(),
-        shortDelay,
-        // Windows may be waiting in nested event loops, so nothing is unwound.
-        [&sound](int code) {
-            sound.stop();
-            std::fflush(nullptr);
-            std::_Exit(code);
-        }};
-
-    return Main(surroundings);
+    return Main();
 }

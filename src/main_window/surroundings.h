@@ -14,8 +14,8 @@
 namespace quillet
 {
 
-// All that the window asks of the world around it. main.cpp fills in the real ones, the tests
-// their own; everything outlives the window.
+// The dependencies of the window, which must outlive it. main.cpp fills in the real ones, tests
+// their own.
 struct Surroundings {
     SettingsStore& store;
     PageOpener& pages;
@@ -23,12 +23,12 @@ struct Surroundings {
     ErrorBox& errorBox;
     Clock& clock;
     DeckSource& decks;
-    ScreenMetrics metrics;
+    ScreenMetrics metrics = {};
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
-    // Waits for so many milliseconds while events run, or until the question is answered with yes.
+    std::string helpFile = {};
+    // Waits this many milliseconds while events run, or until the predicate is true.
     std::function<void(std::int32_t, const std::function<bool()>&)> shortDelay;
     std::function<void(int code)> endProcess; // ends at once; returns in tests only
-    std::string helpFile = {};                // set at the start
 };
 
 } // namespace quillet

@@ -17,18 +17,15 @@ bool isWebAddress(const QUrl& address)
 
 } // namespace
 
-void BrowserOpener::open(const std::string& verb, const std::string& file,
-                         const std::string& /*parameters*/, const std::string& directory,
-                         int /*showCommand*/)
+void BrowserOpener::open(const std::string& address)
 {
-    const QUrl address(QString::fromStdString(file), QUrl::StrictMode);
-    if (verb != "open" || !isWebAddress(address))
+    const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
+    if (!isWebAddress(url))
         return;
 
     QProcess opener;
     opener.setProgram("xdg-open");
-    opener.setArguments({QString::fromLatin1(address.toEncoded())});
-    opener.setWorkingDirectory(QString::fromStdString(directory));
+    opener.setArguments({QString::fromLatin1(url.toEncoded())});
     opener.setStandardInputFile(QProcess::nullDevice());
     opener.setStandardOutputFile(QProcess::nullDevice());
     opener.setStandardErrorFile(QProcess::nullDevice());

@@ -5,15 +5,13 @@
 namespace quillet
 {
 
-// Opens web addresses in the player's browser through xdg-open, which runs detached and mute:
-// whatever it does or prints, and whether it exists at all, the program notices nothing.
+// Opens web addresses in the player's browser with xdg-open, which runs detached. Its output is
+// discarded and its failures are ignored.
 class BrowserOpener : public PageOpener
 {
 public:
-    // Only "open" of an http or https address does anything, so that no text can start a program.
-    // A page takes no parameters, and the desktop decides how its window is shown.
-    void open(const std::string& verb, const std::string& file, const std::string& parameters,
-              const std::string& directory, int showCommand) override;
+    // Ignores everything but http and https addresses, so that no text can start a program.
+    void open(const std::string& address) override;
 };
 
 } // namespace quillet

@@ -5,14 +5,13 @@
 namespace quillet
 {
 
-// Hands a file or address to the desktop. Returns at once and reports nothing.
+// Opens web pages.
 class PageOpener
 {
 public:
     virtual ~PageOpener() = default;
-    virtual void open(const std::string& verb, const std::string& file,
-                      const std::string& parameters, const std::string& directory,
-                      int showCommand) = 0;
+    // Returns at once and reports nothing.
+    virtual void open(const std::string& address) = 0;
 };
 
 } // namespace quillet

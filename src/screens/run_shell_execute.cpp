@@ -4,10 +4,11 @@ namespace quillet
 {
 
 void RunShellExecute(PageOpener& pages, const std::string& sTopic, const std::string& sFile,
-                     const std::string& sParams, const std::string& sDirectory,
-                     std::int32_t nShowCmd)
+                     const std::string& /*sParams*/, const std::string& /*sDirectory*/,
+                     std::int32_t /*nShowCmd*/)
 {
-    pages.open(sTopic, sFile, sParams, sDirectory, nShowCmd);
+    if (sTopic == "open")
+        pages.open(sFile);
 }
 
 void openWebPage(PageOpener& pages, const std::string& address)

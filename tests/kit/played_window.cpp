@@ -8,10 +8,16 @@ namespace quillet::test
 {
 
 PlayedWindow::PlayedWindow()
-    : surroundings{store, pages, sounds, errors, *this, *this, {}, QUILLET_PROGRAM_FOLDER, {}, {}}
+    : surroundings{.store = store,
+                   .pages = pages,
+                   .sound = sounds,
+                   .errorBox = errors,
+                   .clock = *this,
+                   .decks = *this,
+                   .programFolder = QUILLET_PROGRAM_FOLDER,
+                   .shortDelay = std::bind_front(&PlayedWindow::pause, this),
+                   .endProcess = [this](int code) { ended.push_back(code); }}
 {
-    surroundings.shortDelay = std::bind_front(&PlayedWindow::pause, this);
-    surroundings.endProcess = [this](int code) { ended.push_back(code); };
     store.texts = {{"prfAnimation", "False"},
                    {"prfPokerAutoDeal", "False"},
                    {"prfShowPokerPlay", "False"},

@@ -15,18 +15,15 @@ namespace quillet::test
 
 // Keeps what the windows ask the desktop to open.
 struct RecordingShell : PageOpener {
-    void open(const std::string& verb, const std::string& file, const std::string& parameters,
-              const std::string& directory, int showCommand) override
+    void open(const std::string& address) override
     {
         if (fails)
             throw RunTimeError("the wind");
-        opened.push_back(file);
-        const bool plain = verb == "open" && parameters.empty() && directory.empty();
-        allPlain = allPlain && plain && showCommand == 1;
+        opened.push_back(address);
     }
 
     std::vector<std::string> opened;
-    bool allPlain = true, fails = false;
+    bool fails = false;
 };
 
 template <typename Widget = QWidget>
