@@ -23,20 +23,23 @@ constexpr std::array<RankSet, 10> straightsOfTheDeck = [] {
 
 HoldFacts::HoldFacts(std::span<const Card> held) : cards(static_cast<int>(held.size()))
 {
-    std::array<int, 13> count{};
+    RankSet two = 0; // ranks of which there are two or more
+    RankSet three = 0;
+    RankSet four = 0;
     for (const Card& card : held) {
-        const auto rank = static_cast<unsigned>(card.rank - 1);
-        ++count[rank];
-        ranks |= 1U << rank;
+        const RankSet rank = 1U << (card.rank - 1);
+        four |= three & rank;
+        three |= two & rank;
+        two |= ranks & rank;
+        ranks |= rank;
+        high += (rank & highRanks) != 0 ? 1 : 0;
         suited = suited && card.suit == held.front().suit;
     }
-    for (std::size_t rank = 0; rank < count.size(); ++rank) {
-        const bool isHigh = (highRanks >> rank & 1U) != 0;
-        alike = std::max(alike, count[rank]);
-        pairs += count[rank] == 2 ? 1 : 0;
-        highPair = highPair || (count[rank] == 2 && isHigh);
-        high += isHigh ? count[rank] : 0;
-    }
+    for (const RankSet set : {ranks, two, three, four})
+        alike += set != 0 ? 1 : 0;
+    const RankSet pairRanks = two & ~three;
+    pairs = std::popcount(pairRanks);
+    highPair = (pairRanks & highRanks) != 0;
     if (alike != 1)
         return;
     const RankSet fromLowest = ranks >> std::countr_zero(ranks);
