@@ -1,3 +1,4 @@
+#include "charts/chart_price.h"
 #include "engine/random.h"
 #include "odds/fair_odds.h"
 #include "odds/simulation.h"
@@ -21,6 +22,14 @@ void theWholeGame(benchmark::State& state)
 }
 BENCHMARK(theWholeGame)->Unit(benchmark::kMillisecond);
 
+void theTrainersChart(benchmark::State& state)
+{
+    const HeldCards heldCards;
+    for ([[maybe_unused]] auto step : state)
+        benchmark::DoNotOptimize(charts::priceChart(heldCards, charts::trainersChart()));
+}
+BENCHMARK(theTrainersChart)->Unit(benchmark::kMillisecond);
+
 void countsOfHeldCards(benchmark::State& state)
 {
     for ([[maybe_unused]] auto step : state)
@@ -40,21 +49,19 @@ BENCHMARK(oneDeal);
 void simulatedHands(benchmark::State& state)
 {
     const HeldCards heldCards;
+    const charts::ChartPlayer chart(charts::HoldTable(heldCards), charts::trainersChart());
+    const Player player = [&chart](const DealtHand& hand) { return chart.bestHold(hand); };
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     constexpr std::int64_t hands = 10000;
     for ([[maybe_unused]] auto step : state)
-        benchmark::DoNotOptimize(playHands(heldCards, random, hands));
+        benchmark::DoNotOptimize(playHands(heldCards, player, random, hands));
     state.SetItemsProcessed(state.iterations() * hands);
 }
 BENCHMARK(simulatedHands)->Unit(benchmark::kMillisecond);
 
 OneHand perfectHand()
 {
-    const FairOdds odds = fairOdds(HeldCards());
-    OneHand one{{}, trainersPays()};
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        one.chance[outcome] = odds.chanceOf(Strategy::perfect, outcome).value();
-    return one;
+    return oneHand(fairOdds(HeldCards()).chances, trainersPays());
 }
 
 void aSitting(benchmark::State& state)

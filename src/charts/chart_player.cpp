@@ -96,7 +96,7 @@ Play ChartPlayer::play(const odds::DealtHand& hand) const
         Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};
         for (odds::Hold hold = 0; hold < odds::holds; ++hold) {
             if ((rows[hold] >> play.row & 1U) != 0 && allows(m_chart[play.row], hand, hold))
-                play.fitting |= 1U << hold;
+                play.fitting |= odds::HoldSet{1} << hold;
         }
         if (play.fitting != 0)
             return play;

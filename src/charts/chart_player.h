@@ -12,8 +12,8 @@ namespace quillet::charts
 
 // How a chart plays one deal.
 struct Play {
-    std::size_t row = 0;       // of the chart
-    std::uint32_t fitting = 0; // bit h is set when hold h fits that row
+    std::size_t row = 0; // of the chart
+    odds::HoldSet fitting = 0;
 };
 
 // Tells the facts of every set of cards that can be held, which are worked out once.
@@ -36,6 +36,11 @@ public:
     ChartPlayer(const HoldTable& table, const Chart& chart);
 
     [[nodiscard]] Play play(const odds::DealtHand& hand) const;
+    // Of the holds that fit the row, the one that is worth most.
+    [[nodiscard]] odds::Hold bestHold(const odds::DealtHand& hand) const
+    {
+        return hand.bestOf(play(hand).fitting);
+    }
 
 private:
     using RowSet = std::uint64_t; // bit r for row r of the chart

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/chart_player.h"
-#include "odds/fraction.h"
+#include "odds/fair_odds.h"
 
 #include <array>
 #include <functional>
@@ -12,27 +12,38 @@ namespace quillet::charts
 
 // Which of the holds that fit the row is taken.
 enum class Taken { best, any, worst };
-inline constexpr std::size_t waysToTake = 3;
+inline constexpr std::array allTaken{Taken::best, Taken::any, Taken::worst};
+
+template <typename T>
+struct PerTaken : std::array<T, allTaken.size()> {
+    using std::array<T, allTaken.size()>::operator[];
+    T& operator[](Taken taken) { return (*this)[static_cast<std::size_t>(taken)]; }
+    const T& operator[](Taken taken) const { return (*this)[static_cast<std::size_t>(taken)]; }
+};
+
+struct CostliestDeal {
+    odds::Fraction cost;                     // in credits
+    std::array<odds::DeckPlace, 5> places{}; // not set when no deal costs anything
+};
 
 // One row over all deals that it plays. The losses are against perfect play, in credits per credit
 // paid over all deals of the game, so that the rows add up.
 struct RowPrice {
-    std::int64_t deals = 0; // none for a row that never plays
-    std::array<odds::Fraction, waysToTake> loss;
-    odds::Fraction costliest;                 // in credits, with the worst hold that fits
-    std::array<odds::DeckPlace, 5> example{}; // the deal that costs this
+    std::int64_t deals = 0; // none for a row that is never used
+    PerTaken<odds::Fraction> loss;
+    PerTaken<CostliestDeal> costliest;
 };
 
-// What a chart is worth over all deals, exactly, when they come from a fairly shuffled deck.
+// What a chart returns over all deals, exactly, with a fair shuffle.
 struct ChartPrice {
-    odds::Fraction perfect; // credits won per credit paid by perfect play
-    std::array<odds::Fraction, waysToTake> returned;
-    std::vector<RowPrice> rows; // those of the chart
+    odds::Fraction perfect; // credits won per credit bet by perfect play
+    PerTaken<odds::Fraction> returned;
+    PerTaken<odds::OutcomeChances> chances;
+    std::vector<RowPrice> rows;            // those of the chart
+    std::int64_t dealsWithAChoice = 0;     // more than one hold fits
+    std::int64_t dealsPlayedPerfectly = 0; // with the best hold that fits
 
-    [[nodiscard]] odds::Fraction loss(Taken taken) const
-    {
-        return perfect - returned[static_cast<std::size_t>(taken)];
-    }
+    [[nodiscard]] odds::Fraction loss(Taken taken) const { return perfect - returned[taken]; }
 };
 
 [[nodiscard]] ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart);

@@ -1,23 +1,31 @@
 #include "odds/dealt_hand.h"
 
-#include "engine/hand_evaluation.h"
-
 #include <algorithm>
 #include <bit>
 
 namespace quillet::odds
 {
 
+namespace
+{
+
+// The first hold in the set that no other comes before.
+template <typename Before>
+Hold firstOf(HoldSet holds, const Before& comesBefore)
+{
+    auto first = static_cast<Hold>(std::countr_zero(holds));
+    forEachHold(holds, [&](Hold hold) { first = comesBefore(hold, first) ? hold : first; });
+    return first;
+}
+
+} // namespace
+
 DealtHand::DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending)
     : places(ascending)
 {
-    std::array<Card, 5> cards;
-    std::ranges::transform(places, cards.begin(), cardAt);
-    chartCode = EvaluatePokerHand(cards, false);
-    dealtOutcome = outcomeOf(EvaluatePokerHand(cards, true));
+    dealtOutcome = outcomeOf(cardsAt(places));
     findClasses(heldCards);
     findWorth(heldCards);
-    findAccepted(heldCards);
 }
 
 Fraction DealtHand::expectedCredits(Hold hold) const
@@ -40,26 +48,14 @@ OutcomeCounts DealtHand::drawOutcomes(const HeldCards& heldCards, Hold hold) con
     return counts;
 }
 
-Hold DealtHand::bestOf(std::uint32_t some) const
+Hold DealtHand::bestOf(HoldSet candidates) const
 {
-    auto best = static_cast<Hold>(std::countr_zero(some));
-    for (; some != 0; some &= some - 1) {
-        const auto hold = static_cast<Hold>(std::countr_zero(some));
-        if (worth[hold] > worth[best])
-            best = hold;
-    }
-    return best;
+    return firstOf(candidates, [this](Hold a, Hold b) { return worth[a] > worth[b]; });
 }
 
-Hold DealtHand::worstOf(std::uint32_t some) const
+Hold DealtHand::worstOf(HoldSet candidates) const
 {
-    auto worst = static_cast<Hold>(std::countr_zero(some));
-    for (; some != 0; some &= some - 1) {
-        const auto hold = static_cast<Hold>(std::countr_zero(some));
-        if (worth[hold] < worth[worst])
-            worst = hold;
-    }
-    return worst;
+    return firstOf(candidates, [this](Hold a, Hold b) { return worth[a] < worth[b]; });
 }
 
 double DealtHand::penaltyOf(const HeldCards& heldCards, Hold hold, std::size_t discard) const
@@ -104,17 +100,6 @@ void DealtHand::findWorth(const HeldCards& heldCards)
     for (Hold hold = 0; hold < holds; ++hold)
         worth[hold] = pay[hold] * unitsPerDraw[cardsIn[hold]];
     bestHold = static_cast<Hold>(std::ranges::max_element(worth) - worth.begin());
-}
-
-void DealtHand::findAccepted(const HeldCards& heldCards)
-{
-    const auto cardsKept = static_cast<std::size_t>(CardsToHand(chartCode));
-    if (cardsKept == 5)
-        accepted = 1U << holdAll;
-    for (Hold hold = 0; hold < holdAll; ++hold) {
-        if (cardsIn[hold] == cardsKept && heldCards.playCode(classOfHold[hold]) == chartCode)
-            accepted |= 1U << hold;
-    }
 }
 
 } // namespace quillet::odds

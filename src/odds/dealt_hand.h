@@ -15,6 +15,22 @@ using Hold = unsigned;
 inline constexpr Hold holdAll = 31;
 inline constexpr std::size_t holds = 32;
 
+// Bit h is set when hold h is in the set.
+using HoldSet = std::uint32_t;
+
+[[nodiscard]] constexpr bool contains(HoldSet set, Hold hold)
+{
+    return (set >> hold & 1U) != 0;
+}
+
+// Calls visit for each hold in the set, ascending.
+template <typename Visit>
+void forEachHold(HoldSet set, const Visit& visit)
+{
+    for (; set != 0; set &= set - 1)
+        visit(static_cast<Hold>(std::countr_zero(set)));
+}
+
 // The number of cards in each hold: std::popcount without its call.
 inline constexpr std::array<std::size_t, holds> cardsIn = [] {
     std::array<std::size_t, holds> count{};
@@ -40,30 +56,24 @@ struct DealtHand {
     // How often each outcome comes up among all draws to this hold.
     [[nodiscard]] OutcomeCounts drawOutcomes(const HeldCards& heldCards, Hold hold) const;
 
-    // Of the holds whose bits are set the one that is worth most or least; of equals, the first.
-    [[nodiscard]] Hold bestOf(std::uint32_t some) const;
-    [[nodiscard]] Hold worstOf(std::uint32_t some) const;
-    [[nodiscard]] Hold bestAccepted() const { return bestOf(accepted); }
+    // Of these holds the one that is worth most or least; of equals, the first.
+    [[nodiscard]] Hold bestOf(HoldSet candidates) const;
+    [[nodiscard]] Hold worstOf(HoldSet candidates) const;
 
     // What the hold would be worth more if this discard were still in the deck, as a share of one
     // credit; below 0 for a card that it does not miss.
     [[nodiscard]] double penaltyOf(const HeldCards& heldCards, Hold hold,
                                    std::size_t discard) const;
 
-    [[nodiscard]] bool isAccepted(Hold hold) const { return (accepted >> hold & 1U) != 0; }
-
     std::array<DeckPlace, 5> places{};
-    std::int16_t chartCode = 0;
     std::size_t dealtOutcome = 0;
     std::array<HeldCards::ClassId, holds - 1> classOfHold{};
     std::array<std::int64_t, holds> worth{}; // expected credits times worthUnit
     Hold bestHold = 0;                       // of holds worth the same, the first
-    std::uint32_t accepted = 0;              // bit h is set when the coach accepts hold h
 
 private:
     void findClasses(const HeldCards& heldCards);
     void findWorth(const HeldCards& heldCards);
-    void findAccepted(const HeldCards& heldCards);
 };
 
 // Calls visit for the hold and for each larger one, with the sign of inclusion and exclusion:

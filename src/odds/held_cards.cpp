@@ -1,8 +1,5 @@
 #include "odds/held_cards.h"
 
-#include "engine/hand_evaluation.h"
-#include "engine/pay_table.h"
-
 #include <algorithm>
 #include <functional>
 
@@ -13,27 +10,6 @@ namespace
 {
 
 constexpr std::size_t classesUpToFour = 1 + 13 + 169 + 1755 + 16432;
-
-// By play code; there is no code 0.
-using OutcomeByCode = std::array<std::uint8_t, playCodes + 1>;
-
-OutcomeByCode outcomesByCode()
-{
-    OutcomeByCode table{};
-    std::uint8_t outcome = 0;
-    for (const Payout& payout : payTable())
-        table[static_cast<std::size_t>(payout.playCode)] = ++outcome;
-    return table;
-}
-
-std::array<Card, 5> overFillers(std::span<const DeckPlace> held)
-{
-    std::array<Card, 5> cards;
-    for (std::size_t place = 0; place < cards.size(); ++place)
-        cards[place] =
-            place < held.size() ? cardAt(held[place]) : fillerCard(static_cast<int>(place));
-    return cards;
-}
 
 std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
 {
@@ -49,9 +25,7 @@ std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
 HeldCards::HeldCards(const Pays& pays) : m_pays(pays), m_classOf(firstOfSize[5])
 {
     m_counts.resize(classesUpToFour);
-    m_playCode.reserve(classesUpToFour);
-    for (int size = 0; size <= 4; ++size)
-        numberClasses(size);
+    numberClasses();
     countHandsOfFours();
     countHandsOf<3>();
     countHandsOf<2>();
@@ -71,31 +45,29 @@ HeldCards::ClassId HeldCards::classOf(std::span<const DeckPlace> ascending) cons
     return classOf(ascending.size(), combinationOf(ascending));
 }
 
-void HeldCards::numberClasses(int size)
+void HeldCards::numberClasses()
 {
-    const auto cards = static_cast<std::size_t>(size);
-    forEachClass(size, [&](const SuitSets& sets) {
-        const auto id = static_cast<ClassId>(m_playCode.size());
-        const auto places = placesOf<5>(sets);
-        m_playCode.push_back(EvaluatePokerHand(overFillers(std::span(places).first(cards)), false));
-        forEachMember(sets, [&](const SuitSets& member) {
-            const auto memberPlaces = placesOf<5>(member);
-            m_classOf[firstOfSize[cards] + combinationOf(std::span(memberPlaces).first(cards))] =
-                id;
+    ClassId id = 0;
+    for (std::size_t size = 0; size <= 4; ++size) {
+        forEachClass(static_cast<int>(size), [&](const SuitSets& sets) {
+            forEachMember(sets, [&](const SuitSets& member) {
+                const auto places = placesOf<5>(member);
+                m_classOf[firstOfSize[size] + combinationOf(std::span(places).first(size))] = id;
+            });
+            ++id;
         });
-    });
+    }
 }
 
 void HeldCards::countHandsOfFours()
 {
-    const OutcomeByCode outcomeOfCode = outcomesByCode();
     forEachClass(5, [&](const SuitSets& sets) {
         const auto hand = placesOf<5>(sets);
-        const auto code = static_cast<std::size_t>(EvaluatePokerHand(overFillers(hand), true));
+        const std::size_t outcome = outcomeOf(cardsAt(hand));
         const std::int32_t hands = classSize(sets);
         std::array<DeckPlace, 4> four{hand[1], hand[2], hand[3], hand[4]};
         for (std::size_t without = 0; without < hand.size(); ++without) {
-            m_counts[classOf(four)][outcomeOfCode[code]] += hands;
+            m_counts[classOf(four)][outcome] += hands;
             if (without < four.size())
                 four[without] = hand[without];
         }

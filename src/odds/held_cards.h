@@ -56,13 +56,10 @@ public:
     [[nodiscard]] const OutcomeCounts& counts(ClassId id) const { return m_counts[id]; }
     [[nodiscard]] std::int64_t pay(ClassId id) const { return m_pay[id]; }
 
-    // The play that the cards amount to when they are held, with fillers for the rest.
-    [[nodiscard]] std::int16_t playCode(ClassId id) const { return m_playCode[id]; }
-
 private:
     static constexpr std::array<std::uint32_t, 6> firstOfSize{0, 1, 53, 1379, 23479, 294204};
 
-    void numberClasses(int size);
+    void numberClasses();
     void countHandsOfFours();
     template <std::size_t Size>
     void countHandsOf();
@@ -71,7 +68,6 @@ private:
     std::vector<ClassId> m_classOf;
     std::vector<OutcomeCounts> m_counts;
     std::vector<std::int64_t> m_pay;
-    std::vector<std::int16_t> m_playCode;
 };
 
 } // namespace quillet::odds

@@ -117,10 +117,11 @@ Pays trainersPays()
     return pays;
 }
 
-std::size_t outcomeOf(std::int16_t finalCode)
+std::size_t outcomeOf(std::span<const Card, 5> finalHand)
 {
     const auto table = payTable();
-    const auto found = std::ranges::find(table, finalCode, &Payout::playCode);
+    const auto found =
+        std::ranges::find(table, EvaluatePokerHand(finalHand, true), &Payout::playCode);
     return found == table.end() ? 0 : static_cast<std::size_t>(found - table.begin()) + 1;
 }
 

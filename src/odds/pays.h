@@ -1,8 +1,11 @@
 #pragma once
 
+#include "engine/card.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -20,8 +23,7 @@ inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 
 [[nodiscard]] Pays trainersPays();
 
-// The outcome of a final hand's play code.
-[[nodiscard]] std::size_t outcomeOf(std::int16_t finalCode);
+[[nodiscard]] std::size_t outcomeOf(std::span<const Card, 5> finalHand);
 
 // "royal" ... "high pair", or "nothing".
 [[nodiscard]] std::string_view outcomeName(std::size_t outcome);

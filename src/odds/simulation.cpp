@@ -1,9 +1,7 @@
 #include "odds/simulation.h"
 
-#include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "engine/random.h"
-#include "odds/dealt_hand.h"
 
 #include <algorithm>
 #include <atomic>
@@ -32,7 +30,7 @@ std::size_t playedOutcome(std::array<Card, 5> hand, const PokerDeck& deck,
     for (std::size_t i = 0; i < slots.size(); ++i)
         holdFlags[slots[i].number] = (hold >> i & 1U) != 0;
     drawReplacements(hand, deck, holdFlags);
-    return outcomeOf(EvaluatePokerHand(hand, true));
+    return outcomeOf(hand);
 }
 
 } // namespace
@@ -66,7 +64,8 @@ double PlayedHands::margin(const Pays& pays) const
     return total < 2 ? INFINITY : 1.96 * std::sqrt(squares / (total - 1) / total);
 }
 
-Simulation playHands(const HeldCards& heldCards, RandomSource& random, std::int64_t hands)
+Simulation playHands(const HeldCards& heldCards, const Player& player, RandomSource& random,
+                     std::int64_t hands)
 {
     Simulation result;
     PokerDeck deck{};
@@ -82,13 +81,14 @@ Simulation playHands(const HeldCards& heldCards, RandomSource& random, std::int6
 
         const DealtHand dealt(heldCards, places);
         ++result.perfect.count[playedOutcome(hand, deck, slots, dealt.bestHold)];
-        ++result.chart.count[playedOutcome(hand, deck, slots, dealt.bestAccepted())];
+        ++result.player.count[playedOutcome(hand, deck, slots, player(dealt))];
     }
     return result;
 }
 
-Simulation simulate(const HeldCards& heldCards, std::uint64_t seed, std::int64_t hands,
-                    unsigned threads, const std::function<void(std::int64_t)>& progress)
+Simulation simulate(const HeldCards& heldCards, const Player& player, std::uint64_t seed,
+                    std::int64_t hands, unsigned threads,
+                    const std::function<void(std::int64_t)>& progress)
 {
     // Each block of hands has draws of its own, whoever plays it.
     constexpr std::int64_t block = 1 << 14;
@@ -102,10 +102,10 @@ Simulation simulate(const HeldCards& heldCards, std::uint64_t seed, std::int64_t
             const auto number = static_cast<std::uint64_t>(mine);
             BlendingRandom random([number] { return number; }, seed);
             const std::int64_t count = std::min(block, hands - mine * block);
-            const Simulation played = playHands(heldCards, random, count);
+            const Simulation played = playHands(heldCards, player, random, count);
             const std::lock_guard lock(mutex);
             result.perfect.add(played.perfect);
-            result.chart.add(played.chart);
+            result.player.add(played.player);
             report(done += count);
         }
     };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "odds/held_cards.h"
+#include "odds/dealt_hand.h"
 
 #include <array>
 #include <cstdint>
@@ -28,21 +28,23 @@ inline constexpr std::int64_t tellingHands = 1'000'000;
 
 inline constexpr std::int64_t mostSimulated = 100'000'000'000; // some days on two cores
 
-// The same deals and replacements, held in two ways: by the hold that is best for a fairly
-// shuffled deck, and by the best of those that the coach accepts.
+// Returns the hold that a player chooses. Called from several threads at once.
+using Player = std::function<Hold(const DealtHand&)>;
+
+// The same deals and replacements, played in two ways.
 struct Simulation {
-    PlayedHands perfect;
-    PlayedHands chart;
+    PlayedHands perfect; // with the holds that are best with a fair shuffle
+    PlayedHands player;
 };
 
 // Plays hands from decks shuffled as the trainer shuffles them, on as many threads. The same seed
 // gives the same hands on any number of them. Reports now and then how many are done.
-[[nodiscard]] Simulation simulate(const HeldCards& heldCards, std::uint64_t seed,
-                                  std::int64_t hands, unsigned threads,
+[[nodiscard]] Simulation simulate(const HeldCards& heldCards, const Player& player,
+                                  std::uint64_t seed, std::int64_t hands, unsigned threads,
                                   const std::function<void(std::int64_t)>& progress);
 
 // Plays so many with these draws.
-[[nodiscard]] Simulation playHands(const HeldCards& heldCards, RandomSource& random,
-                                   std::int64_t hands);
+[[nodiscard]] Simulation playHands(const HeldCards& heldCards, const Player& player,
+                                   RandomSource& random, std::int64_t hands);
 
 } // namespace quillet::odds

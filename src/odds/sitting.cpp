@@ -218,11 +218,10 @@ void Bankroll::playHand()
 
 } // namespace
 
-OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy)
+OneHand oneHand(const OutcomeChances& chances, const Pays& pays)
 {
     OneHand one{{}, pays};
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-        one.chance[outcome] = odds.chanceOf(strategy, outcome).value();
+    std::ranges::transform(chances, one.chance.begin(), &Fraction::value);
     return one;
 }
 

@@ -29,7 +29,7 @@ struct OneHand {
     [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;
 };
 
-[[nodiscard]] OneHand oneHand(const FairOdds& odds, const Pays& pays, Strategy strategy);
+[[nodiscard]] OneHand oneHand(const OutcomeChances& chances, const Pays& pays);
 
 // Takes the share of the work that is done.
 using WorkProgress = std::function<void(double)>;

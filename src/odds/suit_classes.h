@@ -31,6 +31,13 @@ inline constexpr std::array<Card, 52> deckBySuit = [] {
 {
     return deckBySuit[place];
 }
+[[nodiscard]] constexpr std::array<Card, 5> cardsAt(const std::array<DeckPlace, 5>& places)
+{
+    std::array<Card, 5> cards;
+    std::ranges::transform(places, cards.begin(), cardAt);
+    return cards;
+}
+
 [[nodiscard]] DeckPlace placeOf(const Card& card);
 
 // The ranks held in each suit; bit 0 stands for the ace.

@@ -94,7 +94,8 @@ Style styleFor(const Request& request)
 Report answerGame(const Request& request)
 {
     const odds::HeldCards heldCards = heldCardsFor(request);
-    return gameReport(odds::fairOdds(heldCards), heldCards.pays());
+    return gameReport(odds::fairOdds(heldCards),
+                      charts::priceChart(heldCards, charts::trainersChart()), heldCards.pays());
 }
 
 Report answerHand(const Request& request)
@@ -102,7 +103,9 @@ Report answerHand(const Request& request)
     auto places = odds::parseHand(request.hand);
     std::ranges::sort(places);
     const odds::HeldCards heldCards = heldCardsFor(request);
-    return handReport(heldCards, odds::DealtHand(heldCards, places), request.allHolds);
+    const odds::DealtHand hand(heldCards, places);
+    const charts::ChartPlayer player(charts::HoldTable(heldCards), charts::trainersChart());
+    return handReport(heldCards, hand, player.play(hand), request.allHolds);
 }
 
 void answerHandsFromInput(const Request& request, std::ostream& out)
@@ -121,8 +124,11 @@ Report answerSitting(const Request& request)
 {
     ProgressBar bar;
     const odds::HeldCards heldCards = heldCardsFor(request);
-    return sittingReport(odds::fairOdds(heldCards), heldCards.pays(), request.hands,
-                         request.bankroll, isatty(STDOUT_FILENO) == 1,
+    const odds::Pays& pays = heldCards.pays();
+    const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
+    return sittingReport({odds::oneHand(odds::fairOdds(heldCards).chances, pays),
+                          odds::oneHand(chart.chances[charts::Taken::best], pays)},
+                         request.hands, request.bankroll, isatty(STDOUT_FILENO) == 1,
                          [&bar](double share) { bar.show(share); });
 }
 
@@ -130,12 +136,16 @@ Report answerSimulation(const Request& request)
 {
     ProgressBar bar;
     const odds::HeldCards heldCards = heldCardsFor(request);
-    const odds::Simulation simulation =
-        odds::simulate(heldCards, request.seed, request.hands,
-                       std::max(1U, std::thread::hardware_concurrency()), [&](std::int64_t done) {
-                           bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
-                       });
-    return simulationReport(simulation, odds::fairOdds(heldCards), heldCards.pays());
+    const charts::Chart chart = charts::trainersChart();
+    const charts::ChartPlayer player(charts::HoldTable(heldCards), chart);
+    const odds::Simulation simulation = odds::simulate(
+        heldCards, [&player](const odds::DealtHand& hand) { return player.bestHold(hand); },
+        request.seed, request.hands, std::max(1U, std::thread::hardware_concurrency()),
+        [&](std::int64_t done) {
+            bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
+        });
+    return simulationReport(simulation, odds::fairOdds(heldCards),
+                            charts::priceChart(heldCards, chart), heldCards.pays());
 }
 
 Report answerChart(const Request& request)

@@ -18,7 +18,7 @@ using charts::ChartPrice;
 using charts::RowPrice;
 using charts::Taken;
 
-constexpr std::array<std::string_view, charts::waysToTake> takenNames{
+constexpr std::array<std::string_view, charts::allTaken.size()> takenNames{
     "Best of the holds that fit", "Any of them", "Worst of them"};
 
 template <typename Kinds>
@@ -46,7 +46,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
                   {{"play", "Play"}, {"return", "Return"}},
                   {{std::string("Perfect play"), Exact{price.perfect, 8, true}}},
                   {}};
-    for (std::size_t way = 0; way < charts::waysToTake; ++way)
+    for (std::size_t way = 0; way < takenNames.size(); ++way)
         returns.rows.push_back({std::string(takenNames[way]), Exact{price.returned[way], 8, true}});
 
     Table rows{"rows",
@@ -67,9 +67,10 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
         std::vector<Cell> cells{charts::rowText(chart[row]), told.deals};
         for (const odds::Fraction& loss : told.loss)
             cells.emplace_back(Exact{loss, 6, true});
-        const bool costs = told.costliest != odds::Fraction();
-        cells.push_back(costs ? Cell(Cards{told.example, odds::holdAll}) : Cell(std::string()));
-        cells.emplace_back(Exact{told.costliest, 4});
+        const charts::CostliestDeal& costliest = told.costliest[Taken::worst];
+        const bool costs = costliest.cost != odds::Fraction();
+        cells.push_back(costs ? Cell(Cards{costliest.places, odds::holdAll}) : Cell(std::string()));
+        cells.emplace_back(Exact{costliest.cost, 4});
         rows.rows.push_back(std::move(cells));
         if (told.deals == 0)
             idle += "  " + wrapped(charts::rowText(chart[row]));
@@ -81,7 +82,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
-    const odds::Fraction& returned = price.returned[static_cast<std::size_t>(Taken::worst)];
+    const odds::Fraction& returned = price.returned[Taken::worst];
     out << "# " << chart.size() << (chart.size() == 1 ? " row." : " rows.")
         << " Of every 100 credits bet it loses " << (price.loss(Taken::worst) * 100).decimals(6)
         << " against\n# perfect play, taking the worst of the holds that fit a row. It returns\n# "

@@ -11,8 +11,26 @@ namespace quillet::odds_program
 namespace
 {
 
-constexpr std::array<std::string_view, odds::strategies> strategyNames{
-    "Perfect play", "Chart, best choice", "Chart, any choice", "Chart, worst choice"};
+using charts::ChartPrice;
+using charts::Taken;
+
+struct Strategy {
+    std::string_view name;
+    const odds::Fraction& returned;
+    const odds::OutcomeChances& chances;
+};
+using Strategies = std::array<Strategy, 4>;
+
+Strategies strategiesOf(const odds::FairOdds& odds, const ChartPrice& chart)
+{
+    const auto taking = [&chart](std::string_view name, Taken taken) -> Strategy {
+        return {name, chart.returned[taken], chart.chances[taken]};
+    };
+    return {{{"Perfect play", odds.returned, odds.chances},
+             taking("Chart, best choice", Taken::best),
+             taking("Chart, any choice", Taken::any),
+             taking("Chart, worst choice", Taken::worst)}};
+}
 
 std::string rowName(std::size_t row)
 {
@@ -24,27 +42,27 @@ Exact percent(const odds::Fraction& share)
     return {share, 5, true};
 }
 
-Table returns(const odds::FairOdds& odds)
+Table returns(const Strategies& strategies, const ChartPrice& chart)
 {
     Table table{"returns",
                 "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                 {{"play", "Play"}, {"return", "Return"}},
                 {},
                 {}};
-    for (std::size_t i = 0; i < odds::strategies; ++i)
-        table.rows.push_back({std::string(strategyNames[i]), Exact{odds.returned[i], 8, true}});
+    for (const Strategy& strategy : strategies)
+        table.rows.push_back({std::string(strategy.name), Exact{strategy.returned, 8, true}});
     table.outro =
         "\nOf the " + std::to_string(odds::FairOdds::deals) +
-        " deals the coach accepts several holds for " + std::to_string(odds.dealsWithAChoice) +
-        ". The\nchart's best choice is perfect for " + std::to_string(odds.dealsPlayedPerfectly) +
+        " deals the coach accepts several holds for " + std::to_string(chart.dealsWithAChoice) +
+        ". The\nchart's best choice is perfect for " + std::to_string(chart.dealsPlayedPerfectly) +
         " deals (" +
-        odds::Fraction(odds::Int128{odds.dealsPlayedPerfectly} * 100, odds::FairOdds::deals)
+        odds::Fraction(odds::Int128{chart.dealsPlayedPerfectly} * 100, odds::FairOdds::deals)
             .decimals(2) +
         " %).\n";
     return table;
 }
 
-Table hands(const odds::FairOdds& odds, const odds::Pays& pays)
+Table hands(const Strategies& strategies, const odds::Pays& pays)
 {
     Table table{"hands",
                 "\nWhat one hand does, in wagers of five credits: its variance and standard\n"
@@ -57,18 +75,18 @@ Table hands(const odds::FairOdds& odds, const odds::Pays& pays)
                  {"edge shows after", "Edge shows after"}},
                 {},
                 {}};
-    for (std::size_t i = 0; i < odds::strategies; ++i) {
-        const odds::OneHand one = odds::oneHand(odds, pays, static_cast<odds::Strategy>(i));
+    for (const Strategy& strategy : strategies) {
+        const odds::OneHand one = odds::oneHand(strategy.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
-        table.rows.push_back({std::string(strategyNames[i]), Rounded{one.variance(), 4},
+        table.rows.push_back({std::string(strategy.name), Rounded{one.variance(), 4},
                               Rounded{std::sqrt(one.variance()), 4},
-                              Exact{(odds::Fraction(1, 1) - odds.returned[i]) * 500, 4},
+                              Exact{(odds::Fraction(1, 1) - strategy.returned) * 500, 4},
                               shows ? Cell(Rounded{*shows, 0}) : Cell(std::string("never"))});
     }
     return table;
 }
 
-Table rows(const odds::FairOdds& odds)
+Table rows(const ChartPrice& chart)
 {
     Table table{"rows",
                 "\nWhat each row of the chart loses of 100 credits over all deals, and the deal\n"
@@ -83,22 +101,24 @@ Table rows(const odds::FairOdds& odds)
                  {"costs", "Costs"}},
                 {},
                 {}};
-    for (std::size_t i = 0; i < odds.rows.size(); ++i) {
-        const odds::RowOdds& row = odds.rows[i];
-        const bool costs = row.costliest != odds::Fraction();
-        table.rows.push_back({static_cast<std::int64_t>(i + 1), rowName(i), row.deals,
-                              percent(row.loss[1]), percent(row.loss[2]), percent(row.loss[3]),
-                              costs ? Cell(Cards{row.example, odds::holdAll}) : Cell(std::string()),
-                              costs ? Cell(Exact{row.costliest, 4}) : Cell(std::string())});
+    for (std::size_t i = 0; i < chart.rows.size(); ++i) {
+        const charts::RowPrice& row = chart.rows[i];
+        const charts::CostliestDeal& costliest = row.costliest[Taken::best];
+        const bool costs = costliest.cost != odds::Fraction();
+        table.rows.push_back(
+            {static_cast<std::int64_t>(i + 1), rowName(i), row.deals,
+             percent(row.loss[Taken::best]), percent(row.loss[Taken::any]),
+             percent(row.loss[Taken::worst]),
+             costs ? Cell(Cards{costliest.places, odds::holdAll}) : Cell(std::string()),
+             costs ? Cell(Exact{costliest.cost, 4}) : Cell(std::string())});
     }
     return table;
 }
 
-Table finalHands(const odds::FairOdds& odds, const odds::Pays& pays, odds::Strategy strategy)
+Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& pays)
 {
-    const auto index = static_cast<std::size_t>(strategy);
-    Table table{strategy == odds::Strategy::perfect ? "perfect play" : "chart best choice",
-                "\nFinal hands: " + std::string(strategyNames[index]) + "\n\n",
+    Table table{name,
+                "\nFinal hands: " + std::string(strategy.name) + "\n\n",
                 {{"final hand", "Final hand"},
                  {"pays", "Pays"},
                  {"chance", "Chance in %"},
@@ -107,7 +127,7 @@ Table finalHands(const odds::FairOdds& odds, const odds::Pays& pays, odds::Strat
                 {}};
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
         const std::size_t outcome = (i + 1) % odds::outcomes;
-        const odds::Fraction& chance = odds.chanceOf(strategy, outcome);
+        const odds::Fraction& chance = strategy.chances[outcome];
         const bool comes = chance != odds::Fraction();
         table.rows.push_back({std::string(odds::outcomeName(outcome)), pays[outcome],
                               Exact{chance, 8, true},
@@ -119,11 +139,12 @@ Table finalHands(const odds::FairOdds& odds, const odds::Pays& pays, odds::Strat
 
 } // namespace
 
-Report gameReport(const odds::FairOdds& odds, const odds::Pays& pays)
+Report gameReport(const odds::FairOdds& odds, const ChartPrice& chart, const odds::Pays& pays)
 {
-    return {returns(odds), hands(odds, pays), rows(odds),
-            finalHands(odds, pays, odds::Strategy::perfect),
-            finalHands(odds, pays, odds::Strategy::chartBest)};
+    const Strategies strategies = strategiesOf(odds, chart);
+    return {returns(strategies, chart), hands(strategies, pays), rows(chart),
+            finalHands("perfect play", strategies[0], pays),
+            finalHands("chart best choice", strategies[1], pays)};
 }
 
 } // namespace quillet::odds_program

@@ -47,13 +47,13 @@ std::string penaltiesText(const odds::HeldCards& heldCards, const odds::DealtHan
     return text;
 }
 
-std::string marks(const odds::DealtHand& hand, odds::Hold hold)
+std::string marks(const odds::DealtHand& hand, odds::HoldSet fitting, odds::Hold hold)
 {
     std::string text = hand.worth[hold] == hand.worth[hand.bestHold] ? "best" : "";
-    if (!text.empty() && hand.isAccepted(hold))
+    if (!text.empty() && odds::contains(fitting, hold))
         text += ", ";
-    if (hand.isAccepted(hold))
-        text += hold == hand.bestAccepted() ? "the chart's" : "accepted too";
+    if (odds::contains(fitting, hold))
+        text += hold == hand.bestOf(fitting) ? "the chart's" : "accepted too";
     return text;
 }
 
@@ -73,12 +73,13 @@ std::string why(const odds::HeldCards& heldCards, const odds::DealtHand& hand, o
 
 } // namespace
 
-Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand, bool all)
+Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                  const charts::Play& play, bool all)
 {
     Table table{"holds",
                 odds::holdText(hand.places, odds::holdAll) + ": row " +
-                    std::to_string(hand.chartCode) + " of the chart, " +
-                    std::string(playName(hand.chartCode)) + "\n\n",
+                    std::to_string(play.row + 1) + " of the chart, " +
+                    std::string(playName(static_cast<std::int16_t>(play.row + 1))) + "\n\n",
                 {{"number", "No."},
                  {"hold", "Hold"},
                  {"expected", "Expected"},
@@ -98,7 +99,7 @@ Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
     std::iota(order.begin(), order.end(), 0U);
     std::ranges::stable_sort(order, std::greater(),
                              [&](odds::Hold hold) { return hand.worth[hold]; });
-    const odds::Hold charts = hand.bestAccepted();
+    const odds::Hold charts = hand.bestOf(play.fitting);
     const odds::Fraction best = hand.expectedCredits(hand.bestHold);
     std::int64_t number = 0;
     for (const odds::Hold hold : order) {
@@ -110,10 +111,10 @@ Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                               Cards{hand.places, hold},
                               Exact{hand.expectedCredits(hold), 8},
                               Exact{best - hand.expectedCredits(hold), 8},
-                              marks(hand, hold),
+                              marks(hand, play.fitting, hold),
                               asNumber(hand.worth[hold] == hand.worth[hand.bestHold]),
                               asNumber(hold == charts),
-                              asNumber(hand.isAccepted(hold)),
+                              asNumber(odds::contains(play.fitting, hold)),
                               std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
         for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
             row.emplace_back(std::int64_t{counts[outcome]});

@@ -31,12 +31,12 @@ std::string credits(std::int64_t worth)
     return std::to_string(scaled / decimals) + "." + std::string(8 - digits.size(), '0') + digits;
 }
 
-std::vector<Field> fieldsOf(const odds::DealtHand& hand)
+std::vector<Field> fieldsOf(const odds::DealtHand& hand, const charts::Play& play)
 {
-    const odds::Hold chart = hand.bestAccepted();
+    const odds::Hold chart = hand.bestOf(play.fitting);
     const std::int64_t best = hand.worth[hand.bestHold];
     return {{"hand", odds::holdText(hand.places, odds::holdAll), true},
-            {"row", std::to_string(hand.chartCode)},
+            {"row", std::to_string(play.row + 1)},
             {"best", odds::holdText(hand.places, hand.bestHold), true},
             {"expected", credits(best)},
             {"chart", odds::holdText(hand.places, chart), true},
@@ -70,19 +70,20 @@ void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCa
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
+    const charts::ChartPlayer player(charts::HoldTable(heldCards), charts::trainersChart());
     const char* separator = "";
     for (int number = 1; const auto places = nextHand(in, number);) {
         const odds::DealtHand hand(heldCards, *places);
         switch (style.format) {
         case Format::text:
             out << std::exchange(separator, "\n");
-            writeReport(out, handReport(heldCards, hand, allHolds), style);
+            writeReport(out, handReport(heldCards, hand, player.play(hand), allHolds), style);
             break;
         case Format::csv:
-            writeCsvValues(out, fieldsOf(hand));
+            writeCsvValues(out, fieldsOf(hand, player.play(hand)));
             break;
         case Format::json:
-            writeJsonObject(out, fieldsOf(hand));
+            writeJsonObject(out, fieldsOf(hand, player.play(hand)));
             out << '\n';
             break;
         }

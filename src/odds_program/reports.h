@@ -7,6 +7,7 @@
 #include "odds/sitting.h"
 #include "odds_program/report.h"
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -14,23 +15,25 @@ namespace quillet::odds_program
 {
 
 // The worth of the game: returns, what one hand of it does, rows of the chart, final hands.
-[[nodiscard]] Report gameReport(const odds::FairOdds& odds, const odds::Pays& pays);
+[[nodiscard]] Report gameReport(const odds::FairOdds& odds, const charts::ChartPrice& chart,
+                                const odds::Pays& pays);
 
 // The holds of a deal, six and the chart's or all 32, and why.
 [[nodiscard]] Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
-                                bool all);
+                                const charts::Play& play, bool all);
 
 // What so many hands come to, for perfect play and the chart's best choice. With bars, the text
 // draws the distribution. Reports the share of the work that is done, first for the sitting, then
 // for the bankroll.
-[[nodiscard]] Report sittingReport(const odds::FairOdds& odds, const odds::Pays& pays,
-                                   std::int64_t hands, std::optional<std::int64_t> bankroll,
-                                   bool bars, const odds::WorkProgress& progress);
+[[nodiscard]] Report sittingReport(const std::array<odds::OneHand, 2>& plays, std::int64_t hands,
+                                   std::optional<std::int64_t> bankroll, bool bars,
+                                   const odds::WorkProgress& progress);
 
 [[nodiscard]] Report mistakesReport(const std::vector<charts::Mistake>& mistakes);
 
 [[nodiscard]] Report simulationReport(const odds::Simulation& simulation,
-                                      const odds::FairOdds& fair, const odds::Pays& pays);
+                                      const odds::FairOdds& fair, const charts::ChartPrice& chart,
+                                      const odds::Pays& pays);
 
 // What a chart is worth, and each of its rows.
 [[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);

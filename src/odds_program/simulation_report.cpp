@@ -4,7 +4,7 @@ namespace quillet::odds_program
 {
 
 Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds& fair,
-                        const odds::Pays& pays)
+                        const charts::ChartPrice& chart, const odds::Pays& pays)
 {
     const std::int64_t played = simulation.perfect.hands();
     Table returns{
@@ -21,14 +21,14 @@ Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds
         {},
         {}};
     const auto add = [&](const char* name, const odds::PlayedHands& hands,
-                         odds::Strategy strategy) {
+                         const odds::Fraction& fairReturn) {
         returns.rows.push_back(
             {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
              played < 2 ? Cell(std::string("unknown")) : Cell(Rounded{100 * hands.margin(pays), 4}),
-             Exact{fair.returnOf(strategy), 4, true}});
+             Exact{fairReturn, 4, true}});
     };
-    add("Best holds", simulation.perfect, odds::Strategy::perfect);
-    add("Chart, best choice", simulation.chart, odds::Strategy::chartBest);
+    add("Best holds", simulation.perfect, fair.returned);
+    add("Chart, best choice", simulation.player, chart.returned[charts::Taken::best]);
     if (played < odds::tellingHands)
         returns.outro =
             "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
@@ -44,14 +44,14 @@ Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds
                   {"fair chart", "Fair deck"}},
                  {},
                  {}};
-    const auto expected = [&](odds::Strategy strategy, std::size_t outcome) {
-        return Rounded{static_cast<double>(played) * fair.chanceOf(strategy, outcome).value(), 1};
+    const auto expected = [&](const odds::Fraction& chance) {
+        return Rounded{static_cast<double>(played) * chance.value(), 1};
     };
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        counts.rows.push_back(
-            {std::string(odds::outcomeName(outcome)), simulation.perfect.count[outcome],
-             expected(odds::Strategy::perfect, outcome), simulation.chart.count[outcome],
-             expected(odds::Strategy::chartBest, outcome)});
+        counts.rows.push_back({std::string(odds::outcomeName(outcome)),
+                               simulation.perfect.count[outcome], expected(fair.chances[outcome]),
+                               simulation.player.count[outcome],
+                               expected(chart.chances[charts::Taken::best][outcome])});
     return {returns, counts};
 }
 

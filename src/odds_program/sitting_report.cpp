@@ -123,12 +123,10 @@ Table ruinTable(const std::array<std::array<double, 10>, 2>& ruined, std::int64_
 
 } // namespace
 
-Report sittingReport(const odds::FairOdds& odds, const odds::Pays& pays, std::int64_t hands,
+Report sittingReport(const std::array<odds::OneHand, 2>& plays, std::int64_t hands,
                      std::optional<std::int64_t> bankroll, bool bars,
                      const odds::WorkProgress& progress)
 {
-    const std::array<odds::OneHand, 2> plays{odds::oneHand(odds, pays, odds::Strategy::perfect),
-                                             odds::oneHand(odds, pays, odds::Strategy::chartBest)};
     const auto sittings = forBoth(
         plays,
         [hands](const odds::OneHand& one, const odds::WorkProgress& report) {

@@ -1,6 +1,5 @@
 #include "practice/decisions.h"
 
-#include "charts/chart_player.h"
 #include "odds/fair_odds.h"
 
 #include <algorithm>
@@ -72,7 +71,7 @@ Decisions::Decisions(const odds::HeldCards& heldCards)
             charts::plainKindOf(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
     for (auto& row : m_id)
         row.fill(none);
-    addUp(heldCards);
+    addUp(heldCards, charts::ChartPlayer(table, charts::trainersChart()));
     sort();
 }
 
@@ -108,7 +107,7 @@ std::optional<DecisionId> Decisions::find(std::string_view name) const
     return static_cast<DecisionId>(found - m_all.begin());
 }
 
-void Decisions::addUp(const odds::HeldCards& heldCards)
+void Decisions::addUp(const odds::HeldCards& heldCards, const charts::ChartPlayer& trainersChart)
 {
     m_deals.reserve(134'459);
     odds::forEachClass(5, [&](const odds::SuitSets& sets) {
@@ -124,7 +123,7 @@ void Decisions::addUp(const odds::HeldCards& heldCards)
         m_deals.push_back({hand.places, id, static_cast<std::uint8_t>(members)});
 
         const std::int64_t best = hand.worth[hand.bestHold];
-        const std::int64_t chartCost = best - hand.worth[hand.bestAccepted()];
+        const std::int64_t chartCost = best - hand.worth[trainersChart.bestHold(hand)];
         Decision& decision = m_all[id];
         decision.deals += members;
         decision.leadSum += odds::Int128{best - hand.worth[met.rivalHold]} * members;

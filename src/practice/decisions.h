@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/chart_player.h"
 #include "charts/plain_kinds.h"
 #include "odds/dealt_hand.h"
 
@@ -74,7 +75,7 @@ public:
 private:
     static constexpr std::uint8_t none = 255;
 
-    void addUp(const odds::HeldCards& heldCards);
+    void addUp(const odds::HeldCards& heldCards, const charts::ChartPlayer& trainersChart);
     void sort();
 
     std::vector<charts::PlainKind> m_kindOfClass;

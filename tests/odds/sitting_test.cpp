@@ -19,7 +19,7 @@ constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
 OneHand perfectHand()
 {
-    return oneHand(fairOdds(heldCards()), trainersPays(), Strategy::perfect);
+    return oneHand(fairOdds(heldCards()).chances, trainersPays());
 }
 
 // The net after so many hands, hand by hand; what has come below five credits on the way stays.

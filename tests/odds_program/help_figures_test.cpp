@@ -1,3 +1,4 @@
+#include "charts/chart_price.h"
 #include "charts/mistakes.h"
 #include "coach/hold_judgement.h"
 #include "engine/hand_evaluation.h"
@@ -22,6 +23,7 @@ namespace quillet::test
 {
 
 using namespace odds;
+using charts::Taken;
 
 namespace
 {
@@ -41,9 +43,9 @@ std::string inHundred(const Fraction& share)
     return digits.substr(2, 2) + "." + digits.substr(4);
 }
 
-std::string handsPerRoyal(const FairOdds& odds, Strategy strategy)
+std::string handsPerRoyal(const OutcomeChances& chances)
 {
-    return std::to_string(std::lround(1.0 / std::stod(odds.chanceOf(strategy, 1).decimals(15))));
+    return std::to_string(std::lround(1.0 / std::stod(chances[1].decimals(15))));
 }
 
 // The chance of each card, by its number, to come to each place of the shuffled deck.
@@ -132,7 +134,8 @@ TEST(HelpFigures, theHelpAndTheFirstPagesTellWhatTheChartIsWorth)
     std::string help = fileText(QUILLET_HELP_FILE);
     std::erase(help, ',');
     const FairOdds odds = fairOdds(HeldCards());
-    const RowOdds& twoHigh = odds.rows[17];
+    const charts::ChartPrice chart = charts::priceChart(HeldCards(), charts::trainersChart());
+    const auto& twoHigh = chart.rows[17].loss;
     std::string costliest;
     const auto mistakes = charts::mistakesOf(HeldCards(), charts::trainersChart());
     for (const charts::Mistake& mistake : std::span(mistakes).first(10))
@@ -144,20 +147,19 @@ TEST(HelpFigures, theHelpAndTheFirstPagesTellWhatTheChartIsWorth)
                      holdText(mistake.example, mistake.best) + "</span></td></tr>\n";
     std::erase(costliest, ',');
     EXPECT_NE(help.find(costliest), std::string::npos) << costliest;
-    expectFigures(help,
-                  {{"worth-perfect", inHundred(odds.returnOf(Strategy::perfect))},
-                   {"worth-best", inHundred(odds.returnOf(Strategy::chartBest))},
-                   {"worth-average", inHundred(odds.returnOf(Strategy::chartAverage))},
-                   {"worth-worst", inHundred(odds.returnOf(Strategy::chartWorst))},
-                   {"worth-deals", std::to_string(odds.dealsPlayedPerfectly)},
-                   {"worth-royal-perfect", handsPerRoyal(odds, Strategy::perfect)},
-                   {"worth-royal-chart", handsPerRoyal(odds, Strategy::chartBest)},
-                   {"worth-cost", odds.rows[11].costliest.decimals(4)},
-                   {"worth-lowest", ((twoHigh.loss[3] - twoHigh.loss[1]) * 100).decimals(3)}});
+    expectFigures(help, {{"worth-perfect", inHundred(odds.returned)},
+                         {"worth-best", inHundred(chart.returned[Taken::best])},
+                         {"worth-average", inHundred(chart.returned[Taken::any])},
+                         {"worth-worst", inHundred(chart.returned[Taken::worst])},
+                         {"worth-deals", std::to_string(chart.dealsPlayedPerfectly)},
+                         {"worth-royal-perfect", handsPerRoyal(odds.chances)},
+                         {"worth-royal-chart", handsPerRoyal(chart.chances[Taken::best])},
+                         {"worth-cost", chart.rows[11].costliest[Taken::best].cost.decimals(4)},
+                         {"worth-lowest",
+                          ((twoHigh[Taken::worst] - twoHigh[Taken::best]) * 100).decimals(3)}});
     for (const char* page : {QUILLET_README, QUILLET_METAINFO})
-        for (const Strategy strategy : {Strategy::perfect, Strategy::chartBest})
-            EXPECT_NE(fileText(page).find(inHundred(odds.returnOf(strategy))), std::string::npos)
-                << page;
+        for (const Fraction& returned : {odds.returned, chart.returned[Taken::best]})
+            EXPECT_NE(fileText(page).find(inHundred(returned)), std::string::npos) << page;
 }
 
 TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)

@@ -260,15 +260,16 @@ TEST(Simulation, playsTheEnginesOwnDecks)
 {
     const HeldCards heldCards;
     IdleRandom idle;
-    // An unshuffled deck deals four aces and a two, and replaces the two.
-    const Simulation aces = playHands(heldCards, idle, 3);
+    const auto holdNothing = [](const DealtHand&) -> Hold { return 0; };
+    // An unshuffled deck deals four aces and a two, and then three twos and two threes.
+    const Simulation aces = playHands(heldCards, holdNothing, idle, 3);
     EXPECT_EQ(aces.perfect.count[3], 3);
-    EXPECT_EQ(aces.chart.count[3], 3);
-    EXPECT_EQ(aces.chart.returned(trainersPays()), 25.0);
-    EXPECT_EQ(aces.chart.margin(trainersPays()), 0.0);
+    EXPECT_EQ(aces.player.count[4], 3);
+    EXPECT_EQ(aces.player.returned(trainersPays()), 9.0);
+    EXPECT_EQ(aces.player.margin(trainersPays()), 0.0);
 
     const auto played = [&](std::uint64_t seed, unsigned threads) {
-        return simulate(heldCards, seed, 40000, threads, [](std::int64_t) {}).perfect;
+        return simulate(heldCards, holdNothing, seed, 40000, threads, [](std::int64_t) {}).perfect;
     };
     EXPECT_EQ(played(1, 1).count, played(1, 3).count);
     EXPECT_NE(played(1, 1).count, played(2, 1).count);
@@ -281,9 +282,9 @@ TEST(Simulation, playsTheEnginesOwnDecks)
 
 TEST(SittingReport, drawsBarsOfPossibleResults)
 {
-    const FairOdds odds = fairOdds(HeldCards());
+    const OneHand perfect = oneHand(fairOdds(HeldCards()).chances, trainersPays());
     const auto bars = [&](std::int64_t hands) {
-        return sittingReport(odds, trainersPays(), hands, {}, true, {})[0].outro;
+        return sittingReport({perfect, perfect}, hands, {}, true, {})[0].outro;
     };
     EXPECT_THAT(bars(1), HasSubstr("\n                  -5 |###"));
     EXPECT_THAT(bars(600), HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));

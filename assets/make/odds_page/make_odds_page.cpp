@@ -42,16 +42,19 @@ void writePayTables(std::ostream& out)
            "|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
         const odds::Pays pays = odds::parsePays(name);
-        const odds::FairOdds odds = odds::fairOdds(odds::HeldCards(pays));
-        const odds::Fraction& perfect = odds.returnOf(odds::Strategy::perfect);
-        const odds::Fraction& chart = odds.returnOf(odds::Strategy::chartBest);
+        const odds::HeldCards heldCards(pays);
+        const odds::FairOdds odds = odds::fairOdds(heldCards);
+        const odds::Fraction& perfect = odds.returned;
+        const odds::Fraction chart =
+            charts::priceChart(heldCards, charts::trainersChart()).returned[charts::Taken::best];
         out << "| " << name << " | " << percent(perfect, 6) << " | "
-            << decimals(odds::oneHand(odds, pays, odds::Strategy::perfect).variance(), 4) << " | "
+            << decimals(odds::oneHand(odds.chances, pays).variance(), 4) << " | "
             << percent(chart, 6) << " | " << percent(perfect - chart, 6) << " |\n";
     }
 }
 
-void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds)
+void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds,
+                        const charts::ChartPrice& trainers)
 {
     out << "\n## The trainer's pay table\n\n"
            "| hand | pays | chance in %, perfect play | one in | chance in %, chart | one in |\n"
@@ -60,8 +63,8 @@ void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds)
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
         const std::size_t outcome = (i + 1) % odds::outcomes;
         out << "| " << odds::outcomeName(outcome) << " | " << pays[outcome];
-        for (const odds::Strategy strategy : {odds::Strategy::perfect, odds::Strategy::chartBest}) {
-            const odds::Fraction& chance = odds.chanceOf(strategy, outcome);
+        for (const auto* chances : {&odds.chances, &trainers.chances[charts::Taken::best]}) {
+            const odds::Fraction& chance = (*chances)[outcome];
             out << " | " << percent(chance, 6) << " | "
                 << odds::Fraction(chance.denominator(), chance.numerator()).decimals(2);
         }
@@ -95,7 +98,7 @@ void writeSittings(std::ostream& out, const odds::FairOdds& odds)
            "way.\n\n"
            "| hands | behind | even | ahead | 5 % | 25 % | 50 % | 75 % | 95 % | a royal | ruin |\n"
            "|---|---|---|---|---|---|---|---|---|---|---|\n";
-    const odds::OneHand one = odds::oneHand(odds, odds::trainersPays(), odds::Strategy::perfect);
+    const odds::OneHand one = odds::oneHand(odds.chances, odds::trainersPays());
     for (const std::int64_t hands : {100, 600, 2400, 10000}) {
         const odds::Sitting sitting(one, hands);
         out << "| " << hands;
@@ -109,14 +112,13 @@ void writeSittings(std::ostream& out, const odds::FairOdds& odds)
     }
 }
 
-void writeCharts(std::ostream& out, const odds::HeldCards& heldCards, const odds::FairOdds& odds)
+void writeCharts(std::ostream& out, const odds::HeldCards& heldCards,
+                 const charts::ChartPrice& trainers)
 {
-    const odds::Fraction trainers =
-        odds.returnOf(odds::Strategy::perfect) - odds.returnOf(odds::Strategy::chartWorst);
     out << "\n## Charts\n\n"
            "The loss per 100 credits of the best chart found with each number of rows, taking the\n"
            "worst of the holds that fit a row. The trainer's own 21 rows lose "
-        << percent(trainers, 4) << ".\n\n| rows | loss |\n|---|---|\n";
+        << percent(trainers.loss(charts::Taken::worst), 4) << ".\n\n| rows | loss |\n|---|---|\n";
     charts::ChartSearch search(heldCards);
     charts::Chart shown;
     for (const std::size_t rows : {12U, 16U, 21U, 24U, 30U}) {
@@ -147,8 +149,9 @@ int main()
                  "Every figure is exact for a fairly shuffled deck and rounded only for printing.\n"
                  "CONTRIBUTING.md says how to write this page again.\n\n";
     writePayTables(std::cout);
-    writeTrainersTable(std::cout, odds);
+    const charts::ChartPrice trainers = charts::priceChart(heldCards, charts::trainersChart());
+    writeTrainersTable(std::cout, odds, trainers);
     writeMistakes(std::cout, heldCards);
     writeSittings(std::cout, odds);
-    writeCharts(std::cout, heldCards, odds);
+    writeCharts(std::cout, heldCards, trainers);
 }
