@@ -143,6 +143,7 @@ void HelpPage::applyPalette()
     const int scrolledTo = verticalScrollBar()->value();
     setHtml(m_html);
     verticalScrollBar()->setValue(scrolledTo);
+    searchFromVisibleText();
 }
 
 } // namespace quillet

@@ -101,6 +101,7 @@ TEST_F(HelpViewerTest, linksBackForwardAndContentsMoveThroughTheText)
     theme.setColor(QPalette::Inactive, QPalette::Highlight, Qt::red);
     viewer.setPalette(theme);
     EXPECT_EQ(bar.value(), sectionOne) << "in another theme";
+    EXPECT_GT(pageOf(viewer).textCursor().position(), 0) << "where a search goes on";
     const QPalette colours = pageOf(viewer).palette();
     EXPECT_EQ(colours.color(QPalette::Inactive, QPalette::Highlight),
               colours.color(QPalette::Active, QPalette::Highlight));
