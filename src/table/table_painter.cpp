@@ -12,24 +12,30 @@ namespace quillet
 namespace
 {
 
-QImage framePicture(FramePiece piece)
+std::array<QImage, 4> framePictures()
 {
-    const QImage picture(QString(":/frame/%1.png").arg(fileName(piece)));
-    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    std::array<QImage, 4> pictures;
+    for (const FramePiece piece : allFramePieces) {
+        const QImage picture(QString(":/frame/%1.png").arg(fileName(piece)));
+        pictures[static_cast<std::size_t>(piece)] =
+            picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    }
+    return pictures;
 }
 
 } // namespace
 
 TablePainter::TablePainter(TableCanvas& canvas, const LoadedPicture& background,
                            const CardBoxes& cards, DeckPile& pile, CardLibrary& library)
-    : m_canvas(canvas), m_background(background), m_cards(cards), m_pile(pile), m_library(library)
+    : m_canvas(canvas), m_background(background), m_cards(cards), m_pile(pile), m_library(library),
+      m_decodedPieces(std::async(std::launch::async, framePictures))
 {
-    for (const FramePiece piece : allFramePieces)
-        m_framePieces[static_cast<std::size_t>(piece)] = framePicture(piece);
 }
 
 void TablePainter::sizePictures(const TableMeasures& table, double scale)
 {
+    if (m_decodedPieces.valid())
+        m_framePieces = m_decodedPieces.get();
     const QSizeF card(table.cardWidth, table.cardHeight);
     m_stretched.clear();
     m_canvas.resizePictures({table.innerWidth, table.innerHeight}, scale);

@@ -6,6 +6,8 @@
 #include "table/picture_file.h"
 #include "table/table_geometry.h"
 
+#include <array>
+#include <future>
 #include <map>
 #include <tuple>
 
@@ -47,7 +49,8 @@ private:
     const CardBoxes& m_cards;
     DeckPile& m_pile;
     CardLibrary& m_library;
-    std::array<QImage, 4> m_framePieces; // by FramePiece
+    std::future<std::array<QImage, 4>> m_decodedPieces; // until they are first needed
+    std::array<QImage, 4> m_framePieces;                // by FramePiece
     Surface m_hatch;
 
     // By picture and size: stretching takes longer than all other painting.
