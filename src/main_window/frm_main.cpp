@@ -114,6 +114,7 @@ bool frmMain::Form_Load()
         QDir::setCurrent(QString::fromStdString(m_surroundings.programFolder));
         m_table.library().cdtInit(cWidth, cHeight);
         loadPreferences(m_surroundings.store, *this);
+        m_table.expectBacks();
 
         if (!loadBackground())
             m_sizer.sizeWithoutPicture();

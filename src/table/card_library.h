@@ -6,6 +6,7 @@
 #include <QSize>
 
 #include <cstdint>
+#include <future>
 #include <map>
 
 namespace quillet
@@ -28,6 +29,9 @@ public:
     // Makes the library ready and tells the card size in logical pixels.
     void cdtInit(std::int32_t& width, std::int32_t& height);
 
+    // Begins to draw a back on a thread, before it is needed at this scale.
+    void expectBack(std::int32_t backNumber, double scale);
+
     // Paints a face or a back with its top left corner at (x, y); for a back that does not exist
     // the usual one, for any other number nothing. The corners let what is there
     // show through. Throws RunTimeError outside cdtInit and cdtTerm.
@@ -40,12 +44,16 @@ public:
     [[nodiscard]] QSize cardSize() const { return m_cardSize; }
 
 private:
+    [[nodiscard]] QSize deviceCardSize(double scale) const;
+    void useScale(double scale);
     const QImage& card(std::int32_t cardNumber, double scale);
 
     QSize m_cardSize;
     bool m_ready = false;
     double m_cachedScale = 0.0;
-    std::map<std::int32_t, QImage> m_cards; // by card number, for the cached scale
+    // By card number, for the cached scale.
+    std::map<std::int32_t, QImage> m_cards;
+    std::map<std::int32_t, std::future<QImage>> m_expected;
 };
 
 } // namespace quillet

@@ -100,6 +100,12 @@ void PokerTable::expectBackground(const QString& path)
     m_background.expect(path, m_canvas.devicePixelRatioF());
 }
 
+void PokerTable::expectBacks()
+{
+    for (const std::int32_t back : {m_preferences.prfPKBackFace, std::int32_t{hatchBack}})
+        m_library.expectBack(back, canvas().devicePixelRatioF());
+}
+
 bool PokerTable::loadBackground(const QString& path)
 {
     return m_background.load(path, m_canvas.devicePixelRatioF());

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] const LoadedPicture& background() const { return m_background.picture(); }
     // Begins to decode the picture that will likely be the background, on a thread.
     void expectBackground(const QString& path);
+    // Begins to draw the backs that the first frame shows, on threads.
+    void expectBacks();
     // See TableBackground.
     [[nodiscard]] bool loadBackground(const QString& path);
 
