@@ -10,22 +10,41 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImage>
+#include <QPixmap>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
+#include <future>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace
 {
 
-// The larger icons would take a good part of the time until the window shows, and no window
-// manager asks a window for them.
+std::vector<QImage> decodedIcons()
+{
+    std::vector<QImage> icons;
+    // No window manager asks a window for larger ones.
+    for (const int size : {16, 22, 24, 32, 48, 64, 128})
+        icons.emplace_back(QStringLiteral(":/icons/quillet-%1.png").arg(size));
+    return icons;
+}
+
+// The icons are decoded on a thread, and given to the window manager with the first events, when
+// the window has just come up.
 void useIcons()
 {
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128})
-        icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size), QSize(size, size));
-    QApplication::setWindowIcon(icon);
+    auto icons = std::make_shared<std::future<std::vector<QImage>>>(
+        std::async(std::launch::async, decodedIcons));
+    QTimer::singleShot(0, [icons] {
+        QIcon icon;
+        for (const QImage& image : icons->get())
+            icon.addPixmap(QPixmap::fromImage(image));
+        QApplication::setWindowIcon(icon);
+    });
 }
 
 // Sets the help file, loads the main window and runs the program to its end.
