@@ -35,6 +35,9 @@ Surface::Surface(QSizeF size, double scale)
 
 void Surface::fill(const QColor& colour)
 {
+    // Filling would first copy the pixels that another picture shares.
+    if (!m_image.isDetached())
+        m_image = QImage(m_image.size(), m_image.format());
     m_image.fill(colour);
 }
 
