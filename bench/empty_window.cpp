@@ -1,11 +1,11 @@
-// The lower limit for the trainer's start: an empty window of the same size and colour.
+// The minimum that a window with text takes to start: a label of the table's size and colour.
 #include <QApplication>
-#include <QWidget>
+#include <QLabel>
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    QWidget window;
+    QLabel window("Welcome");
     window.setPalette(QColor(120, 70, 30));
     window.setFixedSize(800, 560);
     window.show();
