@@ -158,7 +158,8 @@ TEST(Hatch, isWhiteWithSparseInkRoundCornersAndAnOutline)
         for (int y = 0; y <= bottom; ++y)
             for (int x = 0; x <= right; ++x) {
                 ++areas[picture.pixel(x, y)];
-                const bool side = (x % right == 0 && std::min(y, bottom - y) >= corner) ||
+                const bool side = ((x % right == 0 || x == std::lround(3 * factor)) &&
+                                   std::min(y, bottom - y) >= corner) ||
                                   (y % bottom == 0 && std::min(x, right - x) >= corner);
                 outlined = outlined && !(side && picture.pixel(x, y) == white);
             }

@@ -68,6 +68,9 @@ void expectClearBar(frmPreferences& dialog)
     dialog.activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&bar] { return bar.hasFocus(); }));
     EXPECT_EQ(bar.grab().toImage().pixelColor(1, 1), focus);
+    QTest::keyClick(&bar, Qt::Key_PageUp);
+    QTest::keyClick(&bar, Qt::Key_Left);
+    EXPECT_EQ(bar.value(), 749);
     const QImage words = control(dialog, "Label7").grab().toImage();
     const auto strip = [&words](int x) { return words.copy(x, 0, 6, words.height()); };
     for (const int end : {0, words.width() - 6})

@@ -169,6 +169,7 @@ TEST(PokerTable, aFlightThatBreaksOffLeavesATableThatCanBePlayedOn)
     EXPECT_EQ(game.errors.texts, std::vector<std::string>{"Error in AnimateCard  Overflow"});
     EXPECT_TRUE(table.canvas().persistentImage());
     EXPECT_TRUE(shows(game, 2, 65));
+    EXPECT_EQ(game.part("picPoker2").accessibleName(), "Card 3: face down");
     auto& deck = control<PictureBox>(*game.window, "picDeal0");
     table.showHold(2, true);
     deck.setShowing(false);
@@ -206,6 +207,8 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     EXPECT_TRUE(outlined(game, 1, Qt::green));
     press(Qt::Key_Return);
     EXPECT_EQ(game.counters(), "0/1/1");
+    QTest::keyClick(display, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(game.counters(), "-5/2/1");
     press(Qt::Key_F1);
     EXPECT_TRUE(game.window->findChild<QWidget*>("HelpViewer") != nullptr);
 }

@@ -168,6 +168,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     EXPECT_EQ(game.pages.opened.size(), 7U) << "a screen reader presses the bar";
     game.pages.opened.pop_back();
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&game.part("picPoker0"))->state().checkable);
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&game.part("picDeal1"))->state().invisible);
     // A button let go beside what it was pressed on has not clicked it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {

@@ -79,9 +79,10 @@ TEST(Pays, areReadAsAPersonWritesThem)
     EXPECT_EQ(complaint("4000 250\n125 4x5"),
               "pay table, line 2: '4x5' is not a number of credits, 0 to 100000");
     EXPECT_EQ(complaint("1 2 3 4 5 6 7 8 9 10"), "pay table, line 1: more than nine hands pay");
-    for (const char* text : {"", "9", "9/", "9/-6", "/", "100001 8 7 6 5 4 3 2 1", "99999/6",
-                             "Royal 4,00", "4e3 250 125 45 30 20 15 10 5",
-                             "4,000 250 125 45 30 20 15 10", "5 10 15 20 30 45 125 250 4000"})
+    for (const char* text :
+         {"", "9", "9/", "9/-6", "/", "100001 8 7 6 5 4 3 2 1", "99999/6",
+          "Royal 40,00\n250 125 45 30 20 15 10 5", "4e3 250 125 45 30 20 15 10 5",
+          "4,000 250 125 45 30 20 15 10", "5 10 15 20 30 45 125 250 4000"})
         EXPECT_NE(complaint(text), "none") << text;
 }
 

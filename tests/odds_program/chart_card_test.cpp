@@ -1,5 +1,6 @@
 #include "charts/chart_player.h"
 #include "odds_program/chart_card.h"
+#include "odds_program/chart_report.h"
 #include "tests/kit/file_text.h"
 #include "tests/kit/held_cards.h"
 
@@ -90,8 +91,13 @@ TEST(ChartCard, hasEveryRowWithinItsColumns)
     }
     const std::string trainers = cardOf(charts::trainersChart());
     EXPECT_THAT(trainers, HasSubstr("Returns 99.294918 of 100. Loses 0.248986 against perfect"));
+    EXPECT_THAT(trainers, HasSubstr("\"thrown\" opacity=")) << "pale";
     const auto royal = trainers.find("1. royal<");
     EXPECT_LT(trainers.find("#r1\"", royal), trainers.find("#r13\"", royal)) << "aces first";
+    std::ostringstream file;
+    writeChartFile(file, charts::trainersChart(),
+                   charts::priceChart(heldCards(), charts::trainersChart()));
+    EXPECT_THAT(file.str(), HasSubstr("It returns\n# 99.29491793"));
 }
 
 } // namespace quillet::test

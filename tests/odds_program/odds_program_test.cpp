@@ -84,6 +84,7 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed("--format csv --format text").style.format, Format::text);
     EXPECT_EQ(parsed("--simulate 20 --seed 1e3").seed, 1000U);
     EXPECT_EQ(parsed("--rows --all --help --what").question, Question::help);
+    EXPECT_EQ(parsed("--rows -h").question, Question::help);
     std::istringstream refused(
         "--all|--card|--plays|--what|--seed 3|--bankroll 9|--simulate|--simulate=|--simulate 0|"
         "--simulate=1.5|--simulate -5|--simulate 9 --seed|--simulate 1e12|--sitting 11M|"
@@ -127,8 +128,9 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_EQ(gameStatus, 0);
     for (const char* figure :
          {"99.54390437\n      return = 1653526326983/1661102543100\n", "Of the 2598960 deals",
-          "19.5147     4.4175", "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
+          "19.5147     4.4175          2.2805", "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
         EXPECT_THAT(game, HasSubstr(figure));
+    EXPECT_THAT(game, testing::Not(HasSubstr("loss of any"))) << "which no column shows";
     EXPECT_THAT(run("--format csv").first,
                 testing::StartsWith("table,row,field,value,fraction\n"
                                     "returns,Perfect play,return,0.995439043695,"));
@@ -138,20 +140,29 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
         hand, HasSubstr("9c Tc Jc Kc makes straight flush in 1, flush in 8, straight in\n    3,"));
     EXPECT_THAT(hand, HasSubstr("9c 0.2405."));
     EXPECT_EQ(run("Ad Jc 9c Kc Tc").first, hand) << "in any order";
+    EXPECT_THAT(run("2c3d4h5s6c").first,
+                HasSubstr("Of 1 draw, 2c 6c 3d 4h 5s makes straight in 1."));
+    EXPECT_THAT(run("TcJcQcKcAc --pays '0 0 0 0 0 0 0 0 5'").first, HasSubstr("the chart's"));
     EXPECT_THAT(run("--format json 9cTcJcKcAd").first,
                 HasSubstr("\"cost\": 5.772432932470, \"cost fraction\": \"6240/1081\""));
     EXPECT_THAT(run("--format csv --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
                 HasSubstr("\nrows,\"4 to a straight flush, no gap\",deals,1200,"));
     EXPECT_THAT(run("--pays 8/5").first, HasSubstr("97.29843375"));
-    EXPECT_THAT(run("--mistakes").first, HasSubstr("468  0.01997     74  9cTcJcKcAd"));
+    EXPECT_THAT(run("--mistakes").first,
+                testing::AllOf(HasSubstr("468  0.01997     74  9cTcJcKcAd"),
+                               HasSubstr("which cost 0.21241830 of 100")));
+    EXPECT_THAT(run("--plays --chart -", "echo nothing").first,
+                testing::StartsWith("deal,hold\nAc 2c 3c 4c 5c,\n"));
     EXPECT_THAT(run("--chart -", "printf 'ace\\nace\\n'").first,
                 HasSubstr("never apply:\n  ace\n"));
     EXPECT_THAT(run("--simulate 9").first, HasSubstr("Fewer than a million"));
-    const std::string onTerminal = "script -qc '" QUILLET_ODDS " 2h3h4h5h7d' /dev/null </dev/null;";
-    EXPECT_THAT(run("", "TERM=xterm " + onTerminal + " exit").first, HasSubstr("\x1b[31mh"));
+    const std::string onTerminal = "script -qc '" QUILLET_ODDS " 2h2d4h5h7d' /dev/null </dev/null;";
+    EXPECT_THAT(run("", "TERM=xterm " + onTerminal + " exit").first,
+                testing::AllOf(HasSubstr("\x1b[31mh"), HasSubstr("\x1b[33md")));
     EXPECT_THAT(run("", "NO_COLOR=1 TERM=xterm " + onTerminal + " exit").first,
                 testing::Not(HasSubstr("\x1b")));
     EXPECT_THAT(run("--sitting 2400").first, testing::ContainsRegex("ahead +30\\.3451"));
+    EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
     EXPECT_EQ(run("9c Tc").second, 2);
 }
 

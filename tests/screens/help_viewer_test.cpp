@@ -153,9 +153,13 @@ TEST_F(HelpViewerTest, theSearchWrapsInBothDirectionsAndSaysSo)
     EXPECT_GT(found(), first);
     EXPECT_EQ(message.text(), "Reached the top; continued from the end.");
     press(viewer, Qt::Key_F3);
+    press(viewer, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_TRUE(message.text().startsWith("Reached the top"));
+    press(viewer, Qt::Key_F3);
 
+    press(viewer, Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(&control(viewer, "helpSearch"), "<b>");
-    EXPECT_EQ(message.text(), "\"needle<b>\" does not occur in the help.");
+    EXPECT_EQ(message.text(), "\"<b>\" does not occur in the help.");
     EXPECT_EQ(found(), first);
     viewer.setFont(QFont(viewer.font().family(), 24));
     viewer.resize(viewer.minimumSizeHint().expandedTo(QSize(300, 300)));
