@@ -4,6 +4,7 @@
 #include "odds_program/text_input.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
@@ -27,6 +28,24 @@ using FileStatus = struct stat;
 {
     throw std::system_error(errno, std::generic_category());
 }
+
+// Nothing interrupts the program while this lives; what would have done so does it afterwards.
+class SignalsHeld
+{
+public:
+    SignalsHeld()
+    {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &m_before);
+    }
+    ~SignalsHeld() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    SignalsHeld(const SignalsHeld&) = delete;
+    SignalsHeld& operator=(const SignalsHeld&) = delete;
+
+private:
+    sigset_t m_before{};
+};
 
 void writeAll(int file, std::string_view content)
 {
@@ -76,7 +95,7 @@ void writeInPlace(const std::string& path, const std::string& content)
         fail();
 }
 
-// Follows links to the last name, which need not exist.
+// The end of a chain of links, whether there is a file or not.
 fs::path followed(fs::path path)
 {
     constexpr int maxLinks = 40;
@@ -85,31 +104,32 @@ fs::path followed(fs::path path)
     return path;
 }
 
-// Gives the new file the mode and, if allowed, the owner of the old one. Without an old one it gets
-// the default mode.
-void copyMode(int file, const std::optional<FileStatus>& old)
+// Gives the new file the owner, as far as that is allowed, and the mode of the old one; without an
+// old one, the mode that new files get.
+void takeAfter(int file, const std::optional<FileStatus>& old)
 {
     const mode_t mask = umask(0);
     umask(mask);
     if (old && fchown(file, old->st_uid, old->st_gid) != 0)
         errno = 0;
-    constexpr mode_t defaultMode = 0666;
+    constexpr mode_t ofNewFiles = 0666;
     constexpr mode_t permissions = 0777;
-    if (fchmod(file, old ? old->st_mode & permissions : defaultMode & ~mask) != 0)
+    if (fchmod(file, old ? old->st_mode & permissions : ofNewFiles & ~mask) != 0)
         fail();
 }
 
-// Writes to a temporary file in the same folder, then renames it.
+// Under a name of its own in the same folder first.
 void replaceFile(const fs::path& target, const std::optional<FileStatus>& old,
                  const std::string& content)
 {
+    const SignalsHeld signals;
     std::string part = (target.parent_path() / ".quillet-XXXXXX").string();
     const int file = mkstemp(part.data());
     if (file < 0)
         fail();
     try {
         writeAll(file, content);
-        copyMode(file, old);
+        takeAfter(file, old);
         if (fsync(file) != 0 || std::rename(part.c_str(), target.c_str()) != 0)
             fail();
     } catch (...) {
