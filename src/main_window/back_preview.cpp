@@ -7,7 +7,7 @@ namespace quillet
 
 BackPreview::BackPreview(QWidget* parent) : QWidget(parent)
 {
-    setObjectName(QStringLiteral("picBacks"));
+    setObjectName("picBacks");
 }
 
 Surface& BackPreview::freshPicture(QSize cardSize)

@@ -18,13 +18,13 @@ constexpr int usualRounds = 8;
 CalibrationSplash::CalibrationSplash()
     : QWidget(nullptr, Qt::SplashScreen), m_progress(new QProgressBar(this))
 {
-    setObjectName(QStringLiteral("calibrationSplash"));
-    setWindowTitle(QStringLiteral("Quillet"));
+    setObjectName("calibrationSplash");
+    setWindowTitle("Quillet");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
-    layout->addWidget(new QLabel(tr("Measuring this computer, so that cards fly\n"
-                                    "at the right speed. This happens once."),
+    layout->addWidget(new QLabel("Measuring this computer, so that cards fly\n"
+                                 "at the right speed. This happens once.",
                                  this));
     m_progress->setRange(0, usualRounds);
     m_progress->setTextVisible(false);

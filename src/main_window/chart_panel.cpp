@@ -1,6 +1,7 @@
 #include "main_window/chart_panel.h"
 
 #include "main_window/chart_row.h"
+#include "main_window/designed_look.h"
 #include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"
 
@@ -18,17 +19,8 @@ constexpr int border = 1;
 constexpr int rowWidth = 167;
 constexpr int captionPixels = 11;
 constexpr int rowPixels = 13; // 9.75 points
-constexpr int leastRowPixels = 9;
+constexpr int minRowPixels = 9;
 constexpr int counterWidth = 52;
-
-QFont panelFont(int pixels, bool bold)
-{
-    QFont font(QStringLiteral("MS Sans Serif"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(pixels);
-    font.setBold(bold);
-    return font;
-}
 
 enum class Reader { hears, doesNotHear };
 
@@ -41,11 +33,9 @@ QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bo
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
-    label->setFont(panelFont(captionPixels, bold));
+    label->setFont(designedFont(captionPixels, bold));
     label->setAlignment(Qt::AlignCenter);
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::WindowText, Qt::white);
-    label->setPalette(colours);
+    setColour(*label, QPalette::WindowText, Qt::white);
     return label;
 }
 
@@ -53,18 +43,14 @@ QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bo
 
 ChartPanel::ChartPanel(StrategyChart& chart, QWidget* parent) : QWidget(parent), m_chart(chart)
 {
-    setObjectName(QStringLiteral("picPokerLabels"));
-    setAccessibleName(tr("Strategy chart"));
+    setObjectName("picPokerLabels");
+    setAccessibleName("Strategy chart");
     setAutoFillBackground(true);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, Qt::black);
-    setPalette(colours);
+    setColour(*this, QPalette::Window, Qt::black);
 
-    m_lblHands =
-        addCounter(QStringLiteral("Label2"), tr("Hands"), 228, 600, QStringLiteral("lblHands"));
-    m_lblWon = addCounter(QStringLiteral("Label3"), tr("Won"), 1080, 420, QStringLiteral("lblWon"));
-    m_lblTotal =
-        addCounter(QStringLiteral("Label1"), tr("Total"), 1752, 480, QStringLiteral("lblTotal"));
+    m_lblHands = addCounter("Label2", "Hands", 228, 600, "lblHands");
+    m_lblWon = addCounter("Label3", "Won", 1080, 420, "lblWon");
+    m_lblTotal = addCounter("Label1", "Total", 1752, 480, "lblTotal");
 
     for (int row = 0; row < chartRows; ++row) {
         m_rows[static_cast<std::size_t>(row)] = new ChartRow(row, this);
@@ -82,7 +68,7 @@ QLabel* ChartPanel::addCounter(const QString& captionName, const QString& captio
     // The value's spoken name has the caption in it.
     QLabel* captionLabel = whiteLabel(this, captionName, caption, false, Reader::doesNotHear);
     captionLabel->setGeometry(border + centre - counterWidth / 2, border - 2, counterWidth, 16);
-    QLabel* value = whiteLabel(this, valueName, QStringLiteral("0"), true, Reader::hears);
+    QLabel* value = whiteLabel(this, valueName, "0", true, Reader::hears);
     value->setGeometry(border + centre - counterWidth / 2, border + 14, counterWidth, 16);
     captionLabel->setBuddy(value);
     return value;
@@ -107,13 +93,13 @@ void ChartPanel::layoutChartRows()
 void ChartPanel::fitRowFont()
 {
     const int rowHeight = m_rows[chartRows - 1]->height();
-    for (int pixels = rowPixels; pixels >= leastRowPixels; --pixels) {
-        const QFont font = panelFont(pixels, false);
+    for (int pixels = rowPixels; pixels >= minRowPixels; --pixels) {
+        const QFont font = designedFont(pixels, false);
         const QFontMetricsF metrics(font);
         bool fits = metrics.height() <= rowHeight;
         for (const ChartRow* row : m_rows)
             fits = fits && metrics.horizontalAdvance(row->text()) <= rowWidth - ChartRow::markRoom;
-        if (!fits && pixels > leastRowPixels)
+        if (!fits && pixels > minRowPixels)
             continue;
         for (ChartRow* row : m_rows)
             row->setFont(font);
@@ -132,7 +118,7 @@ void ChartPanel::showRow(int row)
 void ChartPanel::showCounters(const Counters& counters)
 {
     const auto show = [](QLabel* label, const QString& name, std::int16_t value) {
-        const QString spoken = QStringLiteral("%1 %2").arg(name).arg(value);
+        const QString spoken = QString("%1 %2").arg(name).arg(value);
         if (label->accessibleName() == spoken)
             return; // a reader would say it again
         label->setText(QString::number(value));
@@ -140,9 +126,9 @@ void ChartPanel::showCounters(const Counters& counters)
         label->repaint();
         label->setAccessibleName(spoken);
     };
-    show(m_lblHands, tr("Hands"), counters.hands);
-    show(m_lblWon, tr("Won"), counters.won);
-    show(m_lblTotal, tr("Total"), counters.total);
+    show(m_lblHands, "Hands", counters.hands);
+    show(m_lblWon, "Won", counters.won);
+    show(m_lblTotal, "Total", counters.total);
 }
 
 } // namespace quillet

@@ -8,9 +8,6 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include <algorithm>
-#include <cmath>
-
 namespace quillet
 {
 
@@ -55,11 +52,11 @@ QString spokenState(ChartRowState state)
 {
     switch (state) {
     case ChartRowState::bestPlay:
-        return ChartRow::tr("best play");
+        return "best play";
     case ChartRowState::missedPlay:
-        return ChartRow::tr("missed best play");
+        return "missed best play";
     case ChartRowState::winner:
-        return ChartRow::tr("winning hand");
+        return "winning hand";
     case ChartRowState::base:
         break;
     }
@@ -71,7 +68,7 @@ QString spokenState(ChartRowState state)
 ChartRow::ChartRow(int row, QWidget* parent) : QLabel(parent)
 {
     const auto caption = StrategyChart::caption(row);
-    setObjectName(QStringLiteral("pkLabel%1").arg(row));
+    setObjectName(QString("pkLabel%1").arg(row));
     setTextFormat(Qt::PlainText);
     setText(QString::fromLatin1(caption.data(), static_cast<qsizetype>(caption.size())));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -83,8 +80,7 @@ void ChartRow::show(ChartRowColours colours, ChartRowState state)
     m_colours = colours;
     m_state = state;
     const QString spoken = spokenState(state);
-    setAccessibleName(spoken.isEmpty() ? text()
-                                       : QStringLiteral("%1, %2").arg(text().trimmed(), spoken));
+    setAccessibleName(spoken.isEmpty() ? text() : QString("%1, %2").arg(text().trimmed(), spoken));
     update();
 }
 

@@ -2,6 +2,7 @@
 
 #include "main_window/calibration_splash.h"
 #include "main_window/chart_panel.h"
+#include "main_window/designed_look.h"
 #include "main_window/frm_preferences.h"
 #include "main_window/main_menus.h"
 #include "main_window/status_bar.h"
@@ -71,8 +72,8 @@ frmMain::frmMain(Surroundings& surroundings)
 {
     // The one that nearly every player has is decoded while the window looks its fonts up.
     m_table.expectBackground(backgroundPath(m_surroundings, usualBackground));
-    setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QStringLiteral("Jacks or Better Quillet"));
+    setObjectName("frmMain");
+    setWindowTitle("Jacks or Better Quillet");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
@@ -88,9 +89,7 @@ void frmMain::makeCentralWidget()
 {
     auto* middle = new QWidget(this);
     middle->setAutoFillBackground(true);
-    QPalette colours = middle->palette();
-    colours.setColor(QPalette::Window, Qt::black);
-    middle->setPalette(colours);
+    setColour(*middle, QPalette::Window, Qt::black);
     auto* column = new QVBoxLayout(middle);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(&m_table.canvas(), 0, Qt::AlignCenter);

@@ -3,6 +3,7 @@
 #include "cards/card_numbers.h"
 #include "main_window/animation_speed.h"
 #include "main_window/back_preview.h"
+#include "main_window/designed_look.h"
 #include "platform/desktop_colours.h"
 
 #include <QAbstractButton>
@@ -11,9 +12,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QEvent>
-#include <QFormLayout>
 #include <QFrame>
 #include <QLabel>
 #include <QPainter>
@@ -82,15 +81,15 @@ void fitTo(QComboBox& list, int width)
 frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
     : QDialog(parent), m_host(std::move(host))
 {
-    setObjectName(QStringLiteral("frmPreferences"));
-    setWindowTitle(tr("Preferences"));
+    setObjectName("frmPreferences");
+    setWindowTitle("Preferences");
     auto* layout = new QVBoxLayout(this);
     SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setObjectName("SSTab1");
     layout->addWidget(SSTab1);
-    makeGeneralPage(*makePage(QStringLiteral("frameGeneral"), *SSTab1, tr("General")));
-    makeVideoPokerPage(*makePage(QStringLiteral("frameVideoPoker"), *SSTab1, tr("Video Poker")));
-    makeCardBacksPage(*makePage(QStringLiteral("frameCardBacks"), *SSTab1, tr("Card Backs")));
+    makeGeneralPage(*makePage("frameGeneral", *SSTab1, "General"));
+    makeVideoPokerPage(*makePage("frameVideoPoker", *SSTab1, "Video Poker"));
+    makeCardBacksPage(*makePage("frameCardBacks", *SSTab1, "Card Backs"));
     for (QAbstractButton* indicator : findChildren<QAbstractButton*>())
         indicator->setStyle(&m_indicatorStyle);
     HScroll1->setStyle(&m_indicatorStyle);
@@ -100,22 +99,22 @@ frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
 
 void frmPreferences::makeGeneralPage(QFrame& page)
 {
-    ckSounds = add<QCheckBox>(page, QStringLiteral("ckSounds"), tr("Enable sounds"));
-    ckAnimation = add<QCheckBox>(page, QStringLiteral("ckAnimation"), tr("Enable animation"));
-    auto* caption = add<QLabel>(page, QStringLiteral("Label1"), tr("Animation Delay"));
+    ckSounds = add<QCheckBox>(page, "ckSounds", "Enable sounds");
+    ckAnimation = add<QCheckBox>(page, "ckAnimation", "Enable animation");
+    auto* caption = add<QLabel>(page, "Label1", "Animation Delay");
     HScroll1 = new QScrollBar(Qt::Horizontal, &page);
-    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    HScroll1->setObjectName("HScroll1");
     HScroll1->setRange(slowest, fastest);
     HScroll1->setSingleStep(1);
     HScroll1->setPageStep(50);
     HScroll1->setFocusPolicy(Qt::StrongFocus);
     // As the toolkit makes them, the left arrow key moves a scroll bar to the right.
     HScroll1->setInvertedControls(false);
-    HScroll1->setAccessibleName(tr("Animation Delay"));
+    HScroll1->setAccessibleName("Animation Delay");
     caption->setBuddy(HScroll1);
     page.layout()->addWidget(HScroll1);
-    add<EndsLabel>(page, QStringLiteral("Label7"), tr("Slower                      Faster"));
-    Label4 = add<QLabel>(page, QStringLiteral("Label4"), QStringLiteral("100"));
+    add<EndsLabel>(page, "Label7", "Slower                      Faster");
+    Label4 = add<QLabel>(page, "Label4", "100");
     Label4->setAlignment(Qt::AlignHCenter);
     static_cast<QVBoxLayout*>(page.layout())->addStretch();
     connect(HScroll1, &QScrollBar::valueChanged, this, &frmPreferences::HScroll1_Change);
@@ -123,19 +122,17 @@ void frmPreferences::makeGeneralPage(QFrame& page)
 
 void frmPreferences::makeVideoPokerPage(QFrame& page)
 {
-    ckprfAutoDeal = add<QCheckBox>(page, QStringLiteral("ckprfAutoDeal"), tr("Auto Deal"));
-    opAlwaysShow =
-        add<QRadioButton>(page, QStringLiteral("opAlwaysShow"), tr("Always Show Best Play "));
-    opShowOnError =
-        add<QRadioButton>(page, QStringLiteral("opShowOnError"), tr("Show Best Play after Error"));
+    ckprfAutoDeal = add<QCheckBox>(page, "ckprfAutoDeal", "Auto Deal");
+    opAlwaysShow = add<QRadioButton>(page, "opAlwaysShow", "Always Show Best Play ");
+    opShowOnError = add<QRadioButton>(page, "opShowOnError", "Show Best Play after Error");
     static_cast<QVBoxLayout*>(page.layout())->addStretch();
 }
 
 void frmPreferences::makeCardBacksPage(QFrame& page)
 {
-    auto* caption = add<QLabel>(page, QStringLiteral("Label2"), tr("Select Card Image"));
+    auto* caption = add<QLabel>(page, "Label2", "Select Card Image");
     Combo1 = new QComboBox(&page);
-    Combo1->setObjectName(QStringLiteral("Combo1"));
+    Combo1->setObjectName("Combo1");
     for (const std::string_view name : backNames)
         Combo1->addItem(QString::fromLatin1(name.data(), qsizetype(name.size())));
     Combo1->setCurrentIndex(-1);
@@ -146,16 +143,16 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
     column->addWidget(picBacks, 0, Qt::AlignLeft);
 
     auto* row = new QHBoxLayout;
-    auto* colourCaption = new QLabel(tr("Hold  Card Outline color"), &page);
-    colourCaption->setObjectName(QStringLiteral("Label5"));
+    auto* colourCaption = new QLabel("Hold  Card Outline color", &page);
+    colourCaption->setObjectName("Label5");
     lblColor = new QLabel(&page);
-    lblColor->setObjectName(QStringLiteral("lblColor"));
+    lblColor->setObjectName("lblColor");
     lblColor->setFixedSize(40, 20);
     lblColor->setAutoFillBackground(true);
     lblColor->setFrameStyle(QFrame::Box | QFrame::Plain);
-    cmdChangeColor = new QPushButton(tr("change"), &page);
-    cmdChangeColor->setObjectName(QStringLiteral("cmdChangeColor"));
-    cmdChangeColor->setAccessibleName(tr("Change the colour of the hold outline"));
+    cmdChangeColor = new QPushButton("change", &page);
+    cmdChangeColor->setObjectName("cmdChangeColor");
+    cmdChangeColor->setAccessibleName("Change the colour of the hold outline");
     row->addWidget(colourCaption);
     row->addWidget(lblColor);
     row->addWidget(cmdChangeColor);
@@ -169,11 +166,11 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
 void frmPreferences::makeButtons(QVBoxLayout& layout)
 {
     auto* row = new QHBoxLayout;
-    auto* cmdSave = new QPushButton(tr("Save"), this);
-    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    auto* cmdSave = new QPushButton("Save", this);
+    cmdSave->setObjectName("cmdSave");
     cmdSave->setDefault(true);
-    auto* cmdCancel = new QPushButton(tr("Cancel"), this);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    auto* cmdCancel = new QPushButton("Cancel", this);
+    cmdCancel->setObjectName("cmdCancel");
     row->addStretch();
     row->addWidget(cmdSave);
     row->addWidget(cmdCancel);
@@ -233,7 +230,7 @@ void frmPreferences::Combo1_Click()
             return;
         m_host.library.cdtDraw(picBacks->freshPicture(m_host.cardSize), 0, 0,
                                firstBack + Combo1->currentIndex(), drawBack, whiteColour);
-        picBacks->setAccessibleName(tr("Card back %1").arg(Combo1->currentText()));
+        picBacks->setAccessibleName(QString("Card back %1").arg(Combo1->currentText()));
         picBacks->update();
     });
 }
@@ -242,8 +239,8 @@ void frmPreferences::cmdChangeColor_Click()
 {
     QColorDialog chooser(
         colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
-    chooser.setObjectName(QStringLiteral("CommonDialog1"));
-    chooser.setWindowTitle(tr("Colour of the hold outline"));
+    chooser.setObjectName("CommonDialog1");
+    chooser.setWindowTitle("Colour of the hold outline");
     if (chooser.exec() != QDialog::Accepted)
         return;
     m_host.preferences.prfCardOutlineColor =
@@ -254,12 +251,10 @@ void frmPreferences::cmdChangeColor_Click()
 
 void frmPreferences::showOutlineColour()
 {
-    QPalette colours = lblColor->palette();
     const QColor colour =
         colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
-    colours.setColor(QPalette::Window, colour);
-    lblColor->setPalette(colours);
-    lblColor->setAccessibleName(tr("Hold outline colour %1").arg(colour.name()));
+    setColour(*lblColor, QPalette::Window, colour);
+    lblColor->setAccessibleName(QString("Hold outline colour %1").arg(colour.name()));
 }
 
 void frmPreferences::HScroll1_Change()

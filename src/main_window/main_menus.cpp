@@ -37,33 +37,29 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption)
 
 void makeMenus(frmMain& window)
 {
-    const auto tr = [](const char* caption) { return frmMain::tr(caption); };
     QMenuBar& bar = *window.menuBar();
     bar.setNativeMenuBar(false);
-    QMenu& game = *addMenu(bar, QStringLiteral("mnuGame"), tr("&Game"));
-    addEntry(game, QStringLiteral("mnuPoker"), tr("Play &Video Poker"), window,
-             &frmMain::mnuPoker_Click);
-    addEntry(game, QStringLiteral("mnuPref"), tr("Preferences"), window, &frmMain::mnuPref_Click);
+    QMenu& game = *addMenu(bar, "mnuGame", "&Game");
+    addEntry(game, "mnuPoker", "Play &Video Poker", window, &frmMain::mnuPoker_Click);
+    addEntry(game, "mnuPref", "Preferences", window, &frmMain::mnuPref_Click);
     auto* style = new IndicatorStyle;
     style->setParent(&game);
     game.setStyle(style);
-    game.addSeparator()->setObjectName(QStringLiteral("mnuSeparator"));
-    addEntry(game, QStringLiteral("mnuExit"), tr("E&xit"), window, &frmMain::mnuExit_Click);
+    game.addSeparator()->setObjectName("mnuSeparator");
+    addEntry(game, "mnuExit", "E&xit", window, &frmMain::mnuExit_Click);
 
-    QMenu& sites = *addMenu(bar, QStringLiteral("mnuCasinoSites"), tr("Casino Games"));
+    QMenu& sites = *addMenu(bar, "mnuCasinoSites", "Casino Games");
     int index = 0;
     for (const char* caption : {"Video Poker", "BlackJack", "Roulette", "Craps", "Slots"}) {
-        addEntry(sites, QStringLiteral("mnuSites%1").arg(index), tr(caption), window,
+        addEntry(sites, QString("mnuSites%1").arg(index), caption, window,
                  [&window, index] { window.mnuSites_Click(index); });
         ++index;
     }
 
-    QMenu& help = *addMenu(bar, QStringLiteral("mnuHelp"), tr("&Help"));
-    addEntry(help, QStringLiteral("mnuContents"), tr("&Contents"), window,
-             &frmMain::mnuContents_Click)
+    QMenu& help = *addMenu(bar, "mnuHelp", "&Help");
+    addEntry(help, "mnuContents", "&Contents", window, &frmMain::mnuContents_Click)
         ->setShortcut(QKeySequence::HelpContents);
-    addEntry(help, QStringLiteral("mnuAbout"), tr("About Quillet"), window,
-             &frmMain::mnuAbout_Click);
+    addEntry(help, "mnuAbout", "About Quillet", window, &frmMain::mnuAbout_Click);
 }
 
 } // namespace quillet

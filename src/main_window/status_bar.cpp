@@ -1,5 +1,6 @@
 #include "main_window/status_bar.h"
 
+#include "main_window/designed_look.h"
 #include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"
 #include "platform/click_tracker.h"
@@ -22,7 +23,7 @@ constexpr QPoint hotSpot{12, 9};
 
 bool countsDevicePixels(const QString& platform)
 {
-    return platform == QLatin1String("xcb");
+    return platform == "xcb";
 }
 
 } // namespace
@@ -33,34 +34,28 @@ QPoint pointerTip(double scale, const QString& platform)
 }
 
 StatusBar::StatusBar(QWidget* parent)
-    : QWidget(parent), m_lblstatus(new QLabel(tr("Welcome to Quillet"), this))
+    : QWidget(parent), m_lblstatus(new QLabel("Welcome to Quillet", this))
 {
-    setObjectName(QStringLiteral("picStatusBar"));
+    setObjectName("picStatusBar");
     presentAsLink(*this);
-    setAccessibleName(tr("Status bar, opens the web site"));
+    setAccessibleName("Status bar, opens the web site");
     setFixedSize(static_cast<int>(statusBarWidth),
                  static_cast<int>(statusBarDesignedHeight / designTwips));
     connect(new ClickTracker(*this), &ClickTracker::clicked, this, &StatusBar::clicked);
     makePointer();
 
     new ClickTracker(*m_lblstatus); // keeps its clicks from the bar
-    m_lblstatus->setObjectName(QStringLiteral("lblstatus"));
+    m_lblstatus->setObjectName("lblstatus");
     m_lblstatus->setTextFormat(Qt::PlainText);
     m_lblstatus->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    QFont font(QStringLiteral("MS Sans Serif"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(12);
-    font.setBold(true);
-    m_lblstatus->setFont(font);
+    m_lblstatus->setFont(designedFont(12, true));
     m_lblstatus->setGeometry(117, 21, 215, 16);
     setTextColour(QColor(0xff, 0xff, 0xc0));
 }
 
 void StatusBar::setTextColour(const QColor& colour)
 {
-    QPalette colours = m_lblstatus->palette();
-    colours.setColor(QPalette::WindowText, colour);
-    m_lblstatus->setPalette(colours);
+    setColour(*m_lblstatus, QPalette::WindowText, colour);
 }
 
 void StatusBar::centreText()
@@ -70,7 +65,7 @@ void StatusBar::centreText()
 
 void StatusBar::makePointer()
 {
-    const QImage drawn(QStringLiteral(":/pointer/hand@2x.png"));
+    const QImage drawn(":/pointer/hand@2x.png");
     if (drawn.isNull()) {
         setCursor(Qt::PointingHandCursor);
         return;

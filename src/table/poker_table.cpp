@@ -77,7 +77,7 @@ void PokerTable::makePlaces()
     for (const Slot slot : allSlots) {
         auto* place = new PictureBox(m_canvas);
         picPoker[slot] = place;
-        place->setObjectName(QStringLiteral("picPoker%1").arg(slot));
+        place->setObjectName(QString("picPoker%1").arg(slot));
         place->setFocusPolicy(Qt::TabFocus);
         presentAsCheckBox(*place);
         connect(place, &PictureBox::mouseDown, this, [this, slot] { emit cardPressed(slot); });

@@ -30,7 +30,6 @@ public:
     [[nodiscard]] double scale() const { return m_kept.scale(); }
 
     void setPersistentImage(bool on);
-    [[nodiscard]] bool persistentImage() const { return m_persistentImage; }
 
     [[nodiscard]] const Surface& kept() const { return m_kept; }
     // What is drawn on while the persistent image is on.

@@ -167,7 +167,6 @@ TEST(PokerTable, aFlightThatBreaksOffLeavesATableThatCanBePlayedOn)
     game.window->prfAnimationDelay = 3'000'000;
     table.flyCardTo(2);
     EXPECT_EQ(game.errors.texts, std::vector<std::string>{"Error in AnimateCard  Overflow"});
-    EXPECT_TRUE(table.canvas().persistentImage());
     EXPECT_TRUE(shows(game, 2, 65));
     EXPECT_EQ(game.part("picPoker2").accessibleName(), "Card 3: face down");
     auto& deck = control<PictureBox>(*game.window, "picDeal0");

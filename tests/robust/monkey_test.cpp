@@ -171,7 +171,6 @@ private:
             lit += window->chart().state(row) != ChartRowState::base;
         EXPECT_LE(lit, 1);
         EXPECT_EQ(std::ranges::count(store.log, '='), 0) << "settings are stored at the end";
-        EXPECT_TRUE(control<TableCanvas>(*window, "table").persistentImage());
         if (m_depth == 0) {
             EXPECT_FALSE(window->handState().handBusy) << "nothing is running";
             EXPECT_TRUE(control<PictureBox>(*window, "picDeal0").isShowing());

@@ -5,9 +5,7 @@
 namespace quillet::artwork
 {
 
-// A hand that points up, 32 units square. The fingertip is the hot spot.
-inline constexpr QPoint handHotSpot{12, 9};
-
+// A hand that points up, 32 units square. StatusBar knows its fingertip.
 [[nodiscard]] Canvas pointingHand(double scale);
 
 } // namespace quillet::artwork
