@@ -1,10 +1,10 @@
 #include "main_window/frm_preferences.h"
 
 #include "cards/card_numbers.h"
-#include "main_window/animation_speed.h"
 #include "main_window/back_preview.h"
 #include "main_window/designed_look.h"
 #include "platform/desktop_colours.h"
+#include "table/animation_speed.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

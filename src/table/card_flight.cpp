@@ -1,9 +1,9 @@
 #include "table/card_flight.h"
 
+#include "table/animation_speed.h"
 #include "table/counting_loop.h"
 #include "table/picture_box.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -35,15 +35,6 @@ int frameCount(std::int16_t pixels, std::int16_t stepSize)
         throw pixels > 0 ? divisionByZeroError() : overflowError();
     return roundHalfToEven(
         static_cast<double>(static_cast<float>(pixels) / static_cast<float>(stepSize)));
-}
-
-// The delay with which a flight counts. One that is slower than the slider can set comes out of an
-// edited settings file and would stop the game for hours, since no event is handled during a
-// flight; beyond longestDelay it stays, and counting throws.
-std::int32_t delayFlown(std::int32_t storedDelay)
-{
-    constexpr std::int32_t slowestOfTheSlider = 6000;
-    return storedDelay <= longestDelay ? std::min(storedDelay, slowestOfTheSlider) : storedDelay;
 }
 
 } // namespace
@@ -104,7 +95,7 @@ void CardFlight::AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int3
             exactMinor += minorStep;
             minor = static_cast<std::int32_t>(std::floor(exactMinor));
             drawFrame(fromX, fromY, path, cardNumber, drawMode);
-            countingLoop(delayFlown(m_preferences.prfAnimationDelay));
+            countingLoop(effectiveDelay(m_preferences.prfAnimationDelay));
         }
         land(toX, toY, cardNumber, drawMode);
     });

@@ -17,10 +17,10 @@ constexpr double bannerSlow = 0.5;  // below this, the banner's delay still rise
 constexpr std::int32_t step = 10;
 
 // A machine whose rounds agree with one another needs two or three.
-constexpr int mostRounds = 6;
+constexpr int maxRounds = 6;
 
 // A broken cost must not overflow the delay.
-constexpr int mostSteps = 100'000;
+constexpr int maxSteps = 100'000;
 
 // Looks for the first of the delays start, start + 10, ... whose round takes at least the limit.
 class Search
@@ -35,7 +35,7 @@ public:
     // Leaves the delay found; returns how long its round takes, measured or computed.
     double run(const MeasureRound& measure)
     {
-        for (int round = 0; round < mostRounds && m_enough != m_tooFew + 1; ++round) {
+        for (int round = 0; round < maxRounds && m_enough != m_tooFew + 1; ++round) {
             const int steps = likelySteps(m_enough - 1);
             m_delay = m_start + steps * step;
             const std::optional<double> took = measure(m_delay);
@@ -76,7 +76,7 @@ private:
     const double m_base; // seconds of a round without a step
     double m_stepCost;   // seconds that a step adds to it
     int m_tooFew = -1;
-    int m_enough = mostSteps + 1; // no round has been, so far
+    int m_enough = maxSteps + 1; // no round has been, so far
     double m_enoughTook = 0.0;
 };
 
@@ -98,13 +98,6 @@ void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRo
         return;
     if (Search(delay, bannerRound, cost).run(measure) < bannerSlow)
         delay += step;
-}
-
-std::int16_t scrollValueFor(std::int32_t flightDelay)
-{
-    if (flightDelay >= 0 && flightDelay <= 500)
-        return static_cast<std::int16_t>(1000 - flightDelay);
-    return flightDelay >= 501 && flightDelay <= 750 ? 400 : 250;
 }
 
 } // namespace quillet

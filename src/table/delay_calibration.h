@@ -26,7 +26,4 @@ void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRo
 // adds another ten if it took less than 0.5 s.
 void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure);
 
-// The position of the speed slider, 0..1000, for a calibrated flight delay.
-[[nodiscard]] std::int16_t scrollValueFor(std::int32_t flightDelay);
-
 } // namespace quillet

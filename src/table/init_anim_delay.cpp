@@ -1,6 +1,7 @@
 #include "table/init_anim_delay.h"
 
 #include "cards/card_numbers.h"
+#include "table/animation_speed.h"
 #include "table/counting_loop.h"
 #include "table/delay_calibration.h"
 
