@@ -14,7 +14,7 @@ namespace quillet
 namespace
 {
 
-// How far a frame's copy reaches past the card, over the place that the card has left.
+// How far a frame's copy extends past the card, over the place that it has left.
 constexpr int trail = 10;
 
 std::int32_t roundHalfToEven(double value)
@@ -39,8 +39,8 @@ int frameCount(std::int16_t pixels, std::int16_t stepSize)
 
 } // namespace
 
-// The longer axis moves by whole steps, the other follows in fractions. Equal distances count as
-// a path along y that moves both axes alike.
+// The longer axis moves by whole steps, the other by fractions. If the distances are equal, y is
+// the longer axis.
 struct CardFlight::Path {
     Path(std::int32_t fromX, std::int32_t fromY, std::int32_t x, std::int32_t y)
         : toX(x), toY(y), movingDown(y > fromY), movingRight(!movingDown && fromX < x)
@@ -67,7 +67,7 @@ struct CardFlight::Path {
     std::int32_t toX;
     std::int32_t toY;
     bool movingDown;
-    bool movingRight; // not looked at while moving down
+    bool movingRight; // unused while moving down
     bool alongX = false;
     double stepX = 0.0;
     double stepY = 0.0;

@@ -11,8 +11,8 @@
 namespace quillet
 {
 
-// Flies one card over the painted table. No event is handled during a flight; its speed rests on
-// prfAnimationDelay. The referenced objects outlive the flight.
+// Flies one card over the painted table. No event is handled during a flight. Its speed depends on
+// prfAnimationDelay. The referenced objects must outlive the flight.
 class CardFlight
 {
 public:
@@ -23,9 +23,9 @@ public:
     {
     }
 
-    // Moves the card stepSize pixels of the longer axis a frame and leaves picAnimate's picture
-    // at (toX, toY), on the display only. fromX and fromY end at the last frame's position. All
-    // in logical pixels. Errors are shown in a box; the flight ends there.
+    // Moves the card by stepSize pixels of the longer axis in each frame and leaves it at
+    // (toX, toY), on the display only. fromX and fromY end at the position of the last frame. All
+    // in logical pixels. An error is shown in a box and ends the flight.
     void AnimateCard(std::int32_t& fromX, std::int32_t& fromY, std::int32_t toX, std::int32_t toY,
                      std::int16_t stepSize, std::int32_t cardNumber, std::int32_t drawMode);
 
@@ -47,7 +47,7 @@ private:
     Surface BoardBuffer; // the table with the flying card
     Surface picBuffer;   // the table under the card
     Surface picAnimate;  // the card where it lands
-    QRect m_lastFrame;   // where the card lies on the display, in device pixels
+    QRect m_lastFrame;   // where the card is on the display, in device pixels
 };
 
 } // namespace quillet

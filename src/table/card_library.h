@@ -26,15 +26,15 @@ public:
     // With cards of another size, in logical pixels.
     explicit CardLibrary(QSize cardSize);
 
-    // Makes the library ready and tells the card size in logical pixels.
+    // Makes the library ready and returns the card size in logical pixels.
     void cdtInit(std::int32_t& width, std::int32_t& height);
 
-    // Begins to draw a back on a thread, before it is needed at this scale.
+    // Starts to draw a back on a thread, before it is needed at this scale.
     void expectBack(std::int32_t backNumber, double scale);
 
-    // Paints a face or a back with its top left corner at (x, y); for a back that does not exist
-    // the usual one, for any other number nothing. The corners let what is there
-    // show through. Throws RunTimeError outside cdtInit and cdtTerm.
+    // Paints a face or a back with its top left corner at (x, y). An unknown back is drawn as the
+    // default back; other unknown numbers draw nothing. The round corners are transparent. Throws
+    // RunTimeError before cdtInit and after cdtTerm.
     void cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int32_t cardNumber,
                  std::int32_t drawMode, std::uint32_t backgroundColour);
 

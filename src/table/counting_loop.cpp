@@ -14,9 +14,8 @@ void countingLoop(std::int32_t delay)
         passes < std::numeric_limits<std::int32_t>::min())
         throw overflowError();
 
-    // A bare counter takes so little time, and so differently from one processor to the next,
-    // that no setting of the speed slider would fit. Eight multiply-adds that wait for one another
-    // take about the same time everywhere.
+    // The time of a bare counter is too short and differs too much between processors for the speed
+    // slider. Eight dependent multiply-adds take about the same time everywhere.
     static volatile std::uint64_t sink = 1;
     std::uint64_t value = sink;
     for (std::int64_t pass = 1; pass <= passes; ++pass) {

@@ -32,7 +32,7 @@ public:
     {
     }
 
-    // Leaves the delay found; returns how long its round takes, measured or computed.
+    // Sets the delay found and returns how long its round takes, measured or estimated.
     double run(const MeasureRound& measure)
     {
         for (int round = 0; round < maxRounds && m_enough != m_tooFew + 1; ++round) {
@@ -51,7 +51,7 @@ public:
 private:
     void note(int steps, double took)
     {
-        // Longer rounds are measured more closely, so the longest one tells the cost of a step.
+        // Longer rounds are measured more exactly, so the longest one gives the cost of a step.
         if (steps > 0 && took > m_base)
             m_stepCost = (took - m_base) / steps;
         if (took < m_limit) {
@@ -62,7 +62,7 @@ private:
         }
     }
 
-    // What the cost makes likely, but more than is known to be too few, and max at most.
+    // The number of steps estimated from the cost, above those known to be too few, at most max.
     [[nodiscard]] int likelySteps(int max) const
     {
         const double missing = std::max(m_limit - m_base, 0.0);
@@ -76,7 +76,7 @@ private:
     const double m_base; // seconds of a round without a step
     double m_stepCost;   // seconds that a step adds to it
     int m_tooFew = -1;
-    int m_enough = maxSteps + 1; // no round has been, so far
+    int m_enough = maxSteps + 1; // no round took long enough so far
     double m_enoughTook = 0.0;
 };
 
@@ -90,8 +90,8 @@ void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRo
 
 void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure)
 {
-    // It starts from a stored value, which may be any: without a pass to count, or with far more
-    // than a round can take, the outcome is certain.
+    // The stored start value may be anything. If it counts no pass, or far more than a round can
+    // take, the result is known without measuring.
     if (delay < 0 && cost.seconds < bannerRound)
         delay %= step;
     if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= longestDelay)

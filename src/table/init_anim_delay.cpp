@@ -73,8 +73,7 @@ void DelayMeter::InitAnimDelay(const TableMeasures& table)
     });
 }
 
-// Other programs make the next round take as much longer than its processor time as they did so
-// far.
+// Assumes that other programs slow the next round down as much as the rounds so far.
 std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>& round)
 {
     const std::int64_t now = m_clock.milliseconds();

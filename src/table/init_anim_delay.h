@@ -14,8 +14,8 @@
 namespace quillet
 {
 
-// Measures this machine, so that cards fly at the same speed everywhere. It measures the time that
-// this thread spends on a processor: other programs' work is not the machine's speed.
+// Measures this machine, so that cards fly at the same speed everywhere. It measures the processor
+// time of this thread, which the work of other programs does not change.
 class DelayMeter
 {
 public:
@@ -29,7 +29,7 @@ public:
     void InitAnimDelay(const TableMeasures& table);
 
 private:
-    // Nothing when the round would probably end too late.
+    // Runs a round, or returns nothing if the round would probably end too late.
     [[nodiscard]] std::optional<double> whileTimeIsLeft(const std::function<double()>& round);
     // Seconds taken by a round of frames, with this delay.
     [[nodiscard]] double secondsTaken(const std::function<void()>& frames);

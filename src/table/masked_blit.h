@@ -7,7 +7,7 @@
 namespace quillet
 {
 
-// In logical pixels of the source; right and bottom lie outside.
+// In logical pixels of the source; right and bottom are exclusive.
 struct PixelRect {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -15,13 +15,13 @@ struct PixelRect {
     std::int32_t bottom = 0;
 };
 
-// The whole of a picture, its sides rounded to whole pixels.
+// The whole picture, rounded to whole pixels.
 [[nodiscard]] PixelRect wholeOf(const Surface& picture);
 
-// Copies the source rectangle to the destination, but where the source has exactly the
-// transparent colour (0x00BBGGRR) the background picture shows, which may be the destination
-// itself. Clipped to all three pictures; a rectangle turned over is empty. Throws RunTimeError for
-// a width or height beyond 16 bits.
+// Copies the source rectangle to the destination. Pixels of exactly the transparent colour
+// (0x00BBGGRR) are taken from the background picture instead, which may be the destination itself.
+// Clipped to all three pictures; inverted rectangles are empty. Throws RunTimeError for a width or
+// height beyond 16 bits.
 void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
                 const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor);
 

@@ -13,9 +13,8 @@ namespace quillet
 
 class TableCanvas;
 
-// A picture that lies on the table: a card place or a deck picture. As a widget it takes the
-// clicks, the keyboard focus and the accessible name; its picture is painted by the canvas, which
-// knows its exact device pixels.
+// A picture on the table: a card place or a deck picture. As a widget it has the clicks, the
+// keyboard focus and the accessible name. The canvas paints its picture at exact device pixels.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -24,8 +23,8 @@ class PictureBox : public QWidget
 public:
     explicit PictureBox(TableCanvas& canvas);
 
-    // In logical pixels of the table. Its corner is rounded to whole ones, on which a card lands
-    // at every scale. A new size or scale gives a new, black picture.
+    // In logical pixels of the table. The corner is rounded to whole ones, where a flying card
+    // lands at every scale. A new size or scale gives a new, black picture.
     void place(const QRectF& place, double scale);
     [[nodiscard]] const QRectF& place() const { return m_place; }
     [[nodiscard]] QRect devicePlace() const;
@@ -36,13 +35,13 @@ public:
     // Copies the table behind the box into it and keeps a copy, for the rounded corners of what
     // is painted later.
     void copyTableBehind();
-    // Takes off whatever was painted.
+    // Removes everything painted since then.
     void restoreTableBehind();
 
     // Puts the picture on the display now if the box is showing.
     void refresh();
-    // From the next frame on. A box that does not show is neither painted nor clicked. It stays a
-    // visible widget, so that the keyboard focus does not wander off with every flight.
+    // From the next frame on. A box that is not showing is neither painted nor clicked. It stays a
+    // visible widget, so that it keeps the keyboard focus during flights.
     void setShowing(bool showing);
     [[nodiscard]] bool isShowing() const { return m_showing; }
 

@@ -17,9 +17,9 @@ namespace quillet
 namespace
 {
 
-constexpr qint64 mostPixels = 16'000'000;
-constexpr qint64 largestFile = 4 * mostPixels + 100'000; // as a bitmap, with its head
-constexpr int longestSide = 8192; // a window cannot be longer than a few screens
+constexpr qint64 maxPixels = 16'000'000;
+constexpr qint64 maxFileSize = 4 * maxPixels + 100'000; // as a bitmap, with its head
+constexpr int maxSide = 8192; // a window cannot be longer than a few screens
 constexpr double normalDensity = 96.0;
 constexpr double metresPerInch = 0.0254;
 
@@ -31,8 +31,7 @@ double pixelRatio(double dotsPerInch)
     return marked ? whole : 1.0;
 }
 
-// Dots an inch by the head of a JPEG file, which is known before anything is decoded; 0 for
-// another file, or where the head does not say.
+// Dots per inch in the header of a JPEG file, known before decoding; 0 if unknown.
 double densityInHead(const QByteArray& head)
 {
     constexpr qsizetype length = 18;
@@ -61,7 +60,7 @@ bool isComplete(const QByteArray& file)
 LoadedPicture loadPictureFile(const QString& path, double scale)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > maxFileSize)
         throw RunTimeError("Invalid picture: " + path.toStdString());
     QByteArray bytes = file.readAll();
     // Checked first, because decoders complain on stderr.
@@ -70,11 +69,11 @@ LoadedPicture loadPictureFile(const QString& path, double scale)
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
-    // Of the file's head; nothing is decoded yet. A bitmap stored from the top down has a negative
+    // From the header; nothing is decoded yet. A bitmap stored from the top down has a negative
     // height.
     const QSize size(reader.size().width(), std::abs(reader.size().height()));
-    if (qint64{size.width()} * size.height() > mostPixels ||
-        std::max(size.width(), size.height()) > longestSide)
+    if (qint64{size.width()} * size.height() > maxPixels ||
+        std::max(size.width(), size.height()) > maxSide)
         throw RunTimeError("Picture too large: " + path.toStdString());
     const QSize shown = (size * (scale / pixelRatio(densityInHead(bytes))));
     if (shown.width() < size.width())

@@ -22,7 +22,7 @@ namespace
 
 static_assert(usualBackFace == defaultBack);
 
-// The places of a held card's marks, in device pixels.
+// Where the marks of a held card are, in device pixels.
 struct HoldMarker {
     HoldMarker(const QRectF& card, double scale)
         : width(deviceSize(3, scale)),
@@ -180,7 +180,7 @@ void PokerTable::takeAway(Slot slot)
 
 void PokerTable::flyCardTo(Slot slot)
 {
-    // The deck's picture in the table is what is seen during the flight.
+    // During the flight the deck is part of the table.
     showDeck();
     const std::int32_t backNumber = m_preferences.prfPKBackFace;
     const QPoint from = (m_pile.top().place().topLeft() + flyingCardOffset).toPoint();
@@ -189,7 +189,7 @@ void PokerTable::flyCardTo(Slot slot)
     std::int32_t y = from.y();
     m_flight.AnimateCard(x, y, to.x(), to.y(), 1, backNumber, drawBack);
 
-    // A flight that broke off has left the table to be drawn on directly, and the deck hidden.
+    // After an error in the flight, drawing still goes to the display, and the deck is hidden.
     m_canvas.setPersistentImage(true);
     m_pile.top().setShowing(true);
     show(slot, {CardOnTable::Side::back, backNumber, false});
@@ -279,17 +279,16 @@ void PokerTable::describe(Slot slot)
     place.setAccessibleName(spokenCard(slot, m_cards[slot], m_held[slot]));
 }
 
-// Everything is painted again with the pixels of the display that the table has come to. The
-// hand goes on.
+// Paints everything again at the scale of the display that the table is on now.
 void PokerTable::followScale()
 {
     if (m_closed)
         return;
-    // A flight may have been the first to paint in the new pixels, and of them only its own.
+    // A flight may already have painted part of the window at the new scale.
     m_canvas.presentWholeWindowWithNextFrame();
     if (m_canvas.scale() == m_canvas.devicePixelRatioF())
         return;
-    // A picture that has been spoiled meanwhile stays as it was read.
+    // If the file has become unreadable, the loaded picture stays.
     guarded(m_errorBox, "followScale",
             [this] { m_background.reload(m_canvas.devicePixelRatioF()); });
     makePictures();

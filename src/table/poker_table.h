@@ -23,22 +23,22 @@ class QPainter;
 namespace quillet
 {
 
-// The painted table with all that lies on it: what every place shows, looks like and is called,
-// and how cards get there. It tells what is clicked, and answers those who play on it.
+// The painted table with everything on it: what each card place shows, how it looks and what
+// screen readers call it, and how cards get there. It reports clicks and knows nothing of the game.
 class PokerTable : public QObject, public CardTable
 {
     Q_OBJECT
 
 public:
     // The canvas is a child of the parent. The preferences may change at any time; they and the
-    // error box outlive the table.
+    // error box must outlive the table.
     PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent);
 
-    // The widget to look at; chart and status bar lie on it.
+    // The table's widget; parent of chart and status bar.
     [[nodiscard]] TableCanvas& canvas() { return m_canvas; }
-    // Is to be open (cdtInit) before anything is painted.
+    // Must be open (cdtInit) before anything is painted.
     [[nodiscard]] CardLibrary& library() { return m_library; }
-    // The place of a card that has the keyboard.
+    // The slot of the card that has the keyboard focus.
     [[nodiscard]] std::optional<Slot> focusedSlot() const;
 
     [[nodiscard]] const LoadedPicture& background() const { return m_background.picture(); }
@@ -49,13 +49,13 @@ public:
     // See TableBackground.
     [[nodiscard]] bool loadBackground(const QString& path);
 
-    // Sizes the canvas; all places follow from the measures at the next painting.
+    // Sizes the canvas. The places are computed from the measures at the next painting.
     void setMeasures(const TableMeasures& measures);
     [[nodiscard]] const TableMeasures& measures() const { return m_measures; }
     void makePictures();
     // Before the first game.
     void paintFirstTable();
-    // Paints everything anew for a game: no card, the deck in place.
+    // Paints everything again for a game: no card, the deck in place.
     void resetGraphics();
     // Paints the pile in the chosen back.
     void DrawDealDeck();
@@ -64,7 +64,7 @@ public:
     // Measures the speed of flights and of a banner; see DelayMeter.
     void measureDelays(Preferences& preferences, Clock& clock, std::function<void()> afterRound);
 
-    // The program is about to end; nothing is painted any more.
+    // The program is about to end; nothing is painted from now on.
     void close();
 
     [[nodiscard]] bool isCardShowing(Slot slot) const override;

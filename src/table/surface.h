@@ -8,13 +8,13 @@
 namespace quillet
 {
 
-// The one place that rounds logical to device pixels. A position is rounded by itself and a size
-// by itself, so that equal cards are equally large wherever they lie.
+// The only place that rounds logical to device pixels. Position and size are rounded separately, so
+// that equal cards have the same size everywhere.
 [[nodiscard]] int deviceOrigin(double position, double scale);
 [[nodiscard]] int deviceSize(double size, double scale);
 [[nodiscard]] QRect deviceRect(const QRectF& logical, double scale);
 
-// An off-screen picture. Its interface speaks logical pixels, its buffer holds device pixels.
+// An off-screen picture. Its interface uses logical pixels, its buffer holds device pixels.
 // Copies are clipped; a rectangle outside the picture is no error.
 class Surface
 {
@@ -29,14 +29,14 @@ public:
     [[nodiscard]] const QImage& image() const { return m_image; }
 
     void fill(const QColor& colour);
-    // Empties it; what is not painted on shows whatever it is drawn over.
+    // Clears it. Parts that are not painted stay transparent.
     void makeTransparent();
 
     // Copies a rectangle of this size from the source, pixel by pixel.
     void copyFrom(const Surface& source, QPointF from, QSizeF size, QPointF to);
-    // The same in device pixels, which need no rounding.
+    // The same in device pixels, without rounding.
     void copyPixels(const Surface& source, const QRect& from, QPoint to);
-    // Paints a picture whose pixels are device pixels, its transparent parts left out.
+    // Paints a picture in device pixels, with its transparency.
     void drawPixels(const QImage& pixels, QPointF to);
     // For pixel operations of our own, in device pixels.
     [[nodiscard]] QImage& pixels() { return m_image; }

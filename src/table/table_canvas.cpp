@@ -10,8 +10,8 @@ namespace quillet
 namespace
 {
 
-// One pixel more all round: device pixels do not end where logical ones do.
-QRect withItsEdge(const QRectF& rect)
+// One pixel more on each side, as device pixels do not end where logical ones do.
+QRect expandedByEdge(const QRectF& rect)
 {
     return rect.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
@@ -51,17 +51,17 @@ void TableCanvas::refresh()
 
 void TableCanvas::present(const QRectF& rect)
 {
-    repaint(withItsEdge(rect));
+    repaint(expandedByEdge(rect));
 }
 
 void TableCanvas::presentWithNextFrame(const QRectF& rect)
 {
-    update(withItsEdge(rect));
+    update(expandedByEdge(rect));
 }
 
 void TableCanvas::presentWholeWindowWithNextFrame()
 {
-    // The toolkit takes opaque widgets for painted unless each is asked.
+    // Qt skips opaque child widgets unless each is updated.
     for (QWidget* widget : window()->findChildren<QWidget*>())
         widget->update();
 }
@@ -77,7 +77,7 @@ void TableCanvas::copyBoxesTo(Surface& surface) const
 void TableCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    // From here on the painter counts device pixels of the pictures.
+    // From here on the painter works in device pixels of the pictures.
     const double scale = m_screen.scale();
     if (scale != devicePixelRatioF())
         QMetaObject::invokeMethod(this, &TableCanvas::scaleChanged, Qt::QueuedConnection);

@@ -13,10 +13,10 @@ namespace quillet
 
 class PictureBox;
 
-// The painted table. It has a kept picture, from which it repaints itself, and a screen picture,
-// which is what the player sees. With the persistent image on, drawing goes to the kept picture
-// and a refresh shows it; with it off, drawing goes to the display at once and is lost at the
-// next refresh. The picture boxes on the table lie over both.
+// The painted table. It has a kept picture and a screen picture, which is what the player sees.
+// With the persistent image on, drawing goes to the kept picture and a refresh shows it. With it
+// off, drawing goes to the display at once and is lost at the next refresh. The picture boxes on
+// the table are painted over both.
 class TableCanvas : public QWidget
 {
     Q_OBJECT
@@ -32,12 +32,12 @@ public:
     void setPersistentImage(bool on);
 
     [[nodiscard]] const Surface& kept() const { return m_kept; }
-    // What is drawn on while the persistent image is on.
+    // For drawing while the persistent image is on.
     [[nodiscard]] Surface& keptForDrawing() { return m_kept; }
 
-    // Copies these device pixels, each to its own place, to where drawing goes at present.
+    // Copies these device pixels to the same place in the picture that drawing goes to.
     void copyPixels(const Surface& source, const QRect& place);
-    // The kept picture becomes what the player sees, now.
+    // Shows the kept picture now.
     void refresh();
     // Repaints the rectangle on the display now, or with the next frame that is presented.
     void present(const QRectF& rect);
@@ -45,11 +45,11 @@ public:
     // The next frame is the whole window, and not only what has changed.
     void presentWholeWindowWithNextFrame();
 
-    // The card in flight: these device pixels of the screen picture lie over the boxes until the
-    // persistent image is on again.
+    // For the flying card: paints these device pixels of the screen picture over the boxes until
+    // the persistent image is on again.
     void liftOverBoxes(const QRect& place) { m_lifted = place; }
 
-    // What is painted over the boxes, such as hold outlines. The painter counts device pixels.
+    // Painted over the boxes, such as hold outlines. The painter works in device pixels.
     using OverlayPainter = std::function<void(QPainter& painter, double scale)>;
     void setOverlays(OverlayPainter overlays) { m_overlays = std::move(overlays); }
 
@@ -58,7 +58,7 @@ public:
     void copyBoxesTo(Surface& surface) const;
 
 signals:
-    // The display's pixels have become smaller or larger than those of the pictures.
+    // The display now has another scale than the pictures.
     void scaleChanged();
 
 protected:
@@ -69,7 +69,7 @@ private:
     Surface m_screen;
     bool m_persistentImage = true;
     std::optional<QRect> m_lifted;
-    std::vector<PictureBox*> m_boxes; // children; the table never loses one
+    std::vector<PictureBox*> m_boxes; // children; never removed
     OverlayPainter m_overlays;
 };
 

@@ -10,7 +10,7 @@
 namespace quillet
 {
 
-// What the places on the table follow from, in logical pixels.
+// The sizes from which the places on the table are computed, in logical pixels.
 struct TableMeasures {
     double innerWidth = 0;
     double innerHeight = 0;
@@ -37,12 +37,12 @@ struct FramePlace {
     friend bool operator==(const FramePlace&, const FramePlace&) = default;
 };
 
-// The name of a piece's file below frame/, without its end.
+// The name of a piece's file below frame/, without extension.
 [[nodiscard]] const char* fileName(FramePiece piece);
 
-// What each card of the pile keeps from the one below it.
+// Offset between cards of the pile.
 inline constexpr QPoint pileStep{2, 1};
-// What the flying card keeps from the deck's top left corner.
+// Offset of the flying card from the deck's top left corner.
 inline constexpr QPointF flyingCardOffset{8, 4};
 
 [[nodiscard]] QSizeF deckSize(const TableMeasures& table);
@@ -53,11 +53,11 @@ inline constexpr QPointF flyingCardOffset{8, 4};
 [[nodiscard]] QRectF firstDeckPlace(const TableMeasures& table);
 [[nodiscard]] std::vector<FramePlace> firstFrame(const TableMeasures& table);
 
-// Places of a table that is played on; the card row hangs from the deck.
+// Places during a game; the card row is aligned with the deck.
 [[nodiscard]] QRectF rejectPlace(const TableMeasures& table);
 [[nodiscard]] QRectF deckPlace(const TableMeasures& table);
 [[nodiscard]] std::array<QRectF, 5> cardPlaces(const TableMeasures& table);
-// In the order of painting: later pieces lie over earlier ones.
+// In painting order: later pieces cover earlier ones.
 [[nodiscard]] std::vector<FramePlace> tableFrame(const TableMeasures& table);
 // The piece along the chart's left edge.
 [[nodiscard]] FramePlace chartFrame(const TableMeasures& table);

@@ -92,8 +92,8 @@ void TablePainter::placeCards(const TableMeasures& table)
         m_cards[slot]->place(places[slot], m_canvas.scale());
 }
 
-// The bar is black. From its end to the chart there is the wood of the table's lower right corner,
-// which the chart hides. Both go under the rails, which are painted later.
+// The bar is black. From its end to the chart there is the wood of the lower right corner, which
+// the chart hides. The rails, painted later, cover the edges of both.
 void TablePainter::paintAroundStatusBar(const TableMeasures& table)
 {
     Surface& kept = m_canvas.keptForDrawing();
@@ -116,8 +116,8 @@ void TablePainter::paintFrame(const std::vector<FramePlace>& frame)
             place.rect.topLeft());
 }
 
-// A post has two gilt edges, of which the right one is that of the frame's left piece. Above and
-// below it the wood of the rails goes on. One lies along the chart, a short one ends the bar.
+// A post has two gilt edges; the right one is that of the frame's left piece. The wood of the rails
+// continues above and below it. One post is beside the chart, a short one at the end of the bar.
 void TablePainter::paintPosts(const TableMeasures& table)
 {
     constexpr double railWood = 9; // logical pixels of a rail's height, up to its gilt
