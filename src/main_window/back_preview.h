@@ -7,7 +7,7 @@
 namespace quillet
 {
 
-// Shows one card back on the dialog's own ground.
+// Shows one card back on the dialog's background.
 class BackPreview : public QWidget
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ class BackPreview : public QWidget
 public:
     explicit BackPreview(QWidget* parent);
 
-    // A fresh picture of this card size, in logical pixels, to be painted and then refreshed.
+    // A new picture of this card size, in logical pixels. Paint it, then call update().
     [[nodiscard]] Surface& freshPicture(QSize cardSize);
 
 signals:
-    // The picture lies on a display of another scale now, and is to be painted anew.
+    // The display now has another scale; the picture must be painted again.
     void scaleChanged();
 
 protected:

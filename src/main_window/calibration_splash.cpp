@@ -11,7 +11,7 @@ namespace quillet
 namespace
 {
 
-constexpr int usualRounds = 8;
+constexpr int expectedRounds = 8;
 
 } // namespace
 
@@ -26,7 +26,7 @@ CalibrationSplash::CalibrationSplash()
     layout->addWidget(new QLabel("Measuring this computer, so that cards fly\n"
                                  "at the right speed. This happens once.",
                                  this));
-    m_progress->setRange(0, usualRounds);
+    m_progress->setRange(0, expectedRounds);
     m_progress->setTextVisible(false);
     layout->addWidget(m_progress);
 }

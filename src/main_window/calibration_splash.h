@@ -7,7 +7,7 @@ class QProgressBar;
 namespace quillet
 {
 
-// Shows on the first start that the program measures the machine.
+// Shown on the first start, while the program measures the machine.
 class CalibrationSplash : public QWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class CalibrationSplash : public QWidget
 public:
     CalibrationSplash();
 
-    // One more round has been measured; lets events run.
+    // Call after each measured round. Handles events.
     void advance();
 
 private:

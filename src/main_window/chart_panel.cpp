@@ -65,7 +65,7 @@ QLabel* ChartPanel::addCounter(const QString& captionName, const QString& captio
 {
     const int centre =
         static_cast<int>(std::lround((captionLeft + captionWidth / 2) / designTwips));
-    // The value's spoken name has the caption in it.
+    // The accessible name of the value includes the caption.
     QLabel* captionLabel = whiteLabel(this, captionName, caption, false, Reader::doesNotHear);
     captionLabel->setGeometry(border + centre - counterWidth / 2, border - 2, counterWidth, 16);
     QLabel* value = whiteLabel(this, valueName, "0", true, Reader::hears);
@@ -89,7 +89,7 @@ void ChartPanel::layoutChartRows()
     fitRowFont();
 }
 
-// The largest size up to the designed one at which every caption fits its row.
+// Uses the largest size, up to the designed one, at which every caption fits its row.
 void ChartPanel::fitRowFont()
 {
     const int rowHeight = m_rows[chartRows - 1]->height();
@@ -122,7 +122,7 @@ void ChartPanel::showCounters(const Counters& counters)
         if (label->accessibleName() == spoken)
             return; // a reader would say it again
         label->setText(QString::number(value));
-        // A deal charges just before flights that handle no events.
+        // A deal is charged just before flights, which handle no events.
         label->repaint();
         label->setAccessibleName(spoken);
     };

@@ -13,17 +13,17 @@ namespace quillet
 
 class ChartRow;
 
-// The strategy chart beside the table, with the three counters above it. It shows the chart's
-// state and has no handling of its own.
+// The strategy chart beside the table, with the three counters above it. Display only; takes no
+// input.
 class ChartPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    // The chart outlives the panel.
+    // The chart must outlive the panel.
     ChartPanel(StrategyChart& chart, QWidget* parent);
 
-    // Lays the rows out for the panel's present height.
+    // Lays the rows out for the panel's current height.
     void layoutChartRows();
     void showCounters(const Counters& counters);
 

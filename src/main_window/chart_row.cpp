@@ -14,7 +14,7 @@ namespace quillet
 namespace
 {
 
-constexpr double leastContrast = 3.0;
+constexpr double minContrast = 3.0;
 
 // An arrow for the best play, a cross for the missed one, a diamond for a win.
 QPainterPath markFor(ChartRowState state)
@@ -88,9 +88,9 @@ QColor ChartRow::textColour() const
 {
     if (m_colours.text != windowTextColour)
         return colourOf(m_colours.text);
-    // Not the row's own palette, which follows the black panel.
+    // The row's own palette follows the black panel, so it is not used.
     const QColor fromDesktop = QGuiApplication::palette().color(QPalette::WindowText);
-    const bool readable = contrast(fromDesktop, colourOf(m_colours.background)) >= leastContrast;
+    const bool readable = contrast(fromDesktop, colourOf(m_colours.background)) >= minContrast;
     return readable ? fromDesktop : QColor(Qt::black);
 }
 

@@ -7,8 +7,8 @@
 namespace quillet
 {
 
-// One row of the chart: centred text on its colour. A lit row also carries a mark, so that
-// colour is not the only sign.
+// One row of the chart: centred text on its colour. A lit row also has a mark, so that colour is
+// not the only sign.
 class ChartRow : public QLabel
 {
     Q_OBJECT

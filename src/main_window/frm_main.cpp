@@ -27,7 +27,7 @@ namespace quillet
 namespace
 {
 
-// No box may hold up the end of the session. If that does close the window, it reports the error.
+// Error boxes must not delay logout. If the window is closed after all, that reports the error.
 struct NoErrorBox : ErrorBox {
     void showError(const std::string&) override {}
 };
@@ -37,7 +37,7 @@ QString backgroundPath(const Surroundings& surroundings, const std::string& file
     return QString::fromStdString(surroundings.programFolder + "/pics/" + fileName);
 }
 
-// It stands where the game stood.
+// Centred over the game window.
 void showExitScreen(frmMain& window, const Surroundings& surroundings)
 {
     frmExitNoBanner screen(surroundings.pages);
@@ -70,7 +70,7 @@ frmMain::frmMain(Surroundings& surroundings)
       picStatusBar(new StatusBar(&m_table.canvas())),
       m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)
 {
-    // The one that nearly every player has is decoded while the window looks its fonts up.
+    // Nearly every player has this one. It is decoded while the window looks its fonts up.
     m_table.expectBackground(backgroundPath(m_surroundings, usualBackground));
     setObjectName("frmMain");
     setWindowTitle("Jacks or Better Quillet");
@@ -126,7 +126,8 @@ bool frmMain::Form_Load()
         }
         FirstInit();
     });
-    // A step may have shown its own error. Without a window nobody could play on, or end it.
+    // A step may have shown its own error. Without a visible window the process could not be
+    // closed.
     return built && (isVisible() || m_unloading);
 }
 
@@ -153,7 +154,7 @@ void frmMain::Form_Unload()
         m_table.close();
         savePreferences(*this, m_surroundings.store);
         hide();
-        // A desktop session that is ending does not wait for a farewell.
+        // A desktop session that is ending does not wait for the exit screen.
         if (!m_sessionEnd.isComing())
             showExitScreen(*this, m_surroundings);
     });
@@ -174,7 +175,7 @@ void frmMain::picDeal_Click(std::int16_t Index)
 
 void frmMain::picPoker_MouseDown(std::int16_t Index)
 {
-    // The next thing to hear may be that the hold is wrong, at once.
+    // The click may play the cue for a wrong hold immediately.
     m_cues.prepare();
     m_controller.picPoker_MouseDown(Index);
 }

@@ -24,17 +24,17 @@ class ChartPanel;
 class StatusBar;
 
 // The main window. It owns the running state (the preference fields, the hand, the counters) and
-// those who work on it; it lays itself out, forwards keys, clicks and menus, loads and saves.
+// the objects that work on it. It forwards keys, clicks and menus, and loads and saves.
 class frmMain : public QMainWindow, public Preferences, private GameScreen
 {
     Q_OBJECT
 
 public:
-    // Everything in the surroundings outlives the window.
+    // Everything in the surroundings must outlive the window.
     explicit frmMain(Surroundings& surroundings);
 
-    // Builds the running state, shows the window and deals the first hand. False when the
-    // window did not come to show, after an error that has been told; nothing is to be saved then.
+    // Builds the running state, shows the window and deals the first hand. Returns false if the
+    // window could not be shown, after an error that has been shown; then nothing may be saved.
     [[nodiscard]] bool Form_Load();
     // Saves the preferences, shows the exit screen and ends the process.
     void Form_Unload();

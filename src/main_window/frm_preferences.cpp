@@ -31,7 +31,7 @@ namespace quillet
 namespace
 {
 
-// Its first word lies below the left end of what is above it, its last below the right end.
+// Its first word is at its left end, its last word at its right end.
 class EndsLabel : public QLabel
 {
 public:
@@ -63,8 +63,8 @@ Control* add(QFrame& page, const QString& name, const QString& caption)
     return control;
 }
 
-// The list is as wide as the preview. Letters may become a little smaller for that, but where the
-// desktop's font is so large that this does not do, the list becomes wider.
+// Makes the list as wide as the preview, if necessary with a slightly smaller font. If that is not
+// enough, because the desktop's font is very large, the list becomes wider.
 void fitTo(QComboBox& list, int width)
 {
     QFont font = list.font();
@@ -108,7 +108,7 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     HScroll1->setSingleStep(1);
     HScroll1->setPageStep(50);
     HScroll1->setFocusPolicy(Qt::StrongFocus);
-    // As the toolkit makes them, the left arrow key moves a scroll bar to the right.
+    // By default, the left arrow key moves a horizontal scroll bar to the right.
     HScroll1->setInvertedControls(false);
     HScroll1->setAccessibleName("Animation Delay");
     caption->setBuddy(HScroll1);
@@ -185,8 +185,8 @@ bool frmPreferences::event(QEvent* event)
     if (event->type() == QEvent::Show && !m_activated) {
         m_activated = true;
         Form_Activate();
-        // The window takes its size for the card before it is seen. Its page, which is hidden, has
-        // told nobody of it.
+        // The dialog gets its size for the card before it is visible. A hidden page does not
+        // propagate its size.
         picBacks->parentWidget()->layout()->activate();
         SSTab1->updateGeometry();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
@@ -212,7 +212,7 @@ void frmPreferences::Form_Activate()
         showOutlineColour();
         QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
         chosen.setChecked(true);
-        // The tab key is to find the chosen one; the toolkit sees to it from the first focus on.
+        // Tab must reach the chosen one; Qt ensures this only after the first focus.
         for (QRadioButton* option : {opAlwaysShow, opShowOnError})
             option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
         ckAnimation->setChecked(now.prfAnimation);

@@ -37,13 +37,13 @@ struct PreferencesHost {
 };
 
 // The modal dialog for the preference fields. The outline colour and the animation delay take
-// effect at once, the rest at "Save"; the settings store is not its affair.
+// effect at once, the rest at "Save". It does not write the settings file.
 class frmPreferences : public QDialog
 {
     Q_OBJECT
 
 public:
-    // The host outlives the dialog.
+    // Everything in the host must outlive the dialog.
     frmPreferences(PreferencesHost host, QWidget* parent);
 
     void cmdSave_Click();

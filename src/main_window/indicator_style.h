@@ -6,9 +6,9 @@ namespace quillet
 {
 
 // Frames check boxes and option buttons, and draws the separators of menus, in the colour of the
-// text where the window is dark. Frames a scroll bar and its slider everywhere. The toolkit's own
-// style frames them in a shade of the window's colour, which cannot be seen on black. It also shows
-// no focus on a scroll bar.
+// text if the window is dark. Always frames a scroll bar and its slider. Qt's own style frames them
+// in a shade of the window's colour, which is invisible on black, and shows no focus on a scroll
+// bar.
 class IndicatorStyle : public QProxyStyle
 {
     Q_OBJECT

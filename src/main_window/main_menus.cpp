@@ -13,14 +13,13 @@ namespace quillet
 namespace
 {
 
-// The window's handler answers it.
 template <typename Handler>
 QAction* addEntry(QMenu& menu, const QString& name, const QString& caption, frmMain& window,
                   Handler handler)
 {
     QAction* entry = menu.addAction(caption);
     entry->setObjectName(name);
-    // The captions are to stay where they are, whatever the desktop thinks they mean.
+    // Otherwise some desktops move entries with certain captions to another menu.
     entry->setMenuRole(QAction::NoRole);
     QObject::connect(entry, &QAction::triggered, &window, handler);
     return entry;

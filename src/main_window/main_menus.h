@@ -5,7 +5,7 @@ namespace quillet
 
 class frmMain;
 
-// Makes the menus of the window, whose handlers answer them.
+// Makes the menus of the window, connected to its handlers.
 void makeMenus(frmMain& window);
 
 } // namespace quillet

@@ -6,8 +6,8 @@
 namespace quillet
 {
 
-// Where the finger tip is in the bar's pointer. X11 counts a pointer in device pixels, all other
-// platforms in logical ones.
+// The position of the fingertip in the bar's pointer. X11 uses device pixels, all other platforms
+// logical ones.
 [[nodiscard]] QPoint pointerTip(double scale, const QString& platform);
 
 // The bar under the table, black where the table is. A click on it opens a web page; a click on
@@ -20,9 +20,9 @@ public:
     explicit StatusBar(QWidget* parent);
 
     void setTextColour(const QColor& colour);
-    // Horizontally, in the bar's present width.
+    // Horizontally, in the bar's current width.
     void centreText();
-    // In the pixels of the present display.
+    // At the scale of the current display.
     void makePointer();
 
 signals:
