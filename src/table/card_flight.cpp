@@ -4,6 +4,7 @@
 #include "table/counting_loop.h"
 #include "table/picture_box.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -43,29 +44,19 @@ int frameCount(std::int16_t pixels, std::int16_t stepSize)
 // the longer axis.
 struct CardFlight::Path {
     Path(std::int32_t fromX, std::int32_t fromY, std::int32_t x, std::int32_t y)
-        : toX(x), toY(y), movingDown(y > fromY), movingRight(!movingDown && fromX < x)
+        : toX(x), movingDown(y > fromY), movingRight(!movingDown && fromX < x)
     {
-        const std::int64_t dx = std::abs(std::int64_t{fromX} - toX);
-        const std::int64_t dy = std::abs(std::int64_t{fromY} - toY);
-        alongX = dx > dy;
-        if (dx > dy) {
-            stepX = 1.0;
-            stepY = static_cast<double>(dy) / static_cast<double>(dx);
-        } else if (dx < dy) {
-            stepY = 1.0;
-            stepX = static_cast<double>(dx) / static_cast<double>(dy);
-        } else {
-            stepX = stepY = 1.0;
+        const std::int64_t dx = std::int64_t{x} - fromX;
+        const std::int64_t dy = std::int64_t{y} - fromY;
+        alongX = std::abs(dx) > std::abs(dy);
+        pixels = pixelsToTravel(std::max(std::abs(dx), std::abs(dy)));
+        if (pixels > 0) {
+            stepX = static_cast<double>(dx) / pixels;
+            stepY = static_cast<double>(dy) / pixels;
         }
-        if (fromX > toX)
-            stepX = -stepX;
-        if (fromY > toY)
-            stepY = -stepY;
-        pixels = pixelsToTravel(alongX ? dx : dy);
     }
 
     std::int32_t toX;
-    std::int32_t toY;
     bool movingDown;
     bool movingRight; // unused while moving down
     bool alongX = false;

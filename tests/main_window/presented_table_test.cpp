@@ -15,11 +15,6 @@ namespace quillet::test
 namespace
 {
 
-// A table with our frame, its deck in Sleeve backs.
-struct FramedTable : PaintedTable {
-    FramedTable(const LoadedPicture& background, double scale) { paint(background, scale); }
-};
-
 std::set<QRgb> coloursIn(const QImage& picture, const QRect& place)
 {
     std::set<QRgb> colours;
@@ -38,7 +33,8 @@ TEST(PresentedTable, railsPostsBarAndPileMeetAtEveryScale)
     for (const double scale : {1.0, 1.25, 1.35, 1.4, 1.5, 1.65, 1.7, 1.75, 1.9, 2.0, 2.35, 2.9}) {
         SCOPED_TRACE(scale);
         const auto at = [scale](double position) { return deviceOrigin(position, scale); };
-        FramedTable table({grey, grey.size()}, scale);
+        PaintedTable table;
+        table.paint({grey, grey.size()}, scale);
         const QImage& pile = table.pile.top().picture().image();
         QImage expected(pile.size(), pile.format());
         expected.fill(Qt::gray);
@@ -90,7 +86,8 @@ TEST(PresentedTable, aHandOnFourDisplaysLooksAsItShould)
         const QImage shown = game.picture();
         // A table that was painted for this display from the start looks the same.
         const auto& window = control<PokerTable>(*game.window, "pokerTable");
-        FramedTable fresh(window.background(), scale);
+        PaintedTable fresh;
+        fresh.paint(window.background(), scale);
         QImage now = shown.copy(deviceRect(game.placeOf("table"), scale));
         QImage still = fresh.canvas.kept().image();
         std::vector<std::string> covered{"picPokerLabels", "lblstatus", "picDeal0"};
