@@ -201,13 +201,14 @@ void Bankroll::playHand()
     for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
         const double share = m_hand.chance[outcome];
         const std::int64_t step = m_hand.pays[outcome] / m_unit - m_cost;
-        const auto from = static_cast<std::size_t>(std::max<std::int64_t>(m_cost, -step));
+        const std::int64_t first = std::max(m_cost, -step);
         const std::int64_t end = std::min(m_safe + 1, m_safe + 1 - step);
-        if (share <= 0)
+        if (share <= 0 || first >= end)
             continue;
-        double* const to = m_next.data() + step;
-        for (std::size_t units = from; std::cmp_less(units, end); ++units)
-            to[units] += share * m_chance[units];
+        const double* const from = m_chance.data() + first;
+        double* const to = m_next.data() + (first + step);
+        for (std::int64_t i = 0; i < end - first; ++i)
+            to[i] += share * from[i];
     }
     m_chance.swap(m_next);
     for (std::int64_t units = 0; units < m_cost; ++units) {
