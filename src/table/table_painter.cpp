@@ -42,6 +42,9 @@ void TablePainter::sizePictures(const TableMeasures& table, double scale)
     for (PictureBox* box : m_cards)
         box->place({box->place().topLeft(), card}, scale);
     m_pile.resize(deckSize(table), scale);
+    picReject.picture = Surface(rejectPileSize(table), scale);
+    picRejectBack.picture = Surface(rejectPileSize(table), scale);
+    picDealBack.picture = Surface(deckSize(table), scale);
     m_hatch = Surface(card, scale);
     m_hatch.fill(Qt::white);
     m_library.cdtDraw(m_hatch, 0, 0, hatchBack, drawBack, whiteColour);
@@ -61,7 +64,10 @@ void TablePainter::paintFirstTable(const TableMeasures& table)
     m_canvas.refresh();
     for (PictureBox* box : m_cards)
         box->copyTableBehind();
+    copyTableBehind(picReject, firstRejectPlace(table));
+    copyTableBehind(picRejectBack, firstRejectPlace(table));
     m_pile.place(firstDeckPlace(table));
+    copyTableBehind(picDealBack, firstDeckPlace(table));
 }
 
 void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
@@ -71,7 +77,9 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
         box->setShowing(false);
 
     paintBackground();
+    picReject.place = picRejectBack.place = rejectPlace(table);
     m_pile.place(deckPlace(table));
+    copyTableBehind(picDealBack, deckPlace(table));
     placeCards(table);
     paintAroundStatusBar(table);
     paintFrame(tableFrame(table));
@@ -81,6 +89,7 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
 
     m_pile.DrawDealDeck(backNumber);
     layHatches();
+    picReject.picture.copyFrom(picRejectBack.picture, {0, 0}, picReject.place.size(), {0, 0});
     m_pile.setShowing(true);
     m_canvas.refresh();
 }
@@ -162,6 +171,14 @@ void TablePainter::layHatches()
     for (const PictureBox* box : m_cards)
         MaskedBlit(table, table, m_hatch, wholeOf(m_hatch), box->place().x(), box->place().y(),
                    whiteColour);
+    for (OffScreenBox* back : {&picDealBack, &picRejectBack})
+        MaskedBlit(back->picture, back->picture, m_hatch, wholeOf(m_hatch), 0, 0, whiteColour);
+}
+
+void TablePainter::copyTableBehind(OffScreenBox& box, const QRectF& place)
+{
+    box.place = place;
+    box.picture.copyFrom(m_canvas.kept(), place.topLeft(), place.size(), {0, 0});
 }
 
 } // namespace quillet

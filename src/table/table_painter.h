@@ -14,6 +14,12 @@
 namespace quillet
 {
 
+// A picture off the screen with a place on the table.
+struct OffScreenBox {
+    QRectF place;
+    Surface picture;
+};
+
 // Paints the table: background, frame, deck and the hatched places of the cards.
 class TablePainter
 {
@@ -26,7 +32,7 @@ public:
     void sizePictures(const TableMeasures& table, double scale);
 
     void paintBackground();
-    // Before the first game: the frame and the deck.
+    // Before the first game: the frame, the deck and the reject pile, which never shows.
     void paintFirstTable(const TableMeasures& table);
     // Before each game: everything but the cards.
     void repaint(const TableMeasures& table, std::int32_t backNumber);
@@ -43,6 +49,7 @@ private:
     const QImage& stretched(const QImage& picture, QSize size);
     const QImage& framePiece(FramePiece piece) const;
     void layHatches();
+    void copyTableBehind(OffScreenBox& box, const QRectF& place);
 
     TableCanvas& m_canvas;
     const LoadedPicture& m_background;
@@ -52,6 +59,9 @@ private:
     std::future<std::array<QImage, 4>> m_decodedPieces; // until they are first needed
     std::array<QImage, 4> m_framePieces;                // by FramePiece
     Surface m_hatch;
+    OffScreenBox picReject;
+    OffScreenBox picRejectBack;
+    OffScreenBox picDealBack; // the table behind the deck
 
     // By picture and size: stretching takes longer than all other painting.
     using StretchKey = std::tuple<qint64, int, int>;
