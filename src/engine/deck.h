@@ -13,14 +13,14 @@ namespace quillet
 // position slot + 5 is that slot's replacement, the rest never leaves the deck.
 using PokerDeck = std::array<std::int16_t, 52>;
 
-// Where the shuffle takes its chances from.
+// Random numbers for the shuffle.
 class RandomSource
 {
 public:
     virtual ~RandomSource() = default;
 
-    // Blends the time of day into the state; it does not restart the sequence, so that two calls
-    // within one tick of the clock lead to different draws.
+    // Mixes the time of day into the state. It does not restart the sequence, so two calls
+    // within one tick of the clock give different draws.
     virtual void reseed() = 0;
 
     // Uniform in [0, 1), with at least 24 bits.
@@ -30,7 +30,7 @@ public:
 // The cards in the order of their numbers.
 [[nodiscard]] PokerDeck buildDeck();
 
-// Builds the deck anew and shuffles it.
+// Shuffles a new deck.
 void shuffleDeck(PokerDeck& deck, RandomSource& random);
 
 // Where the deck of each hand comes from.
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] virtual PokerDeck nextDeck() = 0;
 };
 
-// The decks of the game. The source of chances outlives them.
+// The decks of the game. The random source must outlive this.
 class ShuffledDecks : public DeckSource
 {
 public:

@@ -7,7 +7,7 @@
 namespace quillet
 {
 
-// What a player sees around the cards, and the time in which to see it.
+// Everything on the screen except the cards, and the pauses.
 class GameScreen
 {
 public:
@@ -18,8 +18,8 @@ public:
     // Step 1..25 of the status text's fade from black.
     virtual void fadeStatusText(int step) = 0;
     virtual void showCounters(const Counters& counters) = 0;
-    // Waits for so many milliseconds. Other events run before this returns: any state may have
-    // changed. May return early when the hand state's epoch has changed.
+    // Waits this many milliseconds. Other events run before this returns, so any state may have
+    // changed. May return early if the hand state's epoch has changed.
     virtual void shortDelay(std::int32_t delayTime) = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace quillet
 {
 
-// What a player learns of a hand from the coach, who shows it on the chart.
+// The verdicts of the coach, shown on the chart.
 class HandCoach
 {
 public:
@@ -17,7 +17,7 @@ public:
     virtual void highlightWinner(std::int16_t playCode) = 0;
     // After a deal: lights its best play if the player wants to see it.
     virtual void showBestPlay(std::int16_t playCode) = 0;
-    // Whether the hold may be drawn to. If not, the chart shows the play that was missed.
+    // Returns whether the hold is correct. If not, the chart shows the missed play.
     [[nodiscard]] virtual bool acceptHold(const HandState& state) = 0;
 };
 

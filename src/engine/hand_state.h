@@ -12,7 +12,7 @@ namespace quillet
 // The hand on the table. The legal combinations of the flags:
 //   handDealt  handBusy
 //   false      false     no hand: the deck deals
-//   false      true      dealing, drawing or paying: the deck and the cards are deaf
+//   false      true      dealing, drawing or paying: clicks are ignored
 //   true       false     waiting for the draw: cards toggle their holds, the deck asks to draw
 // Hold flags are set only while a hand waits for the draw; a draw leaves them as they were.
 struct HandState {
@@ -26,7 +26,7 @@ struct HandState {
     bool dealReversed = false; // the next deal fills the slots right to left
 
     // Raised when a deal or a game starts, at unload and after an error. A sequence that finds
-    // another value after a pause has been overtaken and ends there.
+    // another value after a pause ends there.
     std::uint32_t epoch = 0;
 };
 

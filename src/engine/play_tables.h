@@ -33,7 +33,7 @@ constexpr unsigned lane(SuitLanes lanes, unsigned suit)
     return static_cast<std::uint16_t>(lanes >> (laneBits * suit));
 }
 
-// The bit of a card. Any rank and suit may be asked; those of no deck give some bit or other.
+// The bit of a card. Any rank and suit may be asked; values outside the deck give an arbitrary bit.
 constexpr SuitLanes laneBit(unsigned rank, unsigned suit)
 {
     return SuitLanes{1} << ((suit * laneBits + rank) % 64);
@@ -80,7 +80,7 @@ constexpr CodeOfRankSet codesOfOneSuit(bool finalHand)
     return codes;
 }
 
-// What the rows ask of ranks that stand more than once, one bit for each question.
+// Properties of repeated ranks, one bit each.
 namespace shape
 {
 inline constexpr unsigned pair = 1;
@@ -99,7 +99,7 @@ inline constexpr unsigned highRanks = [] {
     return set;
 }();
 
-// Which ranks stand at least twice, thrice, four times.
+// The ranks that occur at least twice, three times, four times.
 struct Repeats {
     unsigned twice = 0;
     unsigned thrice = 0;

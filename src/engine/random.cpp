@@ -33,11 +33,11 @@ BlendingRandom::BlendingRandom(std::function<std::uint64_t()> clock, std::uint64
 void BlendingRandom::reseed()
 {
     m_state[0] += scrambled(m_clock());
-    // The one state that never leaves itself.
+    // All zeros is the fixed point of the generator.
     if (m_state == std::array<std::uint64_t, 4>{})
         m_state[0] = 1;
-    // A word of the state shows in the draws only after a step; without it the first draw after
-    // a reseed would not know the time yet.
+    // The changed word reaches the draws only after a step. Without this one, the first draw after
+    // a reseed would not depend on the time.
     advance();
 }
 

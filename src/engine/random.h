@@ -9,8 +9,8 @@
 namespace quillet
 {
 
-// The generator xoshiro256**, whose 256 bits of state take up the clock at every reseed. With
-// the same seed and a clock that tells the same times it gives the same draws.
+// The generator xoshiro256**, with the clock mixed into its 256 bits of state at each reseed. With
+// the same seed and the same clock readings it gives the same draws.
 class BlendingRandom : public RandomSource
 {
 public:

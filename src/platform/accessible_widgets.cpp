@@ -25,7 +25,7 @@ public:
     }
 };
 
-// Something with one thing to do.
+// A widget with a single action.
 class AccessibleActor : public QAccessibleWidget
 {
 public:

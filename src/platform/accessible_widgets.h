@@ -5,7 +5,7 @@
 namespace quillet
 {
 
-// What our own widgets are to a screen reader. To be said before anyone asks for the widget.
+// The roles of our own widgets for screen readers. Call these before a reader asks for the widget.
 
 // Its content is heard elsewhere.
 void hideFromReaders(QWidget& widget);

@@ -15,7 +15,7 @@ bool FileExists(const std::string& thePath)
         return false;
     std::error_code error;
     const auto length = std::filesystem::file_size(thePath, error);
-    // What may not be read cannot be had.
+    // An unreadable file counts as missing.
     return !error && length > 0 && ::faccessat(AT_FDCWD, thePath.c_str(), R_OK, AT_EACCESS) == 0;
 }
 

@@ -3,9 +3,9 @@
 namespace quillet
 {
 
-// What the window's size is reckoned with. Sizes in pixels, conversions in twips per pixel: 15 on
-// a normal screen, 12 on a large-font screen. The toolkit scales by itself, so the desktop's own
-// screens always count as normal ones.
+// The metrics for computing the size of the window. Sizes in pixels, conversions in twips per
+// pixel: 15 on a normal screen, 12 on a large-font screen. The toolkit scales by itself, so the
+// desktop's own screens always count as normal ones.
 struct ScreenMetrics {
     double twipsPerPixelX = 15;
     double twipsPerPixelY = 15;

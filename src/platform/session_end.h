@@ -18,10 +18,10 @@ class SessionEnd : public QObject
     Q_OBJECT
 
 public:
-    // Saves whatever is to last as soon as the end is announced. The clock outlives this.
+    // Calls save when the end of the session is announced. The clock must outlive this.
     SessionEnd(Clock& clock, std::function<void()> save);
 
-    // An announced end that does not come has been called off.
+    // False again if the session outlives the announcement by a minute.
     [[nodiscard]] bool isComing() const;
 
 private:

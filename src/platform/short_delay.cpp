@@ -21,7 +21,7 @@ void shortDelay(std::int32_t delayTime, const std::function<bool()>& cutShort)
     waker.setTimerType(Qt::PreciseTimer);
     waker.setSingleShot(true);
     while (!deadline.hasExpired()) {
-        // Armed anew in each turn: a pause within this one may have used up its timeout.
+        // Started again in each turn: a pause within this one may have used up its timeout.
         waker.start(static_cast<int>(deadline.remainingTime()));
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         if (cutShort && cutShort())

@@ -14,7 +14,7 @@ void showAndWaitUntilExposed(QWidget& window)
     if (window.isVisible())
         return;
     window.show();
-    // Its timeout is an event, too, which ends the last waiting for one.
+    // Its timeout is an event, so it also ends the wait below.
     QTimer patience;
     patience.setSingleShot(true);
     patience.start(longestExposure);

@@ -15,11 +15,11 @@ namespace quillet
 // lines, keys that nobody asked for, line ends, a byte order mark.
 //
 // Every text can be a section, key or value. What would be misread is escaped: \n \r \t \\ and
-// \xHH for a byte. A backslash before anything else stands for itself, for a person's sake.
+// \xHH for a byte. Any other backslash is itself, to be kind to hand-edited files.
 class SettingsText
 {
 public:
-    // Nothing when a line is of no known kind, or the bytes are not plain UTF-8 text.
+    // Returns nothing if a line has no known form or the bytes are not plain UTF-8 text.
     [[nodiscard]] static std::optional<SettingsText> parse(std::string_view bytes);
 
     // In the order of the file.

@@ -96,7 +96,7 @@ StoredFile readFile(const QString& path)
     return {FileState::good, std::move(*text), {}};
 }
 
-// Folders of the user's configuration are for the user's eyes.
+// Only the user may read the folders of the configuration.
 bool makeFolder(const QString& path)
 {
     if (QFileInfo(path).isDir())
@@ -116,11 +116,11 @@ void take(QLockFile& lock, const QString& path)
     if (lock.error() == QLockFile::LockFailedError)
         fail(path, QStringLiteral("Another program is holding its lock"));
     fail(path, lock.error() == QLockFile::PermissionError
-                   ? QStringLiteral("The folder does not allow it")
+                   ? QStringLiteral("The folder is not writable")
                    : QStringLiteral("Its lock cannot be written; the disk may be full"));
 }
 
-// Gives the file the first free of its spare names, and answers it; empty when that fails.
+// Renames the file to its first free spare name and returns that; empty on failure.
 QString moveAside(const QString& path)
 {
     for (int number = 1; number < 1000; ++number) {
@@ -131,7 +131,7 @@ QString moveAside(const QString& path)
     return {};
 }
 
-// What a save writes first. One that was killed leaves it behind for the next to write over.
+// A save writes this file first. An interrupted save leaves it, and the next overwrites it.
 QString temporaryName(const QString& path)
 {
     return path + ".new";
@@ -146,7 +146,7 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
     const auto removed = qScopeGuard([&file] { file.remove(); });
     if (QFile::exists(path))
         file.setPermissions(QFile::permissions(path));
-    // A nearly full disk takes a part first; only the next write tells what is wrong.
+    // A nearly full disk first accepts part of the data; the next write reports the error.
     auto rest = QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size()));
     while (!rest.isEmpty()) {
         const qint64 written = file.write(rest.data(), rest.size());
@@ -164,7 +164,7 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
     if (keepOld) {
         aside = moveAside(path);
         if (aside.isEmpty())
-            fail(path, QStringLiteral("The damaged file there cannot be kept aside"));
+            fail(path, QStringLiteral("The damaged file cannot be moved aside"));
     }
     if (::rename(QFile::encodeName(file.fileName()), QFile::encodeName(path)) != 0) {
         const QString cause = QString::fromLocal8Bit(std::strerror(errno));

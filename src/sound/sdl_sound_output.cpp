@@ -37,7 +37,7 @@ public:
     {
         {
             const std::lock_guard lock(m_mutex);
-            // To be ready is less than a cue that waits already.
+            // A prepare request never replaces a waiting cue.
             if (!request.path.empty() || !m_request)
                 m_request = std::move(request);
         }

@@ -11,7 +11,7 @@ class SoundOutput
 public:
     virtual ~SoundOutput() = default;
 
-    // A cue will follow soon: opens what it takes, which may last a second with a wireless speaker.
+    // A cue will follow soon: opens the device, which may take a second with a wireless speaker.
     virtual void prepare() = 0;
 
     // Starts the file at this path and cuts off the one still playing. A file that cannot be
