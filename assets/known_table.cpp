@@ -25,10 +25,10 @@ int main(int argc, char** argv)
         return 2;
     }
     TextFileStore store(QString::fromLocal8Bit(argv[1]));
-    store.save({{"prfAnimationDelay", "60"}, // quick cards
-                {"prfSound", "False"},
-                {"prfPokerAutoDeal", "False"},
-                {"prfShowPokerPlay", "False"}});
+    store.save({{"Quillet", "Preferences", "prfAnimationDelay", "60"}, // quick cards
+                {"Quillet", "Preferences", "prfSound", "False"},
+                {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
+                {"Quillet", "Preferences", "prfShowPokerPlay", "False"}});
     BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;

@@ -26,11 +26,11 @@ class Photographer
 public:
     explicit Photographer(const QString& folder) : m_folder(folder)
     {
-        m_store.save({{"prfAnimationDelay", "300"},
-                      {"prfAnimation", "False"},
-                      {"prfSound", "False"},
-                      {"prfPokerAutoDeal", "False"},
-                      {"prfShowPokerPlay", "False"}});
+        m_store.save({{"Quillet", "Preferences", "prfAnimationDelay", "300"},
+                      {"Quillet", "Preferences", "prfAnimation", "False"},
+                      {"Quillet", "Preferences", "prfSound", "False"},
+                      {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
+                      {"Quillet", "Preferences", "prfShowPokerPlay", "False"}});
     }
 
     bool run()

@@ -44,9 +44,9 @@ void hand(benchmark::State& state)
 {
     const QTemporaryDir config;
     TextFileStore store(config.path());
-    store.save({{"prfAnimationDelay", std::to_string(state.range(0))},
-                {"prfPokerAutoDeal", "False"},
-                {"prfSound", "False"}});
+    store.save({{"Quillet", "Preferences", "prfAnimationDelay", std::to_string(state.range(0))},
+                {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
+                {"Quillet", "Preferences", "prfSound", "False"}});
     BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;

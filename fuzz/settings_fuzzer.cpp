@@ -15,6 +15,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const std::string value(text.substr(0, size / 2));
     settings->setValue(value, "key", text);
     const auto again = SettingsText::parse(settings->bytes());
-    fuzz::require(again && readSetting(again->settings(value), "key", "") == text);
+    fuzz::require(again &&
+                  readSetting(again->settings("Quillet"), "Quillet", value, "key", "") == text);
     return 0;
 }

@@ -12,17 +12,23 @@ namespace quillet
 namespace
 {
 
+constexpr const char* application = "Quillet";
+constexpr const char* section = "Preferences";
+
 constexpr std::int32_t outlineGreen = 0x0000FF00;
 
 // Reads the stored settings, which it loads once.
 class Reader
 {
 public:
-    explicit Reader(const SettingsStore& store) : m_store(store), m_settings(store.load()) {}
+    explicit Reader(const SettingsStore& store)
+        : m_store(store), m_settings(store.load(application))
+    {
+    }
 
     [[nodiscard]] std::string text(const std::string& key, const std::string& defaultText) const
     {
-        return readSetting(m_settings, key, defaultText);
+        return readSetting(m_settings, application, section, key, defaultText);
     }
 
     [[nodiscard]] bool truth(const std::string& key) const { return text(key, "True") != "False"; }
@@ -35,7 +41,7 @@ public:
         try {
             return rule(text(key, defaultText));
         } catch (const RunTimeError& error) {
-            throw RunTimeError(key + ": " + error.what() + " in " + m_store.location());
+            throw RunTimeError(key + ": " + error.what() + " in " + m_store.location(application));
         }
     }
 
@@ -92,7 +98,7 @@ void savePreferences(const Preferences& preferences, SettingsStore& store)
 {
     Settings settings;
     const auto text = [&settings](const char* key, std::string value) {
-        writeSetting(settings, key, std::move(value));
+        writeSetting(settings, application, section, key, std::move(value));
     };
     const auto number = [&text](const char* key, std::int32_t value) {
         text(key, std::to_string(value));

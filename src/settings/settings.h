@@ -8,22 +8,35 @@
 namespace quillet
 {
 
-// Keys with their texts (UTF-8), in the order in which they are written.
-using Settings = std::vector<std::pair<std::string, std::string>>;
+// A text (UTF-8) and where it is stored.
+struct Setting {
+    std::string application;
+    std::string section;
+    std::string key;
+    std::string text;
+};
+
+// In the order in which they are written.
+using Settings = std::vector<Setting>;
 
 // The text of the key, which may be empty, or the default text if the key does not exist. If a key
 // occurs twice, the last one counts.
-[[nodiscard]] inline std::string readSetting(const Settings& settings, const std::string& key,
+[[nodiscard]] inline std::string readSetting(const Settings& settings,
+                                             const std::string& application,
+                                             const std::string& section, const std::string& key,
                                              const std::string& defaultText)
 {
-    const auto found = std::find_if(settings.rbegin(), settings.rend(),
-                                    [&key](const auto& setting) { return setting.first == key; });
-    return found == settings.rend() ? defaultText : found->second;
+    const auto found = std::find_if(settings.rbegin(), settings.rend(), [&](const Setting& each) {
+        return each.application == application && each.section == section && each.key == key;
+    });
+    return found == settings.rend() ? defaultText : found->text;
 }
 
-inline void writeSetting(Settings& settings, std::string key, std::string text)
+inline void writeSetting(Settings& settings, std::string application, std::string section,
+                         std::string key, std::string text)
 {
-    settings.emplace_back(std::move(key), std::move(text));
+    settings.push_back(
+        {std::move(application), std::move(section), std::move(key), std::move(text)});
 }
 
 } // namespace quillet

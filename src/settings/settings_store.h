@@ -13,15 +13,15 @@ class SettingsStore
 public:
     virtual ~SettingsStore() = default;
 
-    // Empty where no settings can be read.
-    [[nodiscard]] virtual Settings load() const = 0;
+    // All settings of an application; none where they cannot be read.
+    [[nodiscard]] virtual Settings load(const std::string& application) const = 0;
 
-    // Stores these settings together and keeps all others. Throws RunTimeError on failure; then
-    // everything stays as it was.
+    // Stores these settings of one application together and keeps all others. Throws RunTimeError
+    // on failure; then everything stays as it was.
     virtual void save(const Settings& settings) = 0;
 
     // For error messages: the file that the player may have to repair.
-    [[nodiscard]] virtual std::string location() const = 0;
+    [[nodiscard]] virtual std::string location(const std::string& application) const = 0;
 };
 
 } // namespace quillet

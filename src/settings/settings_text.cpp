@@ -155,12 +155,12 @@ std::optional<SettingsText::Line> SettingsText::parseLine(std::string_view raw,
     return line;
 }
 
-Settings SettingsText::settings(std::string_view section) const
+Settings SettingsText::settings(const std::string& application) const
 {
     Settings result;
     for (const Line& line : m_lines)
-        if (line.key && line.section == section)
-            writeSetting(result, *line.key, line.value);
+        if (line.key)
+            writeSetting(result, application, line.section, *line.key, line.value);
     return result;
 }
 

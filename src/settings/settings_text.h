@@ -22,8 +22,8 @@ public:
     // Returns nothing if a line has no known form or the bytes are not plain UTF-8 text.
     [[nodiscard]] static std::optional<SettingsText> parse(std::string_view bytes);
 
-    // In the order of the file.
-    [[nodiscard]] Settings settings(std::string_view section) const;
+    // As those of this application, in the order of the file.
+    [[nodiscard]] Settings settings(const std::string& application) const;
     // Leaves the line as it is if it has this value already.
     void setValue(const std::string& section, const std::string& key, std::string_view value);
 

@@ -24,7 +24,6 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr const char* section = "Preferences";
 constexpr qint64 maxFileBytes = 1'048'576;
 
 // A save takes milliseconds, and the player is waiting for the window to close.
@@ -180,17 +179,19 @@ TextFileStore::TextFileStore() : TextFileStore(userConfigFolder()) {}
 
 TextFileStore::TextFileStore(QString configFolder) : m_configFolder(std::move(configFolder)) {}
 
-Settings TextFileStore::load() const
+Settings TextFileStore::load(const std::string& application) const
 {
-    return readFile(filePath()).text.settings(section);
+    return readFile(filePath(application)).text.settings(application);
 }
 
 void TextFileStore::save(const Settings& settings)
 {
-    const QString path = filePath();
+    if (settings.empty())
+        return;
+    const QString path = filePath(settings.front().application);
     const auto merged = [&settings](SettingsText text) {
-        for (const auto& [key, value] : settings)
-            text.setValue(section, key, value);
+        for (const Setting& setting : settings)
+            text.setValue(setting.section, setting.key, setting.text);
         return text.bytes();
     };
     // Nothing has changed for most players who close the window.
@@ -211,14 +212,15 @@ void TextFileStore::save(const Settings& settings)
     replace(path, bytes, stored.state == FileState::broken);
 }
 
-std::string TextFileStore::location() const
+std::string TextFileStore::location(const std::string& application) const
 {
-    return filePath().toStdString();
+    return filePath(application).toStdString();
 }
 
-QString TextFileStore::filePath() const
+QString TextFileStore::filePath(const std::string& application) const
 {
-    return behindLinks(m_configFolder + "/Quillet/settings.ini");
+    return behindLinks(m_configFolder + "/" + QString::fromStdString(application) +
+                       "/settings.ini");
 }
 
 } // namespace quillet

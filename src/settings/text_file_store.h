@@ -7,7 +7,8 @@
 namespace quillet
 {
 
-// Keeps the settings in a text file, <config folder>/Quillet/settings.ini.
+// Keeps the settings of each application in a text file, <config
+// folder>/<application>/settings.ini.
 //
 // Loading creates nothing, and a file that is no settings text has no settings. Saving merges into
 // the file under a lock and replaces it as a whole. It moves a file that is no settings text aside
@@ -19,12 +20,12 @@ public:
     TextFileStore();
     explicit TextFileStore(QString configFolder);
 
-    [[nodiscard]] Settings load() const override;
+    [[nodiscard]] Settings load(const std::string& application) const override;
     void save(const Settings& settings) override;
-    [[nodiscard]] std::string location() const override;
+    [[nodiscard]] std::string location(const std::string& application) const override;
 
 private:
-    [[nodiscard]] QString filePath() const;
+    [[nodiscard]] QString filePath(const std::string& application) const;
 
     QString m_configFolder;
 };

@@ -13,19 +13,25 @@ namespace quillet::test
 class MemoryStore : public SettingsStore
 {
 public:
-    [[nodiscard]] Settings load() const override { return {texts.begin(), texts.end()}; }
+    [[nodiscard]] Settings load(const std::string& application) const override
+    {
+        Settings settings;
+        for (const auto& [key, text] : texts)
+            writeSetting(settings, application, "Preferences", key, text);
+        return settings;
+    }
 
     void save(const Settings& settings) override
     {
         if (fails)
             throw RunTimeError("Disk full");
-        for (const auto& [key, text] : settings) {
-            log += key + "=" + text + " ";
-            texts[key] = text;
+        for (const Setting& setting : settings) {
+            log += setting.key + "=" + setting.text + " ";
+            texts[setting.key] = setting.text;
         }
     }
 
-    [[nodiscard]] std::string location() const override { return "memory"; }
+    [[nodiscard]] std::string location(const std::string&) const override { return "memory"; }
 
     std::map<std::string, std::string> texts;
     std::string log;

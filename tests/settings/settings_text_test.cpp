@@ -33,7 +33,7 @@ SettingsText parsed(std::string_view bytes)
 
 std::string value(const SettingsText& text, const std::string& section, const std::string& key)
 {
-    return readSetting(text.settings(section), key, "missing");
+    return readSetting(text.settings("Quillet"), "Quillet", section, key, "missing");
 }
 
 } // namespace

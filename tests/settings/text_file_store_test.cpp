@@ -66,14 +66,14 @@ protected:
 
     [[nodiscard]] std::string read(const std::string& key) const
     {
-        return readSetting(store.load(), key, "default");
+        return readSetting(store.load("Quillet"), "Quillet", "Preferences", key, "default");
     }
 
     // Saves one setting and returns what the store threw.
     std::string write(const std::string& key, const std::string& text)
     {
         try {
-            store.save({{key, text}});
+            store.save({{"Quillet", "Preferences", key, text}});
             return "";
         } catch (const RunTimeError& error) {
             return error.what();
@@ -108,7 +108,7 @@ TEST_F(TextFileStoreTest, textsLastAndAnEmptyOneIsNotMissing)
     EXPECT_EQ(read("k"), "default");
     EXPECT_FALSE(QDir(m_home.filePath("config")).exists());
 
-    store.save({{"k", "a=b\n"}, {"empty", ""}});
+    store.save({{"Quillet", "Preferences", "k", "a=b\n"}, {"Quillet", "Preferences", "empty", ""}});
     EXPECT_EQ(read("k"), "a=b\n");
     EXPECT_EQ(read("empty"), "");
     EXPECT_EQ(fileText(), "[Preferences]\nk=a=b\\n\nempty=\n");
@@ -144,7 +144,9 @@ TEST_F(TextFileStoreTest, aFullDiskLeavesTheOldFileWhole)
         EXPECT_THAT(write("k", std::string(5000, 'x')),
                     testing::AllOf(testing::StartsWith("The settings cannot be stored in /"),
                                    HasSubstr(bytes > 0 ? "File too large" : "disk")));
-        EXPECT_THROW(store.save({{"k", "new"}, {"l", std::string(5000, 'x')}}), RunTimeError);
+        EXPECT_THROW(store.save({{"Quillet", "Preferences", "k", "new"},
+                                 {"Quillet", "Preferences", "l", std::string(5000, 'x')}}),
+                     RunTimeError);
         EXPECT_EQ(write("k", "old"), "") << "nothing to store";
     }
     EXPECT_EQ(fileText(), "[Preferences]\nk=old\n") << "all of a save, or nothing";
@@ -199,7 +201,7 @@ TEST(UsersStore, liesInTheHomeOfTheUserDatabaseWhereNoneIsSet)
     qunsetenv("HOME");
     qputenv("XDG_CONFIG_HOME", "relative");
     const std::string known = ::getpwuid(::getuid())->pw_dir;
-    EXPECT_EQ(TextFileStore().location(), known + "/.config/Quillet/settings.ini");
+    EXPECT_EQ(TextFileStore().location("Quillet"), known + "/.config/Quillet/settings.ini");
     qputenv("HOME", home);
     config.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", config);
 }
@@ -209,7 +211,7 @@ TEST_F(TextFileStoreTest, writersMergeTheirKeys)
     const auto writer = [this](const std::string& name) {
         TextFileStore own(m_home.filePath("config"));
         for (int i = 0; i < 6; ++i)
-            own.save({{name + std::to_string(i), name}});
+            own.save({{"Quillet", "Preferences", name + std::to_string(i), name}});
     };
     std::thread first(writer, "first"), second(writer, "second");
     first.join();
