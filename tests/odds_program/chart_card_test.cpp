@@ -6,8 +6,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <sstream>
 
 namespace quillet::test
@@ -62,32 +60,12 @@ TEST(RowExamples, arePlayedByTheirRows)
     }
 }
 
-TEST(ChartCard, hasEveryRowWithinItsColumns)
+TEST(ChartCard, hasEveryRowAndTheReturn)
 {
-    constexpr double widest = 1.1; // of letters, as a share of their height
-    constexpr double cardsLeft = 141.8;
     for (const Chart& chart : someCharts()) {
         const std::string page = cardOf(chart);
         for (const charts::Row& row : chart)
             EXPECT_THAT(page, HasSubstr(". " + rowText(row) + "</title>"));
-        std::size_t names = 0;
-        std::istringstream lines(page);
-        for (std::string line; std::getline(lines, line);) {
-            double x = 0, y = 0, height = 0;
-            const auto letter = line.rfind(" x=\"");
-            if (!line.starts_with("<g fill") || letter == std::string::npos)
-                continue;
-            ASSERT_EQ(std::sscanf(line.c_str() + line.find("translate"),
-                                  "translate(%lf %lf) scale(%lf)", &x, &y, &height),
-                      3);
-            const bool isName = y > 43 && y < 274 && x < cardsLeft;
-            names += isName ? 1 : 0;
-            EXPECT_LE(x + height * (std::stod(line.substr(letter + 4)) + widest),
-                      isName ? cardsLeft : 199);
-            EXPECT_GE(std::min(x, y), 12);
-            EXPECT_LE(y + height, 287);
-        }
-        EXPECT_EQ(names, 2 * chart.size()) << "with the number of the row";
     }
     const std::string trainers = cardOf(charts::trainersChart());
     EXPECT_THAT(trainers, HasSubstr("Returns 99.294918 of 100. Loses 0.248986 against perfect"));
