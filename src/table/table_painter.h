@@ -47,7 +47,7 @@ private:
     void paintPosts(const TableMeasures& table);
     // The picture in this size in device pixels.
     const QImage& stretched(const QImage& picture, QSize size);
-    const QImage& framePiece(FramePiece piece) const;
+    [[nodiscard]] const QImage& framePiece(FramePiece piece) const;
     void layHatches();
     void copyTableBehind(OffScreenBox& box, const QRectF& place);
 
