@@ -43,8 +43,9 @@ public:
         RowPrice price{m_deals, {}, {}};
         for (const Taken taken : allTaken) {
             price.loss[taken] = perCreditBet(m_cost[taken]);
-            price.costliest[taken] = {{m_highest[taken], odds::DealtHand::worthUnit * shares},
-                                      m_places[taken]};
+            price.costliest[taken] = {
+                {m_highest[taken], odds::Int128{odds::DealtHand::worthUnit} * shares},
+                m_places[taken]};
         }
         return price;
     }

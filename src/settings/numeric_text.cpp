@@ -34,7 +34,8 @@ std::optional<double> parseDecimal(std::string_view text)
     if (error == std::errc::invalid_argument || end != text.data() + text.size())
         return std::nullopt;
     // It leaves the number alone when that is too large or too close to zero.
-    const bool tiny = text.find("e-") != text.npos || text.find("E-") != text.npos;
+    const bool tiny =
+        text.find("e-") != std::string_view::npos || text.find("E-") != std::string_view::npos;
     if (error == std::errc::result_out_of_range)
         number = tiny ? Double::min() : Double::infinity();
     return number;

@@ -186,7 +186,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     EXPECT_TRUE(game.window->screen()->availableGeometry().contains(help));
     EXPECT_GT(help.left(), game.window->x()) << "much of the table is still seen";
 
-    QMenu& menu = control<QMenu>(*game.window, "mnuGame");
+    auto& menu = control<QMenu>(*game.window, "mnuGame");
     menu.setPalette(QPalette(Qt::black));
     const QImage dark = menu.grab().toImage();
     const QPoint line =
