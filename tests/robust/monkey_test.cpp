@@ -28,7 +28,7 @@ public:
     Monkey(unsigned seed, int events) : m_random(seed), m_eventsLeft(events)
     {
         usePicture({674, 354});
-        store.texts["prfAnimationDelay"] = "0";
+        store.texts["prfAnimationDelay"] = std::string("0");
         for (const char* truth : {"prfPokerAutoDeal", "prfShowPokerPlay"})
             store.texts[truth] = chanceOf(50) ? "True" : "False";
     }
