@@ -7,7 +7,7 @@ set -euo pipefail
 program=$(readlink -f -- "$1")
 picture=$2
 caller=record-hand.sh
-. "$(dirname -- "$(readlink -f -- "$0")")/unseen-display.sh"
+. "$(dirname -- "$(readlink -f -- "$0")")/headless-display.sh"
 
 step=0.03 # seconds from one frame to the next
 frames=() # the time at which each was taken, in microseconds

@@ -7,7 +7,7 @@ namespace quillet
 {
 
 // Closes a window or dialog that another program has destroyed on the X server, as its close box
-// would. The toolkit does not notice: the process would live on unseen, or wait for ever for a
+// would. Qt does not notice: the process would run on without a window, or wait forever for a
 // dialog that nobody can see. On other platforms nobody can do that.
 class WindowLoss : public QObject, private QAbstractNativeEventFilter
 {

@@ -31,11 +31,11 @@ TEST(SystemClock, countsThisThreadsWorkApartFromTheTime)
 
 TEST(WindowExposure, aWindowThatIsNeverSeenIsNotWaitedForForEver)
 {
-    QWidget unseen;
-    unseen.setAttribute(Qt::WA_DontShowOnScreen);
+    QWidget hidden;
+    hidden.setAttribute(Qt::WA_DontShowOnScreen);
     QElapsedTimer time;
     time.start();
-    showAndWaitUntilExposed(unseen);
+    showAndWaitUntilExposed(hidden);
     EXPECT_LT(time.elapsed(), 30'000);
 }
 

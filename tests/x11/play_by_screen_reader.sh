@@ -4,7 +4,7 @@
 set -u
 
 caller=play_by_screen_reader slack=3
-. "$(dirname "$0")/../../tools/unseen-display.sh"
+. "$(dirname "$0")/../../tools/headless-display.sh"
 export HOME=$folder LC_ALL=C.UTF-8 SDL_AUDIODRIVER=dummy QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 start_display
 dbus-run-session -- "$(dirname "$0")/play_by_screen_reader.py" "$1" 2>"$folder/errors.log" ||

@@ -6,7 +6,7 @@ set -u
 
 program=$1
 caller=play_through slack=3
-. "$(dirname "$0")/../../tools/unseen-display.sh"
+. "$(dirname "$0")/../../tools/headless-display.sh"
 export HOME=$folder SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 settings=$XDG_CONFIG_HOME/Quillet/settings.ini
 

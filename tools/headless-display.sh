@@ -1,7 +1,8 @@
 # shellcheck shell=bash
-# To be sourced: a virtual X server and a window manager in which a script plays the trainer as a
-# player would with a mouse. The script reads its files in $folder, which goes when it ends. It sets
-# $caller, the name in its messages, and may set $slack, by how much a busy machine may be slower.
+# To be sourced: a virtual X server and a window manager, in which a script plays the trainer with a
+# mouse, as a player would. The script keeps its files in $folder, which is removed when it ends. It
+# sets $caller, the name in its messages, and may set $slack, how many times longer to wait on a busy
+# machine.
 
 folder=$(mktemp -d)
 mkdir -m 700 "$folder"/{config,cache,data,run}
@@ -36,7 +37,7 @@ wait_for() {
     done
 }
 
-# What the caller has set for windows of its own must not shift or restyle this one.
+# Settings for the windows of the caller must not move or restyle this one.
 unset WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR \
     QT_SCREEN_SCALE_FACTORS QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
 export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_CACHE_HOME=$folder/cache \

@@ -1,12 +1,12 @@
 #!/bin/bash
-# play-unseen.sh PROGRAM PICTURE: plays on a virtual X server, as a player would with a mouse, and
-# keeps a picture of the table. Whatever goes wrong is said and ends with a non-zero code.
+# play-headless.sh PROGRAM PICTURE: plays on a virtual X server, as a player would with a mouse, and
+# keeps a picture of the table. Reports any failure and ends with a non-zero code.
 set -euo pipefail
 
 program=$(readlink -f -- "$1")
 picture=$2
 caller=./play
-. "$(dirname -- "$(readlink -f -- "$0")")/unseen-display.sh"
+. "$(dirname -- "$(readlink -f -- "$0")")/headless-display.sh"
 
 # The place of each card, as ImageMagick writes it: 96 x 130 pixels.
 card_places() {
@@ -16,7 +16,7 @@ card_places() {
     done
 }
 
-# Faces are white for the most part; the table and the backs are not.
+# Faces are mostly white; the table and the backs are not.
 hand_lies_open() {
     local place
     take_picture
@@ -27,7 +27,7 @@ hand_lies_open() {
     hand=$(cards_seen)
 }
 
-# What the last picture shows at the five places, told apart.
+# A hash of the last picture at each of the five places.
 cards_seen() {
     local place
     for place in $(card_places); do
@@ -58,8 +58,8 @@ table_is_still() {
     ! table_has_changed
 }
 
-# Holds one set of cards after the other until the coach lets one pass. A refusal leaves the hand as
-# it was dealt; none at all comes first, as a second refusal would change nothing then.
+# Holds one set of cards after another until the coach accepts one. A refusal leaves the hand as it
+# was dealt. The empty set comes first, because a second refusal of it would change no pixel.
 play_the_hand() {
     local cards keys
     for cards in "" 12 13 14 15 23 24 25 34 35 45 1 2 3 4 5 1234 1235 1245 1345 2345 \
@@ -72,7 +72,7 @@ play_the_hand() {
         fi
         click 253 $((menu_height + 162))
         wait_for 15 "An answer to a click on the deck" table_has_changed
-        # Cards that fly count their time in turns of the processor, which may have others to serve.
+        # Flights are paced by processor time, and other programs may be using the processor.
         wait_for 90 "A pause after a click on the deck" table_is_still
         ! every_card_has_changed || return 0
     done
@@ -96,7 +96,7 @@ game_menu_is_open() {
 end_with_exit() {
     local code=0
     xdotool key alt+F4
-    # The settings are brought to the disk first, which may be busy with what was just built.
+    # The settings are written to the disk first, which may be busy after a build.
     wait_for 60 "The exit screen" find_window "More Texas Hold'em Resources\.\."
     xdotool windowfocus "$window" key Return # its button "Exit"
     wait_for 15 "The end of the trainer" trainer_has_ended
