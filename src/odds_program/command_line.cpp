@@ -73,36 +73,35 @@ void takeRows(Request& request, std::string_view word)
     request.maxRows = static_cast<std::size_t>(max);
 }
 
+using Value = std::string_view;
+
 struct OptionKind {
     std::string_view name;
-    bool hasValue = false;
-    void (*take)(Request& request, std::string_view value) = [](Request&, std::string_view) {};
+    void (*take)(Request& request, Value value) = nullptr; // of options with a value
     std::string_view needs = {};
 };
-
-using Value = std::string_view;
 
 // If an option is repeated, the last value counts.
 constexpr std::array<OptionKind, 14> optionKinds{{
     {"--rows"},
     {"--mistakes"},
-    {"--plays", false, [](Request&, Value) {}, "--chart"},
-    {"--sitting", true, [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
-    {"--simulate", true, [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
-    {"--chart", true, [](Request& r, Value v) { r.chartFile = v; }},
-    {"--best-chart", true, [](Request& r, Value v) { takeRows(r, v); }},
-    {"--card", true, [](Request& r, Value v) { r.cardFile = v; }},
-    {"--pays", true, [](Request& r, Value v) { r.pays = v; }},
-    {"--format", true, [](Request& r, Value v) { r.style.format = formatIn(v); }},
-    {"--exact", false, [](Request& r, Value) { r.style.exact = true; }},
-    {"--all", false, [](Request& r, Value) { r.allHolds = true; }, "hands"},
-    {"--bankroll", true, [](Request& r, Value v) { r.bankroll = countIn("--bankroll", v); },
-     "--sitting"},
-    {"--seed", true, [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
+    {"--plays", nullptr, "--chart"},
+    {"--sitting", [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
+    {"--simulate", [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
+    {"--chart", [](Request& r, Value v) { r.chartFile = v; }},
+    {"--best-chart", [](Request& r, Value v) { takeRows(r, v); }},
+    {"--card", [](Request& r, Value v) { r.cardFile = v; }},
+    {"--pays", [](Request& r, Value v) { r.pays = v; }},
+    {"--format", [](Request& r, Value v) { r.style.format = formatIn(v); }},
+    {"--exact"},
+    {"--all", nullptr, "hands"},
+    {"--bankroll", [](Request& r, Value v) { r.bankroll = countIn("--bankroll", v); }, "--sitting"},
+    {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
 
-constexpr std::string_view hand = "a hand";
-constexpr std::string_view input = "hands on standard input";
+// What is given without an option.
+constexpr OptionKind hand{"a hand", [](Request& r, Value v) { r.hand.append(v) += ' '; }};
+constexpr OptionKind input{"hands on standard input"};
 
 struct Combination {
     Question question;
@@ -121,136 +120,85 @@ constexpr std::array<Combination, 12> combinations{{
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
     {Question::sitting, {"--sitting"}, "--pays --format --bankroll"},
     {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
-    {Question::handsFromInput, {input}, "--pays --format --exact --all"},
-    {Question::hand, {hand}, "--pays --format --exact --all"},
+    {Question::handsFromInput, {input.name}, "--pays --format --exact --all"},
+    {Question::hand, {hand.name}, "--pays --format --exact --all"},
     {Question::game, {}, "--pays --format --exact"},
 }};
 
-// Reads the arguments: options with their values, and words of a hand.
-class Parser
-{
-public:
-    explicit Parser(std::span<const std::string_view> arguments) : m_left(arguments) {}
-
-    // The first --help or --version decides; arguments after it are ignored.
-    [[nodiscard]] Request parse()
-    {
-        bool optionsEnded = false;
-        while (!m_left.empty()) {
-            m_word = next();
-            if (optionsEnded || !m_word.starts_with('-'))
-                takeWord();
-            else if (m_word == "--help" || m_word == "-h")
-                return about(Question::help);
-            else if (m_word == "--version")
-                return about(Question::version);
-            else if (m_word == "--")
-                optionsEnded = true;
-            else if (m_word == "-")
-                m_given.push_back(input);
-            else
-                takeOption();
-        }
-        checkCombination();
-        checkValues();
-        return m_request;
-    }
-
-private:
-    static Request about(Question question)
-    {
-        Request request;
-        request.question = question;
-        return request;
-    }
-
-    std::string_view next()
-    {
-        const std::string_view argument = m_left.front();
-        m_left = m_left.subspan(1);
-        return argument;
-    }
-
-    void takeWord()
-    {
-        if (m_word.empty())
-            throw BadUsage("an argument is empty; is a variable unset?");
-        m_given.push_back(hand);
-        m_request.hand += std::string(m_word) + " ";
-    }
-
-    // Also true for the empty name.
-    [[nodiscard]] bool isGiven(std::string_view name) const
-    {
-        return name.empty() || std::ranges::find(m_given, name) != m_given.end();
-    }
-
-    void takeOption();
-    void checkCombination();
-    void checkValues() const;
-
-    std::span<const std::string_view> m_left;
-    std::string_view m_word;
-    std::vector<std::string_view> m_given;
-    Request m_request;
+struct Given {
+    const OptionKind* kind;
+    std::string_view value;
 };
 
-void Parser::takeOption()
+// The option at i. Moves i to its value if that is the next argument.
+Given optionAt(std::span<const std::string_view> arguments, std::size_t& i)
 {
-    const auto equals = m_word.find('=');
-    const std::string name(m_word.substr(0, equals));
+    const std::string_view word = arguments[i];
+    const auto equals = word.find('=');
+    const std::string name(word.substr(0, equals));
     const auto* const kind = std::ranges::find(optionKinds, name, &OptionKind::name);
     if (kind == optionKinds.end())
         throw BadUsage("unknown option '" + odds::printable(name) + "'");
-    std::string_view value;
-    if (equals != std::string_view::npos) {
-        if (!kind->hasValue)
-            throw BadUsage(name + " takes no value");
-        value = m_word.substr(equals + 1);
-    } else if (kind->hasValue) {
-        if (m_left.empty())
-            throw BadUsage(name + " needs a value after it");
-        value = next();
-    }
-    if (kind->hasValue && value.empty())
-        throw BadUsage(name + " has an empty value; is a variable unset?");
-    m_given.push_back(kind->name);
-    kind->take(m_request, value);
+    if (equals != std::string_view::npos && kind->take == nullptr)
+        throw BadUsage(name + " takes no value");
+    if (equals != std::string_view::npos)
+        return {kind, word.substr(equals + 1)};
+    if (kind->take == nullptr)
+        return {kind, {}};
+    if (++i == arguments.size())
+        throw BadUsage(name + " needs a value after it");
+    return {kind, arguments[i]};
 }
 
-void Parser::checkCombination()
+// Also true for the empty name.
+bool isGiven(const std::vector<Given>& given, std::string_view name)
 {
-    const Combination& asked = *std::ranges::find_if(combinations, [this](const auto& one) {
-        return isGiven(one.asks[0]) && isGiven(one.asks[1]);
+    return name.empty() ||
+           std::ranges::any_of(given, [name](const Given& one) { return one.kind->name == name; });
+}
+
+Question questionOf(const std::vector<Given>& given)
+{
+    const Combination& asked = *std::ranges::find_if(combinations, [&given](const auto& one) {
+        return isGiven(given, one.asks[0]) && isGiven(given, one.asks[1]);
     });
-    for (const std::string_view name : m_given) {
-        if (std::ranges::find(asked.asks, name) != asked.asks.end() ||
-            asked.also.find(name) != std::string_view::npos)
+    for (const auto& [kind, value] : given) {
+        if (std::ranges::find(asked.asks, kind->name) != asked.asks.end() ||
+            asked.also.find(kind->name) != std::string_view::npos)
             continue;
-        const auto* const kind = std::ranges::find(optionKinds, name, &OptionKind::name);
-        if (kind != optionKinds.end() && !kind->needs.empty())
-            throw BadUsage(std::string(name) + " is only for " + std::string(kind->needs));
-        throw BadUsage(std::string(name) + " does not go with " + std::string(asked.asks[0]) +
+        const std::string name(kind->name);
+        if (!kind->needs.empty())
+            throw BadUsage(name + " is only for " + std::string(kind->needs));
+        throw BadUsage(name + " does not go with " + std::string(asked.asks[0]) +
                        (asked.asks[1].empty() ? "" : " " + std::string(asked.asks[1])));
     }
-    m_request.question = asked.question;
+    return asked.question;
 }
 
-void Parser::checkValues() const
+void takeValue(Request& request, const Given& given)
 {
-    const Question question = m_request.question;
-    const bool oneChart = m_request.minRows == m_request.maxRows;
-    const bool data = m_request.style.format != Format::text;
-    const bool exact = m_request.style.exact;
+    if (given.kind == &hand && given.value.empty())
+        throw BadUsage("an argument is empty; is a variable unset?");
+    if (given.value.empty())
+        throw BadUsage(std::string(given.kind->name) + " has an empty value; is a variable unset?");
+    given.kind->take(request, given.value);
+}
+
+void checkValues(const Request& request)
+{
+    const Question question = request.question;
+    const bool oneChart = request.minRows == request.maxRows;
+    const bool data = request.style.format != Format::text;
+    const bool exact = request.style.exact;
     if (question == Question::card && !oneChart)
         throw BadUsage("--card is for one number of rows");
     if (question == Question::bestChart && oneChart && (data || exact))
         throw BadUsage("--format and --exact do not go with --best-chart for one number of rows");
     if (question == Question::handsFromInput && data && exact)
         throw BadUsage("--exact is for text only with hands on standard input");
-    if (question == Question::sitting && m_request.hands > odds::mostHands)
+    if (question == Question::sitting && request.hands > odds::mostHands)
         throw BadUsage("--sitting takes no more than 10M hands");
-    if (question == Question::simulation && m_request.hands > odds::mostSimulated)
+    if (question == Question::simulation && request.hands > odds::mostSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");
 }
 
@@ -258,7 +206,30 @@ void Parser::checkValues() const
 
 Request parseArguments(std::span<const std::string_view> arguments)
 {
-    return Parser(arguments).parse();
+    Request request;
+    std::vector<Given> given;
+    bool optionsEnded = false;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string_view word = arguments[i];
+        if (optionsEnded || !word.starts_with('-')) {
+            given.push_back({&hand, word});
+        } else if (word == "--help" || word == "-h" || word == "--version") {
+            request.question = word == "--version" ? Question::version : Question::help;
+            return request;
+        } else if (word == "--") {
+            optionsEnded = true;
+        } else {
+            given.push_back(word == "-" ? Given{&input, {}} : optionAt(arguments, i));
+        }
+    }
+    for (const Given& one : given)
+        if (one.kind->take != nullptr)
+            takeValue(request, one);
+    request.question = questionOf(given);
+    request.style.exact = isGiven(given, "--exact");
+    request.allHolds = isGiven(given, "--all");
+    checkValues(request);
+    return request;
 }
 
 std::string_view helpText()

@@ -84,7 +84,7 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed("--format csv --format text").style.format, Format::text);
     EXPECT_EQ(parsed("--simulate 20 --seed 1e3").seed, 1000U);
     EXPECT_EQ(parsed("--rows --all --help --what").question, Question::help);
-    EXPECT_EQ(parsed("--rows -h").question, Question::help);
+    EXPECT_EQ(parsed("--simulate none -h").question, Question::help);
     std::istringstream refused(
         "--all|--card|--plays|--what|--seed 3|--bankroll 9|--simulate|--simulate=|--simulate 0|"
         "--simulate=1.5|--simulate -5|--simulate 9 --seed|--simulate 1e12|--sitting 11M|"
