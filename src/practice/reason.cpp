@@ -24,9 +24,10 @@ constexpr std::array<std::string_view, odds::outcomes> finalHands{
     "losing hands", "royals",    "straight flushes", "fours of a kind", "full houses",
     "flushes",      "straights", "threes of a kind", "two pairs",       "high pairs"};
 
+// Figures are counted in units of the last decimal that is printed.
 struct Part {
     std::string_view hands;
-    double credits; // by which the better hold earns more with them
+    double units; // by which the better hold earns more with them
 };
 
 std::array<double, odds::outcomes> creditsByOutcome(const odds::HeldCards& heldCards,
@@ -40,40 +41,47 @@ std::array<double, odds::outcomes> creditsByOutcome(const odds::HeldCards& heldC
     return credits;
 }
 
-// The largest ones, the largest first.
-std::vector<Part> partsOf(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
-                          odds::Hold better, odds::Hold worse)
+// The largest parts, the largest first, and the sum of the others. Each is rounded; the largest one
+// takes what is then missing from the total.
+std::vector<Part> partsOf(const std::array<double, odds::outcomes>& more,
+                          const std::array<double, odds::outcomes>& less, double unitsPerCredit,
+                          double total)
 {
-    const auto more = creditsByOutcome(heldCards, hand, better);
-    const auto less = creditsByOutcome(heldCards, hand, worse);
     std::vector<Part> parts;
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        parts.push_back({finalHands[outcome], more[outcome] - less[outcome]});
-    const auto size = [](const Part& part) { return std::abs(part.credits); };
+        parts.push_back({finalHands[outcome], (more[outcome] - less[outcome]) * unitsPerCredit});
+    const auto size = [](const Part& part) { return std::abs(part.units); };
     std::ranges::stable_sort(parts, std::greater(), size);
-    const double least = std::max(size(parts.front()) * smallestShare, 0.005);
-    std::erase_if(parts, [&](const Part& part) { return size(part) < least; });
-    parts.resize(std::min(parts.size(), shownParts));
+    const double least = std::max(size(parts.front()) * smallestShare, 0.5);
+    std::size_t shown = 1;
+    while (shown < shownParts && size(parts[shown]) >= least)
+        ++shown;
+    Part others{"other hands", 0};
+    for (std::size_t i = shown; i < parts.size(); ++i)
+        others.units += parts[i].units;
+    parts.resize(shown);
+    parts.push_back(others);
+    for (Part& part : parts) {
+        part.units = std::round(part.units);
+        total -= part.units;
+    }
+    parts.front().units += total;
+    std::erase_if(parts, [](const Part& part) { return part.units == 0; });
     return parts;
 }
 
-std::string rounded(double credits, int places)
-{
-    const double scale = std::pow(10, places);
-    return odds::Fraction(std::llround(credits * scale), std::llround(scale)).decimals(places);
-}
-
-// "flushes bring 5.1 more and straights 1.3 more"
+// "flushes bring 5.10 more and straights 1.30 more"
 std::string listed(const std::vector<Part>& parts, bool gains, std::string_view verb, int places)
 {
     std::vector<std::string> items;
     for (const Part& part : parts) {
-        if ((part.credits > 0) != gains)
+        if ((part.units > 0) != gains)
             continue;
+        const odds::Fraction credits(std::llround(std::abs(part.units)),
+                                     std::llround(std::pow(10, places)));
         std::string item(part.hands);
         item.append(items.empty() ? verb : "").append(" ");
-        items.push_back(
-            item.append(rounded(std::abs(part.credits), places)).append(gains ? " more" : " less"));
+        items.push_back(item.append(credits.decimals(places)).append(gains ? " more" : " less"));
     }
     std::string text;
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -103,13 +111,21 @@ std::string reason(const odds::HeldCards& heldCards, const odds::DealtHand& hand
 {
     auto [name, otherName] = namesOf(hand, better, worse);
     name.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(name.front())));
-    std::string text =
-        name + " is worth " + hand.expectedCredits(better).decimals(2) + " credits, ";
-    if (hand.worth[better] == hand.worth[worse])
-        return text + otherName + " as much.";
-    text += otherName + ' ' + hand.expectedCredits(worse).decimals(2) + ": ";
-    const std::vector<Part> parts = partsOf(heldCards, hand, better, worse);
-    const int places = std::abs(parts.front().credits) < 1 ? 2 : 1;
+    const odds::Fraction worth = hand.expectedCredits(better);
+    const odds::Fraction otherWorth = hand.expectedCredits(worse);
+    if (worth == otherWorth)
+        return name + " is worth " + worth.decimals(2) + " credits, " + otherName + " as much.";
+    int places = 2;
+    while (worth.decimals(places) == otherWorth.decimals(places))
+        ++places;
+    std::string text = name + " is worth " + worth.decimals(places) + " credits, " + otherName +
+                       ' ' + otherWorth.decimals(places) + ": ";
+    const double unitsPerCredit = std::pow(10, places);
+    const double total = std::round(worth.value() * unitsPerCredit) -
+                         std::round(otherWorth.value() * unitsPerCredit);
+    const std::vector<Part> parts =
+        partsOf(creditsByOutcome(heldCards, hand, better), creditsByOutcome(heldCards, hand, worse),
+                unitsPerCredit, total);
     const std::string gains = listed(parts, true, " bring", places);
     const std::string losses = listed(parts, false, gains.empty() ? " bring" : "", places);
     return text + gains + (gains.empty() || losses.empty() ? "" : ", ") + losses + '.';

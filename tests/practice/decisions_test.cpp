@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <sstream>
 
 namespace quillet::practice::test
 {
@@ -108,12 +109,35 @@ TEST(Reason, splitsTheDifferenceByFinalHand)
     };
     EXPECT_EQ(told("9c Tc Jc Kc Ad", 0b01111, 0b01110),
               "4 to a straight flush is worth 12.34 credits, 3 to a royal 6.57: straight flushes "
-              "bring 5.3 more, flushes 4.1 more and straights 0.9 more, royals 3.7 less.");
+              "bring 5.31 more, flushes 4.14 more and straights 0.85 more, royals 3.70 less and "
+              "other hands 0.83 less.");
     EXPECT_EQ(told("Ac 9c Jd Qh Ks", 0b01100, 0b11000),
               "Jd Qh is worth 2.39 credits, Qh Ks 2.33: straights bring 0.06 more.");
     EXPECT_EQ(told("2c 9c 9d 9h 9s", 0b11110, 0b11111),
               "4 of a kind is worth 125.00 credits, 2c 9c 9d 9h 9s as much.");
     EXPECT_THAT(told("2c Tc 4d 6h 8s", 0, 1), testing::StartsWith("Nothing is worth 1.79 "));
+}
+
+TEST(Reason, hasFiguresThatAddUp)
+{
+    for (const char* cards :
+         {"9c Tc Jc Kc Ad", "Ac 7c Jd Qh Ks", "2c 7d Ts 9h 4c", "Jc Jd 3c 4c 5c"}) {
+        const odds::DealtHand hand = dealt(cards);
+        for (odds::Hold worse = 0; worse < odds::holds; ++worse) {
+            const std::string text = reason(game().heldCards, hand, hand.bestHold, worse);
+            double sum = 0;
+            std::istringstream words(text);
+            for (std::string word, before; words >> word; before = word) {
+                if (word == "credits," || word.starts_with("less"))
+                    sum += std::stod(before);
+                else if (word.starts_with("more"))
+                    sum -= std::stod(before);
+                else if (word.ends_with(':'))
+                    sum -= std::stod(word);
+            }
+            EXPECT_TRUE(text.ends_with("as much.") || std::abs(sum) < 1e-9) << text;
+        }
+    }
 }
 
 } // namespace quillet::practice::test
