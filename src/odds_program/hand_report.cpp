@@ -1,6 +1,8 @@
+#include "charts/plain_kinds.h"
 #include "engine/hand_evaluation.h"
 #include "odds/hand_text.h"
 #include "odds_program/reports.h"
+#include "practice/reason.h"
 
 #include <algorithm>
 #include <functional>
@@ -12,7 +14,7 @@ namespace quillet::odds_program
 namespace
 {
 
-constexpr std::size_t shownByDefault = 6;
+constexpr std::int64_t shownByDefault = 6;
 
 std::int64_t asNumber(bool truth)
 {
@@ -57,7 +59,8 @@ std::string marks(const odds::DealtHand& hand, odds::HoldSet fitting, odds::Hold
     return text;
 }
 
-std::string why(const odds::HeldCards& heldCards, const odds::DealtHand& hand, odds::Hold hold)
+std::string drawsText(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                      odds::Hold hold)
 {
     const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
     const int draws = std::accumulate(counts.begin(), counts.end(), 0);
@@ -71,59 +74,82 @@ std::string why(const odds::HeldCards& heldCards, const odds::DealtHand& hand, o
     return wrapped(text);
 }
 
+// The best hold is compared with the chart's or, if that is no worse, with the best of another
+// kind.
+odds::Hold rivalOf(const odds::DealtHand& hand, odds::Hold charts)
+{
+    if (hand.worth[charts] < hand.worth[hand.bestHold])
+        return charts;
+    const auto kind = [&hand](odds::Hold hold) {
+        return charts::plainKindOf(charts::factsOf(hand, hold));
+    };
+    odds::HoldSet others = 0;
+    for (odds::Hold hold = 0; hold < odds::holds; ++hold)
+        if (kind(hold) != kind(hand.bestHold))
+            others |= 1U << hold;
+    return hand.bestOf(others);
+}
+
+std::vector<Column> holdColumns()
+{
+    std::vector<Column> columns{{"number", "No."}, {"hold", "Hold"}, {"expected", "Expected"},
+                                {"cost", "Costs"}, {"marks", "Is"},  {"best", ""},
+                                {"chart", ""},     {"accepted", ""}, {"draws", ""}};
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        columns.push_back({std::string(odds::outcomeName(outcome)), ""});
+    columns.push_back({"missed discards", ""});
+    columns.push_back({"reason", ""});
+    return columns;
+}
+
+std::vector<Cell> holdRow(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                          odds::HoldSet fitting, std::int64_t number, odds::Hold hold)
+{
+    const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+    const odds::Fraction expected = hand.expectedCredits(hold);
+    std::vector<Cell> row{number,
+                          Cards{hand.places, hold},
+                          Exact{expected, 8},
+                          Exact{hand.expectedCredits(hand.bestHold) - expected, 8},
+                          marks(hand, fitting, hold),
+                          asNumber(hand.worth[hold] == hand.worth[hand.bestHold]),
+                          asNumber(hold == hand.bestOf(fitting)),
+                          asNumber(odds::contains(fitting, hold)),
+                          std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
+    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+        row.emplace_back(std::int64_t{counts[outcome]});
+    row.emplace_back(penaltiesText(heldCards, hand, hold));
+    row.emplace_back(
+        hold == hand.bestHold ? "" : practice::reason(heldCards, hand, hand.bestHold, hold));
+    return row;
+}
+
 } // namespace
 
 Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                   const charts::Play& play, bool all)
 {
+    const odds::Hold charts = hand.bestOf(play.fitting);
     Table table{"holds",
                 odds::holdText(hand.places, odds::holdAll) + ": row " +
                     std::to_string(play.row + 1) + " of the chart, " +
                     std::string(playName(static_cast<std::int16_t>(play.row + 1))) + "\n\n",
-                {{"number", "No."},
-                 {"hold", "Hold"},
-                 {"expected", "Expected"},
-                 {"cost", "Costs"},
-                 {"marks", "Is"},
-                 {"best", ""},
-                 {"chart", ""},
-                 {"accepted", ""},
-                 {"draws", ""}},
+                holdColumns(),
                 {},
                 {}};
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        table.columns.push_back({std::string(odds::outcomeName(outcome)), ""});
-    table.columns.push_back({"missed discards", ""});
-
     std::array<odds::Hold, odds::holds> order{};
     std::iota(order.begin(), order.end(), 0U);
     std::ranges::stable_sort(order, std::greater(),
                              [&](odds::Hold hold) { return hand.worth[hold]; });
-    const odds::Hold charts = hand.bestOf(play.fitting);
-    const odds::Fraction best = hand.expectedCredits(hand.bestHold);
     std::int64_t number = 0;
-    for (const odds::Hold hold : order) {
-        ++number;
-        if (!all && number > static_cast<std::int64_t>(shownByDefault) && hold != charts)
-            continue;
-        const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
-        std::vector<Cell> row{number,
-                              Cards{hand.places, hold},
-                              Exact{hand.expectedCredits(hold), 8},
-                              Exact{best - hand.expectedCredits(hold), 8},
-                              marks(hand, play.fitting, hold),
-                              asNumber(hand.worth[hold] == hand.worth[hand.bestHold]),
-                              asNumber(hold == charts),
-                              asNumber(odds::contains(play.fitting, hold)),
-                              std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
-        for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-            row.emplace_back(std::int64_t{counts[outcome]});
-        row.emplace_back(penaltiesText(heldCards, hand, hold));
-        table.rows.push_back(std::move(row));
-    }
-    table.outro = std::string{"\n"} + why(heldCards, hand, hand.bestHold);
+    for (const odds::Hold hold : order)
+        if (++number <= shownByDefault || all || hold == charts)
+            table.rows.push_back(holdRow(heldCards, hand, play.fitting, number, hold));
+    table.outro = std::string{"\n"} +
+                  wrapped(practice::reason(heldCards, hand, hand.bestHold, rivalOf(hand, charts))) +
+                  drawsText(heldCards, hand, hand.bestHold);
     if (charts != hand.bestHold)
-        table.outro += why(heldCards, hand, charts);
+        table.outro += drawsText(heldCards, hand, charts);
     return {table};
 }
 

@@ -139,12 +139,16 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(
         hand, HasSubstr("9c Tc Jc Kc makes straight flush in 1, flush in 8, straight in\n    3,"));
     EXPECT_THAT(hand, HasSubstr("9c 0.2405."));
+    EXPECT_THAT(hand,
+                HasSubstr("\n4 to a straight flush is worth 12.34 credits, 3 to a royal 6.57: "));
     EXPECT_EQ(run("Ad Jc 9c Kc Tc").first, hand) << "in any order";
     EXPECT_THAT(run("2c3d4h5s6c").first,
-                HasSubstr("Of 1 draw, 2c 6c 3d 4h 5s makes straight in 1."));
+                testing::AllOf(HasSubstr("Of 1 draw, 2c 6c 3d 4h 5s makes straight in 1."),
+                               HasSubstr("4 to an outside straight 2.98: straights\n")));
     EXPECT_THAT(run("TcJcQcKcAc --pays '0 0 0 0 0 0 0 0 5'").first, HasSubstr("the chart's"));
     EXPECT_THAT(run("--format json 9cTcJcKcAd").first,
-                HasSubstr("\"cost\": 5.772432932470, \"cost fraction\": \"6240/1081\""));
+                testing::ContainsRegex("\"cost\": 5.772432932470, \"cost fraction\": "
+                                       "\"6240/1081\".*\"reason\": \"4 to a straight flush is"));
     EXPECT_THAT(run("--format csv --chart " QUILLET_CHARTS_FOLDER "/trainer.chart").first,
                 HasSubstr("\nrows,\"4 to a straight flush, no gap\",deals,1200,"));
     EXPECT_THAT(run("--pays 8/5").first, HasSubstr("97.29843375"));
