@@ -29,7 +29,6 @@ enum Back : std::int32_t {
     sleeveBack
 };
 inline constexpr std::int32_t firstBack = hatchBack;
-inline constexpr std::int32_t defaultBack = sleeveBack;
 
 // The backs by name, from the first one.
 inline constexpr std::array<std::string_view, 13> backNames{

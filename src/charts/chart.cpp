@@ -91,7 +91,7 @@ Chart parseChart(std::string_view text)
 Chart trainersChart()
 {
     Chart chart;
-    for (std::int16_t code = 1; code <= playCodes; ++code)
+    for (std::int16_t code = 1; code <= playCodeCount; ++code)
         chart.push_back({*findRowKind(playName(code))});
     return chart;
 }

@@ -11,7 +11,7 @@
 namespace quillet
 {
 
-inline constexpr int chartRows = playCodes;
+inline constexpr int chartRows = playCodeCount;
 
 // A colour 0x00BBGGRR; with the top bit set, the number of a desktop colour.
 using ChartColour = std::uint32_t;

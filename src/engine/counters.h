@@ -14,7 +14,7 @@ struct Counters {
     std::int16_t won = 0;   // winning hands, lblWon
 };
 
-[[nodiscard]] inline std::int16_t addStopping(std::int16_t counter, int change)
+[[nodiscard]] inline std::int16_t saturatingAdd(std::int16_t counter, int change)
 {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(

@@ -255,7 +255,7 @@ bool HandController::pay(std::uint32_t epoch)
         return true;
 
     m_ports.coach.resetChartColors();
-    const std::int16_t target = addStopping(m_counters.total, payout->pays);
+    const std::int16_t target = saturatingAdd(m_counters.total, payout->pays);
     m_payTarget = target;
     m_ports.coach.highlightWinner(m_state.handCode);
     const auto countUp =
@@ -274,7 +274,7 @@ bool HandController::pay(std::uint32_t epoch)
 void HandController::finishPaying()
 {
     m_counters.total = *m_payTarget;
-    m_counters.won = addStopping(m_counters.won, 1);
+    m_counters.won = saturatingAdd(m_counters.won, 1);
     m_payTarget.reset();
     m_ports.screen.showCounters(m_counters);
 }
@@ -300,14 +300,14 @@ void HandController::endFade()
 
 void HandController::charge()
 {
-    m_counters.total = addStopping(m_counters.total, -wager);
-    m_counters.hands = addStopping(m_counters.hands, 1);
+    m_counters.total = saturatingAdd(m_counters.total, -wager);
+    m_counters.hands = saturatingAdd(m_counters.hands, 1);
     m_ports.screen.showCounters(m_counters);
 }
 
 void HandController::addCredits(std::int16_t credits)
 {
-    m_counters.total = addStopping(m_counters.total, credits);
+    m_counters.total = saturatingAdd(m_counters.total, credits);
     m_ports.screen.showCounters(m_counters);
 }
 

@@ -10,7 +10,7 @@ namespace quillet
 {
 
 // The rows of the strategy chart, and so the highest play code; the lowest is 1.
-inline constexpr std::int16_t playCodes = 21;
+inline constexpr std::int16_t playCodeCount = 21;
 
 // The play code: the number of the first row of the chart that the five cards contain. A final
 // hand is classed by what it pays. The cards may come in any order; cards not held are fillers.
@@ -23,11 +23,11 @@ inline constexpr std::int16_t playCodes = 21;
 // The play's name, which is a row in chart files; empty for an unknown code.
 [[nodiscard]] std::string_view playName(std::int16_t playCode);
 
-// What stands in place `place`, 0..4, of a hand while no card is held there.
-[[nodiscard]] constexpr Card fillerCard(int place)
+// The filler for slot 0..4, where no card is held.
+[[nodiscard]] constexpr Card fillerCard(int slot)
 {
-    return {-1, static_cast<std::int16_t>(99 + 2 * place),
-            static_cast<std::int16_t>(152 + 3 * place)};
+    return {-1, static_cast<std::int16_t>(99 + 2 * slot),
+            static_cast<std::int16_t>(152 + 3 * slot)};
 }
 
 } // namespace quillet

@@ -164,7 +164,7 @@ struct PlayRule {
 // The chart, best play first. A hand's play code is the number of the first row that it
 // contains, counted from 1. The two draws that stand above paying hands are left out once the
 // hand is final, so that it is classed by what it pays.
-inline constexpr std::array<PlayRule, playCodes> chart{{
+inline constexpr std::array<PlayRule, playCodeCount> chart{{
     {"royal", 5, [](const HandFacts& hand) { return hand.flush && hand.tenToAce; }},
     {"straight flush", 5, [](const HandFacts& hand) { return hand.suitedRun == 5; }},
     {"4 of a kind", 4, [](const HandFacts& hand) { return hand.fourAlike; }},

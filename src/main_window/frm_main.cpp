@@ -71,7 +71,7 @@ frmMain::frmMain(Surroundings& surroundings)
       m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)
 {
     // Nearly every player has this one. It is decoded while the window looks its fonts up.
-    m_table.expectBackground(backgroundPath(m_surroundings, usualBackground));
+    m_table.expectBackground(backgroundPath(m_surroundings, defaultBackground));
     setObjectName("frmMain");
     setWindowTitle("Jacks or Better Quillet");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |

@@ -10,14 +10,14 @@ namespace quillet
 
 void showAndWaitUntilExposed(QWidget& window)
 {
-    constexpr int longestExposure = 1000; // milliseconds
+    constexpr int maxWait = 1000; // milliseconds
     if (window.isVisible())
         return;
     window.show();
     // Its timeout is an event, so it also ends the wait below.
     QTimer patience;
     patience.setSingleShot(true);
-    patience.start(longestExposure);
+    patience.start(maxWait);
     while (!window.windowHandle()->isExposed() && patience.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
                                         QEventLoop::ExcludeUserInputEvents);

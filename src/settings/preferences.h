@@ -6,8 +6,8 @@
 namespace quillet
 {
 
-inline constexpr std::int32_t usualBackFace = 65;
-inline constexpr const char* usualBackground = "vpokerwood.jpg";
+inline constexpr std::int32_t defaultBack = 65; // the sleeve
+inline constexpr const char* defaultBackground = "vpokerwood.jpg";
 
 // What the player has chosen, as it stands before anything is read from the store. Truth values
 // and widths are those of the store's rules; see preferences_store.h.

@@ -59,7 +59,7 @@ std::int32_t outlineColour(const std::string& text)
 std::int32_t backFace(const std::string& text)
 {
     const double value = toNumber(text);
-    return value == 0 ? usualBackFace : toInt32(value);
+    return value == 0 ? defaultBack : toInt32(value);
 }
 
 std::int32_t delayCount(const std::string& text)
@@ -80,7 +80,7 @@ void loadPreferences(const SettingsStore& store, Preferences& preferences)
     preferences.prfCardOutlineColor =
         outlineColour(reader.text("prfCardOutlineColor", "&H0000FF00&"));
     preferences.prfPKBackFace =
-        reader.converted("prfPKBackFace", std::to_string(usualBackFace), backFace);
+        reader.converted("prfPKBackFace", std::to_string(defaultBack), backFace);
     preferences.prfShowPokerPlay = reader.truth("prfShowPokerPlay");
     preferences.prfPokerAutoDeal = reader.truth("prfPokerAutoDeal");
     preferences.isPoker = true; // there is one game, whatever was stored
@@ -89,8 +89,8 @@ void loadPreferences(const SettingsStore& store, Preferences& preferences)
     preferences.prfSound = reader.truth("prfSound");
     preferences.prfAnimationDelay = reader.converted("prfAnimationDelay", "-1", delayCount);
     preferences.prfBannerDelay = reader.converted("prfBannerDelay", "0", delayCount);
-    const std::string background = reader.text("prfPKBackground", usualBackground);
-    preferences.prfPKBackground = background.empty() ? usualBackground : background;
+    const std::string background = reader.text("prfPKBackground", defaultBackground);
+    preferences.prfPKBackground = background.empty() ? defaultBackground : background;
     preferences.prfScrollVal = reader.converted("prfScrollVal", "0", scrollPosition);
 }
 

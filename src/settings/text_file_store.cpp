@@ -27,7 +27,7 @@ using namespace std::chrono_literals;
 constexpr qint64 maxFileBytes = 1'048'576;
 
 // A save takes milliseconds, and the player is waiting for the window to close.
-constexpr auto lockPatience = 2s;
+constexpr auto maxWaitForLock = 2s;
 constexpr auto staleLock = 10s;
 
 enum class FileState { missing, good, broken, unreadable };
@@ -110,7 +110,7 @@ bool makeFolder(const QString& path)
 void take(QLockFile& lock, const QString& path)
 {
     lock.setStaleLockTime(staleLock);
-    if (lock.tryLock(lockPatience))
+    if (lock.tryLock(maxWaitForLock))
         return;
     if (lock.error() == QLockFile::LockFailedError)
         fail(path, QStringLiteral("Another program is holding its lock"));

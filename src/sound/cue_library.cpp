@@ -14,9 +14,9 @@ namespace quillet
 namespace
 {
 
-constexpr std::uintmax_t mostFileBytes = 10'000'000;
-constexpr std::uint64_t mostSeconds = 20;
-constexpr std::size_t mostKeptBytes = 16'000'000;
+constexpr std::uintmax_t maxFileBytes = 10'000'000;
+constexpr std::uint64_t maxSeconds = 20;
+constexpr std::size_t maxKeptBytes = 16'000'000;
 
 // The file as SDL decodes it.
 struct Recording {
@@ -74,7 +74,7 @@ bool isPlayable(const Recording& recording)
     const auto bytesPerSample = static_cast<std::uint64_t>(SDL_AUDIO_BITSIZE(format.format)) / 8;
     const std::uint64_t bytesPerSecond =
         bytesPerSample * format.channels * static_cast<std::uint64_t>(format.freq);
-    return recording.bytes <= mostSeconds * bytesPerSecond;
+    return recording.bytes <= maxSeconds * bytesPerSecond;
 }
 
 std::shared_ptr<const SoundCue> converted(const Sdl& sdl, const Recording& recording)
@@ -119,7 +119,7 @@ std::shared_ptr<const SoundCue> CueLibrary::find(const std::string& path)
     std::error_code error;
     const auto written = std::filesystem::last_write_time(path, error);
     const auto size = std::filesystem::file_size(path, error);
-    if (error || size > mostFileBytes)
+    if (error || size > maxFileBytes)
         return nullptr;
 
     const auto kept = m_entries.find(path);
@@ -128,7 +128,7 @@ std::shared_ptr<const SoundCue> CueLibrary::find(const std::string& path)
 
     auto cue = loaded(path, size);
     const std::size_t bytes = cue ? cue->samples.size() * sizeof(std::int16_t) : 0;
-    if (m_keptBytes + bytes > mostKeptBytes) {
+    if (m_keptBytes + bytes > maxKeptBytes) {
         m_entries.clear();
         m_keptBytes = 0;
     }

@@ -17,14 +17,14 @@ constexpr std::size_t fadeSamples = std::size_t{soundRate} * 3 / 1000 * soundCha
 
 std::int16_t CueMixer::Voice::take()
 {
-    return isRinging() ? cue->samples[next++] : std::int16_t{0};
+    return isSounding() ? cue->samples[next++] : std::int16_t{0};
 }
 
 void CueMixer::play(std::shared_ptr<const SoundCue> cue)
 {
     const std::lock_guard lock(m_mutex);
     // A cue of which nothing was heard yet needs no fade, and must not end one that runs.
-    if (m_playing.isRinging() && m_playing.next > 0) {
+    if (m_playing.isSounding() && m_playing.next > 0) {
         m_leaving = std::exchange(m_playing, {});
         m_fadeLeft = fadeSamples;
     }

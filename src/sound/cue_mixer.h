@@ -42,7 +42,7 @@ private:
         std::size_t next = 0;
 
         std::int16_t take();
-        [[nodiscard]] bool isRinging() const { return cue && next < cue->samples.size(); }
+        [[nodiscard]] bool isSounding() const { return cue && next < cue->samples.size(); }
     };
 
     std::mutex m_mutex;

@@ -20,7 +20,7 @@ namespace
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto patienceAtTheEnd = 300ms;
+constexpr auto maxWaitForEnd = 300ms;
 
 struct Request {
     std::string path; // empty: only to be ready
@@ -106,7 +106,7 @@ SdlSoundOutput::SdlSoundOutput() : m_mailbox(std::make_shared<Mailbox>())
 SdlSoundOutput::~SdlSoundOutput()
 {
     stop();
-    m_mailbox->waitForEnd(patienceAtTheEnd);
+    m_mailbox->waitForEnd(maxWaitForEnd);
 }
 
 void SdlSoundOutput::prepare()

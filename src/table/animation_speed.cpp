@@ -26,8 +26,8 @@ std::int16_t scrollValueFor(std::int32_t flightDelay)
 
 std::int32_t effectiveDelay(std::int32_t storedDelay)
 {
-    return storedDelay <= longestDelay ? std::min(storedDelay, animationDelayFor(slowest))
-                                       : storedDelay;
+    return storedDelay <= maxDelay ? std::min(storedDelay, animationDelayFor(slowest))
+                                   : storedDelay;
 }
 
 } // namespace quillet

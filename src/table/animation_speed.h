@@ -16,7 +16,7 @@ inline constexpr int fastest = 1000;
 [[nodiscard]] std::int16_t scrollValueFor(std::int32_t flightDelay);
 
 // The stored delay, but at most the slider's max. A larger one, from an edited settings file, would
-// block the game for hours, as a flight handles no events. Delays beyond longestDelay are returned
+// block the game for hours, as a flight handles no events. Delays beyond maxDelay are returned
 // unchanged; counting throws for them.
 [[nodiscard]] std::int32_t effectiveDelay(std::int32_t storedDelay);
 

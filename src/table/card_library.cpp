@@ -3,6 +3,7 @@
 #include "cards/card_art.h"
 #include "cards/card_numbers.h"
 #include "faults/run_time_error.h"
+#include "settings/preferences.h"
 
 namespace quillet
 {

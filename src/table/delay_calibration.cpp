@@ -94,7 +94,7 @@ void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRo
     // take, the result is known without measuring.
     if (delay < 0 && cost.seconds < bannerRound)
         delay %= step;
-    if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= longestDelay)
+    if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= maxDelay)
         return;
     if (Search(delay, bannerRound, cost).run(measure) < bannerSlow)
         delay += step;

@@ -20,8 +20,6 @@ namespace quillet
 namespace
 {
 
-static_assert(usualBackFace == defaultBack);
-
 // Where the marks of a held card are, in device pixels.
 struct HoldMarker {
     HoldMarker(const QRectF& card, double scale)
