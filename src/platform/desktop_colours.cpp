@@ -8,6 +8,9 @@
 namespace quillet
 {
 
+namespace
+{
+
 QColor desktopColour(std::uint32_t number)
 {
     constexpr std::uint32_t windowText = 8;
@@ -43,6 +46,8 @@ QColor desktopColour(std::uint32_t number)
     return QGuiApplication::palette().color(group,
                                             roles[number < roles.size() ? number : windowText]);
 }
+
+} // namespace
 
 QColor colourOf(std::uint32_t bgr)
 {
