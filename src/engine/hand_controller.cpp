@@ -3,6 +3,7 @@
 #include "engine/hand_evaluation.h"
 #include "engine/pace.h"
 #include "engine/pay_table.h"
+#include "faults/guarded.h"
 
 #include <algorithm>
 #include <cassert>

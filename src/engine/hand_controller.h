@@ -7,7 +7,7 @@
 #include "engine/game_screen.h"
 #include "engine/hand_coach.h"
 #include "engine/hand_state.h"
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 
 #include <array>
 #include <cstdint>

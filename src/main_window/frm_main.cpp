@@ -1,5 +1,6 @@
 #include "main_window/frm_main.h"
 
+#include "faults/guarded.h"
 #include "main_window/calibration_splash.h"
 #include "main_window/chart_panel.h"
 #include "main_window/designed_look.h"

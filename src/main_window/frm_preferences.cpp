@@ -1,6 +1,8 @@
 #include "main_window/frm_preferences.h"
 
 #include "cards/card_numbers.h"
+#include "faults/guarded.h"
+#include "faults/run_time_error.h"
 #include "main_window/back_preview.h"
 #include "main_window/designed_look.h"
 #include "platform/desktop_colours.h"

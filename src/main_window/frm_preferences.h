@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "main_window/indicator_style.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"

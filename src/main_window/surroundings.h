@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "platform/clock.h"
 #include "platform/page_opener.h"
 #include "platform/screen_metrics.h"
@@ -21,7 +21,7 @@ struct Surroundings {
     PageOpener& pages;
     SoundOutput& sound;
     ErrorBox& errorBox;
-    Clock& clock;
+    const Clock& clock;
     DeckSource& decks;
     ScreenMetrics metrics = {};
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it

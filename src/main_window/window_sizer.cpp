@@ -1,5 +1,6 @@
 #include "main_window/window_sizer.h"
 
+#include "faults/guarded.h"
 #include "main_window/status_bar.h"
 #include "platform/window_exposure.h"
 #include "table/poker_table.h"

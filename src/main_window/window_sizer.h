@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "main_window/window_layout.h"
 #include "table/picture_file.h"
 

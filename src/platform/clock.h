@@ -11,9 +11,9 @@ class Clock
 public:
     virtual ~Clock() = default;
     // Since the program's start.
-    [[nodiscard]] virtual std::int64_t milliseconds() = 0;
+    [[nodiscard]] virtual std::int64_t milliseconds() const = 0;
     // What the calling thread has spent on a processor.
-    [[nodiscard]] virtual double processorSeconds() = 0;
+    [[nodiscard]] virtual double processorSeconds() const = 0;
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 
 namespace quillet
 {

@@ -7,7 +7,7 @@
 namespace quillet
 {
 
-SessionEnd::SessionEnd(Clock& clock, std::function<void()> save) : m_clock(clock)
+SessionEnd::SessionEnd(const Clock& clock, std::function<void()> save) : m_clock(clock)
 {
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this,

@@ -19,13 +19,13 @@ class SessionEnd : public QObject
 
 public:
     // Calls save when the end of the session is announced. The clock must outlive this.
-    SessionEnd(Clock& clock, std::function<void()> save);
+    SessionEnd(const Clock& clock, std::function<void()> save);
 
     // False again if the session outlives the announcement by a minute.
     [[nodiscard]] bool isComing() const;
 
 private:
-    Clock& m_clock;
+    const Clock& m_clock;
     std::optional<std::int64_t> m_announced; // in milliseconds of the clock
 };
 

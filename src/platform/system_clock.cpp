@@ -13,13 +13,13 @@ const auto programStart = std::chrono::steady_clock::now();
 
 } // namespace
 
-std::int64_t SystemClock::milliseconds()
+std::int64_t SystemClock::milliseconds() const
 {
     using namespace std::chrono;
     return duration_cast<std::chrono::milliseconds>(steady_clock::now() - programStart).count();
 }
 
-double SystemClock::processorSeconds()
+double SystemClock::processorSeconds() const
 {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);

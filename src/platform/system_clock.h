@@ -9,8 +9,8 @@ namespace quillet
 class SystemClock : public Clock
 {
 public:
-    [[nodiscard]] std::int64_t milliseconds() override;
-    [[nodiscard]] double processorSeconds() override;
+    [[nodiscard]] std::int64_t milliseconds() const override;
+    [[nodiscard]] double processorSeconds() const override;
 };
 
 } // namespace quillet

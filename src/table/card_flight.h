@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
 #include "table/deck_pile.h"

@@ -1,6 +1,7 @@
 #include "table/init_anim_delay.h"
 
 #include "cards/card_numbers.h"
+#include "faults/guarded.h"
 #include "table/animation_speed.h"
 #include "table/counting_loop.h"
 #include "table/delay_calibration.h"
@@ -40,7 +41,7 @@ QImage bannerPicture(QSize size)
 } // namespace
 
 DelayMeter::DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences,
-                       Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
+                       const Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
     : m_canvas(canvas), m_library(library), m_preferences(preferences), m_clock(clock),
       m_errorBox(errorBox), m_afterRound(std::move(afterRound))
 {

@@ -1,6 +1,7 @@
 #include "table/poker_table.h"
 
 #include "cards/card_numbers.h"
+#include "faults/guarded.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
 #include "table/card_names.h"
@@ -151,7 +152,7 @@ void PokerTable::shuffleCards()
     m_pile.shuffleCards(m_preferences.prfPKBackFace);
 }
 
-void PokerTable::measureDelays(Preferences& preferences, Clock& clock,
+void PokerTable::measureDelays(Preferences& preferences, const Clock& clock,
                                std::function<void()> afterRound)
 {
     DelayMeter(m_canvas, m_library, preferences, clock, m_errorBox, std::move(afterRound))

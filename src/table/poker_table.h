@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/card_table.h"
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "platform/clock.h"
 #include "settings/preferences.h"
 #include "table/card_flight.h"
@@ -62,7 +62,8 @@ public:
     void shuffleCards();
 
     // Measures the speed of flights and of a banner; see DelayMeter.
-    void measureDelays(Preferences& preferences, Clock& clock, std::function<void()> afterRound);
+    void measureDelays(Preferences& preferences, const Clock& clock,
+                       std::function<void()> afterRound);
 
     // The program is about to end; nothing is painted from now on.
     void close();

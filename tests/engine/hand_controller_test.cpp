@@ -1,3 +1,4 @@
+#include "faults/run_time_error.h"
 #include "tests/kit/played_game.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cards/card_numbers.h"
+#include "faults/error_box.h"
 #include "table/card_flight.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"

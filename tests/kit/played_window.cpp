@@ -1,5 +1,7 @@
 #include "tests/kit/played_window.h"
 
+#include "faults/run_time_error.h"
+
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -102,7 +104,7 @@ std::string PlayedWindow::rowColour(int playCode)
     return picture().pixelColor(row.topLeft() + QPoint(2, 2)).name().toStdString();
 }
 
-double PlayedWindow::processorSeconds()
+double PlayedWindow::processorSeconds() const
 {
     failAt("clock");
     return static_cast<double>(clock.now += look) / 1000 / slowness;

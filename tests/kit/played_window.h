@@ -76,7 +76,7 @@ public:
     RecordedErrors errors;
     RecordedSounds sounds;
     RecordingShell pages;
-    VirtualClock clock;
+    mutable VirtualClock clock; // each look at the processor takes time
     int look = 500;      // milliseconds that a look at the processor's time takes: a slow machine
     double slowness = 1; // the time that passes, over the processor's
     std::string failing; // "clock" or "decks"
@@ -89,9 +89,9 @@ protected:
     PokerDeck nextDeck() override;
 
 private:
-    std::int64_t milliseconds() override { return clock.now; }
+    std::int64_t milliseconds() const override { return clock.now; }
     // Moves on with every look.
-    double processorSeconds() override;
+    double processorSeconds() const override;
     void failAt(const char* port) const;
 
     QTemporaryDir m_ownFolder;

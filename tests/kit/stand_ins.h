@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "faults/run_time_error.h"
+#include "faults/error_box.h"
 #include "tests/kit/cards.h"
 
 #include <gtest/gtest.h>

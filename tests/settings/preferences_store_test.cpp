@@ -1,3 +1,4 @@
+#include "faults/run_time_error.h"
 #include "settings/preferences_store.h"
 #include "tests/kit/memory_store.h"
 
