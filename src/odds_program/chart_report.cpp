@@ -58,9 +58,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
                 {"loss of any", ""},
                 {"loss of worst", "Loss"},
                 {"costliest deal", "Costliest deal"},
-                {"costs", ""}},
-               {},
-               {}};
+                {"costs", ""}}};
     std::string idle;
     for (std::size_t row = 0; row < chart.size(); ++row) {
         const RowPrice& told = price.rows[row];
@@ -95,9 +93,7 @@ Report bestChartsReport(const std::vector<PricedChart>& found)
     Table table{"best charts",
                 "Loss per 100 credits of the best chart found with each number of rows, taking\n"
                 "the worst of the holds that fit a row\n\n",
-                {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}},
-                {},
-                {}};
+                {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}}};
     for (const PricedChart& priced : found)
         table.rows.push_back({static_cast<std::int64_t>(priced.rows),
                               static_cast<std::int64_t>(priced.chart.size()),

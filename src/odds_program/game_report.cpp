@@ -46,9 +46,7 @@ Table returns(const Strategies& strategies, const ChartPrice& chart)
 {
     Table table{"returns",
                 "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
-                {{"play", "Play"}, {"return", "Return"}},
-                {},
-                {}};
+                {{"play", "Play"}, {"return", "Return"}}};
     for (const Strategy& strategy : strategies)
         table.rows.push_back({std::string(strategy.name), Exact{strategy.returned, 8, true}});
     table.outro =
@@ -72,9 +70,7 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
                  {"variance", "Variance"},
                  {"deviation", "Deviation"},
                  {"cost of 100 hands", "100 hands cost"},
-                 {"edge shows after", "Edge shows after"}},
-                {},
-                {}};
+                 {"edge shows after", "Edge shows after"}}};
     for (const Strategy& strategy : strategies) {
         const odds::OneHand one = odds::oneHand(strategy.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
@@ -98,9 +94,7 @@ Table rows(const ChartPrice& chart)
                  {"loss of any choice", ""},
                  {"loss of worst choice", "Worst"},
                  {"costliest deal", "Costliest", true},
-                 {"costs", "Costs"}},
-                {},
-                {}};
+                 {"costs", "Costs"}}};
     for (std::size_t i = 0; i < chart.rows.size(); ++i) {
         const charts::RowPrice& row = chart.rows[i];
         const charts::CostliestDeal& costliest = row.costliest[Taken::best];
@@ -122,9 +116,7 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
                 {{"final hand", "Final hand"},
                  {"pays", "Pays"},
                  {"chance", "Chance in %"},
-                 {"one in", "One in"}},
-                {},
-                {}};
+                 {"one in", "One in"}}};
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
         const std::size_t outcome = (i + 1) % odds::outcomes;
         const odds::Fraction& chance = strategy.chances[outcome];

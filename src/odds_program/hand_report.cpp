@@ -134,9 +134,7 @@ Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                 odds::holdText(hand.places, odds::holdAll) + ": row " +
                     std::to_string(play.row + 1) + " of the chart, " +
                     std::string(playName(static_cast<std::int16_t>(play.row + 1))) + "\n\n",
-                holdColumns(),
-                {},
-                {}};
+                holdColumns()};
     std::array<odds::Hold, odds::holds> order{};
     std::iota(order.begin(), order.end(), 0U);
     std::ranges::stable_sort(order, std::greater(),

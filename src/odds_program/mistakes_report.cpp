@@ -17,9 +17,7 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
                  {"costliest deal", "Costliest", true},
                  {"chart holds", ""},
                  {"perfect holds", ""},
-                 {"costs", ""}},
-                {},
-                {}};
+                 {"costs", ""}}};
     odds::Fraction all;
     std::int64_t deals = 0;
     for (const charts::Mistake& mistake : mistakes) {

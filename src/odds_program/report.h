@@ -45,8 +45,8 @@ struct Table {
     std::string name;  // in CSV and JSON
     std::string intro; // text before the table
     std::vector<Column> columns;
-    std::vector<std::vector<Cell>> rows; // a cell for each column
-    std::string outro;                   // text after the table
+    std::vector<std::vector<Cell>> rows{}; // a cell for each column
+    std::string outro{};                   // text after the table
 };
 
 using Report = std::vector<Table>;

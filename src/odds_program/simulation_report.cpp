@@ -3,11 +3,16 @@
 namespace quillet::odds_program
 {
 
-Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds& fair,
-                        const charts::ChartPrice& chart, const odds::Pays& pays)
+namespace
+{
+
+using charts::Taken;
+
+Table returnsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
+                   const charts::ChartPrice& chart, const odds::Pays& pays)
 {
     const std::int64_t played = simulation.perfect.hands();
-    Table returns{
+    Table table{
         "returns",
         std::to_string(played) +
             " hands from decks shuffled as the trainer shuffles them\n\n"
@@ -17,42 +22,51 @@ Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds
          {"hands", ""},
          {"return percent", "Return"},
          {"margin", "+-"},
-         {"fair return", "From a fair deck"}},
-        {},
-        {}};
+         {"fair return", "From a fair deck"}}};
     const auto add = [&](const char* name, const odds::PlayedHands& hands,
                          const odds::Fraction& fairReturn) {
-        returns.rows.push_back(
+        table.rows.push_back(
             {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
              played < 2 ? Cell(std::string("unknown")) : Cell(Rounded{100 * hands.margin(pays), 4}),
              Exact{fairReturn, 4, true}});
     };
     add("Best holds", simulation.perfect, fair.returned);
-    add("Chart, best choice", simulation.player, chart.returned[charts::Taken::best]);
+    add("Chart, best choice", simulation.player, chart.returned[Taken::best]);
     if (played < odds::tellingHands)
-        returns.outro =
+        table.outro =
             "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
             "2 % of it and comes once in 40,000 hands, and the margin itself is computed\n"
             "from the royals that happened to come.\n";
+    return table;
+}
 
-    Table counts{"final hands",
-                 "\nHow often each hand came up, and the average with a fair deck\n\n",
-                 {{"final hand", "Final hand"},
-                  {"best holds", "Best holds"},
-                  {"fair best holds", "Fair deck"},
-                  {"chart", "Chart"},
-                  {"fair chart", "Fair deck"}},
-                 {},
-                 {}};
+Table handsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
+                 const charts::ChartPrice& chart)
+{
+    Table table{"final hands",
+                "\nHow often each hand came up, and the average with a fair deck\n\n",
+                {{"final hand", "Final hand"},
+                 {"best holds", "Best holds"},
+                 {"fair best holds", "Fair deck"},
+                 {"chart", "Chart"},
+                 {"fair chart", "Fair deck"}}};
     const auto expected = [&](const odds::Fraction& chance) {
-        return Rounded{static_cast<double>(played) * chance.value(), 1};
+        return Rounded{static_cast<double>(simulation.perfect.hands()) * chance.value(), 1};
     };
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        counts.rows.push_back({std::string(odds::outcomeName(outcome)),
-                               simulation.perfect.count[outcome], expected(fair.chances[outcome]),
-                               simulation.player.count[outcome],
-                               expected(chart.chances[charts::Taken::best][outcome])});
-    return {returns, counts};
+        table.rows.push_back({std::string(odds::outcomeName(outcome)),
+                              simulation.perfect.count[outcome], expected(fair.chances[outcome]),
+                              simulation.player.count[outcome],
+                              expected(chart.chances[Taken::best][outcome])});
+    return table;
+}
+
+} // namespace
+
+Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds& fair,
+                        const charts::ChartPrice& chart, const odds::Pays& pays)
+{
+    return {returnsTable(simulation, fair, chart, pays), handsTable(simulation, fair, chart)};
 }
 
 } // namespace quillet::odds_program

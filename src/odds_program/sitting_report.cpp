@@ -67,9 +67,7 @@ Table tableOf(const char* name, std::string intro, const char* field, const char
             std::move(intro),
             {{field, heading},
              {"perfect play", "Perfect play"},
-             {"chart best choice", "Chart, best choice"}},
-            {},
-            {}};
+             {"chart best choice", "Chart, best choice"}}};
 }
 
 Table netTable(const std::array<odds::Sitting, 2>& sittings, std::int64_t hands)
