@@ -94,7 +94,7 @@ Table rows(const ChartPrice& chart)
                  {"loss of any choice", ""},
                  {"loss of worst choice", "Worst"},
                  {"costliest deal", "Costliest", true},
-                 {"costs", "Costs"}}};
+                 {"costs", "Cost"}}};
     for (std::size_t i = 0; i < chart.rows.size(); ++i) {
         const charts::RowPrice& row = chart.rows[i];
         const charts::CostliestDeal& costliest = row.costliest[Taken::best];
@@ -104,7 +104,7 @@ Table rows(const ChartPrice& chart)
              percent(row.loss[Taken::best]), percent(row.loss[Taken::any]),
              percent(row.loss[Taken::worst]),
              costs ? Cell(Cards{costliest.places, odds::holdAll}) : Cell(std::string()),
-             costs ? Cell(Exact{costliest.cost, 4}) : Cell(std::string())});
+             costs ? Cell(Exact{costliest.cost, 2}) : Cell(std::string())});
     }
     return table;
 }

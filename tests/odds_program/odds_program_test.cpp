@@ -128,7 +128,8 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_EQ(gameStatus, 0);
     for (const char* figure :
          {"99.54390437\n      return = 1653526326983/1661102543100\n", "Of the 2598960 deals",
-          "19.5147     4.4175          2.2805", "28824  0.02014  0.02014  9cTcJcKcAd  5.7724"})
+          "19.5147     4.4175          2.2805", "  4 to a straight flush, no gap    1200",
+          "0.02014  9cTcJcKcAd  5.77\n"})
         EXPECT_THAT(game, HasSubstr(figure));
     EXPECT_THAT(game, testing::Not(HasSubstr("loss of any"))) << "which no column shows";
     EXPECT_THAT(run("--format csv").first,
