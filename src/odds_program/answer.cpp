@@ -31,12 +31,10 @@ namespace
 template <typename Parse>
 auto parsedFile(const std::string& path, Parse parse)
 {
-    constexpr std::size_t maxBytes = 1'000'000;
-    TextInput file(path);
     try {
-        return parse(file.all(maxBytes));
+        return parse(inputText(path));
     } catch (const odds::BadInput& bad) {
-        throw odds::BadInput(file.name() + ": " + bad.what());
+        throw odds::BadInput(inputName(path) + ": " + bad.what());
     }
 }
 
@@ -68,7 +66,7 @@ void checkFiles(const Request& request)
 {
     const bool hands = request.question == Question::handsFromInput;
     const auto inputs = {request.pays, request.chartFile, std::string(hands ? "-" : "")};
-    if (std::ranges::count_if(inputs, TextInput::isStandardInput) > 1)
+    if (std::ranges::count_if(inputs, isStandardInput) > 1)
         throw BadUsage("standard input can be read for one thing only");
     if (request.cardFile && std::ranges::any_of(inputs, [&request](const std::string& input) {
             return wouldReplace(*request.cardFile, input);
@@ -110,8 +108,8 @@ Report answerHand(const Request& request)
 
 void answerHandsFromInput(const Request& request, std::ostream& out)
 {
-    TextInput in("-", &out);
-    answerHands(in, out, heldCardsFor(request), request.allHolds, styleFor(request));
+    std::cin.tie(nullptr); // answerHands flushes less often
+    answerHands(std::cin, out, heldCardsFor(request), request.allHolds, styleFor(request));
 }
 
 Report answerMistakes(const Request& request)

@@ -4,9 +4,11 @@
 #include "odds/hand_text.h"
 #include "odds_program/data_output.h"
 #include "odds_program/reports.h"
+#include "odds_program/text_input.h"
 
 #include <algorithm>
 #include <array>
+#include <istream>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -45,11 +47,10 @@ std::vector<Field> fieldsOf(const odds::DealtHand& hand, const charts::Play& pla
 }
 
 // Returns the sorted cards of the next hand, or nothing at the end. Counts lines in `number`.
-std::optional<std::array<odds::DeckPlace, 5>> nextHand(TextInput& in, int& number)
+std::optional<std::array<odds::DeckPlace, 5>> nextHand(std::istream& in, int& number)
 {
-    constexpr std::size_t maxBytes = 4096;
     try {
-        for (std::string line; in.takeLine(line, maxBytes); ++number) {
+        for (std::string line; takeLine(in, line); ++number) {
             if (line.find_first_not_of(" \t\r") == line.find('#'))
                 continue;
             auto places = odds::parseHand(line);
@@ -65,8 +66,8 @@ std::optional<std::array<odds::DeckPlace, 5>> nextHand(TextInput& in, int& numbe
 
 } // namespace
 
-void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCards, bool allHolds,
-                 const Style& style)
+void answerHands(std::istream& in, std::ostream& out, const odds::HeldCards& heldCards,
+                 bool allHolds, const Style& style)
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
@@ -87,6 +88,8 @@ void answerHands(TextInput& in, std::ostream& out, const odds::HeldCards& heldCa
             out << '\n';
             break;
         }
+        if (in.rdbuf()->in_avail() <= 0)
+            out.flush();
     }
 }
 

@@ -5,12 +5,11 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstring>
-#include <fcntl.h>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
-#include <optional>
-#include <string_view>
+#include <stdexcept>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -24,12 +23,12 @@ namespace
 namespace fs = std::filesystem;
 using FileStatus = struct stat;
 
-[[noreturn]] void fail()
+[[noreturn]] void fail(int error)
 {
-    throw std::system_error(errno, std::generic_category());
+    throw std::system_error(error, std::generic_category());
 }
 
-// Nothing interrupts the program while this lives; what would have done so does it afterwards.
+// Signals that arrive during its life act after it.
 class SignalsHeld
 {
 public:
@@ -47,132 +46,92 @@ private:
     sigset_t m_before{};
 };
 
-void writeAll(int file, std::string_view content)
+// Returns false and sets errno on failure.
+bool wrote(const std::string& path, const std::string& content)
 {
-    while (!content.empty()) {
-        const ssize_t written = write(file, content.data(), content.size());
-        if (written < 0 && errno != EINTR)
-            fail();
-        content.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-    }
+    std::ofstream file(path, std::ios::binary);
+    file << content;
+    file.close();
+    return !file.fail();
 }
 
-std::optional<FileStatus> statusOf(const std::string& path)
-{
-    FileStatus status{};
-    if (stat(path.c_str(), &status) == 0)
-        return status;
-    if (errno != ENOENT)
-        fail();
-    return std::nullopt;
-}
-
-bool isSame(const FileStatus& one, const FileStatus& other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
-bool isStandardOutput(const std::string& path)
-{
-    FileStatus named{};
-    FileStatus output{};
-    return stat(path.c_str(), &named) == 0 && fstat(STDOUT_FILENO, &output) == 0 &&
-           isSame(named, output);
-}
-
-void writeInPlace(const std::string& path, const std::string& content)
-{
-    const int file = open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    if (file < 0)
-        fail();
-    try {
-        writeAll(file, content);
-    } catch (...) {
-        close(file);
-        throw;
-    }
-    if (close(file) != 0)
-        fail();
-}
-
-// The end of a chain of links, whether there is a file or not.
-fs::path followed(fs::path path)
-{
-    constexpr int maxLinks = 40;
-    for (int link = 0; link < maxLinks && fs::is_symlink(fs::symlink_status(path)); ++link)
-        path = path.parent_path() / fs::read_symlink(path);
-    return path;
-}
-
-// Gives the new file the owner, as far as that is allowed, and the mode of the old one; without an
-// old one, the mode that new files get.
-void takeAfter(int file, const std::optional<FileStatus>& old)
+// Gives the new file the mode of the old one and, if that is allowed, its owner. Without an old
+// one it gets the mode of new files.
+bool tookAfter(int file, const FileStatus* old)
 {
     const mode_t mask = umask(0);
     umask(mask);
-    if (old && fchown(file, old->st_uid, old->st_gid) != 0)
+    if (old != nullptr && fchown(file, old->st_uid, old->st_gid) != 0)
         errno = 0;
     constexpr mode_t ofNewFiles = 0666;
     constexpr mode_t permissions = 0777;
-    if (fchmod(file, old ? old->st_mode & permissions : ofNewFiles & ~mask) != 0)
-        fail();
+    return fchmod(file, old != nullptr ? old->st_mode & permissions : ofNewFiles & ~mask) == 0;
 }
 
-// Under a name of its own in the same folder first.
-void replaceFile(const fs::path& target, const std::optional<FileStatus>& old,
-                 const std::string& content)
+// Writes a file of another name in the same folder first.
+void replaceFile(const fs::path& target, const FileStatus* old, const std::string& content)
 {
     const SignalsHeld signals;
     std::string part = (target.parent_path() / ".quillet-XXXXXX").string();
     const int file = mkstemp(part.data());
     if (file < 0)
-        fail();
-    try {
-        writeAll(file, content);
-        takeAfter(file, old);
-        if (fsync(file) != 0 || std::rename(part.c_str(), target.c_str()) != 0)
-            fail();
-    } catch (...) {
-        close(file);
-        unlink(part.c_str());
-        throw;
-    }
+        fail(errno);
+    const bool done = wrote(part, content) && tookAfter(file, old) && fsync(file) == 0 &&
+                      std::rename(part.c_str(), target.c_str()) == 0;
+    const int error = errno;
     close(file);
+    if (!done) {
+        unlink(part.c_str());
+        fail(error);
+    }
+}
+
+void writeNamedFile(fs::path path, const std::string& content)
+{
+    FileStatus status{};
+    const FileStatus* const old = stat(path.c_str(), &status) == 0 ? &status : nullptr;
+    if (old == nullptr && errno != ENOENT)
+        fail(errno);
+    constexpr mode_t writable = S_IWUSR | S_IWGRP | S_IWOTH;
+    if (old != nullptr && (old->st_mode & writable) == 0)
+        throw std::runtime_error(odds::printable(path.string(), 255) + " is read-only");
+    if (old != nullptr && !S_ISREG(old->st_mode)) {
+        if (!wrote(path, content))
+            fail(errno);
+        return;
+    }
+    if (old != nullptr && access(path.c_str(), W_OK) != 0)
+        fail(errno);
+    while (fs::is_symlink(path))
+        path = path.parent_path() / fs::read_symlink(path);
+    replaceFile(path, old, content);
+}
+
+bool isSameFile(const std::string& one, const std::string& other)
+{
+    std::error_code missing;
+    return fs::is_regular_file(one, missing) && fs::equivalent(one, other, missing);
 }
 
 } // namespace
 
 void writeFile(const std::string& path, const std::string& content)
 {
-    if (path == "-" || isStandardOutput(path)) {
+    if (path == "-" || path == "/dev/stdout" || isSameFile(path, "/dev/stdout")) {
         std::cout << content;
         return;
     }
-    const std::string name = odds::printable(path, 255);
     try {
-        const auto old = statusOf(path);
-        constexpr mode_t writable = S_IWUSR | S_IWGRP | S_IWOTH;
-        if (old && (old->st_mode & writable) == 0)
-            throw std::runtime_error(name + " is read-only");
-        if (old && !S_ISREG(old->st_mode))
-            writeInPlace(path, content);
-        else if (old && access(path.c_str(), W_OK) != 0)
-            fail();
-        else
-            replaceFile(followed(path), old, content);
+        writeNamedFile(path, content);
     } catch (const std::system_error& error) {
-        throw std::runtime_error(name + " cannot be written: " + error.code().message());
+        throw std::runtime_error(odds::printable(path, 255) +
+                                 " cannot be written: " + error.code().message());
     }
 }
 
 bool wouldReplace(const std::string& output, const std::string& input)
 {
-    FileStatus read{};
-    FileStatus written{};
-    const int status =
-        TextInput::isStandardInput(input) ? fstat(STDIN_FILENO, &read) : stat(input.c_str(), &read);
-    return status == 0 && stat(output.c_str(), &written) == 0 && S_ISREG(read.st_mode) &&
-           isSame(read, written);
+    return isSameFile(output, isStandardInput(input) ? "/dev/stdin" : input);
 }
 
 } // namespace quillet::odds_program

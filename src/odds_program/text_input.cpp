@@ -4,10 +4,9 @@
 
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
-#include <ostream>
-#include <unistd.h>
-#include <utility>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
 
 namespace quillet::odds_program
 {
@@ -16,88 +15,62 @@ namespace
 {
 
 // Removes the byte order mark.
-std::string decoded(std::string text)
+void decode(std::string& text)
 {
     const bool halfZero = text.size() > 1 && (text[0] == '\0') != (text[1] == '\0');
     if (halfZero || text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff"))
         throw odds::BadInput("the text is UTF-16; save it as UTF-8");
-    return text.starts_with("\xef\xbb\xbf") ? text.substr(3) : text;
+    if (text.starts_with("\xef\xbb\xbf"))
+        text.erase(0, 3);
 }
 
-std::string sizeText(std::size_t bytes)
+[[noreturn]] void fail(const std::string& path)
 {
-    constexpr std::size_t million = 1'000'000;
-    return bytes % million == 0 ? std::to_string(bytes / million) + " MB"
-                                : std::to_string(bytes) + " bytes";
+    throw std::runtime_error(inputName(path) + " cannot be read: " + std::strerror(errno));
 }
 
 } // namespace
 
-TextInput::TextInput(const std::string& path, std::ostream* flushed)
-    : m_name(isStandardInput(path) ? "standard input" : odds::printable(path, 255)),
-      m_flushed(flushed), m_file(STDIN_FILENO), m_ownsFile(!isStandardInput(path))
-{
-    if (m_ownsFile)
-        m_file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (m_file < 0)
-        throw std::runtime_error(m_name + " cannot be read: " + std::strerror(errno));
-}
-
-TextInput::~TextInput()
-{
-    if (m_ownsFile)
-        close(m_file);
-}
-
-bool TextInput::isStandardInput(std::string_view path)
+bool isStandardInput(std::string_view path)
 {
     return path == "-" || path == "/dev/stdin";
 }
 
-bool TextInput::fill()
+std::string inputName(const std::string& path)
 {
-    constexpr std::size_t atOnce = 1 << 16;
-    if (m_flushed != nullptr)
-        m_flushed->flush();
-    m_buffer.resize(atOnce);
-    ssize_t bytes = -1;
-    do
-        bytes = read(m_file, m_buffer.data(), m_buffer.size());
-    while (bytes < 0 && errno == EINTR);
-    if (bytes < 0)
-        throw std::runtime_error(m_name + " cannot be read: " + std::strerror(errno));
-    m_left = std::string_view(m_buffer).substr(0, static_cast<std::size_t>(bytes));
-    return bytes > 0;
+    return isStandardInput(path) ? "standard input" : odds::printable(path, 255);
 }
 
-std::string TextInput::all(std::size_t maxBytes)
+std::string inputText(const std::string& path)
 {
-    std::string text;
-    while (fill()) {
-        text += m_left;
-        if (text.size() > maxBytes)
-            throw odds::BadInput("the text is longer than " + sizeText(maxBytes));
-    }
-    return decoded(std::move(text));
+    constexpr std::streamsize maxBytes = 1'000'000;
+    std::ifstream file;
+    if (!isStandardInput(path))
+        file.open(path);
+    std::istream& in = isStandardInput(path) ? std::cin : file;
+    std::string text(maxBytes + 1, '\0');
+    if (!in.good() || in.read(text.data(), maxBytes + 1).bad())
+        fail(path);
+    if (in.gcount() > maxBytes)
+        throw odds::BadInput("the text is longer than 1 MB");
+    text.resize(static_cast<std::size_t>(in.gcount()));
+    decode(text);
+    return text;
 }
 
-bool TextInput::takeLine(std::string& line, std::size_t maxBytes)
+bool takeLine(std::istream& standardInput, std::string& line)
 {
-    line.clear();
-    if (m_left.empty() && !fill())
-        return false;
-    for (std::size_t end = std::string_view::npos; end == std::string_view::npos;) {
-        end = m_left.find('\n');
-        line += m_left.substr(0, end);
-        if (line.size() > maxBytes)
-            throw odds::BadInput("the line is longer than " + sizeText(maxBytes));
-        m_left = end == std::string_view::npos ? std::string_view() : m_left.substr(end + 1);
-        if (end == std::string_view::npos && !fill())
-            break;
-    }
-    if (std::exchange(m_atStart, false))
-        line = decoded(std::move(line));
-    return true;
+    constexpr std::size_t maxBytes = 4096;
+    line.resize(maxBytes + 1);
+    standardInput.getline(line.data(), maxBytes + 1);
+    if (standardInput.bad())
+        fail("-");
+    if (standardInput.fail() && !standardInput.eof())
+        throw odds::BadInput("the line is longer than 4096 bytes");
+    const bool ended = !standardInput.eof(); // by the end of the line, which is counted
+    line.resize(static_cast<std::size_t>(standardInput.gcount()) - (ended ? 1 : 0));
+    decode(line);
+    return !standardInput.fail();
 }
 
 } // namespace quillet::odds_program
