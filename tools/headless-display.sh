@@ -38,8 +38,11 @@ wait_for() {
 }
 
 # Settings for the windows of the caller must not move or restyle this one.
-unset WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR \
-    QT_SCREEN_SCALE_FACTORS QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
+unset WAYLAND_DISPLAY SESSION_MANAGER QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS \
+    QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
+# Without an address, the D-Bus library would start a bus. It forks to do so, and a program built
+# with the address sanitizer can hang in the fork while its other threads allocate memory.
+export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_CACHE_HOME=$folder/cache \
     XDG_DATA_HOME=$folder/data XDG_RUNTIME_DIR=$folder/run XAUTHORITY=$folder/authority
 
