@@ -1,3 +1,4 @@
+#include "cards/court.h"
 #include "engine/card.h"
 #include "platform/colour_contrast.h"
 #include "tests/kit/pixels.h"
@@ -73,6 +74,13 @@ TEST(CardFaces, showAsManyPipsAsTheirRankSaysAllClearlyLargerThanTheIndex)
         EXPECT_EQ(pips, rank) << number;
         EXPECT_GE(lowest, 1.4 * indexPip) << number;
     }
+}
+
+TEST(CardFaces, noSashIsGoldOnGold)
+{
+    for (int rank = 11; rank <= 13; ++rank)
+        for (int suit = 0; suit < 4; ++suit)
+            EXPECT_NE(courtPalette(rank, suit)['S'], courtPalette(rank, suit)['g']);
 }
 
 TEST(CardFaces, noClubHasAHole)

@@ -99,6 +99,8 @@ TEST(HandInWindow, aWrongHoldIsRefusedAndTheRightOnePaid)
     game.sounds.names.clear();
     game.draw("12");
     EXPECT_EQ(game.rowColour(11), green);
+    EXPECT_LT(qGray(game.picture().pixel(row.left() + 2, row.center().y())), 64) << "a diamond";
+    EXPECT_EQ(game.picture().pixelColor(row.left() + 2, row.center().y() - 4), QColor(green));
     EXPECT_EQ(game.counters(), "0/1/1");
     EXPECT_EQ(game.sounds.names,
               (std::vector<std::string>{"deal.wav", "deal.wav", "deal.wav", "pokerwin1.wav"}));
@@ -136,6 +138,9 @@ TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
     game.clickCard(1);
     ASSERT_TRUE(moveToScale(*game.window, 1.0));
     EXPECT_EQ(game.picture(), before);
+    display(*game.window).fill(Qt::magenta);
+    emit control<TableCanvas>(*game.window, "table").scaleChanged();
+    EXPECT_EQ(game.picture(), before) << "a flight may have painted only its own part";
     game.draw("1");
     EXPECT_EQ(game.counters(), "0/1/1") << "the hand went on";
 }

@@ -72,7 +72,14 @@ TEST(WindowEvents, theChartStandsStillWithRoomForAWiderFont)
     game.choose("mnuPoker");
     EXPECT_EQ(counter.hidden, 0) << "a chart that is shown again flashes";
     QFont::insertSubstitution("MS Sans Serif", "DejaVu Sans Mono"); // letters shrink for it
-    expectRoom(*StartedWindow().window, 1);
+    StartedWindow wide;
+    expectRoom(*wide.window, 1);
+    auto& longest = control<ChartRow>(*wide.window, "pkLabel18");
+    const auto letters = [&longest](ChartRowState state) {
+        longest.show({0xFFFFFF, 0}, state);
+        return longest.grab(longest.rect().adjusted(12, 0, 0, 0)).toImage();
+    };
+    EXPECT_NE(letters(ChartRowState::winner), letters(ChartRowState::base)) << "clear of the mark";
     QFont::removeSubstitutions("MS Sans Serif");
 }
 

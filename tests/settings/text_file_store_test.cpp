@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -165,8 +167,12 @@ TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
     EXPECT_EQ(write("k", "old"), "");
     for (const char* folder : {"config", "config/Quillet"})
         EXPECT_EQ(mode(m_home.filePath(folder)), 0700U) << folder;
-    // A save that was killed left this behind.
+    // A save that was killed left these behind, the lock on another machine.
     writeFile("settings.ini.new", "[Preferen");
+    writeFile("settings.ini.lock", "1\nquillet\nelsewhere\n");
+    using FileTime = std::filesystem::file_time_type;
+    std::filesystem::last_write_time(path("settings.ini.lock").toStdString(),
+                                     FileTime::clock::now() - std::chrono::seconds(15));
     EXPECT_EQ(write("k", "old"), "");
     EXPECT_EQ(leftovers(), QStringList());
 
