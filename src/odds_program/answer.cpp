@@ -103,7 +103,7 @@ Report answerHand(const Request& request)
     const odds::HeldCards heldCards = heldCardsFor(request);
     const odds::DealtHand hand(heldCards, places);
     const charts::ChartPlayer player(charts::HoldTable(heldCards), charts::trainersChart());
-    return handReport(heldCards, hand, player.play(hand), request.allHolds);
+    return handReport(heldCards, hand, player.play(hand), request.allHolds, request.style.format);
 }
 
 void answerHandsFromInput(const Request& request, std::ostream& out)

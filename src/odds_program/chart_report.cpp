@@ -44,10 +44,10 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
     Table returns{"returns",
                   "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                   {{"play", "Play"}, {"return", "Return"}},
-                  {{std::string("Perfect play"), Exact{price.perfect, 8, true}}},
+                  {{"Perfect play", percent(price.perfect, 8)}},
                   {}};
     for (std::size_t way = 0; way < takenNames.size(); ++way)
-        returns.rows.push_back({std::string(takenNames[way]), Exact{price.returned[way], 8, true}});
+        returns.rows.push_back({takenNames[way], percent(price.returned[way], 8)});
 
     Table rows{"rows",
                "\nThe loss of each row per 100 credits over all deals, taking the worst hold that\n"
@@ -64,11 +64,11 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
         const RowPrice& told = price.rows[row];
         std::vector<Cell> cells{charts::rowText(chart[row]), told.deals};
         for (const odds::Fraction& loss : told.loss)
-            cells.emplace_back(Exact{loss, 6, true});
+            cells.emplace_back(percent(loss, 6));
         const charts::CostliestDeal& costliest = told.costliest[Taken::worst];
         const bool costs = costliest.cost != odds::Fraction();
-        cells.push_back(costs ? Cell(Cards{costliest.places, odds::holdAll}) : Cell(std::string()));
-        cells.emplace_back(Exact{costliest.cost, 4});
+        cells.push_back(costs ? cards(costliest.places, odds::holdAll) : "");
+        cells.emplace_back(exact(costliest.cost, 4));
         rows.rows.push_back(std::move(cells));
         if (told.deals == 0)
             idle += "  " + wrapped(charts::rowText(chart[row]));
@@ -97,7 +97,7 @@ Report bestChartsReport(const std::vector<PricedChart>& found)
     for (const PricedChart& priced : found)
         table.rows.push_back({static_cast<std::int64_t>(priced.rows),
                               static_cast<std::int64_t>(priced.chart.size()),
-                              Exact{priced.price.loss(Taken::worst), 6, true}});
+                              percent(priced.price.loss(Taken::worst), 6)});
     return {table};
 }
 

@@ -37,18 +37,13 @@ std::string rowName(std::size_t row)
     return std::string(playName(static_cast<std::int16_t>(row + 1)));
 }
 
-Exact percent(const odds::Fraction& share)
-{
-    return {share, 5, true};
-}
-
 Table returns(const Strategies& strategies, const ChartPrice& chart)
 {
     Table table{"returns",
                 "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                 {{"play", "Play"}, {"return", "Return"}}};
     for (const Strategy& strategy : strategies)
-        table.rows.push_back({std::string(strategy.name), Exact{strategy.returned, 8, true}});
+        table.rows.push_back({strategy.name, percent(strategy.returned, 8)});
     table.outro =
         "\nOf the " + std::to_string(odds::FairOdds::deals) +
         " deals the coach accepts several holds for " + std::to_string(chart.dealsWithAChoice) +
@@ -74,10 +69,10 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
     for (const Strategy& strategy : strategies) {
         const odds::OneHand one = odds::oneHand(strategy.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
-        table.rows.push_back({std::string(strategy.name), Rounded{one.variance(), 4},
-                              Rounded{std::sqrt(one.variance()), 4},
-                              Exact{(odds::Fraction(1, 1) - strategy.returned) * 500, 4},
-                              shows ? Cell(Rounded{*shows, 0}) : Cell(std::string("never"))});
+        table.rows.push_back({strategy.name, rounded(one.variance(), 4),
+                              rounded(std::sqrt(one.variance()), 4),
+                              exact((odds::Fraction(1, 1) - strategy.returned) * 500, 4),
+                              shows ? rounded(*shows, 0) : "never"});
     }
     return table;
 }
@@ -93,18 +88,17 @@ Table rows(const ChartPrice& chart)
                  {"loss of best choice", "Best"},
                  {"loss of any choice", ""},
                  {"loss of worst choice", "Worst"},
-                 {"costliest deal", "Costliest", true},
+                 {"costliest deal", "Costliest"},
                  {"costs", "Cost"}}};
     for (std::size_t i = 0; i < chart.rows.size(); ++i) {
         const charts::RowPrice& row = chart.rows[i];
         const charts::CostliestDeal& costliest = row.costliest[Taken::best];
         const bool costs = costliest.cost != odds::Fraction();
-        table.rows.push_back(
-            {static_cast<std::int64_t>(i + 1), rowName(i), row.deals,
-             percent(row.loss[Taken::best]), percent(row.loss[Taken::any]),
-             percent(row.loss[Taken::worst]),
-             costs ? Cell(Cards{costliest.places, odds::holdAll}) : Cell(std::string()),
-             costs ? Cell(Exact{costliest.cost, 2}) : Cell(std::string())});
+        table.rows.push_back({static_cast<std::int64_t>(i + 1), rowName(i), row.deals,
+                              percent(row.loss[Taken::best], 5), percent(row.loss[Taken::any], 5),
+                              percent(row.loss[Taken::worst], 5),
+                              costs ? closeCards(costliest.places) : "",
+                              costs ? exact(costliest.cost, 2) : ""});
     }
     return table;
 }
@@ -121,10 +115,9 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
         const std::size_t outcome = (i + 1) % odds::outcomes;
         const odds::Fraction& chance = strategy.chances[outcome];
         const bool comes = chance != odds::Fraction();
-        table.rows.push_back({std::string(odds::outcomeName(outcome)), pays[outcome],
-                              Exact{chance, 8, true},
-                              comes ? Cell(Exact{{chance.denominator(), chance.numerator()}, 2})
-                                    : Cell(std::string("never"))});
+        table.rows.push_back(
+            {odds::outcomeName(outcome), pays[outcome], percent(chance, 8),
+             comes ? exact({chance.denominator(), chance.numerator()}, 2) : "never"});
     }
     return table;
 }

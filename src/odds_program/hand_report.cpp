@@ -16,11 +16,6 @@ namespace
 
 constexpr std::int64_t shownByDefault = 6;
 
-std::int64_t asNumber(bool truth)
-{
-    return truth ? 1 : 0;
-}
-
 // "royal in 1, flush in 8".
 std::string waysText(const odds::OutcomeCounts& counts)
 {
@@ -90,11 +85,26 @@ odds::Hold rivalOf(const odds::DealtHand& hand, odds::Hold charts)
     return hand.bestOf(others);
 }
 
-std::vector<Column> holdColumns()
+std::string explanation(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                        odds::Hold charts)
 {
-    std::vector<Column> columns{{"number", "No."}, {"hold", "Hold"}, {"expected", "Expected"},
-                                {"cost", "Costs"}, {"marks", "Is"},  {"best", ""},
-                                {"chart", ""},     {"accepted", ""}, {"draws", ""}};
+    const std::string reason =
+        practice::reason(heldCards, hand, hand.bestHold, rivalOf(hand, charts));
+    return std::string{"\n"} + wrapped(reason) + drawsText(heldCards, hand, hand.bestHold) +
+           (charts == hand.bestHold ? "" : drawsText(heldCards, hand, charts));
+}
+
+std::vector<Column> columnsOf(Format format)
+{
+    std::vector<Column> columns{{"number", "No."},
+                                {"hold", "Hold"},
+                                {"expected", "Expected"},
+                                {"cost", "Costs"},
+                                {"marks", "Is"}};
+    if (format == Format::text)
+        return columns;
+    for (const char* field : {"best", "chart", "accepted", "draws"})
+        columns.push_back({field, ""});
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
         columns.push_back({std::string(odds::outcomeName(outcome)), ""});
     columns.push_back({"missed discards", ""});
@@ -102,22 +112,21 @@ std::vector<Column> holdColumns()
     return columns;
 }
 
-std::vector<Cell> holdRow(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
-                          odds::HoldSet fitting, std::int64_t number, odds::Hold hold)
+std::vector<Cell> rowOf(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
+                        odds::HoldSet fitting, std::int64_t number, odds::Hold hold, Format format)
 {
-    const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
     const odds::Fraction expected = hand.expectedCredits(hold);
-    std::vector<Cell> row{number,
-                          Cards{hand.places, hold},
-                          Exact{expected, 8},
-                          Exact{hand.expectedCredits(hand.bestHold) - expected, 8},
-                          marks(hand, fitting, hold),
-                          asNumber(hand.worth[hold] == hand.worth[hand.bestHold]),
-                          asNumber(hold == hand.bestOf(fitting)),
-                          asNumber(odds::contains(fitting, hold)),
-                          std::int64_t{std::accumulate(counts.begin(), counts.end(), 0)}};
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        row.emplace_back(std::int64_t{counts[outcome]});
+    const odds::Fraction cost = hand.expectedCredits(hand.bestHold) - expected;
+    std::vector<Cell> row{number, cards(hand.places, hold), exact(expected, 8), exact(cost, 8),
+                          marks(hand, fitting, hold)};
+    if (format == Format::text)
+        return row;
+    const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
+    row.emplace_back(hand.worth[hold] == hand.worth[hand.bestHold]);
+    row.emplace_back(hold == hand.bestOf(fitting));
+    row.emplace_back(odds::contains(fitting, hold));
+    row.emplace_back(std::accumulate(counts.begin(), counts.end(), 0));
+    row.insert(row.end(), counts.begin() + 1, counts.end());
     row.emplace_back(penaltiesText(heldCards, hand, hold));
     row.emplace_back(
         hold == hand.bestHold ? "" : practice::reason(heldCards, hand, hand.bestHold, hold));
@@ -127,14 +136,14 @@ std::vector<Cell> holdRow(const odds::HeldCards& heldCards, const odds::DealtHan
 } // namespace
 
 Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
-                  const charts::Play& play, bool all)
+                  const charts::Play& play, bool all, Format format)
 {
     const odds::Hold charts = hand.bestOf(play.fitting);
     Table table{"holds",
                 odds::holdText(hand.places, odds::holdAll) + ": row " +
                     std::to_string(play.row + 1) + " of the chart, " +
                     std::string(playName(static_cast<std::int16_t>(play.row + 1))) + "\n\n",
-                holdColumns()};
+                columnsOf(format)};
     std::array<odds::Hold, odds::holds> order{};
     std::iota(order.begin(), order.end(), 0U);
     std::ranges::stable_sort(order, std::greater(),
@@ -142,12 +151,9 @@ Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
     std::int64_t number = 0;
     for (const odds::Hold hold : order)
         if (++number <= shownByDefault || all || hold == charts)
-            table.rows.push_back(holdRow(heldCards, hand, play.fitting, number, hold));
-    table.outro = std::string{"\n"} +
-                  wrapped(practice::reason(heldCards, hand, hand.bestHold, rivalOf(hand, charts))) +
-                  drawsText(heldCards, hand, hand.bestHold);
-    if (charts != hand.bestHold)
-        table.outro += drawsText(heldCards, hand, charts);
+            table.rows.push_back(rowOf(heldCards, hand, play.fitting, number, hold, format));
+    if (format == Format::text)
+        table.outro = explanation(heldCards, hand, charts);
     return {table};
 }
 

@@ -78,7 +78,8 @@ void answerHands(std::istream& in, std::ostream& out, const odds::HeldCards& hel
         switch (style.format) {
         case Format::text:
             out << std::exchange(separator, "\n");
-            writeReport(out, handReport(heldCards, hand, player.play(hand), allHolds), style);
+            writeReport(out, handReport(heldCards, hand, player.play(hand), allHolds, style.format),
+                        style);
             break;
         case Format::csv:
             writeCsvValues(out, fieldsOf(hand, player.play(hand)));

@@ -14,7 +14,7 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
                  {"deals", "Deals"},
                  {"cost", "Cost"},
                  {"running percent", "Sum %"},
-                 {"costliest deal", "Costliest", true},
+                 {"costliest deal", "Costliest"},
                  {"chart holds", ""},
                  {"perfect holds", ""},
                  {"costs", ""}}};
@@ -27,11 +27,10 @@ Report mistakesReport(const std::vector<charts::Mistake>& mistakes)
     odds::Fraction running;
     for (const charts::Mistake& mistake : mistakes) {
         running = running + mistake.cost;
-        table.rows.push_back(
-            {mistake.row, std::string(mistake.instead), mistake.deals, Exact{mistake.cost, 5, true},
-             Rounded{100 * running.value() / all.value(), 0}, Cards{mistake.example, odds::holdAll},
-             Cards{mistake.example, mistake.played}, Cards{mistake.example, mistake.best},
-             Exact{mistake.costliest, 4}});
+        table.rows.push_back({mistake.row, mistake.instead, mistake.deals, percent(mistake.cost, 5),
+                              rounded(100 * running.value() / all.value(), 0),
+                              closeCards(mistake.example), cards(mistake.example, mistake.played),
+                              cards(mistake.example, mistake.best), exact(mistake.costliest, 4)});
     }
     table.outro = "\nIn all " + std::to_string(deals) + " deals, which cost " +
                   (all * 100).decimals(8) + " of 100 credits.\n";

@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <ostream>
 #include <sstream>
-#include <utility>
 
 namespace quillet::odds_program
 {
@@ -18,42 +17,9 @@ namespace
 
 constexpr std::size_t lineWidth = 80;
 constexpr std::size_t columnGap = 2;
+constexpr int dataPlaces = 12; // decimals in CSV and JSON
 
-bool isNumber(const Cell& cell)
-{
-    return !std::holds_alternative<std::string>(cell) && !std::holds_alternative<Cards>(cell);
-}
-
-std::string plain(const Cell& cell)
-{
-    struct {
-        std::string operator()(const std::string& text) const { return text; }
-        std::string operator()(std::int64_t number) const { return std::to_string(number); }
-        std::string operator()(const Exact& exact) const
-        {
-            return (exact.inPercent ? exact.value * 100 : exact.value).decimals(exact.places);
-        }
-        std::string operator()(const Rounded& rounded) const
-        {
-            return decimals(rounded.value, rounded.places);
-        }
-        std::string operator()(const Cards& cards) const
-        {
-            return odds::holdText(cards.places, cards.hold);
-        }
-    } const text;
-    return std::visit(text, cell);
-}
-
-std::string textOf(const Column& column, const Cell& cell)
-{
-    std::string text = plain(cell);
-    if (column.close && std::holds_alternative<Cards>(cell))
-        std::erase(text, ' ');
-    return text;
-}
-
-// Diamonds yellow, hearts red. The escapes take no width.
+// Diamonds yellow, hearts red.
 std::string coloured(const std::string& cards)
 {
     std::string text;
@@ -74,8 +40,8 @@ struct TextColumn {
     bool alignsRight;
 };
 
-// Texts longer than maxText do not widen their column.
-std::vector<TextColumn> textColumns(const Table& table, std::size_t maxText)
+// Words longer than maxWords do not widen their column.
+std::vector<TextColumn> textColumns(const Table& table, std::size_t maxWords)
 {
     std::vector<TextColumn> columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
@@ -83,131 +49,97 @@ std::vector<TextColumn> textColumns(const Table& table, std::size_t maxText)
         if (column.width == 0)
             continue;
         for (const auto& row : table.rows) {
-            const std::size_t size = textOf(table.columns[i], row[i]).size();
-            const bool tooLong = size > maxText && std::holds_alternative<std::string>(row[i]);
-            column.width = std::max(column.width, tooLong ? 0 : size);
-            column.alignsRight = column.alignsRight || isNumber(row[i]);
+            const Cell& cell = row[i];
+            if (cell.isNumber || cell.isCards || cell.text.size() <= maxWords)
+                column.width = std::max(column.width, cell.text.size());
+            column.alignsRight = column.alignsRight || cell.isNumber;
         }
         columns.push_back(column);
     }
     return columns;
 }
 
-// Narrows the text columns until the table fits the line.
+// Narrows the columns of words until the table fits the line.
 std::vector<TextColumn> fittingColumns(const Table& table)
 {
-    std::size_t maxText = lineWidth;
-    while (true) {
-        std::vector<TextColumn> columns = textColumns(table, maxText--);
+    for (std::size_t maxWords = lineWidth;; --maxWords) {
+        std::vector<TextColumn> columns = textColumns(table, maxWords);
         std::size_t width = 0;
         for (const TextColumn& column : columns)
             width += columnGap + column.width;
-        if (width <= lineWidth || maxText == 0)
+        if (width <= lineWidth || maxWords == 0)
             return columns;
     }
 }
 
-// cellText(i) is the text of column i in this line. After a cell wider than its column the line
-// breaks.
-template <typename CellText>
-std::string textLine(const std::vector<TextColumn>& columns, const CellText& cellText)
+// After a cell wider than its column the line breaks.
+void writeTextLine(std::ostream& out, const std::vector<TextColumn>& columns,
+                   const std::vector<Cell>& cells, bool colour)
 {
-    std::string text; // lines that are complete
-    std::string line;
     std::size_t start = columnGap;
+    std::size_t end = 0; // of what is on the line
+    const auto moveTo = [&out, &end](std::size_t place) { out << std::string(place - end, ' '); };
     for (const TextColumn& column : columns) {
-        const std::string cell = cellText(column.index);
-        if (cell.size() > column.width) {
-            const bool fits = start + cell.size() <= lineWidth;
-            if (!fits && !line.empty())
-                text += std::exchange(line, "") + "\n";
-            line.resize(fits ? start : columnGap, ' ');
-            text += std::exchange(line, "") + wrapped(cell);
-        } else if (!cell.empty()) {
-            line.resize(start + (column.alignsRight ? column.width - cell.size() : 0), ' ');
-            line += cell;
+        const Cell& cell = cells[column.index];
+        const std::size_t size = cell.text.size();
+        if (size > column.width) {
+            const bool fits = start + size <= lineWidth;
+            if (!fits && end > 0)
+                out << "\n";
+            end = fits ? end : 0;
+            moveTo(fits ? start : columnGap);
+            out << wrapped(cell.text);
+            end = 0;
+        } else if (size > 0) {
+            const std::size_t from = start + (column.alignsRight ? column.width - size : 0);
+            moveTo(from);
+            out << (colour && cell.isCards ? coloured(cell.text) : cell.text);
+            end = from + size;
         }
         start += column.width + columnGap;
     }
-    return text + line;
-}
-
-void colourCards(std::string& text, const Column& column, const Cell& cell)
-{
-    if (!std::holds_alternative<Cards>(cell))
-        return;
-    const std::string cards = textOf(column, cell);
-    if (const auto at = text.find(cards); at != std::string::npos && cards != "nothing")
-        text.replace(at, cards.size(), coloured(cards));
-}
-
-void writeExact(std::ostream& out, const Column& column, const Cell& cell)
-{
-    const auto* exact = std::get_if<Exact>(&cell);
-    if (exact != nullptr && !column.heading.empty())
-        out << "      " << column.field << " = " << exact->value.text() << "\n";
+    out << "\n";
 }
 
 void writeTextTable(std::ostream& out, const Table& table, const Style& style)
 {
     out << table.intro;
     const std::vector<TextColumn> columns = fittingColumns(table);
+    std::vector<Cell> headings;
+    for (const Column& column : table.columns)
+        headings.emplace_back(column.heading);
     if (!table.rows.empty())
-        out << textLine(columns, [&](std::size_t i) { return table.columns[i].heading; }) << "\n";
+        writeTextLine(out, columns, headings, false);
     for (const auto& row : table.rows) {
-        std::string text =
-            textLine(columns, [&](std::size_t i) { return textOf(table.columns[i], row[i]); });
-        for (std::size_t i = 0; style.colour && i < row.size(); ++i)
-            if (!table.columns[i].heading.empty())
-                colourCards(text, table.columns[i], row[i]);
-        out << text << "\n";
-        for (std::size_t i = 0; style.exact && i < row.size(); ++i)
-            writeExact(out, table.columns[i], row[i]);
+        writeTextLine(out, columns, row, style.colour);
+        for (const TextColumn& column : columns)
+            if (style.exact && !row[column.index].fraction.empty())
+                out << "      " << table.columns[column.index].field << " = "
+                    << row[column.index].fraction << "\n";
     }
     out << table.outro;
 }
 
-// CSV and JSON have more decimals than text.
-std::string dataText(const Cell& cell)
-{
-    constexpr int places = 12;
-    if (const auto* exact = std::get_if<Exact>(&cell))
-        return exact->value.decimals(places);
-    const auto* rounded = std::get_if<Rounded>(&cell);
-    return rounded == nullptr ? plain(cell) : decimals(rounded->value, places);
-}
-
-std::string fractionOf(const Cell& cell)
-{
-    const auto* exact = std::get_if<Exact>(&cell);
-    return exact == nullptr ? "" : exact->value.text();
-}
-
-// Whether some cell of the column is exact, so that CSV needs a second column.
-bool hasFractions(const Table& table, std::size_t column)
-{
-    return std::ranges::any_of(table.rows, [column](const auto& row) {
-        return std::holds_alternative<Exact>(row[column]);
-    });
-}
-
-// An exact figure is followed by its fraction. CSV has as many fields in every row.
+// An exact number is followed by its fraction. CSV has as many fields in every row.
 std::vector<Field> fieldsOf(const Table& table, const std::vector<Cell>& row, Format format)
 {
     std::vector<Field> fields;
     for (std::size_t i = 0; i < row.size(); ++i) {
         const std::string& name = table.columns[i].field;
-        fields.push_back({name, dataText(row[i]), !isNumber(row[i])});
-        if (std::holds_alternative<Exact>(row[i]) ||
-            (format == Format::csv && hasFractions(table, i)))
-            fields.push_back({name + " fraction", fractionOf(row[i]), true});
+        fields.push_back({name, row[i].data, !row[i].isNumber});
+        const bool hasColumn = format == Format::csv &&
+                               std::ranges::any_of(table.rows, [i](const std::vector<Cell>& any) {
+                                   return !any[i].fraction.empty();
+                               });
+        if (hasColumn || !row[i].fraction.empty())
+            fields.push_back({name + " fraction", row[i].fraction, true});
     }
     return fields;
 }
 
 void writeWideCsv(std::ostream& out, const Table& table)
 {
-    const std::vector<Cell> none(table.columns.size());
+    const std::vector<Cell> none(table.columns.size(), "");
     const auto& first = table.rows.empty() ? none : table.rows.front();
     writeCsvNames(out, fieldsOf(table, first, Format::csv));
     for (const auto& row : table.rows)
@@ -221,10 +153,10 @@ void writeLongCsv(std::ostream& out, const Report& report)
         for (const auto& row : table.rows)
             for (std::size_t i = 1; i < row.size(); ++i)
                 writeCsvValues(out, {{"table", table.name},
-                                     {"row", dataText(row[0])},
+                                     {"row", row[0].data},
                                      {"field", table.columns[i].field},
-                                     {"value", dataText(row[i])},
-                                     {"fraction", fractionOf(row[i])}});
+                                     {"value", row[i].data},
+                                     {"fraction", row[i].fraction}});
 }
 
 void writeJson(std::ostream& out, const Report& report)
@@ -245,6 +177,35 @@ void writeJson(std::ostream& out, const Report& report)
 }
 
 } // namespace
+
+Cell exact(const odds::Fraction& number, int places)
+{
+    return {number.decimals(places), number.decimals(dataPlaces), number.text()};
+}
+
+Cell percent(const odds::Fraction& share, int places)
+{
+    return {(share * 100).decimals(places), share.decimals(dataPlaces), share.text()};
+}
+
+Cell rounded(double number, int places)
+{
+    return {decimals(number, places), decimals(number, dataPlaces)};
+}
+
+Cell cards(const std::array<odds::DeckPlace, 5>& places, odds::Hold hold)
+{
+    Cell cell(odds::holdText(places, hold));
+    cell.isCards = hold != 0;
+    return cell;
+}
+
+Cell closeCards(const std::array<odds::DeckPlace, 5>& places)
+{
+    Cell cell = cards(places, odds::holdAll);
+    std::erase(cell.text, ' ');
+    return cell;
+}
 
 void writeReport(std::ostream& out, const Report& report, const Style& style)
 {

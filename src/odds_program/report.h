@@ -3,10 +3,13 @@
 #include "odds/dealt_hand.h"
 #include "odds/fraction.h"
 
+#include <array>
+#include <concepts>
 #include <cstdint>
 #include <iosfwd>
 #include <string>
-#include <variant>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillet::odds_program
@@ -14,31 +17,37 @@ namespace quillet::odds_program
 
 // A report is a list of tables, which can be printed as text, CSV or JSON.
 
-// An exact number. `places` and `inPercent` are for text only.
-struct Exact {
-    odds::Fraction value;
-    int places = 0;
-    bool inPercent = false;
+// A value, which is a number or words.
+struct Cell {
+    template <std::convertible_to<std::string_view> Words>
+    Cell(const Words& words) : text(std::string_view(words)), data(text)
+    {
+    }
+    Cell(std::int64_t number) : Cell(std::to_string(number), std::to_string(number)) {}
+    Cell(std::string number, std::string numberInData, std::string numberAsFraction = {})
+        : text(std::move(number)), data(std::move(numberInData)),
+          fraction(std::move(numberAsFraction)), isNumber(true)
+    {
+    }
+
+    std::string text;
+    std::string data;     // in CSV and JSON, with more decimals
+    std::string fraction; // of an exact number
+    bool isNumber = false;
+    bool isCards = false;
 };
 
-// An approximate number.
-struct Rounded {
-    double value = 0;
-    int places = 0;
-};
-
-// The held cards of a hand.
-struct Cards {
-    std::array<odds::DeckPlace, 5> places{};
-    odds::Hold hold = odds::holdAll;
-};
-
-using Cell = std::variant<std::string, std::int64_t, Exact, Rounded, Cards>;
+// `places` are the decimals in text.
+[[nodiscard]] Cell exact(const odds::Fraction& number, int places);
+[[nodiscard]] Cell percent(const odds::Fraction& share, int places); // a share of 1 in data
+[[nodiscard]] Cell rounded(double number, int places);
+// The held cards of a hand, with blanks between them or, in text only, without.
+[[nodiscard]] Cell cards(const std::array<odds::DeckPlace, 5>& places, odds::Hold hold);
+[[nodiscard]] Cell closeCards(const std::array<odds::DeckPlace, 5>& places);
 
 struct Column {
     std::string field;   // name in CSV and JSON
     std::string heading; // in text; columns without a heading are left out of text
-    bool close = false;  // no blanks between cards in text
 };
 
 struct Table {

@@ -18,9 +18,10 @@ namespace quillet::odds_program
 [[nodiscard]] Report gameReport(const odds::FairOdds& odds, const charts::ChartPrice& chart,
                                 const odds::Pays& pays);
 
-// The holds of a deal, six and the chart's or all 32, and why.
+// The holds of a deal, six and the chart's or all 32, and why the best is worth more. Text has
+// sentences, the other formats have more columns.
 [[nodiscard]] Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
-                                const charts::Play& play, bool all);
+                                const charts::Play& play, bool all, Format format);
 
 // What so many hands come to, for perfect play and the chart's best choice. With bars, the text
 // draws the distribution. Reports the share of the work that is done, first for the sitting, then

@@ -25,10 +25,9 @@ Table returnsTable(const odds::Simulation& simulation, const odds::FairOdds& fai
          {"fair return", "From a fair deck"}}};
     const auto add = [&](const char* name, const odds::PlayedHands& hands,
                          const odds::Fraction& fairReturn) {
-        table.rows.push_back(
-            {std::string(name), played, Rounded{100 * hands.returned(pays), 4},
-             played < 2 ? Cell(std::string("unknown")) : Cell(Rounded{100 * hands.margin(pays), 4}),
-             Exact{fairReturn, 4, true}});
+        table.rows.push_back({name, played, rounded(100 * hands.returned(pays), 4),
+                              played < 2 ? "unknown" : rounded(100 * hands.margin(pays), 4),
+                              percent(fairReturn, 4)});
     };
     add("Best holds", simulation.perfect, fair.returned);
     add("Chart, best choice", simulation.player, chart.returned[Taken::best]);
@@ -51,12 +50,11 @@ Table handsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
                  {"chart", "Chart"},
                  {"fair chart", "Fair deck"}}};
     const auto expected = [&](const odds::Fraction& chance) {
-        return Rounded{static_cast<double>(simulation.perfect.hands()) * chance.value(), 1};
+        return rounded(static_cast<double>(simulation.perfect.hands()) * chance.value(), 1);
     };
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        table.rows.push_back({std::string(odds::outcomeName(outcome)),
-                              simulation.perfect.count[outcome], expected(fair.chances[outcome]),
-                              simulation.player.count[outcome],
+        table.rows.push_back({odds::outcomeName(outcome), simulation.perfect.count[outcome],
+                              expected(fair.chances[outcome]), simulation.player.count[outcome],
                               expected(chart.chances[Taken::best][outcome])});
     return table;
 }

@@ -15,9 +15,9 @@ namespace
 
 constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
-Rounded percent(double share)
+Cell percent(double share)
 {
-    return {100 * share, 4};
+    return rounded(100 * share, 4);
 }
 
 // How the sittings spread. The lowest hundredth and the twentieth that royals lift are only named.
@@ -78,7 +78,7 @@ Table netTable(const std::array<odds::Sitting, 2>& sittings, std::int64_t hands)
                             "chances in % and credits won or lost, each chance within 1e-9\n\n",
                         "figure", "Figure");
     const auto chance = [&](const char* name, std::int64_t least, std::int64_t most) {
-        net.rows.push_back({std::string(name), percent(sittings[0].chanceOf(least, most)),
+        net.rows.push_back({name, percent(sittings[0].chanceOf(least, most)),
                             percent(sittings[1].chanceOf(least, most))});
     };
     chance("behind", -endless, -1);
@@ -97,7 +97,7 @@ Table onceTable(const std::array<odds::OneHand, 2>& plays, std::int64_t hands)
     Table once = tableOf("at least once", "\nThe chance in % of each paying hand at least once\n\n",
                          "final hand", "Final hand");
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
-        once.rows.push_back({std::string(odds::outcomeName(outcome)),
+        once.rows.push_back({odds::outcomeName(outcome),
                              percent(plays[0].chanceOfAtLeastOne(outcome, hands)),
                              percent(plays[1].chanceOfAtLeastOne(outcome, hands))});
     return once;

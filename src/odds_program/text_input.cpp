@@ -2,6 +2,7 @@
 
 #include "odds/bad_input.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -61,14 +62,14 @@ std::string inputText(const std::string& path)
 bool takeLine(std::istream& standardInput, std::string& line)
 {
     constexpr std::size_t maxBytes = 4096;
-    line.resize(maxBytes + 1);
-    standardInput.getline(line.data(), maxBytes + 1);
+    std::array<char, maxBytes + 1> text; // not cleared for each line
+    standardInput.getline(text.data(), text.size());
     if (standardInput.bad())
         fail("-");
     if (standardInput.fail() && !standardInput.eof())
         throw odds::BadInput("the line is longer than 4096 bytes");
     const bool ended = !standardInput.eof(); // by the end of the line, which is counted
-    line.resize(static_cast<std::size_t>(standardInput.gcount()) - (ended ? 1 : 0));
+    line.assign(text.data(), static_cast<std::size_t>(standardInput.gcount()) - (ended ? 1 : 0));
     decode(line);
     return !standardInput.fail();
 }
