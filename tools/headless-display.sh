@@ -21,18 +21,34 @@ trap 'exit 129' HUP
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
+# Prints with the message what shows why: the lines that led here, the windows, and what the
+# threads of each program wait for.
 fail() {
-    echo "$caller: $1" >&2
-    sed 's/^/    /' "$folder"/*.log >&2
+    local i
+    set +e
+    {
+        echo "$caller: $1"
+        for ((i = 1; i < ${#FUNCNAME[@]}; i++)); do
+            echo "    line ${BASH_LINENO[i - 1]} of ${BASH_SOURCE[i]##*/}, in ${FUNCNAME[i]}"
+        done
+        echo "Windows, the active one first:"
+        timeout 10 xdotool getactivewindow getwindowname
+        timeout 10 xdotool search --onlyvisible --name . getwindowname %@
+        [ -z "${trainer:-}" ] || kill -0 "$trainer" 2>/dev/null || echo "The trainer has ended."
+        ps -L -o pid,tid,stat,wchan:24,time,comm -p "$(IFS=, && echo "${helpers[*]}")"
+        tail -n 40 "$folder"/*.log
+    } 2>&1 | sed '2,$s/^/    /' >&2
     exit 1
 }
 
-# wait_for SECONDS WHAT COMMAND...: tries the command until it succeeds.
+# wait_for SECONDS WHAT COMMAND...: tries the command until it succeeds. A machine that was suspended
+# in between still makes two tries for each second.
 wait_for() {
-    local deadline=$((SECONDS + $1 * ${slack:-1})) what=$2
+    local patience=$(($1 * ${slack:-1})) what=$2
+    local deadline=$((SECONDS + patience)) tries=$((2 * patience))
     shift 2
     until "$@"; do
-        [ $SECONDS -lt $deadline ] || fail "$what did not happen in time."
+        if ((--tries < 0 && SECONDS >= deadline)); then fail "$what did not happen in time."; fi
         sleep 0.1
     done
 }

@@ -13,6 +13,7 @@ import pyatspi
 from gi.repository import GLib
 
 PATIENCE = 60  # seconds: cards fly slowly on a busy machine
+TRIES = 120  # at least, on a machine that was suspended in between
 CARD = re.compile(r"Card (\d): (Ace|Two|Three|Four|Five|Six|Seven|Eight|Nine|Ten|Jack|Queen|King) "
                   r"of (clubs|diamonds|hearts|spades)(, held)?$")
 heard = []  # (kind, name) of every event of the program, while no card flies
@@ -32,9 +33,19 @@ def turn():
         pass
 
 
+def fail(what):
+    """Ends the play; the trace shows the lines that led here."""
+    subprocess.run("xdotool search --onlyvisible --name . getwindowname %@ >&2;"
+                   f"ps -L -o pid,tid,stat,wchan:24,time,comm --ppid {os.getpid()} >&2",
+                   shell=True, check=False)
+    raise AssertionError(f"{what}; last heard {heard[-12:]}")
+
+
 def wait_for(what, question):
     deadline = time.monotonic() + PATIENCE
-    while time.monotonic() < deadline:
+    tries = 0
+    while tries < TRIES or time.monotonic() < deadline:
+        tries += 1
         turn()
         try:
             answer = question()
@@ -43,12 +54,12 @@ def wait_for(what, question):
         if answer:
             return answer
         time.sleep(0.05)
-    sys.exit(f"FAILED: waited in vain for {what}; last heard {heard[-12:]}")
+    return fail(f"waited in vain for {what}")
 
 
 def check(condition, what):
     if not condition:
-        sys.exit(f"FAILED: {what}; last heard {heard[-12:]}")
+        fail(what)
 
 
 def descendants(node):
