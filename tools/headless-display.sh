@@ -85,9 +85,25 @@ window_manager_runs() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
+title="Jacks or Better Quillet"
+exit_title="More Texas Hold'em Resources.."
+
+# start_trainer PROGRAM ARGUMENT...: opens the table, whose window is $window.
+start_trainer() {
+    "$@" >>"$folder/trainer.log" 2>&1 &
+    trainer=$!
+    helpers+=("$trainer")
+    wait_for 60 "The opening of the table" find_window "$title"
+    measure_table
+}
+
+trainer_has_ended() {
+    ! kill -0 "$trainer" 2>/dev/null
+}
+
 # find_window TITLE: its number is in $window afterwards.
 find_window() {
-    kill -0 "$trainer" 2>/dev/null || fail "The trainer has ended."
+    ! trainer_has_ended || fail "The trainer has ended."
     window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1)
     [ -n "$window" ]
 }
@@ -98,10 +114,16 @@ measure_table() {
     menu_height=$((HEIGHT - 514))
 }
 
-take_picture() {
-    import -silent -window "$window" "$folder/table.png"
+# Clicks at a position in the table.
+click() {
+    xdotool mousemove --window "$window" "$1" $((menu_height + $2)) click 1
 }
 
-click() {
-    xdotool mousemove --window "$window" "$1" "$2" click 1
+click_deck() {
+    click 253 160
+}
+
+# The cards are 96 x 130 pixels, with their top at 284.
+card_left() {
+    echo $(((400 + 1104 * $1) / 10))
 }

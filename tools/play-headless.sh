@@ -12,8 +12,12 @@ caller=./play
 card_places() {
     local slot
     for slot in 0 1 2 3 4; do
-        echo "96x130+$(((400 + 1104 * slot) / 10))+$((menu_height + 284))"
+        echo "96x130+$(card_left "$slot")+$((menu_height + 284))"
     done
+}
+
+take_picture() {
+    import -silent -window "$window" "$folder/table.png"
 }
 
 # Faces are mostly white; the table and the backs are not.
@@ -70,7 +74,7 @@ play_the_hand() {
             wait_for 15 "The hold of cards" table_has_changed
             wait_for 15 "A pause after the hold" table_is_still
         fi
-        click 253 $((menu_height + 162))
+        click_deck
         wait_for 15 "An answer to a click on the deck" table_has_changed
         # Flights are paced by processor time, and other programs may be using the processor.
         wait_for 90 "A pause after a click on the deck" table_is_still
@@ -80,41 +84,28 @@ play_the_hand() {
 }
 
 choose_play_video_poker() {
-    local table=$window
-    click 20 $((menu_height / 2))
+    click 20 $((-menu_height / 2))
     wait_for 10 "The opening of the Game menu" game_menu_is_open
     click 40 14 # its first entry
-    window=$table
 }
 
 game_menu_is_open() {
-    window=$(xdotool search --onlyvisible --class quillet 2>/dev/null | grep -vxF "$window" |
-        tail -n 1)
-    [ -n "$window" ]
+    xdotool search --onlyvisible --class quillet 2>/dev/null | grep -qvxF "$window"
 }
 
 end_with_exit() {
     local code=0
     xdotool key alt+F4
     # The settings are written to the disk first, which may be busy after a build.
-    wait_for 60 "The exit screen" find_window "More Texas Hold'em Resources\.\."
+    wait_for 60 "The exit screen" find_window "$exit_title"
     xdotool windowfocus "$window" key Return # its button "Exit"
     wait_for 15 "The end of the trainer" trainer_has_ended
     wait "$trainer" || code=$?
     [ $code -eq 0 ] || fail "The trainer ended with code $code."
 }
 
-trainer_has_ended() {
-    ! kill -0 "$trainer" 2>/dev/null
-}
-
 start_display
-"$program" >"$folder/trainer.log" 2>&1 &
-trainer=$!
-helpers+=("$trainer")
-
-wait_for 60 "The opening of the table" find_window "Jacks or Better Quillet"
-measure_table
+start_trainer "$program"
 wait_for 60 "The first deal" hand_lies_open
 first_hand=$hand
 choose_play_video_poker

@@ -68,21 +68,17 @@ press() {
 }
 
 hold() {
-    go $((88 + 1104 * $1 / 10)) $((menu_height + 350)) 4
+    go $((48 + $(card_left "$1"))) $((menu_height + 350)) 4
     press
 }
 
-click_deck() {
+press_deck() {
     go 253 $((menu_height + 200)) 5
     press
 }
 
 start_display
-"$program" "$folder/config" >"$folder/trainer.log" 2>&1 &
-trainer=$!
-helpers+=("$trainer")
-wait_for 60 "The opening of the table" find_window "Jacks or Better Quillet"
-measure_table
+start_trainer "$program" "$folder/config"
 
 white=ffffff green=00c000 red=0000ff
 face=(500 $((menu_height + 350)))  # what is white on the fifth card, but not on its back
@@ -94,10 +90,10 @@ frame
 until_colour $white "${face[@]}"
 hold 0
 hold 3
-click_deck
+press_deck
 until_colour $green "${full_house[@]}"
 still 20
-click_deck
+press_deck
 still 3
 empty=$last
 while cmp -s "$empty" "$last"; do frame; done
@@ -107,12 +103,12 @@ still 1
 hold 0
 hold 1
 hold 3
-click_deck
+press_deck
 until_colour $red "${high_pair[@]}"
 still 20
 hold 0
 hold 3
-click_deck
+press_deck
 until_colour $green "${full_house[@]}"
 still 26
 frames+=("$(now)")

@@ -17,38 +17,22 @@ chmod +x "$folder/bin/xdg-open"
 export PATH=$folder/bin:$PATH
 start_display
 
-window_named() { xdotool search --onlyvisible --name "$1" 2>/dev/null | grep -q .; }
-gone() { ! kill -0 "$game" 2>/dev/null; }
 active_is() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1" ]]; }
 
-title="Jacks or Better Quillet"
-exit_title="More Texas Hold'em Resources.."
-
 start() {
-    "$program" >"$folder/program.log" 2>&1 &
-    game=$!
-    helpers+=("$game")
-    wait_for 20 "the main window" window_named "$title"
+    start_trainer "$program"
     wait_for 10 "the keyboard" active_is "$title"
-    window=$(xdotool search --onlyvisible --name "$title" | tail -1)
-    eval "$(xdotool getwindowgeometry --shell "$window")"
-    left=$X top=$((Y + HEIGHT - 514)) menu=$((HEIGHT - 514))
-    ((WIDTH == 800)) || fail "the window is $WIDTH wide"
 }
 
-# Mouse, in pixels of the table.
-click() { xdotool mousemove $((left + $1)) $((top + $2)) click 1; }
-click_deck() { click 250 160; }
-card_x() { echo $((40 + 110 * $1 + 48)); }
-click_card() { click "$(card_x "$1")" 350; }
+click_card() { click $(($(card_left "$1") + 48)) 350; }
 
 pixel() {
-    import -silent -window "$window" -crop "1x1+$1+$(($2 + menu))" -depth 8 txt:- |
+    import -silent -window "$window" -crop "1x1+$1+$(($2 + menu_height))" -depth 8 txt:- |
         grep -o '#[0-9A-F]\{6\}' | tail -1
 }
 # The chart row, 0 to 20, that has this colour; nothing when there is none.
 row_coloured() {
-    import -silent -window "$window" -crop "1x514+623+$menu" -depth 8 txt:- |
+    import -silent -window "$window" -crop "1x514+623+$menu_height" -depth 8 txt:- |
         awk -v colour="$1" -F '[,:]' 'index($0, colour) && $2 > 56 && $2 < 500 {
             print int(($2 - 12.4) / (488 / 23)) - 2; exit }'
 }
@@ -56,7 +40,7 @@ row_is() { [[ $(row_coloured "$2") == "$1" ]]; }
 any_row_is() { [[ -n $(row_coloured "$1") ]]; }
 
 outline='#00FF00'
-held() { [[ $(pixel $(($(card_x "$1") - 48 - 2 + $1 * 4 / 10)) 350) == "$outline" ]]; }
+held() { [[ $(pixel $(($(card_left "$1") - 2)) 350) == "$outline" ]]; }
 not_held() { ! held "$1"; }
 # A card takes a hold only while a hand waits for the draw.
 hand_waits() {
@@ -176,8 +160,8 @@ setting_is prfPKBackFace 55
 setting_is prfCardOutlineColor 16744448
 setting_is prfPKBackground vpokerwood.jpg
 keys Return
-wait_for 10 "the end" gone
-wait "$game" || fail "the program ended with $?"
+wait_for 10 "the end" trainer_has_ended
+wait "$trainer" || fail "the program ended with $?"
 cp "$settings" "$folder/first.ini"
 
 # A second start keeps them; the close box.
@@ -187,14 +171,15 @@ any_row_is '#FFC0C0' && fail "the best play is shown against the setting"
 keys alt+F4
 wait_for 10 "the exit screen" active_is "$exit_title"
 keys alt+F4
-wait_for 10 "the end" gone
-wait "$game" || fail "the program ended with $?"
+wait_for 10 "the end" trainer_has_ended
+wait "$trainer" || fail "the program ended with $?"
 cmp "$settings" "$folder/first.ini" || fail "the settings were not kept"
 
 # Full screen and maximising are undone where the window was.
 start
+place=$(place_of_window)
 xdotool windowmove "$window" 60 40
-wait_for 5 "the move" moved_from "$left,$top"
+wait_for 5 "the move" moved_from "$place"
 place=$(place_of_window)
 for state in fullscreen maximized_vert,maximized_horz fullscreen; do
     wmctrl -i -r "$window" -b "add,$state"
@@ -208,8 +193,8 @@ wait_for 10 "the main window" active_is "$title"
 xdotool windowclose "$window"
 wait_for 10 "the exit screen" active_is "$exit_title"
 xdotool windowclose "$(xdotool getactivewindow)"
-wait_for 10 "the end" gone
-wait "$game" || fail "the program ended with $?"
+wait_for 10 "the end" trainer_has_ended
+wait "$trainer" || fail "the program ended with $?"
 
 # A death at a random moment.
 start
@@ -218,10 +203,10 @@ open_preferences
 keys Tab space
 save_preferences
 sleep "0.$((RANDOM % 9))"
-kill -9 "$game"
-wait "$game" 2>/dev/null
+kill -9 "$trainer"
+wait "$trainer" 2>/dev/null
 cmp "$settings" "$folder/first.ini" || fail "a killed program changed the settings"
 
 [[ -e $folder/opened ]] && fail "a page was opened: $(cat "$folder/opened")"
-[[ -s $folder/program.log ]] && fail "the program spoke: $(cat "$folder/program.log")"
+[[ -s $folder/trainer.log ]] && fail "the program spoke: $(cat "$folder/trainer.log")"
 echo "passed in $SECONDS s"
