@@ -5,16 +5,6 @@
 namespace quillet
 {
 
-void HoldCoach::resetChartColors()
-{
-    m_chart.resetChartColors();
-}
-
-void HoldCoach::highlightWinner(std::int16_t playCode)
-{
-    m_chart.highlightWinner(playCode);
-}
-
 void HoldCoach::showBestPlay(std::int16_t playCode)
 {
     if (m_alwaysShows())

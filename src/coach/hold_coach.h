@@ -20,8 +20,8 @@ public:
     {
     }
 
-    void resetChartColors() override;
-    void highlightWinner(std::int16_t playCode) override;
+    void resetChartColors() override { m_chart.resetChartColors(); }
+    void highlightWinner(std::int16_t playCode) override { m_chart.highlightWinner(playCode); }
     void showBestPlay(std::int16_t playCode) override;
     [[nodiscard]] bool acceptHold(const HandState& state) override;
 

@@ -73,21 +73,6 @@ void StrategyChart::resetChartColors()
         setState(row, ChartRowState::base);
 }
 
-void StrategyChart::highlightBestPlay(std::int16_t playCode)
-{
-    highlight(playCode, ChartRowState::bestPlay);
-}
-
-void StrategyChart::highlightMissedPlay(std::int16_t playCode)
-{
-    highlight(playCode, ChartRowState::missedPlay);
-}
-
-void StrategyChart::highlightWinner(std::int16_t playCode)
-{
-    highlight(playCode, ChartRowState::winner);
-}
-
 ChartRowState StrategyChart::state(int row) const
 {
     return m_states[indexOf(row)];

@@ -47,9 +47,12 @@ public:
 
     void resetChartColors();
     // A play code below 1 changes nothing.
-    void highlightBestPlay(std::int16_t playCode);
-    void highlightMissedPlay(std::int16_t playCode);
-    void highlightWinner(std::int16_t playCode);
+    void highlightBestPlay(std::int16_t playCode) { highlight(playCode, ChartRowState::bestPlay); }
+    void highlightMissedPlay(std::int16_t playCode)
+    {
+        highlight(playCode, ChartRowState::missedPlay);
+    }
+    void highlightWinner(std::int16_t playCode) { highlight(playCode, ChartRowState::winner); }
 
     [[nodiscard]] ChartRowState state(int row) const;
     [[nodiscard]] ChartRowColours colours(int row) const;

@@ -18,17 +18,9 @@ namespace
 constexpr std::int16_t programsOwnCall = 3;
 constexpr int fadeSteps = 25;
 
-Cue wrongCue(std::ptrdiff_t cardsHeld)
-{
-    switch (cardsHeld) {
-    case 1:
-        return Cue::wrongOne;
-    case 2:
-        return Cue::wrongTwo;
-    default:
-        return Cue::wrong;
-    }
-}
+// By the number of cards held.
+constexpr std::array wrongCues{Cue::wrong, Cue::wrongOne, Cue::wrongTwo,
+                               Cue::wrong, Cue::wrong,    Cue::wrong};
 
 // Counts a sequence while it runs, also if it ends with an exception.
 class RunningSequence
@@ -120,16 +112,6 @@ void HandController::clickDeck(std::int16_t index)
         showPokerHand();
 }
 
-void HandController::picPoker_MouseDown(std::int16_t Index)
-{
-    toggleHold(Index);
-}
-
-void HandController::picPoker_DblClick(std::int16_t Index)
-{
-    toggleHold(Index);
-}
-
 void HandController::toggleHold(std::int16_t index)
 {
     if (!m_state.handDealt)
@@ -149,19 +131,17 @@ void HandController::showPokerHand()
 void HandController::dealOrDraw()
 {
     const bool cardsWereShowing = m_ports.table.isCardShowing(0);
-    if (m_state.handDealt) {
-        m_state.handBusy = true;
+    if (m_state.handDealt)
         draw(cardsWereShowing);
-        return;
-    }
+    else
+        deal(cardsWereShowing);
+}
+
+void HandController::deal(bool cardsWereShowing)
+{
     m_state.pokerDeck = m_ports.decks.nextDeck();
     const std::array<Slot, 5> order = dealOrder(m_state.dealReversed);
     m_state.handBusy = true;
-    deal(order, cardsWereShowing);
-}
-
-void HandController::deal(const std::array<Slot, 5>& order, bool cardsWereShowing)
-{
     const std::uint32_t epoch = ++m_state.epoch;
     endFade();
     for (const Slot slot : allSlots) {
@@ -198,6 +178,7 @@ void HandController::dealCardTo(Slot slot)
 void HandController::draw(bool cardsWereShowing)
 {
     const std::uint32_t epoch = m_state.epoch;
+    m_state.handBusy = true;
     m_state.handDealt = false;
     for (const Slot slot : allSlots)
         m_ports.table.showHold(slot, false);
@@ -205,7 +186,6 @@ void HandController::draw(bool cardsWereShowing)
         refuseHold();
         return;
     }
-    m_state.handBusy = true;
     std::array<bool, 5> replaced{};
     for (const Slot slot : allSlots) {
         replaced[slot] = !m_state.holdFlags[slot];
@@ -228,10 +208,10 @@ void HandController::draw(bool cardsWereShowing)
 // The hand keeps waiting, and the player chooses the holds again.
 void HandController::refuseHold()
 {
-    const auto cardsHeld = std::ranges::count(m_state.holdFlags, true);
+    const auto cardsHeld = static_cast<std::size_t>(std::ranges::count(m_state.holdFlags, true));
     m_state.handDealt = true;
     m_state.holdFlags.fill(false);
-    m_ports.cues.play(wrongCue(cardsHeld));
+    m_ports.cues.play(wrongCues[cardsHeld]);
     m_state.handBusy = false;
 }
 
@@ -301,9 +281,8 @@ void HandController::endFade()
 
 void HandController::charge()
 {
-    m_counters.total = saturatingAdd(m_counters.total, -wager);
     m_counters.hands = saturatingAdd(m_counters.hands, 1);
-    m_ports.screen.showCounters(m_counters);
+    addCredits(-wager);
 }
 
 void HandController::addCredits(std::int16_t credits)
@@ -314,23 +293,25 @@ void HandController::addCredits(std::int16_t credits)
 
 void HandController::abandonHand()
 {
-    ++m_state.epoch;
     if (m_payTarget)
         finishPaying();
-    m_state.handBusy = false;
-    m_state.handDealt = false;
-    m_state.holdFlags.fill(false);
+    clearHand();
 }
 
 void HandController::recover()
 {
-    ++m_state.epoch;
     m_payTarget.reset();
     endFade();
+    clearHand();
+    m_ports.table.recover();
+}
+
+void HandController::clearHand()
+{
+    ++m_state.epoch;
     m_state.handBusy = false;
     m_state.handDealt = false;
     m_state.holdFlags.fill(false);
-    m_ports.table.recover();
 }
 
 void HandController::endGame()

@@ -46,8 +46,8 @@ public:
     void picDeal_Click(std::int16_t Index);
 
     // Both toggle the hold of slot Index, 0..4, while a hand waits for the draw.
-    void picPoker_MouseDown(std::int16_t Index);
-    void picPoker_DblClick(std::int16_t Index);
+    void picPoker_MouseDown(std::int16_t Index) { toggleHold(Index); }
+    void picPoker_DblClick(std::int16_t Index) { toggleHold(Index); }
 
     // Deals, or judges the hold and draws.
     void showPokerHand();
@@ -64,7 +64,7 @@ private:
     void clickDeck(std::int16_t index);
     void toggleHold(std::int16_t index);
     void dealOrDraw();
-    void deal(const std::array<Slot, 5>& order, bool cardsWereShowing);
+    void deal(bool cardsWereShowing);
     void draw(bool cardsWereShowing);
     void refuseHold();
     void dealCardTo(Slot slot);
@@ -78,6 +78,8 @@ private:
     void addCredits(std::int16_t credits);
     void abandonHand();
     void recover();
+    // No hand is on the table, and running sequences end after their pauses.
+    void clearHand();
     // Whether the sequence that noted this epoch may go on.
     [[nodiscard]] bool pause(std::uint32_t epoch, std::int32_t delayTime);
 

@@ -16,8 +16,8 @@ namespace
 using tables::lane;
 using tables::SuitLanes;
 
-// The cards as sets of ranks; nothing unless they are different cards of the deck. The checks wait
-// until all cards are gathered, since a decision for each would take longer than the gathering.
+// The cards as sets of ranks; nothing unless they are different cards of the deck. One check at the
+// end takes less time than a check of each card.
 std::optional<SuitLanes> lanesOf(std::span<const Card> cards)
 {
     unsigned ranks = 0;
@@ -33,12 +33,12 @@ std::optional<SuitLanes> lanesOf(std::span<const Card> cards)
         lanes |= bit;
         sum += bit;
     }
-    // Ranks 14 to 16 lie between the lanes; a card that is there twice makes the sum differ.
+    // Ranks 14 to 16 are between the lanes; a card that occurs twice makes the sum differ.
     const bool realCards = ranks < tables::laneBits && suits < 4 && (lanes & tables::noRanks) == 0;
     return realCards && sum == lanes ? std::optional(lanes) : std::nullopt;
 }
 
-// How many cards stand before the fillers.
+// The number of cards before the fillers.
 std::size_t cardsBeforeFillers(std::span<const Card, 5> cards)
 {
     std::size_t held = 5;

@@ -9,7 +9,7 @@
 namespace quillet
 {
 
-// The rows of the strategy chart, and so the highest play code; the lowest is 1.
+// The number of rows of the strategy chart. Play codes run from 1 to it.
 inline constexpr std::int16_t playCodeCount = 21;
 
 // The play code: the number of the first row of the chart that the five cards contain. A final
@@ -17,7 +17,7 @@ inline constexpr std::int16_t playCodeCount = 21;
 // Only ranks and suits are read; ranks lie in 0..300.
 [[nodiscard]] std::int16_t EvaluatePokerHand(std::span<const Card, 5> cards, bool finalHand);
 
-// How many cards the play keeps; 0 for a code that keeps none, so callers need no special case.
+// The number of cards that the play keeps; 0 also for an unknown code.
 [[nodiscard]] std::int16_t CardsToHand(std::int16_t playCode);
 
 // The play's name, which is a row in chart files; empty for an unknown code.

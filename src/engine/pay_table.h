@@ -1,7 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
-#include <span>
 
 namespace quillet
 {
@@ -16,9 +17,14 @@ struct Payout {
 };
 
 // The paying hands, best first.
-[[nodiscard]] std::span<const Payout> payTable();
+inline constexpr std::array<Payout, 9> payTable{
+    {{1, 4000}, {2, 250}, {3, 125}, {4, 45}, {6, 30}, {7, 20}, {8, 15}, {10, 10}, {11, 5}}};
 
 // Null for a hand that pays nothing.
-[[nodiscard]] const Payout* payoutFor(std::int16_t playCode);
+[[nodiscard]] constexpr const Payout* payoutFor(std::int16_t playCode)
+{
+    const auto found = std::ranges::find(payTable, playCode, &Payout::playCode);
+    return found == payTable.end() ? nullptr : &*found;
+}
 
 } // namespace quillet

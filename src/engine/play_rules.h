@@ -10,8 +10,8 @@
 #include <span>
 #include <string_view>
 
-// The rows of the strategy chart as rules: what a hand must contain for each. All else that
-// classifies hands is made from them.
+// The rows of the strategy chart as rules: what a hand must contain for each. Everything else that
+// classifies hands is derived from them.
 namespace quillet::rules
 {
 
@@ -49,7 +49,7 @@ constexpr SortedCards sortedByRank(std::span<const Card, 5> cards)
     return sorted;
 }
 
-// What the ranks of a hand show, whatever its suits.
+// Facts about the ranks of a hand, whatever its suits.
 struct RankFacts {
     bool fourAlike = false; // of the thirteen real ranks
     bool threeAlike = false;
@@ -94,12 +94,12 @@ private:
     }
 };
 
-// What the cards of one suit show.
+// Facts about the cards of one suit.
 struct SuitFacts {
     int cards = 0;
     int royalCards = 0;
     int highCards = 0;
-    bool run = true; // they follow each other without a gap, the ace low
+    bool run = true; // consecutive ranks, the ace low
     bool tenWithFace = false;
 
     constexpr SuitFacts(const SortedCards& hand, int suit)
@@ -120,16 +120,16 @@ struct SuitFacts {
     }
 };
 
-// A hand as the chart looks at it.
+// All facts that the chart depends on.
 struct HandFacts : RankFacts {
     bool flush = false;
-    int suitedRun = 0;    // the cards of a suit that is one run, of the longest such suit
-    int suitedRoyals = 0; // the royal cards of the suit that has most of them
+    int suitedRun = 0;    // the cards of the longest suit whose cards are one run
+    int suitedRoyals = 0; // the most royal cards of one suit
     bool fourSuited = false;
     bool twoHighSuited = false;
     bool tenWithFace = false;
 
-    // A hand whose suits show nothing.
+    // The facts of the ranks alone.
     constexpr explicit HandFacts(const RankFacts& ranks) : RankFacts(ranks) {}
 
     constexpr explicit HandFacts(const SortedCards& hand) : RankFacts(hand)
@@ -162,8 +162,8 @@ struct PlayRule {
 };
 
 // The chart, best play first. A hand's play code is the number of the first row that it
-// contains, counted from 1. The two draws that stand above paying hands are left out once the
-// hand is final, so that it is classed by what it pays.
+// contains, counted from 1. Two draws are above paying hands. They are left out once the hand is
+// final, so that it is classed by what it pays.
 inline constexpr std::array<PlayRule, playCodeCount> chart{{
     {"royal", 5, [](const HandFacts& hand) { return hand.flush && hand.tenToAce; }},
     {"straight flush", 5, [](const HandFacts& hand) { return hand.suitedRun == 5; }},

@@ -9,14 +9,13 @@
 #include <cstddef>
 #include <cstdint>
 
-// The chart's rules worked out beforehand for every set of ranks. A row looks either at the ranks
-// alone or at the cards of one suit alone, so a hand's play code is the least of five: the code
-// of its ranks without their suits and the codes of its four suits, each with fillers for the
-// rest.
+// The chart's rules, computed at compile time for every set of ranks. A row depends either on the
+// ranks alone or on the cards of one suit alone. So a hand's play code is the minimum of the codes
+// of its ranks without suits and of its four suits, each with fillers for the other cards.
 namespace quillet::tables
 {
 
-inline constexpr std::size_t rankSets = 1 << 13; // bit 0 stands for the ace, bit 12 for the king
+inline constexpr std::size_t rankSets = 1 << 13; // bit 0 is the ace, bit 12 the king
 
 using CodeOfRankSet = std::array<std::uint8_t, rankSets>;
 
@@ -25,27 +24,26 @@ using SuitLanes = std::uint64_t;
 inline constexpr unsigned laneBits = 16;
 
 // The bits between the lanes, where no rank of the deck lies.
-inline constexpr SuitLanes noRanks = 0xffff'ffff'ffff'ffffU / 0xffffU * (0xffffU ^ (rankSets - 1));
-static_assert(noRanks == 0xe000'e000'e000'e000U);
+inline constexpr SuitLanes noRanks = 0xe000'e000'e000'e000U;
 
 constexpr unsigned lane(SuitLanes lanes, unsigned suit)
 {
     return static_cast<std::uint16_t>(lanes >> (laneBits * suit));
 }
 
-// The bit of a card. Any rank and suit may be asked; values outside the deck give an arbitrary bit.
+// The bit of a card. Values outside the deck give an arbitrary bit.
 constexpr SuitLanes laneBit(unsigned rank, unsigned suit)
 {
     return SuitLanes{1} << ((suit * laneBits + rank) % 64);
 }
 
-// The cards of a set, in one suit and over the fillers.
+// The cards of a set, in one suit, and fillers for the rest.
 constexpr rules::SortedCards cardsOfRankSet(std::size_t set)
 {
     rules::SortedCards cards;
-    int place = 0;
+    int slot = 0;
     for (rules::RankAndSuit& card : cards) {
-        const Card filler = fillerCard(place++);
+        const Card filler = fillerCard(slot++);
         card = {filler.rank, filler.suit};
         if (set != 0)
             card = {std::countr_zero(set) + 1, 0};
@@ -54,30 +52,28 @@ constexpr rules::SortedCards cardsOfRankSet(std::size_t set)
     return cards;
 }
 
-// The codes of ranks alone, none of them twice.
-constexpr CodeOfRankSet codesOfDifferentRanks()
+// The code of each set of up to five ranks, as its cards in one suit over fillers have it.
+template <typename CodeOf>
+constexpr CodeOfRankSet codesOfRankSets(CodeOf codeOf)
 {
     CodeOfRankSet codes{};
-    for (std::size_t set = 0; set < rankSets; ++set) {
-        if (std::popcount(set) > 5)
-            continue;
-        const rules::RankFacts ranks(cardsOfRankSet(set));
-        codes[set] = static_cast<std::uint8_t>(rules::playCode(rules::HandFacts(ranks), false));
-    }
+    for (std::size_t set = 0; set < rankSets; ++set)
+        if (std::popcount(set) <= 5)
+            codes[set] = static_cast<std::uint8_t>(codeOf(cardsOfRankSet(set)));
     return codes;
 }
 
-// The codes of the cards of one suit.
+// The codes of ranks alone, whatever their suits.
+constexpr std::int16_t codeOfRanks(const rules::SortedCards& cards)
+{
+    return rules::playCode(rules::HandFacts(rules::RankFacts(cards)), false);
+}
+
 constexpr CodeOfRankSet codesOfOneSuit(bool finalHand)
 {
-    CodeOfRankSet codes{};
-    for (std::size_t set = 0; set < rankSets; ++set) {
-        if (std::popcount(set) > 5)
-            continue;
-        const rules::HandFacts hand(cardsOfRankSet(set));
-        codes[set] = static_cast<std::uint8_t>(rules::playCode(hand, finalHand));
-    }
-    return codes;
+    return codesOfRankSets([finalHand](const rules::SortedCards& cards) {
+        return rules::playCode(rules::HandFacts(cards), finalHand);
+    });
 }
 
 // Properties of repeated ranks, one bit each.
@@ -105,13 +101,11 @@ struct Repeats {
     unsigned thrice = 0;
     unsigned fourTimes = 0;
 
-    // How `shape` answers. Any three of a kind is a pair as well, and of a full house both ranks
-    // are.
+    // The `shape` bits. Three of a kind also counts as a pair; in a full house both ranks do.
     [[nodiscard]] constexpr std::size_t shapeOf() const
     {
         const bool twoRanks = (twice & (twice - 1)) != 0;
-        // Sums rather than selections, which compilers turn into branches that a hand in random
-        // order takes as often as not.
+        // A sum, because compilers turn conditions into branches, which random hands mispredict.
         return unsigned{twice != 0} * shape::pair +
                unsigned{(twice & highRanks) != 0} * shape::highPair +
                unsigned{twoRanks} * shape::twoPairs + unsigned{thrice != 0} * shape::threeAlike +
@@ -119,12 +113,12 @@ struct Repeats {
     }
 };
 
-// One rank so many times, another one once or twice or not at all, over fillers.
+// One rank two to four times, another one twice or not at all, and fillers.
 struct RepeatedRanks {
     int rank;
     int times; // 2..4
     int otherRank;
-    int otherTimes; // 0..2
+    int otherTimes; // 0 or 2
 
     [[nodiscard]] constexpr std::size_t shapeOf() const
     {
@@ -141,8 +135,7 @@ struct RepeatedRanks {
             (card++)->rank = rank;
         for (int i = 0; i < otherTimes; ++i)
             (card++)->rank = otherRank;
-        return static_cast<std::uint8_t>(
-            rules::playCode(rules::HandFacts(rules::RankFacts(cards)), false));
+        return static_cast<std::uint8_t>(codeOfRanks(cards));
     }
 };
 
@@ -158,7 +151,7 @@ constexpr void forEachRepetition(const Visit& visit)
 
 using CodeOfShape = std::array<std::uint8_t, shape::count>;
 
-// Shapes of no hand, and that of a hand without repeats, have the last row's code.
+// Impossible shapes, and the shape of no repeats, have the code of the last row.
 constexpr CodeOfShape codesOfShapes()
 {
     CodeOfShape codes{};
@@ -168,12 +161,12 @@ constexpr CodeOfShape codesOfShapes()
     return codes;
 }
 
-inline constexpr CodeOfRankSet ranksOnce = codesOfDifferentRanks();
+inline constexpr CodeOfRankSet ranksOnce = codesOfRankSets(codeOfRanks);
 inline constexpr CodeOfRankSet oneSuitDealt = codesOfOneSuit(false);
 inline constexpr CodeOfRankSet oneSuitFinal = codesOfOneSuit(true);
 inline constexpr CodeOfShape repeatedRanks = codesOfShapes();
 
-// A shape says all that the chart wants to know about repeated ranks.
+// The shape is all that the chart needs to know about repeated ranks.
 static_assert([] {
     bool same = true;
     forEachRepetition([&same](const RepeatedRanks& ranks) {

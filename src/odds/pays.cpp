@@ -113,21 +113,19 @@ std::vector<Line> linesIn(std::string_view text)
 Pays trainersPays()
 {
     Pays pays{};
-    std::ranges::transform(payTable(), pays.begin() + 1, &Payout::pays);
+    std::ranges::transform(payTable, pays.begin() + 1, &Payout::pays);
     return pays;
 }
 
 std::size_t outcomeOf(std::span<const Card, 5> finalHand)
 {
-    const auto table = payTable();
-    const auto found =
-        std::ranges::find(table, EvaluatePokerHand(finalHand, true), &Payout::playCode);
-    return found == table.end() ? 0 : static_cast<std::size_t>(found - table.begin()) + 1;
+    const Payout* found = payoutFor(EvaluatePokerHand(finalHand, true));
+    return found == nullptr ? 0 : static_cast<std::size_t>(found - payTable.data()) + 1;
 }
 
 std::string_view outcomeName(std::size_t outcome)
 {
-    return outcome == 0 ? "nothing" : playName(payTable()[outcome - 1].playCode);
+    return outcome == 0 ? "nothing" : playName(payTable[outcome - 1].playCode);
 }
 
 bool looksLikePays(std::string_view text)

@@ -124,7 +124,7 @@ TEST(HelpFigures, thePayTableIsTheOneThatIsPaid)
         at += opening.size();
         told += help.substr(at, help.find('<', at) - at) + ' ';
     }
-    for (const Payout& payout : payTable())
+    for (const Payout& payout : payTable)
         paid += std::to_string(payout.pays) + ' ';
     EXPECT_EQ(told, paid + "0 ");
 }

@@ -207,7 +207,7 @@ private:
         const int gained = count.total + 5 * count.hands - m_settled;
         if (count.won != m_won) {
             EXPECT_EQ(count.won, m_won + 1);
-            EXPECT_GT(std::ranges::count(payTable(), gained, &Payout::pays), 0) << gained;
+            EXPECT_GT(std::ranges::count(payTable, gained, &Payout::pays), 0) << gained;
             m_settled += gained;
             m_won = count.won;
         } else if (gained != 0) {

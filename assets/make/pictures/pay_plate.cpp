@@ -5,7 +5,6 @@
 #include "engine/pay_table.h"
 
 #include <array>
-#include <cassert>
 #include <string>
 #include <string_view>
 
@@ -72,12 +71,12 @@ void paintLines(Canvas& canvas, const Ornament& ornament, const QRectF& plate)
     const double right = plate.right() - 20;
     double baseline = plate.top() + 56;
     QPainterPath dots;
-    assert(payTable().size() == handNames.size());
+    static_assert(payTable.size() == handNames.size());
     for (std::size_t line = 0; line < handNames.size(); ++line) {
         const InlayMaterial& material = line == 0 ? ornament.accent : ornament.metal;
         const QPainterPath hand = letteringPath(handNames[line], lineLettering);
         const QPainterPath credits =
-            letteringPath(std::to_string(payTable()[line].pays), lineLettering);
+            letteringPath(std::to_string(payTable[line].pays), lineLettering);
         const double handRight = left + hand.boundingRect().right();
         const double creditsLeft = right - credits.boundingRect().width();
         inlay(canvas, hand.translated(left - hand.boundingRect().left(), baseline), material);
