@@ -9,8 +9,8 @@ namespace quillet
 inline constexpr std::int32_t defaultBack = 65; // the sleeve
 inline constexpr const char* defaultBackground = "vpokerwood.jpg";
 
-// What the player has chosen, as it stands before anything is read from the store. Truth values
-// and widths are those of the store's rules; see preferences_store.h.
+// The player's choices, with the values that they have until the store is read. The types follow
+// the rules of the store; see preferences_store.h.
 struct Preferences {
     std::int32_t prfCardOutlineColor = 0; // 0x00BBGGRR
     std::int32_t prfPKBackFace = 0;       // card-back design

@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] bool truth(const std::string& key) const { return text(key, "True") != "False"; }
 
-    // The text as the rule converts it. Errors of the rule name the key and the file.
+    // The converted text. Errors of the rule name the key and the file.
     template <typename Rule>
     [[nodiscard]] auto converted(const std::string& key, const std::string& defaultText,
                                  Rule rule) const
@@ -50,21 +50,24 @@ private:
     Settings m_settings;
 };
 
+std::int32_t wholeNumber(const std::string& text)
+{
+    return toInt32(toNumber(text));
+}
+
 std::int32_t outlineColour(const std::string& text)
 {
-    const std::optional<double> value = parseNumber(text);
-    return value && fitsInt32(*value) ? toInt32(*value) : outlineGreen;
+    try {
+        return wholeNumber(text);
+    } catch (const RunTimeError&) {
+        return outlineGreen;
+    }
 }
 
 std::int32_t backFace(const std::string& text)
 {
     const double value = toNumber(text);
     return value == 0 ? defaultBack : toInt32(value);
-}
-
-std::int32_t delayCount(const std::string& text)
-{
-    return toInt32(toNumber(text));
 }
 
 std::int16_t scrollPosition(const std::string& text)
@@ -87,8 +90,8 @@ void loadPreferences(const SettingsStore& store, Preferences& preferences)
     preferences.prfShowHide = reader.truth("prfShowHide");
     preferences.prfAnimation = reader.truth("prfAnimation");
     preferences.prfSound = reader.truth("prfSound");
-    preferences.prfAnimationDelay = reader.converted("prfAnimationDelay", "-1", delayCount);
-    preferences.prfBannerDelay = reader.converted("prfBannerDelay", "0", delayCount);
+    preferences.prfAnimationDelay = reader.converted("prfAnimationDelay", "-1", wholeNumber);
+    preferences.prfBannerDelay = reader.converted("prfBannerDelay", "0", wholeNumber);
     const std::string background = reader.text("prfPKBackground", defaultBackground);
     preferences.prfPKBackground = background.empty() ? defaultBackground : background;
     preferences.prfScrollVal = reader.converted("prfScrollVal", "0", scrollPosition);

@@ -3,6 +3,7 @@
 #include <QUtf8StringView>
 
 #include <algorithm>
+#include <charconv>
 
 namespace quillet
 {
@@ -12,7 +13,10 @@ namespace
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view misreadInNames = "=#;[]";
-constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
+// Characters that are written as a backslash and a letter.
+constexpr std::string_view named = "\n\r\t\\";
+constexpr std::string_view names = "nrt\\";
 
 bool isUtf8(std::string_view text)
 {
@@ -34,6 +38,7 @@ std::string_view trimmed(std::string_view text)
 
 std::string byteEscape(char c)
 {
+    constexpr std::string_view hexDigits = "0123456789ABCDEF";
     const auto byte = static_cast<unsigned char>(c);
     return {'\\', 'x', hexDigits[byte / 16U], hexDigits[byte % 16U]};
 }
@@ -46,14 +51,8 @@ std::string escaped(std::string_view text, std::string_view misread)
         const char c = text[i];
         const bool outerBlank = c == ' ' && (i == 0 || i + 1 == text.size());
         const bool looseByte = !wellFormed && static_cast<unsigned char>(c) >= 0x80;
-        if (c == '\\')
-            result += "\\\\";
-        else if (c == '\n')
-            result += "\\n";
-        else if (c == '\r')
-            result += "\\r";
-        else if (c == '\t')
-            result += "\\t";
+        if (const auto name = named.find(c); name != std::string_view::npos)
+            result += {'\\', names[name]};
         else if (isControl(c) || outerBlank || looseByte ||
                  misread.find(c) != std::string_view::npos)
             result += byteEscape(c);
@@ -66,33 +65,25 @@ std::string escaped(std::string_view text, std::string_view misread)
 // The byte for two hexadecimal digits at the front of the text.
 std::optional<char> hexByte(std::string_view text)
 {
-    int byte = 0;
-    for (std::size_t i = 0; i < 2; ++i) {
-        const char digit = i < text.size() ? text[i] : '?';
-        const char upper = digit >= 'a' && digit <= 'f' ? static_cast<char>(digit - 32) : digit;
-        const auto value = hexDigits.find(upper);
-        if (value == std::string_view::npos)
-            return std::nullopt;
-        byte = byte * 16 + static_cast<int>(value);
-    }
-    return static_cast<char>(byte);
+    const std::string_view digits = text.substr(0, 2);
+    unsigned byte = 0;
+    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16).ptr;
+    return end == text.data() + 2 ? std::optional(static_cast<char>(byte)) : std::nullopt;
 }
 
 std::string unescaped(std::string_view text)
 {
-    constexpr std::string_view letters = "nrt\\";
-    constexpr std::string_view meanings = "\n\r\t\\";
     std::string result;
     while (!text.empty()) {
         const char next = text.size() > 1 ? text[1] : '\0';
-        const auto letter = letters.find(next);
+        const auto letter = names.find(next);
         const std::optional<char> byte =
             next == 'x' ? hexByte(text.substr(2)) : std::optional<char>();
         if (text[0] == '\\' && byte) {
             result += *byte;
             text.remove_prefix(4);
         } else if (text[0] == '\\' && letter != std::string_view::npos) {
-            result += meanings[letter];
+            result += named[letter];
             text.remove_prefix(2);
         } else {
             result += text[0];
@@ -178,7 +169,7 @@ void SettingsText::setValue(const std::string& section, const std::string& key,
         insertEntry(std::move(entry));
 }
 
-// Of several lines with this key the last counts.
+// If several lines have this key, the last one counts.
 const SettingsText::Line* SettingsText::find(std::string_view section, std::string_view key) const
 {
     const auto found = std::find_if(m_lines.rbegin(), m_lines.rend(), [&](const Line& line) {
@@ -187,8 +178,8 @@ const SettingsText::Line* SettingsText::find(std::string_view section, std::stri
     return found == m_lines.rend() ? nullptr : &*found;
 }
 
-// Below the last entry of its section, so that blank lines and comments after it stay where they
-// are; a section that is not there yet is begun at the end.
+// Adds the entry below the last one of its section, above the blank lines and comments that follow.
+// A new section goes to the end.
 void SettingsText::insertEntry(Line entry)
 {
     const auto last = std::find_if(m_lines.rbegin(), m_lines.rend(), [&entry](const Line& line) {

@@ -10,19 +10,19 @@
 namespace quillet
 {
 
-// The text of a settings file: "[section]" and "key=value" lines in UTF-8, and comments that
-// begin with "#" or ";". Whatever is not changed is written as it was read: comments, blank
-// lines, keys that nobody asked for, line ends, a byte order mark.
+// The text of a settings file: "[section]" and "key=value" lines in UTF-8, and comments that begin
+// with "#" or ";". Everything that is not changed is written as it was read: comments, blank lines,
+// unknown keys, line ends, a byte order mark.
 //
-// Every text can be a section, key or value. What would be misread is escaped: \n \r \t \\ and
-// \xHH for a byte. Any other backslash is itself, to be kind to hand-edited files.
+// Every text can be a section, key or value. Characters that would be misread are escaped: \n \r \t
+// \\ and \xHH for a byte. Any other backslash is kept, to be kind to hand-edited files.
 class SettingsText
 {
 public:
     // Returns nothing if a line has no known form or the bytes are not plain UTF-8 text.
     [[nodiscard]] static std::optional<SettingsText> parse(std::string_view bytes);
 
-    // As those of this application, in the order of the file.
+    // All settings, as those of this application, in the order of the file.
     [[nodiscard]] Settings settings(const std::string& application) const;
     // Leaves the line as it is if it has this value already.
     void setValue(const std::string& section, const std::string& key, std::string_view value);
@@ -31,8 +31,8 @@ public:
 
 private:
     struct Line {
-        std::string raw;     // as it stands in the file, up to the line feed
-        std::string section; // in which the line stands, or which it opens
+        std::string raw;     // as in the file, without the line feed
+        std::string section; // that the line is in, or opens
         bool opensSection = false;
         std::optional<std::string> key;
         std::string value;

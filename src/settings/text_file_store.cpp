@@ -44,7 +44,7 @@ struct StoredFile {
     throw RunTimeError(text.arg(path, cause).toStdString());
 }
 
-// Relative folders count as not set: they would move with the current directory.
+// A relative folder counts as not set, because it would change with the current directory.
 QString absoluteFolder(const char* variable)
 {
     const QString folder = qEnvironmentVariable(variable);
@@ -107,7 +107,7 @@ bool makeFolder(const QString& path)
     return QDir().mkdir(path, ownerOnly) || QFileInfo(path).isDir();
 }
 
-void take(QLockFile& lock, const QString& path)
+void acquire(QLockFile& lock, const QString& path)
 {
     lock.setStaleLockTime(staleLock);
     if (lock.tryLock(maxWaitForLock))
@@ -155,7 +155,7 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
     }
     if (!file.flush())
         fail(path, file.errorString());
-    // A file system may report a full disk this late; one that cannot synchronise says EINVAL.
+    // A file system may report a full disk this late; one that cannot synchronise reports EINVAL.
     if (::fsync(file.handle()) != 0 && errno != EINVAL)
         fail(path, QString::fromLocal8Bit(std::strerror(errno)));
 
@@ -202,7 +202,7 @@ void TextFileStore::save(const Settings& settings)
         fail(path, QStringLiteral("The folder cannot be created"));
 
     QLockFile lock(path + ".lock");
-    take(lock, path);
+    acquire(lock, path);
     const StoredFile stored = readFile(path);
     if (stored.state == FileState::unreadable)
         fail(path, stored.error);

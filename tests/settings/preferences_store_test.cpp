@@ -49,7 +49,7 @@ TEST(PreferencesStore, everyFieldFollowsItsRule)
         {"prfCardOutlineColor", "", "65280"},
         {"prfCardOutlineColor", "99999999999", "65280"},
         {"prfPKBackFace", "53", "53"},
-        {"prfPKBackFace", " 0.0 ", "65"},
+        {"prfPKBackFace", "0.0", "65"},
         {"prfPKBackFace", "0.4", "not written"},
         {"prfPKBackFace", "abc", "prfPKBackFace: Type mismatch in memory"},
         {"prfShowPokerPlay", "False", "False"},
