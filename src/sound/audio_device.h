@@ -3,13 +3,13 @@
 namespace quillet
 {
 
-// A sound output while it is open; what destroys it closes it.
+// A sound output while it is open. The destructor closes it.
 class AudioDevice
 {
 public:
     virtual ~AudioDevice() = default;
 
-    // True once it was unplugged or its server went away.
+    // Whether it was unplugged or its server has gone.
     [[nodiscard]] virtual bool isLost() const = 0;
 };
 

@@ -34,8 +34,8 @@ std::vector<char> contentsOf(const std::string& path, std::uintmax_t size)
     return contents;
 }
 
-// Whether every chunk up to the samples lies within the file. SDL would play what there is of a
-// file that was cut short, and set aside 4 GB where a chunk claims to be that large.
+// Whether every chunk up to the samples is within the file. SDL would play the rest of a file that
+// was cut short, and allocate 4 GB if a chunk claims to be that large.
 bool isWhole(const std::vector<char>& contents)
 {
     constexpr std::size_t riffHeader = 12;
@@ -85,7 +85,7 @@ std::shared_ptr<const SoundCue> converted(const Sdl& sdl, const Recording& recor
                           soundChannels, soundRate) < 0)
         return nullptr;
 
-    // SDL converts in place and says by how much the sound may swell on the way.
+    // SDL converts in place; len_mult says how many times larger the sound may become meanwhile.
     std::vector<Uint8> work(std::size_t{recording.bytes} *
                             static_cast<unsigned>(conversion.len_mult));
     std::copy_n(recording.data.get(), recording.bytes, work.begin());
@@ -115,7 +115,7 @@ std::shared_ptr<const SoundCue> loaded(const std::string& path, std::uintmax_t s
 
 std::shared_ptr<const SoundCue> CueLibrary::find(const std::string& path)
 {
-    // Only regular files have a size; reading a pipe would block for ever.
+    // Only regular files have a size; reading a pipe would block forever.
     std::error_code error;
     const auto written = std::filesystem::last_write_time(path, error);
     const auto size = std::filesystem::file_size(path, error);

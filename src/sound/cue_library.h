@@ -12,12 +12,12 @@
 namespace quillet
 {
 
-// Reads wave files and keeps what it has read, so that a cue heard ten times a hand is decoded
-// once. A file that has changed since is read again.
+// Reads wave files and keeps the decoded sounds, because a cue may be played ten times in one hand.
+// A file that has changed is read again.
 class CueLibrary
 {
 public:
-    // Null for a file that is missing, broken, too large or too long for a cue.
+    // Null if the file is missing, broken, too large or too long for a cue.
     [[nodiscard]] std::shared_ptr<const SoundCue> find(const std::string& path);
 
 private:

@@ -23,7 +23,7 @@ std::int16_t CueMixer::Voice::take()
 void CueMixer::play(std::shared_ptr<const SoundCue> cue)
 {
     const std::lock_guard lock(m_mutex);
-    // A cue of which nothing was heard yet needs no fade, and must not end one that runs.
+    // A cue that has not started needs no fade, and must not end the fade of another.
     if (m_playing.isSounding() && m_playing.next > 0) {
         m_leaving = std::exchange(m_playing, {});
         m_fadeLeft = fadeSamples;

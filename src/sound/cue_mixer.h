@@ -25,15 +25,15 @@ struct SoundCue {
     std::vector<std::int16_t> samples;
 };
 
-// One cue at a time, turned into the stream that the audio device asks for. A cue that is cut off
-// fades out under its successor, so that the cut does not click. May be used from any thread.
+// Plays one cue at a time as the stream that the audio device requests. A cue that is cut off fades
+// out under the next one, so that there is no click. May be used from any thread.
 class CueMixer
 {
 public:
-    // Starts this cue in the next block that is rendered; null only cuts off the one playing.
+    // Starts this cue with the next block; null only cuts off the one playing.
     void play(std::shared_ptr<const SoundCue> cue);
 
-    // Fills the block, with silence where nothing plays. Neither allocates nor frees.
+    // Fills the block, with silence if nothing plays. Neither allocates nor frees.
     void render(std::span<std::int16_t> block);
 
 private:

@@ -11,12 +11,12 @@ namespace
 
 using namespace std::chrono_literals;
 
-// Between two cues of a running hand the device stays open. After that it is closed: an SDL device
-// that is paused goes on writing silence a hundred times a second.
+// The device stays open between two cues of a hand. After this time it is closed, because a paused
+// SDL device still writes silence a hundred times a second.
 constexpr auto restAfter = 5s;
 constexpr auto retryAfter = 2s;
 
-// A cue that a slow server holds up for longer than this no longer fits what the player sees.
+// A cue that is later than this, because of a slow server, no longer fits what the player sees.
 constexpr auto staleAfter = 500ms;
 
 } // namespace

@@ -13,31 +13,31 @@
 namespace quillet
 {
 
-// Decides what sounds and when the device is open. It belongs to one thread, the only one that
-// may wait for a sound server; the moments are handed in by whoever runs it.
+// Decides what is played and when the device is open. It belongs to one thread, the only one that
+// may wait for a sound server.
 class CuePlayer
 {
 public:
     using Moment = std::chrono::steady_clock::time_point;
     using Now = std::function<Moment()>;
-    // Opens a device that plays what the mixer renders; null when there is none.
+    // Opens a device that plays what the mixer renders; null if there is none.
     using OpenDevice = std::function<std::unique_ptr<AudioDevice>(CueMixer&)>;
 
     CuePlayer(Now now, OpenDevice openDevice);
 
-    // Opens the device for a cue that will follow soon.
+    // Opens the device for a cue that follows soon.
     void prepare();
-    // Plays a file, which the caller asked for at that moment, and cuts off the one that sounds.
-    // One that comes too late is silent, and so is one that cannot be played.
+    // Plays a file that was requested at that moment, and cuts off the one playing. A request that
+    // is too late, or a file that cannot be played, is silent.
     void play(const std::string& path, Moment asked);
     // Closes the device.
     void rest();
 
-    // When `rest` is due; nothing while the device is closed.
+    // When to call `rest`; nothing while the device is closed.
     [[nodiscard]] std::optional<Moment> restAt() const;
 
 private:
-    // Whether there is a device.
+    // Returns whether there is a device.
     bool openDevice();
 
     Now m_now;

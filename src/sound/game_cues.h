@@ -20,7 +20,7 @@ public:
     void play(Cue cue) override;
     // Missing and empty files play nothing.
     void playSoundCue(std::string_view fileName);
-    // Announces a cue, which is then in time even if the device takes a second to open.
+    // Opens the device for a cue that follows soon, which is then not late.
     void prepare();
 
 private:

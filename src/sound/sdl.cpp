@@ -12,7 +12,7 @@ namespace
 
 std::atomic<const Sdl*> loaded = nullptr;
 
-// Becomes a function of whatever type is asked for.
+// Converts to a function of any type.
 struct Symbol {
     void* address;
 

@@ -5,13 +5,13 @@
 namespace quillet
 {
 
-// The functions of SDL that the sound takes. The library brings some thirty others into the
-// process, so it is loaded when the first cue comes and not with the program.
+// The functions of SDL that we use. The library brings some thirty others into the process, so it
+// is loaded with the first cue and not with the program.
 struct Sdl {
     // Loads the library at the first call. Null on a machine without it.
     [[nodiscard]] static const Sdl* load();
 
-    // Frees what SDL keeps for the calling thread, which has ended with it.
+    // Frees what SDL keeps for the calling thread, which no longer uses SDL.
     static void leaveThread();
 
     decltype(&SDL_BuildAudioCVT) buildAudioCVT;

@@ -13,9 +13,8 @@ namespace
 
 void ignoreAlsaMessage(const char*, int, const char*, int, const char*, ...) {}
 
-// ALSA reports every look-up that fails on stderr, eight lines on a machine without a card. SDL
-// brings ALSA into the process on some systems and not on others, so its handler is looked up
-// rather than linked.
+// ALSA reports every failed look-up on stderr, eight lines on a machine without a sound card. SDL
+// uses ALSA only on some systems, so its handler is looked up and not linked.
 void muteAlsa()
 {
     using SetHandler = int (*)(decltype(&ignoreAlsaMessage));
@@ -61,7 +60,7 @@ std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
     wanted.userdata = &mixer;
     const SDL_AudioDeviceID id = sdl->openAudioDevice(nullptr, 0, &wanted, nullptr, 0);
     if (id == 0) {
-        // The next attempt may find another server, so the choice of driver goes too.
+        // The next attempt may find another server, so SDL must choose the driver again.
         sdl->quitSubSystem(SDL_INIT_AUDIO);
         return nullptr;
     }

@@ -11,12 +11,12 @@ namespace quillet
 
 struct Sdl;
 
-// The machine's sound output while it is open. Opening and closing take as long as the sound
-// server likes, so only a thread that nobody waits for may do either.
+// The machine's sound output while it is open. A sound server may block opening and closing, so
+// only a thread that nobody waits for may do either.
 class SdlAudioDevice : public AudioDevice
 {
 public:
-    // Plays what the mixer renders; the mixer must outlive the device. Null when there is none.
+    // Plays what the mixer renders; the mixer must outlive the device. Null if there is none.
     [[nodiscard]] static std::unique_ptr<AudioDevice> open(CueMixer& mixer);
 
     ~SdlAudioDevice() override;

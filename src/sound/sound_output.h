@@ -11,11 +11,11 @@ class SoundOutput
 public:
     virtual ~SoundOutput() = default;
 
-    // A cue will follow soon: opens the device, which may take a second with a wireless speaker.
+    // Opens the device for a cue that follows soon; a wireless speaker takes a second to open.
     virtual void prepare() = 0;
 
     // Starts the file at this path and cuts off the one still playing. A file that cannot be
-    // played, or a machine without sound, is silence.
+    // played, or a machine without sound, is silent.
     virtual void play(const std::string& path) = 0;
 };
 
