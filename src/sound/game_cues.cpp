@@ -3,6 +3,7 @@
 #include "platform/file_exists.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quillet
@@ -11,26 +12,10 @@ namespace quillet
 namespace
 {
 
-std::string_view fileNameOf(Cue cue)
-{
-    switch (cue) {
-    case Cue::deal:
-        return "\\wavs\\deal.wav";
-    case Cue::wrong:
-        return "\\wavs\\wrong.wav";
-    case Cue::wrongOne:
-        return "\\wavs\\wrong2.wav";
-    case Cue::wrongTwo:
-        return "\\wavs\\wrong3.wav";
-    case Cue::smallWin:
-        return "\\wavs\\pokerwin1.wav";
-    case Cue::mediumWin:
-        return "\\wavs\\pokerwin2.wav";
-    case Cue::bigWin:
-        return "\\wavs\\pokerwin3.wav";
-    }
-    return {};
-}
+// In the order of Cue.
+constexpr std::array<std::string_view, 7> fileNames{
+    "\\wavs\\deal.wav",      "\\wavs\\wrong.wav",     "\\wavs\\wrong2.wav",   "\\wavs\\wrong3.wav",
+    "\\wavs\\pokerwin1.wav", "\\wavs\\pokerwin2.wav", "\\wavs\\pokerwin3.wav"};
 
 } // namespace
 
@@ -42,7 +27,7 @@ GameCues::GameCues(std::function<bool()> wantsSound, std::string programFolder, 
 
 void GameCues::play(Cue cue)
 {
-    playSoundCue(fileNameOf(cue));
+    playSoundCue(fileNames[static_cast<std::size_t>(cue)]);
 }
 
 void GameCues::playSoundCue(std::string_view fileName)

@@ -18,39 +18,33 @@ namespace
 {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
+using std::chrono::steady_clock;
 
 constexpr auto maxWaitForEnd = 300ms;
 
 struct Request {
-    std::string path; // empty: only to be ready
-    Clock::time_point asked;
+    std::string path; // empty: only open the device
+    steady_clock::time_point asked;
 };
 
 } // namespace
 
-// All that the caller and the thread share; whoever leaves last destroys it.
+// Everything that the caller and the thread share. The last to leave destroys it.
 class SdlSoundOutput::Mailbox
 {
 public:
     void put(Request request)
     {
-        {
-            const std::lock_guard lock(m_mutex);
+        change([&] {
             // A prepare request never replaces a waiting cue.
             if (!request.path.empty() || !m_request)
                 m_request = std::move(request);
-        }
-        m_changed.notify_all();
+        });
     }
 
     void close()
     {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_closed = true;
-        }
-        m_changed.notify_all();
+        change([this] { m_closed = true; });
     }
 
     [[nodiscard]] bool isClosed()
@@ -59,8 +53,8 @@ public:
         return m_closed;
     }
 
-    // Waits for a request. Nothing when the time has come first, or the box is closed.
-    std::optional<Request> take(std::optional<Clock::time_point> until)
+    // Waits for a request. Returns nothing at the time given, or if the mailbox is closed.
+    std::optional<Request> take(std::optional<steady_clock::time_point> until)
     {
         std::unique_lock lock(m_mutex);
         const auto ready = [this] { return m_request || m_closed; };
@@ -71,52 +65,48 @@ public:
         return m_closed ? std::nullopt : std::exchange(m_request, std::nullopt);
     }
 
-    void reportEnd()
+private:
+    template <typename Act>
+    void change(const Act& act)
     {
         {
             const std::lock_guard lock(m_mutex);
-            m_ended = true;
+            act();
         }
         m_changed.notify_all();
     }
 
-    void waitForEnd(Clock::duration patience)
-    {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait_for(lock, patience, [this] { return m_ended; });
-    }
-
-private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::optional<Request> m_request;
     bool m_closed = false;
-    bool m_ended = false;
 };
 
 SdlSoundOutput::SdlSoundOutput() : m_mailbox(std::make_shared<Mailbox>())
 {
-    std::thread([mailbox = m_mailbox] {
+    std::promise<void> ended;
+    m_ended = ended.get_future();
+    std::thread([mailbox = m_mailbox, ended = std::move(ended)]() mutable {
         work(mailbox);
         Sdl::leaveThread();
-        mailbox->reportEnd();
+        ended.set_value();
     }).detach();
 }
 
 SdlSoundOutput::~SdlSoundOutput()
 {
     stop();
-    m_mailbox->waitForEnd(maxWaitForEnd);
+    m_ended.wait_for(maxWaitForEnd);
 }
 
 void SdlSoundOutput::prepare()
 {
-    m_mailbox->put({{}, Clock::now()});
+    m_mailbox->put({{}, steady_clock::now()});
 }
 
 void SdlSoundOutput::play(const std::string& path)
 {
-    m_mailbox->put({path, Clock::now()});
+    m_mailbox->put({path, steady_clock::now()});
 }
 
 void SdlSoundOutput::stop()
@@ -126,7 +116,7 @@ void SdlSoundOutput::stop()
 
 void SdlSoundOutput::work(const std::shared_ptr<Mailbox>& mailbox)
 {
-    CuePlayer player(&Clock::now, &SdlAudioDevice::open);
+    CuePlayer player(&steady_clock::now, &SdlAudioDevice::open);
     while (!mailbox->isClosed()) {
         const auto request = mailbox->take(player.restAt());
         if (!request)
