@@ -29,7 +29,7 @@ QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, bo
 {
     auto* label = new QLabel(parent);
     if (reader == Reader::doesNotHear)
-        hideFromReaders(*label);
+        presentAs(*label, QAccessible::NoRole);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setText(text);

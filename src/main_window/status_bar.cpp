@@ -37,7 +37,7 @@ StatusBar::StatusBar(QWidget* parent)
     : QWidget(parent), m_lblstatus(new QLabel("Welcome to Quillet", this))
 {
     setObjectName("picStatusBar");
-    presentAsLink(*this);
+    presentAs(*this, QAccessible::Link);
     setAccessibleName("Status bar, opens the web site");
     setFixedSize(static_cast<int>(statusBarWidth),
                  static_cast<int>(statusBarDesignedHeight / designTwips));

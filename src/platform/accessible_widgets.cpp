@@ -1,6 +1,5 @@
 #include "platform/accessible_widgets.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 
 namespace quillet
@@ -9,7 +8,7 @@ namespace quillet
 namespace
 {
 
-// What the widget is presented as: its role to readers, kept as a property of it.
+// The property of a widget that holds its role.
 constexpr const char* presentation = "presentation to readers";
 
 class HiddenWidget : public QAccessibleWidget
@@ -47,7 +46,7 @@ public:
     void doAction(const QString& name) override
     {
         const char* member = role() == QAccessible::Link ? "clicked" : "activate";
-        // A hand takes seconds, and the reader that asked waits for its answer.
+        // A hand takes seconds, and the reader waits until this returns.
         if (name == action())
             QMetaObject::invokeMethod(widget(), member, Qt::QueuedConnection);
         else
@@ -73,7 +72,9 @@ QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* obje
     return new AccessibleActor(*widget, role);
 }
 
-void present(QWidget& widget, QAccessible::Role role)
+} // namespace
+
+void presentAs(QWidget& widget, QAccessible::Role role)
 {
     static const bool installed = [] {
         QAccessible::installFactory(makeAccessible);
@@ -81,28 +82,6 @@ void present(QWidget& widget, QAccessible::Role role)
     }();
     Q_UNUSED(installed)
     widget.setProperty(presentation, static_cast<int>(role));
-}
-
-} // namespace
-
-void hideFromReaders(QWidget& widget)
-{
-    present(widget, QAccessible::NoRole);
-}
-
-void presentAsLink(QWidget& widget)
-{
-    present(widget, QAccessible::Link);
-}
-
-void presentAsButton(QWidget& widget)
-{
-    present(widget, QAccessible::Button);
-}
-
-void presentAsCheckBox(QWidget& widget)
-{
-    present(widget, QAccessible::CheckBox);
 }
 
 } // namespace quillet

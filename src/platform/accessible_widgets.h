@@ -1,21 +1,17 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 namespace quillet
 {
 
-// The roles of our own widgets for screen readers. Call these before a reader asks for the widget.
-
-// Its content is heard elsewhere.
-void hideFromReaders(QWidget& widget);
-
-// A text or strip whose signal clicked() leads to a page.
-void presentAsLink(QWidget& widget);
-
-// A picture whose slot activate() does what a click on it does; the check box has a property
-// "checked", too.
-void presentAsButton(QWidget& widget);
-void presentAsCheckBox(QWidget& widget);
+// Gives one of our own widgets a role for screen readers. Call this before a reader asks for the
+// widget.
+//   Link       a text or strip whose signal clicked() leads to a page
+//   Button     a picture whose slot activate() does what a click does
+//   CheckBox   the same, with a property "checked"
+//   NoRole     hidden; its content is read elsewhere
+void presentAs(QWidget& widget, QAccessible::Role role);
 
 } // namespace quillet

@@ -11,7 +11,7 @@ namespace quillet
 
 LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
-    presentAsLink(*this);
+    presentAs(*this, QAccessible::Link);
     setAccessibleName(text);
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::TabFocus);

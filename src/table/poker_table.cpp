@@ -60,10 +60,8 @@ void PokerTable::connectDeck()
 {
     for (std::size_t i = 0; i < m_pile.boxes().size(); ++i) {
         PictureBox& deck = *m_pile.boxes()[i];
-        if (i > 0)
-            hideFromReaders(deck); // beneath the first
-        else
-            presentAsButton(deck);
+        // The others are beneath the first.
+        presentAs(deck, i == 0 ? QAccessible::Button : QAccessible::NoRole);
         deck.setAccessibleName("Deck");
         connect(&deck, &PictureBox::clicked, this,
                 [this, i] { emit deckClicked(static_cast<std::int16_t>(i)); });
@@ -78,7 +76,7 @@ void PokerTable::makePlaces()
         picPoker[slot] = place;
         place->setObjectName(QString("picPoker%1").arg(slot));
         place->setFocusPolicy(Qt::TabFocus);
-        presentAsCheckBox(*place);
+        presentAs(*place, QAccessible::CheckBox);
         connect(place, &PictureBox::mouseDown, this, [this, slot] { emit cardPressed(slot); });
         connect(place, &PictureBox::doubleClicked, this,
                 [this, slot] { emit cardDoubleClicked(slot); });
