@@ -1,12 +1,12 @@
 #include "main_window/chart_row.h"
 
+#include "cards/picture_text.h"
 #include "platform/colour_contrast.h"
 #include "platform/desktop_colours.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace quillet
 {
@@ -16,51 +16,27 @@ namespace
 
 constexpr double minContrast = 3.0;
 
-// An arrow for the best play, a cross for the missed one, a diamond for a win.
-QPainterPath markFor(ChartRowState state)
-{
-    QPainterPath mark;
-    switch (state) {
-    case ChartRowState::bestPlay:
-        mark.addPolygon(QPolygonF({{-3, -4.5}, {4.5, 0}, {-3, 4.5}}));
-        break;
-    case ChartRowState::missedPlay:
-        mark.addPolygon(QPolygonF({{-4, -2.6},
-                                   {-2.6, -4},
-                                   {0, -1.4},
-                                   {2.6, -4},
-                                   {4, -2.6},
-                                   {1.4, 0},
-                                   {4, 2.6},
-                                   {2.6, 4},
-                                   {0, 1.4},
-                                   {-2.6, 4},
-                                   {-4, 2.6},
-                                   {-1.4, 0}}));
-        break;
-    case ChartRowState::winner:
-        mark.addPolygon(QPolygonF({{0, -5}, {4.5, 0}, {0, 5}, {-4.5, 0}}));
-        break;
-    case ChartRowState::base:
-        break;
-    }
-    mark.closeSubpath();
-    return mark;
-}
+// How a lit row differs from the others, besides its colour.
+struct Sign {
+    const char* mark; // an arrow, a cross or a diamond, as an outline
+    const char* spoken;
+};
 
-QString spokenState(ChartRowState state)
+Sign signOf(ChartRowState state)
 {
     switch (state) {
     case ChartRowState::bestPlay:
-        return "best play";
+        return {"M-3 -4.5 L4.5 0 L-3 4.5 Z", "best play"};
     case ChartRowState::missedPlay:
-        return "missed best play";
+        return {"M-4 -2.6 L-2.6 -4 L0 -1.4 L2.6 -4 L4 -2.6 L1.4 0"
+                "L4 2.6 L2.6 4 L0 1.4 L-2.6 4 L-4 2.6 L-1.4 0 Z",
+                "missed best play"};
     case ChartRowState::winner:
-        return "winning hand";
+        return {"M0 -5 L4.5 0 L0 5 L-4.5 0 Z", "winning hand"};
     case ChartRowState::base:
         break;
     }
-    return {};
+    return {"", ""};
 }
 
 } // namespace
@@ -79,8 +55,9 @@ void ChartRow::show(ChartRowColours colours, ChartRowState state)
 {
     m_colours = colours;
     m_state = state;
-    const QString spoken = spokenState(state);
-    setAccessibleName(spoken.isEmpty() ? text() : QString("%1, %2").arg(text().trimmed(), spoken));
+    setAccessibleName(state == ChartRowState::base
+                          ? text()
+                          : QString("%1, %2").arg(text().trimmed(), QString(signOf(state).spoken)));
     update();
 }
 
@@ -106,7 +83,7 @@ void ChartRow::paintEvent(QPaintEvent*)
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(5, height() / 2.0);
-    painter.fillPath(markFor(m_state), textColour());
+    painter.fillPath(readPath(signOf(m_state).mark), textColour());
 }
 
 void ChartRow::changeEvent(QEvent* event)

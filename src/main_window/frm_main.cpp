@@ -163,11 +163,6 @@ void frmMain::Form_Unload()
     m_surroundings.endProcess(saved ? 0 : 1);
 }
 
-void frmMain::initPokerScreen()
-{
-    m_controller.initPokerScreen();
-}
-
 void frmMain::picDeal_Click(std::int16_t Index)
 {
     m_cues.prepare();
@@ -181,20 +176,10 @@ void frmMain::picPoker_MouseDown(std::int16_t Index)
     m_controller.picPoker_MouseDown(Index);
 }
 
-void frmMain::picPoker_DblClick(std::int16_t Index)
-{
-    m_controller.picPoker_DblClick(Index);
-}
-
 void frmMain::picStatusBar_Click()
 {
     guardedWithText(m_surroundings.errorBox, "statusclick", "",
                     [this] { openWebPage(m_surroundings.pages, onlinePokerPage()); });
-}
-
-void frmMain::mnuPoker_Click()
-{
-    initPokerScreen();
 }
 
 void frmMain::mnuPref_Click()
@@ -205,11 +190,6 @@ void frmMain::mnuPref_Click()
                            [this] { m_table.canvas().update(); }},
                           this);
     dialog.exec();
-}
-
-void frmMain::mnuExit_Click()
-{
-    close();
 }
 
 void frmMain::mnuSites_Click(int)

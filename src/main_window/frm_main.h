@@ -40,17 +40,17 @@ public:
     void Form_Unload();
 
     // Lays the table out again and deals; see HandController.
-    void initPokerScreen();
+    void initPokerScreen() { m_controller.initPokerScreen(); }
     void Form_Resize();
 
     void picDeal_Click(std::int16_t Index);
     void picPoker_MouseDown(std::int16_t Index);
-    void picPoker_DblClick(std::int16_t Index);
+    void picPoker_DblClick(std::int16_t Index) { m_controller.picPoker_DblClick(Index); }
     void picStatusBar_Click();
 
-    void mnuPoker_Click();
+    void mnuPoker_Click() { initPokerScreen(); }
     void mnuPref_Click();
-    void mnuExit_Click();
+    void mnuExit_Click() { close(); }
     void mnuSites_Click(int Index);
     void mnuContents_Click();
     void mnuAbout_Click();
