@@ -9,11 +9,9 @@
 namespace quillet
 {
 
-// The printed area of a back, inside its white margin, on the grid.
+// The corner of the printed area of a back, inside its white margin, on the grid.
 inline constexpr double fieldLeft = 6;
 inline constexpr double fieldTop = 6;
-inline constexpr double fieldWidth = 84;
-inline constexpr double fieldHeight = 118;
 
 // Fills the printed area with `ground`, lets `paint` draw on the grid, clipped to the area, and
 // draws a thin frame around it.

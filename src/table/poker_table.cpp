@@ -140,16 +140,6 @@ void PokerTable::resetGraphics()
     });
 }
 
-void PokerTable::DrawDealDeck()
-{
-    m_pile.DrawDealDeck(m_preferences.prfPKBackFace);
-}
-
-void PokerTable::shuffleCards()
-{
-    m_pile.shuffleCards(m_preferences.prfPKBackFace);
-}
-
 void PokerTable::measureDelays(Preferences& preferences, const Clock& clock,
                                std::function<void()> afterRound)
 {

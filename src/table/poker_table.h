@@ -58,8 +58,8 @@ public:
     // Paints everything again for a game: no card, the deck in place.
     void resetGraphics();
     // Paints the pile in the chosen back.
-    void DrawDealDeck();
-    void shuffleCards();
+    void DrawDealDeck() { m_pile.DrawDealDeck(m_preferences.prfPKBackFace); }
+    void shuffleCards() { m_pile.shuffleCards(m_preferences.prfPKBackFace); }
 
     // Measures the speed of flights and of a banner; see DelayMeter.
     void measureDelays(Preferences& preferences, const Clock& clock,

@@ -38,12 +38,6 @@ FramePlace rightPiece(const TableMeasures& table, double right)
 
 } // namespace
 
-const char* fileName(FramePiece piece)
-{
-    constexpr std::array names{"top", "bottom", "side1", "side2"};
-    return names[static_cast<std::size_t>(piece)];
-}
-
 QSizeF deckSize(const TableMeasures& table)
 {
     return {table.cardWidth * 1.1, table.cardHeight * 1.1};

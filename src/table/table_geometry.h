@@ -27,6 +27,8 @@ inline constexpr TableMeasures designedTable{800, 514, 96, 130, 60, 169};
 enum class FramePiece { picTop, picBottom, picSide1, picSide2 };
 inline constexpr std::array allFramePieces{FramePiece::picTop, FramePiece::picBottom,
                                            FramePiece::picSide1, FramePiece::picSide2};
+// Their files below frame/, without extension.
+inline constexpr std::array frameFiles{"top", "bottom", "side1", "side2"};
 inline constexpr double frameEdgeHeight = 14; // picTop, picBottom
 inline constexpr double frameSideWidth = 13;  // picSide1, picSide2
 inline constexpr double statusBarWidth = 468;
@@ -36,9 +38,6 @@ struct FramePlace {
     QRectF rect;
     friend bool operator==(const FramePlace&, const FramePlace&) = default;
 };
-
-// The name of a piece's file below frame/, without extension.
-[[nodiscard]] const char* fileName(FramePiece piece);
 
 // Offset between cards of the pile.
 inline constexpr QPoint pileStep{2, 1};

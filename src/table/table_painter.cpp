@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace quillet
 {
 
@@ -15,11 +17,10 @@ namespace
 std::array<QImage, 4> framePictures()
 {
     std::array<QImage, 4> pictures;
-    for (const FramePiece piece : allFramePieces) {
-        const QImage picture(QString(":/frame/%1.png").arg(fileName(piece)));
-        pictures[static_cast<std::size_t>(piece)] =
-            picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    }
+    std::ranges::transform(frameFiles, pictures.begin(), [](const char* file) {
+        return QImage(QString(":/frame/%1.png").arg(file))
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    });
     return pictures;
 }
 

@@ -58,8 +58,9 @@ void writeText(const QString& path, const QByteArray& text)
 void writeFrame(const QString& folder)
 {
     for (const FramePiece piece : allFramePieces)
-        writePng(inFolder(folder, QString("%1.png").arg(fileName(piece))),
-                 framePiece(piece).toImage().convertToFormat(QImage::Format_RGB888));
+        writePng(
+            inFolder(folder, QString("%1.png").arg(frameFiles[static_cast<std::size_t>(piece)])),
+            framePiece(piece).toImage().convertToFormat(QImage::Format_RGB888));
 }
 
 void writeIcons(const QString& folder)
