@@ -52,7 +52,7 @@ std::array<Card, 5> dealHand(const PokerDeck& deck)
 void drawReplacements(std::array<Card, 5>& hand, const PokerDeck& deck,
                       const std::array<bool, 5>& holdFlags)
 {
-    // Each slot has a replacement of its own, whatever the other slots do.
+    // Each slot has its own replacement, whichever other slots are held.
     for (const Slot slot : allSlots) {
         if (!holdFlags[slot])
             hand[slot] = makeCard(deck[slot + 5]);

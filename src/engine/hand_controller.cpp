@@ -22,7 +22,7 @@ constexpr int fadeSteps = 25;
 constexpr std::array wrongCues{Cue::wrong, Cue::wrongOne, Cue::wrongTwo,
                                Cue::wrong, Cue::wrong,    Cue::wrong};
 
-// Counts a sequence while it runs, also if it ends with an exception.
+// Counts a sequence while it runs, even if an exception ends it.
 class RunningSequence
 {
 public:

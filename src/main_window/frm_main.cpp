@@ -57,7 +57,7 @@ frmMain::frmMain(Surroundings& surroundings)
       m_sessionEnd(surroundings.clock,
                    [this] {
                        NoErrorBox nobody;
-                       // Before the first game the delays may be half measured.
+                       // Until the first game, the measurement of the delays may be unfinished.
                        if (m_firstHandStarted && !m_unloading)
                            guarded(nobody, "Form_Unload",
                                    [this] { savePreferences(*this, m_surroundings.store); });
@@ -71,7 +71,7 @@ frmMain::frmMain(Surroundings& surroundings)
       picStatusBar(new StatusBar(&m_table.canvas())),
       m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)
 {
-    // Nearly every player has this one. It is decoded while the window looks its fonts up.
+    // Most players have the default. It is decoded while Qt looks up the fonts.
     m_table.expectBackground(backgroundPath(m_surroundings, defaultBackground));
     setObjectName("frmMain");
     setWindowTitle("Jacks or Better Quillet");

@@ -33,7 +33,7 @@ namespace quillet
 namespace
 {
 
-// Its first word is at its left end, its last word at its right end.
+// The first word is at the left end, the last word at the right end.
 class EndsLabel : public QLabel
 {
 public:
@@ -214,7 +214,7 @@ void frmPreferences::Form_Activate()
         showOutlineColour();
         QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
         chosen.setChecked(true);
-        // Tab must reach the chosen one; Qt ensures this only after the first focus.
+        // Tab must reach the chosen button; Qt ensures this only after the first focus.
         for (QRadioButton* option : {opAlwaysShow, opShowOnError})
             option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
         ckAnimation->setChecked(now.prfAnimation);

@@ -27,14 +27,14 @@ namespace
 std::vector<QImage> decodedIcons()
 {
     std::vector<QImage> icons;
-    // No window manager asks a window for larger ones.
+    // Window managers use no larger ones.
     for (const int size : {16, 22, 24, 32, 48, 64, 128})
         icons.emplace_back(QStringLiteral(":/icons/quillet-%1.png").arg(size));
     return icons;
 }
 
-// The icons are decoded on a thread, and given to the window manager with the first events, when
-// the window has just come up.
+// The icons are decoded on a thread. The window manager gets them with the first events, when the
+// window has just appeared.
 void useIcons()
 {
     auto icons = std::make_shared<std::future<std::vector<QImage>>>(
@@ -47,7 +47,7 @@ void useIcons()
     });
 }
 
-// Sets the help file, loads the main window and runs the program to its end.
+// Loads the main window and runs the program to its end.
 int Main()
 {
     using namespace quillet;

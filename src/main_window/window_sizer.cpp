@@ -34,8 +34,8 @@ void WindowSizer::sizeWithoutPicture()
 
 void WindowSizer::windowResized(bool isPoker)
 {
-    // Only the normal state is set: after hiding and showing, the window manager would place the
-    // window again, or maximise it again.
+    // showNormal alone: if the window were hidden and shown, the window manager would place it
+    // again, or maximise it again.
     if (m_window.isMaximized() || m_window.isFullScreen())
         m_window.showNormal();
     if (m_window.isMinimized() || m_window.isMaximized())

@@ -14,7 +14,7 @@ class ClickTracker : public QObject
 public:
     explicit ClickTracker(QWidget& widget);
 
-    // An inactive tracker takes the events without a signal.
+    // An inactive tracker takes the events but sends no signal.
     void setActive(bool active) { m_active = active; }
 
 signals:
@@ -22,7 +22,7 @@ signals:
     void pressed();
     // The left button was pressed and released over the widget. A double click is one click.
     void clicked();
-    // In place of the second press.
+    // Sent instead of pressed() for the second press.
     void doubleClicked(Qt::MouseButton button);
 
 protected:

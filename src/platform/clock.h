@@ -5,14 +5,14 @@
 namespace quillet
 {
 
-// Times that never run backwards.
+// Two times that never go back.
 class Clock
 {
 public:
     virtual ~Clock() = default;
     // Since the program's start.
     [[nodiscard]] virtual std::int64_t milliseconds() const = 0;
-    // What the calling thread has spent on a processor.
+    // Processor time of the calling thread.
     [[nodiscard]] virtual double processorSeconds() const = 0;
 };
 

@@ -17,30 +17,30 @@ QColor desktopColour(std::uint32_t number)
     constexpr std::uint32_t greyText = 17;
     static constexpr std::array roles{
         QPalette::Mid,             // scroll bars
-        QPalette::Window,          // the desktop's ground
+        QPalette::Window,          // background of the desktop
         QPalette::Highlight,       // title bar of the active window
-        QPalette::Mid,             // and of the others
+        QPalette::Mid,             // title bars of other windows
         QPalette::Window,          // menus
-        QPalette::Base,            // ground of texts and lists
+        QPalette::Base,            // background of texts and lists
         QPalette::Shadow,          // frames of windows
         QPalette::WindowText,      // text of menus
         QPalette::WindowText,      // text of windows
         QPalette::HighlightedText, // text of the active title bar
         QPalette::Highlight,       // border of the active window
-        QPalette::Mid,             // and of the others
-        QPalette::Dark,            // ground of windows in a window
-        QPalette::Highlight,       // what is selected
-        QPalette::HighlightedText, // and its text
+        QPalette::Mid,             // borders of other windows
+        QPalette::Dark,            // background of windows in a window
+        QPalette::Highlight,       // selected text, background
+        QPalette::HighlightedText, // its text
         QPalette::Button,          // buttons
-        QPalette::Dark,            // their shadow
-        QPalette::WindowText,      // text of what cannot be used
+        QPalette::Dark,            // shadow of buttons
+        QPalette::WindowText,      // disabled text
         QPalette::ButtonText,      // text of buttons
-        QPalette::WindowText,      // text of the other title bars
+        QPalette::WindowText,      // text of other title bars
         QPalette::Light,           // lit edges
         QPalette::Shadow,          // dark edges
         QPalette::Midlight,        // faint edges
-        QPalette::ToolTipText,     // text of hints
-        QPalette::ToolTipBase,     // and their ground
+        QPalette::ToolTipText,     // text of tool tips
+        QPalette::ToolTipBase,     // background of tool tips
     };
     const auto group = number == greyText ? QPalette::Disabled : QPalette::Active;
     return QGuiApplication::palette().color(group,

@@ -10,7 +10,7 @@ namespace quillet
 
 bool FileExists(const std::string& thePath)
 {
-    // The system would examine only what stands before a NUL.
+    // The system would look only at the part before a NUL.
     if (thePath.find('\0') != std::string::npos)
         return false;
     std::error_code error;

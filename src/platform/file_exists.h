@@ -5,8 +5,8 @@
 namespace quillet
 {
 
-// Whether there is a file with something in it. A folder is no file, and a path that cannot be
-// examined leads to none; never raises an error.
+// Whether this is a readable file that is not empty. Folders and invalid paths are no files. Never
+// throws.
 [[nodiscard]] bool FileExists(const std::string& thePath);
 
 } // namespace quillet

@@ -6,7 +6,7 @@ namespace quillet
 namespace
 {
 
-// The scan codes of both platforms are those of the kernel, counted from 8.
+// The scan codes of both platforms are those of the kernel plus 8.
 constexpr quint32 keyOfOne = 10;
 constexpr quint32 keyOfZero = 19;
 

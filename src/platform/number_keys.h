@@ -8,11 +8,11 @@
 namespace quillet
 {
 
-// The digit, 0..9, that a key gives, with Shift or without, on the key pad or in the number row. A
-// key of the number row that gives no digit without Shift, as on French keyboards, stands for the
-// one of its place. Nothing for any other key, and for combinations with Ctrl, Alt and the like.
+// The digit 0..9 of a key, with or without Shift, on the key pad or in the number row. On keyboards
+// whose number row gives digits only with Shift, such as French ones, the position of the key
+// counts. Nothing for any other key, and for combinations with Ctrl, Alt and the like.
 //
-// Places are known on X11 and Wayland, whose name for the toolkit is the platform's.
+// `platform` is Qt's name of it. Positions are known on X11 and Wayland.
 [[nodiscard]] std::optional<int> digitOfKey(const QKeyEvent& event, const QString& platform);
 
 } // namespace quillet

@@ -3,9 +3,9 @@
 namespace quillet
 {
 
-// The metrics for computing the size of the window. Sizes in pixels, conversions in twips per
-// pixel: 15 on a normal screen, 12 on a large-font screen. The toolkit scales by itself, so the
-// desktop's own screens always count as normal ones.
+// The metrics for computing the size of the window. Sizes are in pixels. A pixel has 15 twips on a
+// normal screen and 12 on a large-font screen. Qt scales by itself, so a real screen always counts
+// as a normal one.
 struct ScreenMetrics {
     double twipsPerPixelX = 15;
     double twipsPerPixelY = 15;

@@ -20,8 +20,8 @@ SessionEnd::SessionEnd(const Clock& clock, std::function<void()> save) : m_clock
 
 bool SessionEnd::isComing() const
 {
-    constexpr std::int64_t patience = 60'000; // milliseconds
-    return m_announced && m_clock.milliseconds() - *m_announced < patience;
+    constexpr std::int64_t maxWait = 60'000; // milliseconds
+    return m_announced && m_clock.milliseconds() - *m_announced < maxWait;
 }
 
 } // namespace quillet

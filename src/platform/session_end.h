@@ -21,7 +21,7 @@ public:
     // Calls save when the end of the session is announced. The clock must outlive this.
     SessionEnd(const Clock& clock, std::function<void()> save);
 
-    // False again if the session outlives the announcement by a minute.
+    // False again if the session has not ended a minute after the announcement.
     [[nodiscard]] bool isComing() const;
 
 private:

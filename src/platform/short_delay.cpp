@@ -13,7 +13,7 @@ void shortDelay(std::int32_t delayTime, const std::function<bool()>& cutShort)
 {
     if (delayTime <= 0)
         return;
-    // Without it nothing would wait, and the loop would spin.
+    // Without the application, nothing would wait, and the loop would spin.
     assert(QCoreApplication::instance());
 
     const QDeadlineTimer deadline(qint64{delayTime}, Qt::PreciseTimer);
@@ -21,7 +21,7 @@ void shortDelay(std::int32_t delayTime, const std::function<bool()>& cutShort)
     waker.setTimerType(Qt::PreciseTimer);
     waker.setSingleShot(true);
     while (!deadline.hasExpired()) {
-        // Started again in each turn: a pause within this one may have used up its timeout.
+        // Started again in each turn, because a pause inside this one may have used up its timeout.
         waker.start(static_cast<int>(deadline.remainingTime()));
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         if (cutShort && cutShort())

@@ -5,7 +5,7 @@
 namespace quillet
 {
 
-// The system's steady clock, by which events are delivered, and its clock of this thread.
+// The steady clock of the system, which also times events, and the processor clock of this thread.
 class SystemClock : public Clock
 {
 public:

@@ -14,7 +14,7 @@ void showAndWaitUntilExposed(QWidget& window)
     if (window.isVisible())
         return;
     window.show();
-    // Its timeout is an event, so it also ends the wait below.
+    // The timeout is an event, so it also ends the wait below.
     QTimer patience;
     patience.setSingleShot(true);
     patience.start(maxWait);

@@ -13,7 +13,7 @@ namespace quillet
 namespace
 {
 
-// The X protocol's DestroyNotify, as it comes from the server.
+// The message DestroyNotify of the X protocol.
 struct DestroyNotify {
     static constexpr std::uint8_t type = 17;
 
@@ -24,7 +24,7 @@ struct DestroyNotify {
     std::uint32_t window;
 };
 
-// Windows that the toolkit has destroyed by itself have no such number any more.
+// Windows that Qt itself has destroyed no longer have this number.
 void closeWindow(WId lost)
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {

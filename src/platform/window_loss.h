@@ -8,7 +8,7 @@ namespace quillet
 
 // Closes a window or dialog that another program has destroyed on the X server, as its close box
 // would. Qt does not notice: the process would run on without a window, or wait forever for a
-// dialog that nobody can see. On other platforms nobody can do that.
+// dialog that nobody can see. On other platforms, no program can do that to another.
 class WindowLoss : public QObject, private QAbstractNativeEventFilter
 {
     Q_OBJECT

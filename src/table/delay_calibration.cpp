@@ -11,15 +11,15 @@ namespace quillet
 namespace
 {
 
-constexpr double flightRound = 0.4; // seconds that a round is to take at least
+constexpr double flightRound = 0.4; // minimum seconds of a round
 constexpr double bannerRound = 0.3; // below this, the banner is measured again
 constexpr double bannerSlow = 0.5;  // below this, the banner's delay still rises
 constexpr std::int32_t step = 10;
 
-// A machine whose rounds agree with one another needs two or three.
+// Two or three are enough if the times of the rounds agree.
 constexpr int maxRounds = 6;
 
-// A broken cost must not overflow the delay.
+// A wrong cost must not overflow the delay.
 constexpr int maxSteps = 100'000;
 
 // Looks for the first of the delays start, start + 10, ... whose round takes at least the limit.
@@ -90,8 +90,8 @@ void calibrateFlight(std::int32_t& delay, const RoundCost& cost, const MeasureRo
 
 void calibrateBanner(std::int32_t& delay, const RoundCost& cost, const MeasureRound& measure)
 {
-    // The stored start value may be anything. If it counts no pass, or far more than a round can
-    // take, the result is known without measuring.
+    // The stored start value may be anything. If it is negative, or far more than a round can take,
+    // the result is known without measuring.
     if (delay < 0 && cost.seconds < bannerRound)
         delay %= step;
     if (cost.seconds + cost.secondsPerUnit * delay > 2 * bannerSlow && delay <= maxDelay)

@@ -23,9 +23,9 @@ constexpr std::int32_t bannerTop = -60;
 constexpr int bannerFrames = 61;
 constexpr double trail = 10;
 
-// Milliseconds from the program's start to the end of the last round. Beside many busy programs
-// the table then takes about as long again as the program took to come here.
-constexpr std::int64_t patience = 2500;
+// Milliseconds from the start of the program to the end of the last round. On a busy machine, the
+// table then takes about as long again as the program took to get here.
+constexpr std::int64_t timeLimit = 2500;
 
 QImage bannerPicture(QSize size)
 {
@@ -80,7 +80,7 @@ std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>&
     const std::int64_t now = m_clock.milliseconds();
     const auto waited = static_cast<double>(now - m_started);
     const double slowness = waited / (m_clock.processorSeconds() - m_startedProcessor);
-    if (static_cast<double>(now) + m_longestRound * slowness > patience)
+    if (static_cast<double>(now) + m_longestRound * slowness > timeLimit)
         return std::nullopt;
     return round();
 }

@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr qint64 maxPixels = 16'000'000;
-constexpr qint64 maxFileSize = 4 * maxPixels + 100'000; // as a bitmap, with its head
+constexpr qint64 maxFileSize = 4 * maxPixels + 100'000; // of a bitmap, with its header
 constexpr int maxSide = 8192; // a window cannot be longer than a few screens
 constexpr double normalDensity = 96.0;
 constexpr double metresPerInch = 0.0254;
@@ -41,9 +41,9 @@ double densityInHead(const QByteArray& head)
     return inInches ? qFromBigEndian<quint16>(head.constData() + unitAt + 1) : 0;
 }
 
-// Whether a file is not cut short, as decoders invent the rest of one that is. A JPEG may have a
-// small picture, with an end marker of its own, before its last scan. Some programs append a few
-// bytes to a GIF. Other formats are left to the decoder.
+// Whether the file has its end; decoders make up the missing part of a picture. A JPEG may contain
+// a small picture, with its own end marker, before its last scan. Some programs append a few bytes
+// to a GIF. Other formats are left to the decoder.
 bool isComplete(const QByteArray& file)
 {
     if (file.startsWith("\xff\xd8"))

@@ -35,7 +35,7 @@ Surface::Surface(QSizeF size, double scale)
 
 void Surface::fill(const QColor& colour)
 {
-    // Filling would first copy the pixels that another picture shares.
+    // fill() would first copy pixels that are shared with another picture.
     if (!m_image.isDetached())
         m_image = QImage(m_image.size(), m_image.format());
     m_image.fill(colour);
