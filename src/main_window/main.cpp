@@ -10,39 +10,23 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QImage>
-#include <QPixmap>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
-#include <future>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace
 {
 
-std::vector<QImage> decodedIcons()
-{
-    std::vector<QImage> icons;
-    // Window managers use no larger ones.
-    for (const int size : {16, 22, 24, 32, 48, 64, 128})
-        icons.emplace_back(QStringLiteral(":/icons/quillet-%1.png").arg(size));
-    return icons;
-}
-
-// The icons are decoded on a thread. The window manager gets them with the first events, when the
-// window has just appeared.
+// Given to the window manager with the first events, when the window has just appeared.
 void useIcons()
 {
-    auto icons = std::make_shared<std::future<std::vector<QImage>>>(
-        std::async(std::launch::async, decodedIcons));
-    QTimer::singleShot(0, [icons] {
+    QTimer::singleShot(0, [] {
         QIcon icon;
-        for (const QImage& image : icons->get())
-            icon.addPixmap(QPixmap::fromImage(image));
+        // Window managers use no larger ones.
+        for (const int size : {16, 22, 24, 32, 48, 64, 128})
+            icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
         QApplication::setWindowIcon(icon);
     });
 }

@@ -6,8 +6,6 @@
 #include "screens/single_window.h"
 #include "screens/web_pages.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPushButton>
@@ -21,15 +19,11 @@ namespace
 
 constexpr QSize iconSize(64, 64);
 
-// The window icon if the program was built without its own pictures, as in tests.
 QIcon programIcon()
 {
-    QIcon icon;
-    for (const char* file : {":/icons/quillet-64.png", ":/icons/quillet-128.png"}) {
-        if (QFile::exists(file))
-            icon.addFile(file);
-    }
-    return icon.isNull() ? QApplication::windowIcon() : icon;
+    QIcon icon(":/icons/quillet-64.png");
+    icon.addFile(":/icons/quillet-128.png");
+    return icon;
 }
 
 } // namespace
