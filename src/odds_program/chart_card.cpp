@@ -1,12 +1,13 @@
 #include "odds_program/chart_card.h"
 
-#include "odds_program/card_marks.h"
-#include "odds_program/lettering.h"
+#include "odds_program/svg.h"
 
 #include <algorithm>
 #include <array>
 #include <functional>
 #include <ostream>
+#include <string_view>
+#include <utility>
 
 namespace quillet::odds_program
 {
@@ -49,53 +50,28 @@ struct RowColours {
 constexpr std::array<RowColours, 2> rowColours{{{"#808080", "#ffffff"}, {"#e0e0e0", "#000000"}}};
 
 std::string rectangle(double x, double y, double width, double height, std::string_view fill,
-                      std::string_view more = {})
+                      std::string_view stroke = "none")
 {
-    return "<rect x=\"" + svgNumber(x) + "\" y=\"" + svgNumber(y) + "\" width=\"" +
-           svgNumber(width) + "\" height=\"" + svgNumber(height) + "\" fill=\"" +
-           std::string(fill) + "\"" + std::string(more) + "/>\n";
-}
-
-// Smaller when it is wider than there is room for.
-Lettering fitted(Lettering line, double room)
-{
-    line.height *= std::min(1.0, room / widthOf(line));
-    return line;
-}
-
-std::string drawnFrom(double x, double y, double room, const Lettering& line,
-                      std::string_view colour)
-{
-    return drawn(fitted(line, room), x, y, colour);
-}
-
-std::string drawnTo(double x, double y, double room, const Lettering& line, std::string_view colour)
-{
-    const Lettering small = fitted(line, room);
-    return drawn(small, x - widthOf(small), y, colour);
-}
-
-std::string drawnInMiddle(double y, const Lettering& line, std::string_view colour)
-{
-    const Lettering small = fitted(line, right - margin);
-    return drawn(small, (pageWidth - widthOf(small)) / 2, y, colour);
+    return svg("<rect x=\"@\" y=\"@\" width=\"@\" height=\"@\" fill=\"@\" stroke=\"@\" "
+               "stroke-width=\".5\"/>\n",
+               {x, y, width, height, fill, stroke});
 }
 
 // A rectangle whose corners are scooped out, as on the plate of the trainer's table.
-std::string scooped(double inset, double radius, std::string_view look)
+std::string scooped(double inset, std::string_view fill, std::string_view stroke)
 {
-    const double x = margin + inset;
-    const double y = margin + inset;
-    const double width = right - margin - 2 * inset - 2 * radius;
-    const double height = plateHeight - 2 * inset - 2 * radius;
-    const std::string r = svgNumber(radius);
-    const auto corner = [&r](double dx, double dy) {
-        return "a" + r + ' ' + r + " 0 0 0 " + svgNumber(dx) + ' ' + svgNumber(dy);
-    };
-    return "<path d=\"M" + svgNumber(x + radius) + ' ' + svgNumber(y) + 'h' + svgNumber(width) +
-           corner(radius, radius) + 'v' + svgNumber(height) + corner(-radius, radius) + 'h' +
-           svgNumber(-width) + corner(-radius, -radius) + 'v' + svgNumber(-height) +
-           corner(radius, -radius) + "Z\" " + std::string(look) + "/>\n";
+    constexpr double r = 4;
+    const double width = right - margin - 2 * inset - 2 * r;
+    const double height = plateHeight - 2 * inset - 2 * r;
+    std::string path = svgCommand('M', std::array{margin + inset + r, margin + inset});
+    double dx = 1, dy = 0; // clockwise from the upper side
+    for (const double length : {width, height, width, height}) {
+        path += svgCommand('l', std::array{dx * length, dy * length}) +
+                svgCommand('a', std::array{r, r, 0.0, 0.0, 0.0, r * (dx - dy), r * (dx + dy)});
+        dx = -std::exchange(dy, dx);
+    }
+    return svg("<path d=\"@Z\" fill=\"@\" stroke=\"@\" stroke-width=\".35\"/>\n",
+               {path, fill, stroke});
 }
 
 std::string rowsText(const Chart& chart)
@@ -118,16 +94,14 @@ std::string lossText(const ChartPrice& price)
 void writePlate(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
     constexpr double left = margin + 9;
-    constexpr double end = right - 9;
-    constexpr double half = (end - left) / 2;
-    out << scooped(0, 4, "fill=\"" + std::string(plate) + '"')
-        << scooped(1.4, 4,
-                   "fill=\"none\" stroke-width=\".35\" stroke=\"" + std::string(darkBrass) + '"')
-        << drawnFrom(left, margin + 14.6, half, {"Quillet", 8, 0.08}, ivory)
-        << drawnFrom(left + 0.6, margin + 20.4, half, {"Jacks or better", 2.9, 0.2}, brass)
-        << drawnTo(end, margin + 10, half, {rowsText(chart), 4, 0.05}, ivory)
-        << drawnTo(end, margin + 15.8, half, {returnText(price), 2.6, 0.05}, brass)
-        << drawnTo(end, margin + 20.4, half, {lossText(price), 2.6, 0.05}, brass);
+    constexpr double half = (right - margin) / 2 - 9;
+    constexpr double middle = left + half;
+    out << scooped(0, plate, "none") << scooped(1.4, "none", darkBrass)
+        << drawnLine({"Quillet", 8, ivory, 0.08}, left, margin + 14.6, half)
+        << drawnLine({"Jacks or better", 2.9, brass, 0.2}, left + 0.6, margin + 20.4, half)
+        << drawnLine({rowsText(chart), 4, ivory, 0.05}, middle, margin + 10, half, atRight)
+        << drawnLine({returnText(price), 2.6, brass, 0.05}, middle, margin + 15.8, half, atRight)
+        << drawnLine({lossText(price), 2.6, brass, 0.05}, middle, margin + 20.4, half, atRight);
 }
 
 // The cards to keep first, both parts from high to low, the ace highest.
@@ -159,15 +133,15 @@ void writeRow(std::ostream& out, const std::string& name, std::size_t number,
     const double baseline = top + (height + letters) / 2;
     out << "<g class=\"row\"><title>" << number << ". " << name << "</title>\n"
         << rectangle(namesLeft, top, namesRight - namesLeft, height, colours.ground)
-        << drawnTo(namesLeft - 2, baseline, namesLeft - margin - 3,
-                   {std::to_string(number), 0.9 * letters}, brass)
-        << drawnFrom(namesLeft + 2.5, baseline, namesRight - namesLeft - 4.5, {name, letters, 0.03},
-                     colours.letters);
+        << drawnLine({std::to_string(number), 0.9 * letters, brass}, margin + 1, baseline,
+                     namesLeft - margin - 3, atRight)
+        << drawnLine({name, letters, colours.letters, 0.03}, namesLeft + 2.5, baseline,
+                     namesRight - namesLeft - 4.5);
     constexpr double air = 0.35;
     if (example)
         writeHand(out, *example, top + air, height - 2 * air);
     else
-        out << drawnFrom(right - handWidth, baseline, handWidth, {"never plays", letters}, wood);
+        out << drawnLine({"never plays", letters, wood}, right - handWidth, baseline, handWidth);
     out << "</g>\n";
 }
 
@@ -189,7 +163,7 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
            "viewBox=\"0 0 210 297\">\n<title>"
         << rowsText(chart) << ". " << returnText(price) << ". " << lossText(price)
         << ".</title>\n<desc>" << payLine(pays) << "</desc>\n<defs>\n"
-        << letterDefinitions() << cardMarkDefinitions() << "</defs>\n"
+        << svgDefinitions() << "</defs>\n"
         << rectangle(0, 0, pageWidth, pageHeight, paper);
     writePlate(out, chart, price);
     const double height =
@@ -199,14 +173,13 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
     double top = rowsTop;
     for (std::size_t row = 0; row < chart.size(); ++row, top += height)
         writeRow(out, charts::rowText(chart[row]), row + 1, examples[row], top, height);
-    out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none",
-                     " stroke-width=\".5\" stroke=\"" + std::string(wood) + '"')
-        << drawnInMiddle(rowsBottom + 5.4,
-                         {"Play the first row that fits and keep the bold cards. Of holds that "
-                          "fit alike the return takes the worst.",
-                          2},
-                         wood)
-        << drawnInMiddle(rowsBottom + 10, {payLine(pays), 2}, wood) << "</svg>\n";
+    constexpr std::string_view rules = "Play the first row that fits and keep the bold cards. Of "
+                                       "holds that fit alike the return takes the worst.";
+    constexpr double width = right - margin;
+    out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none", wood)
+        << drawnLine({rules, 2, wood}, margin, rowsBottom + 5.4, width, inMiddle)
+        << drawnLine({payLine(pays), 2, wood}, margin, rowsBottom + 10, width, inMiddle)
+        << "</svg>\n";
 }
 
 } // namespace quillet::odds_program
