@@ -36,8 +36,6 @@ public:
         }
     }
 
-    [[nodiscard]] odds::Int128 cost(Taken taken) const { return m_cost[taken]; }
-
     [[nodiscard]] RowPrice price() const
     {
         RowPrice price{m_deals, {}, {}};
@@ -57,29 +55,20 @@ private:
     PerTaken<std::array<odds::DeckPlace, 5>> m_places{};
 };
 
-// What each way of taking a hold costs in one deal.
-PerTaken<std::int64_t> costsOf(const PlayedDeal& deal)
+// Calls visit with each hold that is taken, and the shares of the deal in which it is.
+template <typename Visit>
+void forEachTaken(const PlayedDeal& deal, Taken taken, const Visit& visit)
 {
-    const odds::DealtHand& hand = deal.hand;
-    const std::int64_t best = hand.worth[hand.bestHold];
-    PerTaken<std::int64_t> costs{};
-    costs[Taken::best] = (best - hand.worth[deal.bestHold]) * shares;
-    costs[Taken::worst] = (best - hand.worth[deal.worstHold]) * shares;
-    odds::forEachHold(deal.play.fitting, [&](odds::Hold hold) {
-        costs[Taken::any] +=
-            (best - hand.worth[hold]) * (shares / std::popcount(deal.play.fitting));
-    });
-    return costs;
-}
-
-void addFinalHands(PerTaken<odds::FinalHands>& finalHands, const PlayedDeal& deal)
-{
-    const std::int64_t weight = deal.members * shares;
-    finalHands[Taken::best].add(deal.hand, deal.bestHold, weight);
-    finalHands[Taken::worst].add(deal.hand, deal.worstHold, weight);
-    odds::forEachHold(deal.play.fitting, [&](odds::Hold hold) {
-        finalHands[Taken::any].add(deal.hand, hold, weight / std::popcount(deal.play.fitting));
-    });
+    switch (taken) {
+    case Taken::best:
+        return visit(deal.bestHold, shares);
+    case Taken::worst:
+        return visit(deal.worstHold, shares);
+    case Taken::any:
+        odds::forEachHold(deal.play.fitting, [&](odds::Hold hold) {
+            visit(hold, shares / std::popcount(deal.play.fitting));
+        });
+    }
 }
 
 } // namespace
@@ -89,37 +78,40 @@ void forEachPlayedDeal(const odds::HeldCards& heldCards, const Chart& chart,
 {
     const HoldTable table(heldCards);
     const ChartPlayer player(table, chart);
-    odds::forEachClass(5, [&](const odds::SuitSets& sets) {
-        const odds::DealtHand hand(heldCards, odds::placesOf<5>(sets));
+    odds::forEachDeal(heldCards, [&](const odds::DealtHand& hand, int members) {
         const Play play = player.play(hand);
-        visit({hand, odds::classSize(sets), play, hand.bestOf(play.fitting),
-               hand.worstOf(play.fitting)});
+        visit({hand, members, play, hand.bestOf(play.fitting), hand.worstOf(play.fitting)});
     });
 }
 
 ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart)
 {
-    odds::Int128 perfect = 0;
-    std::vector<RowSum> rows(chart.size());
-    const odds::FinalHands none(heldCards);
-    PerTaken<odds::FinalHands> finalHands{{none, none, none}};
     ChartPrice price;
+    std::vector<RowSum> rows(chart.size());
+    odds::FinalHands perfect(heldCards);
+    // Most deals are played perfectly, so only the differences from perfect play are added up.
+    PerTaken<odds::FinalHands> differences{{perfect, perfect, perfect}};
     forEachPlayedDeal(heldCards, chart, [&](const PlayedDeal& deal) {
-        const PerTaken<std::int64_t> costs = costsOf(deal);
-        perfect += odds::Int128{deal.hand.worth[deal.hand.bestHold]} * shares * deal.members;
-        rows[deal.play.row].add(deal.hand, deal.members, costs);
-        addFinalHands(finalHands, deal);
+        const odds::DealtHand& hand = deal.hand;
+        perfect.add(hand, hand.bestHold, deal.members * shares);
+        PerTaken<std::int64_t> costs{};
+        for (const Taken taken : allTaken) {
+            forEachTaken(deal, taken, [&](odds::Hold hold, std::int64_t share) {
+                if (hold == hand.bestHold)
+                    return;
+                costs[taken] += (hand.worth[hand.bestHold] - hand.worth[hold]) * share;
+                differences[taken].add(hand, hold, deal.members * share);
+                differences[taken].add(hand, hand.bestHold, -deal.members * share);
+            });
+        }
+        rows[deal.play.row].add(hand, deal.members, costs);
         price.dealsWithAChoice += std::has_single_bit(deal.play.fitting) ? 0 : deal.members;
         price.dealsPlayedPerfectly += costs[Taken::best] == 0 ? deal.members : 0;
     });
-    price.perfect = perCreditBet(perfect);
+    price.perfect = perfect.odds();
     for (const Taken taken : allTaken) {
-        constexpr odds::Int128 deals = odds::Int128{odds::FairOdds::deals} * shares;
-        price.chances[taken] = finalHands[taken].chances(deals);
-        odds::Int128 cost = 0;
-        for (const RowSum& row : rows)
-            cost += row.cost(taken);
-        price.returned[taken] = perCreditBet(perfect - cost);
+        differences[taken].add(perfect);
+        price.played[taken] = differences[taken].odds();
     }
     for (const RowSum& row : rows)
         price.rows.push_back(row.price());

@@ -34,16 +34,18 @@ struct RowPrice {
     PerTaken<CostliestDeal> costliest;
 };
 
-// What a chart returns over all deals, exactly, with a fair shuffle.
+// What a chart returns over all deals, beside perfect play.
 struct ChartPrice {
-    odds::Fraction perfect; // credits won per credit bet by perfect play
-    PerTaken<odds::Fraction> returned;
-    PerTaken<odds::OutcomeChances> chances;
+    odds::FairOdds perfect;
+    PerTaken<odds::FairOdds> played;
     std::vector<RowPrice> rows;            // those of the chart
     std::int64_t dealsWithAChoice = 0;     // more than one hold fits
     std::int64_t dealsPlayedPerfectly = 0; // with the best hold that fits
 
-    [[nodiscard]] odds::Fraction loss(Taken taken) const { return perfect - returned[taken]; }
+    [[nodiscard]] odds::Fraction loss(Taken taken) const
+    {
+        return perfect.returned - played[taken].returned;
+    }
 };
 
 [[nodiscard]] ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart);

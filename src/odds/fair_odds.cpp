@@ -3,11 +3,15 @@
 #include "engine/pay_table.h"
 #include "odds/suit_classes.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace quillet::odds
 {
 
 void FinalHands::add(const DealtHand& hand, Hold hold, std::int64_t weight)
 {
+    m_deals += weight;
     const std::int64_t amount = weight * DealtHand::unitsPerDraw[cardsIn[hold]];
     forEachLargerHold(hold, [&](Hold larger, int sign) {
         std::int64_t& sum = larger == holdAll ? m_asDealt[hand.dealtOutcome]
@@ -16,31 +20,42 @@ void FinalHands::add(const DealtHand& hand, Hold hold, std::int64_t weight)
     });
 }
 
-OutcomeChances FinalHands::chances(Int128 deals) const
+void FinalHands::add(const FinalHands& others)
 {
-    OutcomeChances chances;
+    m_deals += others.m_deals;
+    std::ranges::transform(m_timesNeeded, others.m_timesNeeded, m_timesNeeded.begin(), std::plus());
+    std::ranges::transform(m_asDealt, others.m_asDealt, m_asDealt.begin(), std::plus());
+}
+
+FairOdds FinalHands::odds() const
+{
+    FairOdds odds;
     for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
         Int128 total = m_asDealt[outcome];
         for (std::size_t id = 0; id < m_timesNeeded.size(); ++id)
             total += Int128{m_timesNeeded[id]} *
                      m_heldCards.counts(static_cast<HeldCards::ClassId>(id))[outcome];
-        chances[outcome] = {total, deals * DealtHand::worthUnit};
+        odds.chances[outcome] = {total, Int128{m_deals} * DealtHand::worthUnit};
+        odds.returned = odds.returned + odds.chances[outcome] * m_heldCards.pays()[outcome] / wager;
     }
-    return chances;
+    return odds;
+}
+
+void forEachDeal(const HeldCards& heldCards,
+                 const std::function<void(const DealtHand& hand, int members)>& visit)
+{
+    forEachClass(5, [&](const SuitSets& sets) {
+        visit(DealtHand(heldCards, placesOf<5>(sets)), classSize(sets));
+    });
 }
 
 FairOdds fairOdds(const HeldCards& heldCards)
 {
     FinalHands finalHands(heldCards);
-    Int128 worth = 0;
-    forEachClass(5, [&](const SuitSets& sets) {
-        const DealtHand hand(heldCards, placesOf<5>(sets));
-        const int members = classSize(sets);
+    forEachDeal(heldCards, [&](const DealtHand& hand, int members) {
         finalHands.add(hand, hand.bestHold, members);
-        worth += Int128{hand.worth[hand.bestHold]} * members;
     });
-    constexpr Int128 deals = FairOdds::deals;
-    return {{worth, deals * DealtHand::worthUnit * wager}, finalHands.chances(deals)};
+    return finalHands.odds();
 }
 
 } // namespace quillet::odds

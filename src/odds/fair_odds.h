@@ -5,12 +5,21 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace quillet::odds
 {
 
 using OutcomeChances = std::array<Fraction, outcomes>;
+
+// What one way to play all deals returns, exactly, with a fair shuffle.
+struct FairOdds {
+    static constexpr std::int64_t deals = choose[5][52];
+
+    Fraction returned; // credits won per credit bet
+    OutcomeChances chances;
+};
 
 // Adds up the final hands of many plays. The outcomes of a play are sums over classes of held
 // cards, so it is enough to count how often each class is needed.
@@ -22,26 +31,25 @@ public:
     {
     }
 
-    // The weight is the number of deals, in any unit.
+    // The weight is the number of deals, in any unit; below 0 it takes deals out again.
     void add(const DealtHand& hand, Hold hold, std::int64_t weight);
+    void add(const FinalHands& others);
 
-    // The weights of all plays add up to `deals`.
-    [[nodiscard]] OutcomeChances chances(Int128 deals) const;
+    [[nodiscard]] FairOdds odds() const;
 
 private:
     const HeldCards& m_heldCards;
+    std::int64_t m_deals = 0;                // the sum of the weights
     std::vector<std::int64_t> m_timesNeeded; // by class
     std::array<std::int64_t, outcomes> m_asDealt{};
 };
 
-// What perfect play of all deals returns, exactly, with a fair shuffle.
-struct FairOdds {
-    static constexpr std::int64_t deals = choose[5][52];
+// Calls visit for each of the 134,459 classes of deals, always in the same order, with one deal of
+// the class and the number of deals in it, 1..24.
+void forEachDeal(const HeldCards& heldCards,
+                 const std::function<void(const DealtHand& hand, int members)>& visit);
 
-    Fraction returned; // credits won per credit bet
-    OutcomeChances chances;
-};
-
+// Of perfect play.
 [[nodiscard]] FairOdds fairOdds(const HeldCards& heldCards);
 
 } // namespace quillet::odds

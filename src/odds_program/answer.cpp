@@ -92,8 +92,7 @@ Style styleFor(const Request& request)
 Report answerGame(const Request& request)
 {
     const odds::HeldCards heldCards = heldCardsFor(request);
-    return gameReport(odds::fairOdds(heldCards),
-                      charts::priceChart(heldCards, charts::trainersChart()), heldCards.pays());
+    return gameReport(charts::priceChart(heldCards, charts::trainersChart()), heldCards.pays());
 }
 
 Report answerHand(const Request& request)
@@ -124,8 +123,8 @@ Report answerSitting(const Request& request)
     const odds::HeldCards heldCards = heldCardsFor(request);
     const odds::Pays& pays = heldCards.pays();
     const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
-    return sittingReport({odds::oneHand(odds::fairOdds(heldCards).chances, pays),
-                          odds::oneHand(chart.chances[charts::Taken::best], pays)},
+    return sittingReport({odds::oneHand(chart.perfect.chances, pays),
+                          odds::oneHand(chart.played[charts::Taken::best].chances, pays)},
                          request.hands, request.bankroll, isatty(STDOUT_FILENO) == 1,
                          [&bar](double share) { bar.show(share); });
 }
@@ -142,8 +141,7 @@ Report answerSimulation(const Request& request)
         [&](std::int64_t done) {
             bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
         });
-    return simulationReport(simulation, odds::fairOdds(heldCards),
-                            charts::priceChart(heldCards, chart), heldCards.pays());
+    return simulationReport(simulation, charts::priceChart(heldCards, chart), heldCards.pays());
 }
 
 Report answerChart(const Request& request)

@@ -81,7 +81,7 @@ std::string rowsText(const Chart& chart)
 
 std::string returnText(const ChartPrice& price)
 {
-    return "Returns " + (price.returned[Taken::worst] * 100).decimals(6) + " of 100";
+    return "Returns " + (price.played[Taken::worst].returned * 100).decimals(6) + " of 100";
 }
 
 std::string lossText(const ChartPrice& price)

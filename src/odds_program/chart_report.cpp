@@ -44,10 +44,11 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
     Table returns{"returns",
                   "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                   {{"play", "Play"}, {"return", "Return"}},
-                  {{"Perfect play", percent(price.perfect, 8)}},
+                  {{"Perfect play", percent(price.perfect.returned, 8)}},
                   {}};
     for (std::size_t way = 0; way < takenNames.size(); ++way)
-        returns.rows.push_back({takenNames[way], percent(price.returned[way], 8)});
+        returns.rows.push_back(
+            {takenNames[way], percent(price.played[static_cast<Taken>(way)].returned, 8)});
 
     Table rows{"rows",
                "\nThe loss of each row per 100 credits over all deals, taking the worst hold that\n"
@@ -80,7 +81,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
-    const odds::Fraction& returned = price.returned[Taken::worst];
+    const odds::Fraction& returned = price.played[Taken::worst].returned;
     out << "# " << chart.size() << (chart.size() == 1 ? " row." : " rows.")
         << " Of every 100 credits bet it loses " << (price.loss(Taken::worst) * 100).decimals(6)
         << " against\n# perfect play, taking the worst of the holds that fit a row. It returns\n# "

@@ -16,20 +16,16 @@ using charts::Taken;
 
 struct Strategy {
     std::string_view name;
-    const odds::Fraction& returned;
-    const odds::OutcomeChances& chances;
+    const odds::FairOdds& odds;
 };
 using Strategies = std::array<Strategy, 4>;
 
-Strategies strategiesOf(const odds::FairOdds& odds, const ChartPrice& chart)
+Strategies strategiesOf(const ChartPrice& chart)
 {
-    const auto taking = [&chart](std::string_view name, Taken taken) -> Strategy {
-        return {name, chart.returned[taken], chart.chances[taken]};
-    };
-    return {{{"Perfect play", odds.returned, odds.chances},
-             taking("Chart, best choice", Taken::best),
-             taking("Chart, any choice", Taken::any),
-             taking("Chart, worst choice", Taken::worst)}};
+    return {{{"Perfect play", chart.perfect},
+             {"Chart, best choice", chart.played[Taken::best]},
+             {"Chart, any choice", chart.played[Taken::any]},
+             {"Chart, worst choice", chart.played[Taken::worst]}}};
 }
 
 std::string rowName(std::size_t row)
@@ -43,7 +39,7 @@ Table returns(const Strategies& strategies, const ChartPrice& chart)
                 "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
                 {{"play", "Play"}, {"return", "Return"}}};
     for (const Strategy& strategy : strategies)
-        table.rows.push_back({strategy.name, percent(strategy.returned, 8)});
+        table.rows.push_back({strategy.name, percent(strategy.odds.returned, 8)});
     table.outro =
         "\nOf the " + std::to_string(odds::FairOdds::deals) +
         " deals the coach accepts several holds for " + std::to_string(chart.dealsWithAChoice) +
@@ -67,11 +63,11 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
                  {"cost of 100 hands", "100 hands cost"},
                  {"edge shows after", "Edge shows after"}}};
     for (const Strategy& strategy : strategies) {
-        const odds::OneHand one = odds::oneHand(strategy.chances, pays);
+        const odds::OneHand one = odds::oneHand(strategy.odds.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
         table.rows.push_back({strategy.name, rounded(one.variance(), 4),
                               rounded(std::sqrt(one.variance()), 4),
-                              exact((odds::Fraction(1, 1) - strategy.returned) * 500, 4),
+                              exact((odds::Fraction(1, 1) - strategy.odds.returned) * 500, 4),
                               shows ? rounded(*shows, 0) : "never"});
     }
     return table;
@@ -113,7 +109,7 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
                  {"one in", "One in"}}};
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
         const std::size_t outcome = (i + 1) % odds::outcomes;
-        const odds::Fraction& chance = strategy.chances[outcome];
+        const odds::Fraction& chance = strategy.odds.chances[outcome];
         const bool comes = chance != odds::Fraction();
         table.rows.push_back(
             {odds::outcomeName(outcome), pays[outcome], percent(chance, 8),
@@ -124,9 +120,9 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
 
 } // namespace
 
-Report gameReport(const odds::FairOdds& odds, const ChartPrice& chart, const odds::Pays& pays)
+Report gameReport(const ChartPrice& chart, const odds::Pays& pays)
 {
-    const Strategies strategies = strategiesOf(odds, chart);
+    const Strategies strategies = strategiesOf(chart);
     return {returns(strategies, chart), hands(strategies, pays), rows(chart),
             finalHands("perfect play", strategies[0], pays),
             finalHands("chart best choice", strategies[1], pays)};

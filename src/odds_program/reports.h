@@ -2,7 +2,6 @@
 
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
-#include "odds/fair_odds.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"
 #include "odds_program/report.h"
@@ -15,8 +14,7 @@ namespace quillet::odds_program
 {
 
 // The worth of the game: returns, what one hand of it does, rows of the chart, final hands.
-[[nodiscard]] Report gameReport(const odds::FairOdds& odds, const charts::ChartPrice& chart,
-                                const odds::Pays& pays);
+[[nodiscard]] Report gameReport(const charts::ChartPrice& chart, const odds::Pays& pays);
 
 // The holds of a deal, six and the chart's or all 32, and why the best is worth more. Text has
 // sentences, the other formats have more columns.
@@ -33,8 +31,7 @@ namespace quillet::odds_program
 [[nodiscard]] Report mistakesReport(const std::vector<charts::Mistake>& mistakes);
 
 [[nodiscard]] Report simulationReport(const odds::Simulation& simulation,
-                                      const odds::FairOdds& fair, const charts::ChartPrice& chart,
-                                      const odds::Pays& pays);
+                                      const charts::ChartPrice& chart, const odds::Pays& pays);
 
 // What a chart is worth, and each of its rows.
 [[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);

@@ -8,8 +8,8 @@ namespace
 
 using charts::Taken;
 
-Table returnsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
-                   const charts::ChartPrice& chart, const odds::Pays& pays)
+Table returnsTable(const odds::Simulation& simulation, const charts::ChartPrice& chart,
+                   const odds::Pays& pays)
 {
     const std::int64_t played = simulation.perfect.hands();
     Table table{
@@ -29,8 +29,8 @@ Table returnsTable(const odds::Simulation& simulation, const odds::FairOdds& fai
                               played < 2 ? "unknown" : rounded(100 * hands.margin(pays), 4),
                               percent(fairReturn, 4)});
     };
-    add("Best holds", simulation.perfect, fair.returned);
-    add("Chart, best choice", simulation.player, chart.returned[Taken::best]);
+    add("Best holds", simulation.perfect, chart.perfect.returned);
+    add("Chart, best choice", simulation.player, chart.played[Taken::best].returned);
     if (played < odds::tellingHands)
         table.outro =
             "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
@@ -39,8 +39,7 @@ Table returnsTable(const odds::Simulation& simulation, const odds::FairOdds& fai
     return table;
 }
 
-Table handsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
-                 const charts::ChartPrice& chart)
+Table handsTable(const odds::Simulation& simulation, const charts::ChartPrice& chart)
 {
     Table table{"final hands",
                 "\nHow often each hand came up, and the average with a fair deck\n\n",
@@ -54,17 +53,18 @@ Table handsTable(const odds::Simulation& simulation, const odds::FairOdds& fair,
     };
     for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
         table.rows.push_back({odds::outcomeName(outcome), simulation.perfect.count[outcome],
-                              expected(fair.chances[outcome]), simulation.player.count[outcome],
-                              expected(chart.chances[Taken::best][outcome])});
+                              expected(chart.perfect.chances[outcome]),
+                              simulation.player.count[outcome],
+                              expected(chart.played[Taken::best].chances[outcome])});
     return table;
 }
 
 } // namespace
 
-Report simulationReport(const odds::Simulation& simulation, const odds::FairOdds& fair,
-                        const charts::ChartPrice& chart, const odds::Pays& pays)
+Report simulationReport(const odds::Simulation& simulation, const charts::ChartPrice& chart,
+                        const odds::Pays& pays)
 {
-    return {returnsTable(simulation, fair, chart, pays), handsTable(simulation, fair, chart)};
+    return {returnsTable(simulation, chart, pays), handsTable(simulation, chart)};
 }
 
 } // namespace quillet::odds_program

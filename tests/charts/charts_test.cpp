@@ -103,10 +103,10 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
         ASSERT_EQ(deal.play.fitting, accepted) << odds::holdText(deal.hand.places, odds::holdAll);
     });
     const ChartPrice price = priceChart(heldCards(), chart);
-    EXPECT_EQ(price.perfect.text(), "1653526326983/1661102543100");
-    EXPECT_EQ(price.returned[0].text(), "149999803741/151009322100");
-    EXPECT_EQ(price.returned[1].text(), "449889582859/453027966300");
-    EXPECT_EQ(price.returned[2].text(), "149944582453/151009322100");
+    EXPECT_EQ(price.perfect.returned.text(), "1653526326983/1661102543100");
+    EXPECT_EQ(price.played[Taken::best].returned.text(), "149999803741/151009322100");
+    EXPECT_EQ(price.played[Taken::any].returned.text(), "449889582859/453027966300");
+    EXPECT_EQ(price.played[Taken::worst].returned.text(), "149944582453/151009322100");
     std::int64_t deals = 0;
     for (const RowPrice& row : price.rows)
         deals += row.deals;
@@ -127,9 +127,9 @@ TEST(ChartPrice, comesOutAsKnown)
     mixed.push_back({nothingRow()});
     const auto returns = [](const Chart& chart, const char* pays) {
         std::string text;
-        for (const odds::Fraction& returned :
-             priceChart(odds::HeldCards(odds::parsePays(pays)), chart).returned)
-            text += returned.text() + " ";
+        for (const odds::FairOdds& odds :
+             priceChart(odds::HeldCards(odds::parsePays(pays)), chart).played)
+            text += odds.returned.text() + " ";
         return text;
     };
     EXPECT_EQ(returns(mixed, "9/6"),
@@ -144,8 +144,8 @@ TEST(Chart, withoutLossPlaysAllDealsPerfectly)
 {
     const Chart chart = chartIn("perfect.chart");
     const ChartPrice price = priceChart(heldCards(), chart);
-    for (const odds::Fraction& returned : price.returned)
-        EXPECT_EQ(returned.text(), "1653526326983/1661102543100");
+    for (const odds::FairOdds& odds : price.played)
+        EXPECT_EQ(odds.returned.text(), "1653526326983/1661102543100");
     for (std::size_t row = 0; row < chart.size(); ++row)
         EXPECT_GT(price.rows[row].deals, 0) << rowText(chart[row]);
     EXPECT_THAT(

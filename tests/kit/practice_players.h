@@ -27,8 +27,8 @@ public:
     {
         const charts::ChartPrice price =
             charts::priceChart(game().heldCards, chart.value_or(charts::trainersChart()));
-        perfect = price.perfect.value();
-        returned = chart ? price.returned[0].value() : perfect;
+        perfect = price.perfect.returned.value();
+        returned = chart ? price.played[charts::Taken::best].returned.value() : perfect;
         if (chart)
             m_chart.emplace(game().table, *chart);
         if (slipsOneIn == 0)

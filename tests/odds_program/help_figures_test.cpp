@@ -148,17 +148,17 @@ TEST(HelpFigures, theHelpAndTheFirstPagesTellWhatTheChartIsWorth)
     std::erase(costliest, ',');
     EXPECT_NE(help.find(costliest), std::string::npos) << costliest;
     expectFigures(help, {{"worth-perfect", inHundred(odds.returned)},
-                         {"worth-best", inHundred(chart.returned[Taken::best])},
-                         {"worth-average", inHundred(chart.returned[Taken::any])},
-                         {"worth-worst", inHundred(chart.returned[Taken::worst])},
+                         {"worth-best", inHundred(chart.played[Taken::best].returned)},
+                         {"worth-average", inHundred(chart.played[Taken::any].returned)},
+                         {"worth-worst", inHundred(chart.played[Taken::worst].returned)},
                          {"worth-deals", std::to_string(chart.dealsPlayedPerfectly)},
                          {"worth-royal-perfect", handsPerRoyal(odds.chances)},
-                         {"worth-royal-chart", handsPerRoyal(chart.chances[Taken::best])},
+                         {"worth-royal-chart", handsPerRoyal(chart.played[Taken::best].chances)},
                          {"worth-cost", chart.rows[11].costliest[Taken::best].cost.decimals(4)},
                          {"worth-lowest",
                           ((twoHigh[Taken::worst] - twoHigh[Taken::best]) * 100).decimals(3)}});
     for (const char* page : {QUILLET_README, QUILLET_METAINFO})
-        for (const Fraction& returned : {odds.returned, chart.returned[Taken::best]})
+        for (const Fraction& returned : {odds.returned, chart.played[Taken::best].returned})
             EXPECT_NE(fileText(page).find(inHundred(returned)), std::string::npos) << page;
 }
 

@@ -42,19 +42,16 @@ void writePayTables(std::ostream& out)
            "|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
         const odds::Pays pays = odds::parsePays(name);
-        const odds::HeldCards heldCards(pays);
-        const odds::FairOdds odds = odds::fairOdds(heldCards);
-        const odds::Fraction& perfect = odds.returned;
-        const odds::Fraction chart =
-            charts::priceChart(heldCards, charts::trainersChart()).returned[charts::Taken::best];
-        out << "| " << name << " | " << percent(perfect, 6) << " | "
-            << decimals(odds::oneHand(odds.chances, pays).variance(), 4) << " | "
-            << percent(chart, 6) << " | " << percent(perfect - chart, 6) << " |\n";
+        const charts::ChartPrice chart =
+            charts::priceChart(odds::HeldCards(pays), charts::trainersChart());
+        out << "| " << name << " | " << percent(chart.perfect.returned, 6) << " | "
+            << decimals(odds::oneHand(chart.perfect.chances, pays).variance(), 4) << " | "
+            << percent(chart.played[charts::Taken::best].returned, 6) << " | "
+            << percent(chart.loss(charts::Taken::best), 6) << " |\n";
     }
 }
 
-void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds,
-                        const charts::ChartPrice& trainers)
+void writeTrainersTable(std::ostream& out, const charts::ChartPrice& trainers)
 {
     out << "\n## The trainer's pay table\n\n"
            "| hand | pays | chance in %, perfect play | one in | chance in %, chart | one in |\n"
@@ -63,8 +60,8 @@ void writeTrainersTable(std::ostream& out, const odds::FairOdds& odds,
     for (std::size_t i = 0; i < odds::outcomes; ++i) {
         const std::size_t outcome = (i + 1) % odds::outcomes;
         out << "| " << odds::outcomeName(outcome) << " | " << pays[outcome];
-        for (const auto* chances : {&odds.chances, &trainers.chances[charts::Taken::best]}) {
-            const odds::Fraction& chance = (*chances)[outcome];
+        for (const auto* odds : {&trainers.perfect, &trainers.played[charts::Taken::best]}) {
+            const odds::Fraction& chance = odds->chances[outcome];
             out << " | " << percent(chance, 6) << " | "
                 << odds::Fraction(chance.denominator(), chance.numerator()).decimals(2);
         }
@@ -144,14 +141,13 @@ void writeCharts(std::ostream& out, const odds::HeldCards& heldCards,
 int main()
 {
     const odds::HeldCards heldCards;
-    const odds::FairOdds odds = odds::fairOdds(heldCards);
     std::cout << "# The odds of Jacks or Better\n\n"
                  "Every figure is exact for a fairly shuffled deck and rounded only for printing.\n"
                  "CONTRIBUTING.md says how to write this page again.\n\n";
     writePayTables(std::cout);
     const charts::ChartPrice trainers = charts::priceChart(heldCards, charts::trainersChart());
-    writeTrainersTable(std::cout, odds, trainers);
+    writeTrainersTable(std::cout, trainers);
     writeMistakes(std::cout, heldCards);
-    writeSittings(std::cout, odds);
+    writeSittings(std::cout, trainers.perfect);
     writeCharts(std::cout, heldCards, trainers);
 }
