@@ -18,6 +18,15 @@ Hold firstOf(HoldSet holds, const Before& comesBefore)
     return first;
 }
 
+template <Hold Card>
+void subtractLarger(std::array<std::int64_t, holds>& pay)
+{
+    for (Hold block = 0; block < holds; block += 2 * Card) {
+        for (Hold hold = block; hold < block + Card; ++hold)
+            pay[hold] -= pay[hold + Card];
+    }
+}
+
 } // namespace
 
 DealtHand::DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending)
@@ -86,19 +95,17 @@ void DealtHand::findClasses(const HeldCards& heldCards)
 
 void DealtHand::findWorth(const HeldCards& heldCards)
 {
-    std::array<std::int64_t, holds> pay{};
     for (Hold hold = 0; hold < holdAll; ++hold)
-        pay[hold] = heldCards.pay(classOfHold[hold]);
-    pay[holdAll] = heldCards.pays()[dealtOutcome];
+        worth[hold] = heldCards.pay(classOfHold[hold]);
+    worth[holdAll] = heldCards.pays()[dealtOutcome];
     // The same sums as forEachLargerHold makes, for all holds at once.
-    for (Hold card = 1; card < holds; card *= 2) {
-        for (Hold block = 0; block < holds; block += 2 * card) {
-            for (Hold hold = block; hold < block + card; ++hold)
-                pay[hold] -= pay[hold + card];
-        }
-    }
+    subtractLarger<1>(worth);
+    subtractLarger<2>(worth);
+    subtractLarger<4>(worth);
+    subtractLarger<8>(worth);
+    subtractLarger<16>(worth);
     for (Hold hold = 0; hold < holds; ++hold)
-        worth[hold] = pay[hold] * unitsPerDraw[cardsIn[hold]];
+        worth[hold] *= unitsPerDraw[hold];
     bestHold = static_cast<Hold>(std::ranges::max_element(worth) - worth.begin());
 }
 

@@ -44,10 +44,13 @@ struct DealtHand {
     // The least number that every count of possible draws divides: 47 cards taken 0 to 5 at a time.
     static constexpr std::int64_t worthUnit = 7669695;
 
-    // How many worth units one draw of these holds is worth, by the number of cards held.
-    static constexpr std::array<std::int64_t, 6> unitsPerDraw{
-        worthUnit / choose[5][47], worthUnit / choose[4][47], worthUnit / choose[3][47],
-        worthUnit / choose[2][47], worthUnit / choose[1][47], worthUnit};
+    // Worth units per credit that one of the draws to a hold pays.
+    static constexpr std::array<std::int64_t, holds> unitsPerDraw = [] {
+        std::array<std::int64_t, holds> units{};
+        for (Hold hold = 0; hold < holds; ++hold)
+            units[hold] = worthUnit / choose[5 - cardsIn[hold]][47];
+        return units;
+    }();
 
     DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending);
 

@@ -12,7 +12,7 @@ namespace quillet::odds
 void FinalHands::add(const DealtHand& hand, Hold hold, std::int64_t weight)
 {
     m_deals += weight;
-    const std::int64_t amount = weight * DealtHand::unitsPerDraw[cardsIn[hold]];
+    const std::int64_t amount = weight * DealtHand::unitsPerDraw[hold];
     forEachLargerHold(hold, [&](Hold larger, int sign) {
         std::int64_t& sum = larger == holdAll ? m_asDealt[hand.dealtOutcome]
                                               : m_timesNeeded[hand.classOfHold[larger]];
