@@ -49,7 +49,7 @@ BENCHMARK(oneDeal);
 void simulatedHands(benchmark::State& state)
 {
     const HeldCards heldCards;
-    const charts::ChartPlayer chart(charts::HoldTable(heldCards), charts::trainersChart());
+    const charts::ChartPlayer chart(charts::trainersChart());
     const Player player = [&chart](const DealtHand& hand) { return chart.bestHold(hand); };
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     constexpr std::int64_t hands = 10000;

@@ -30,25 +30,10 @@ private:
 
 } // namespace
 
-HoldTable::HoldTable(const odds::HeldCards& heldCards)
-{
-    const std::span<const Card> none;
-    m_facts.resize(heldCards.classes(), HoldFacts(none));
-    for (int size = 1; size <= 4; ++size) {
-        odds::forEachClass(size, [&](const odds::SuitSets& sets) {
-            const auto places = odds::placesOf<5>(sets);
-            const auto held = std::span(places).first(static_cast<std::size_t>(size));
-            std::vector<Card> cards;
-            for (const odds::DeckPlace place : held)
-                cards.push_back(odds::cardAt(place));
-            m_facts[heldCards.classOf(held)] = HoldFacts(cards);
-        });
-    }
-}
-
 HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold)
 {
-    return HoldFacts(KeptCards(hand, hold).cards());
+    return hold == odds::holdAll ? HoldFacts(KeptCards(hand, hold).cards())
+                                 : factsByClass()[hand.classOfHold[hold]];
 }
 
 bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
@@ -63,20 +48,22 @@ bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
            fitAll(row.discards, DiscardFacts(kept.cards(), thrown.cards()));
 }
 
-ChartPlayer::ChartPlayer(const HoldTable& table, const Chart& chart) : m_chart(chart)
+ChartPlayer::ChartPlayer(const Chart& chart) : m_chart(chart)
 {
     assert(!chart.empty() && chart.size() <= mostRows && chart.back() == Row{nothingRow()});
-    m_rowsOfClass.reserve(table.classes());
-    for (std::size_t id = 0; id < table.classes(); ++id)
-        m_rowsOfClass.push_back(
-            rowsThatFit(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
+    for (std::size_t row = 0; row < chart.size(); ++row)
+        m_rowsOfFive |= RowSet{rowKinds()[chart[row].kind].cards == 5} << row;
+    m_rowsOfClass.reserve(factsByClass().size());
+    for (const HoldFacts& held : factsByClass())
+        m_rowsOfClass.push_back(rowsThatFit(held, ~RowSet{0} >> (64 - chart.size())));
 }
 
-ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held) const
+ChartPlayer::RowSet ChartPlayer::rowsThatFit(const HoldFacts& held, RowSet candidates) const
 {
     RowSet rows = 0;
-    for (std::size_t row = 0; row < m_chart.size(); ++row) {
-        if (rowKinds()[m_chart[row].kind].fits(held))
+    for (; candidates != 0; candidates &= candidates - 1) {
+        const int row = std::countr_zero(candidates);
+        if (rowKinds()[m_chart[static_cast<std::size_t>(row)].kind].fits(held))
             rows |= RowSet{1} << row;
     }
     return rows;
@@ -90,7 +77,7 @@ Play ChartPlayer::play(const odds::DealtHand& hand) const
         rows[hold] = m_rowsOfClass[hand.classOfHold[hold]];
         any |= rows[hold];
     }
-    rows[odds::holdAll] = rowsThatFit(factsOf(hand, odds::holdAll));
+    rows[odds::holdAll] = rowsThatFit(factsOf(hand, odds::holdAll), m_rowsOfFive);
     any |= rows[odds::holdAll];
     for (; any != 0; any &= any - 1) {
         Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};

@@ -16,24 +16,11 @@ struct Play {
     odds::HoldSet fitting = 0;
 };
 
-// Tells the facts of every set of cards that can be held, which are worked out once.
-class HoldTable
-{
-public:
-    explicit HoldTable(const odds::HeldCards& heldCards);
-
-    [[nodiscard]] const HoldFacts& facts(odds::HeldCards::ClassId id) const { return m_facts[id]; }
-    [[nodiscard]] std::size_t classes() const { return m_facts.size(); }
-
-private:
-    std::vector<HoldFacts> m_facts;
-};
-
 // Finds the row by which a chart plays a deal.
 class ChartPlayer
 {
 public:
-    ChartPlayer(const HoldTable& table, const Chart& chart);
+    explicit ChartPlayer(const Chart& chart);
 
     [[nodiscard]] Play play(const odds::DealtHand& hand) const;
     // Of the holds that fit the row, the one that is worth most.
@@ -46,10 +33,11 @@ private:
     using RowSet = std::uint64_t; // bit r for row r of the chart
     static_assert(mostRows <= 64);
 
-    [[nodiscard]] RowSet rowsThatFit(const HoldFacts& held) const;
+    [[nodiscard]] RowSet rowsThatFit(const HoldFacts& held, RowSet candidates) const;
 
     const Chart m_chart;
     std::vector<RowSet> m_rowsOfClass;
+    RowSet m_rowsOfFive = 0; // that keep five cards
 };
 
 // Whether a hold whose cards fit the row may be held after a look at the cards thrown away.

@@ -59,15 +59,16 @@ private:
 template <typename Visit>
 void forEachTaken(const PlayedDeal& deal, Taken taken, const Visit& visit)
 {
+    if (deal.choices == 1)
+        return visit(deal.bestHold, shares);
     switch (taken) {
     case Taken::best:
         return visit(deal.bestHold, shares);
     case Taken::worst:
         return visit(deal.worstHold, shares);
     case Taken::any:
-        odds::forEachHold(deal.play.fitting, [&](odds::Hold hold) {
-            visit(hold, shares / std::popcount(deal.play.fitting));
-        });
+        odds::forEachHold(deal.play.fitting,
+                          [&](odds::Hold hold) { visit(hold, shares / deal.choices); });
     }
 }
 
@@ -76,11 +77,11 @@ void forEachTaken(const PlayedDeal& deal, Taken taken, const Visit& visit)
 void forEachPlayedDeal(const odds::HeldCards& heldCards, const Chart& chart,
                        const std::function<void(const PlayedDeal&)>& visit)
 {
-    const HoldTable table(heldCards);
-    const ChartPlayer player(table, chart);
+    const ChartPlayer player(chart);
     odds::forEachDeal(heldCards, [&](const odds::DealtHand& hand, int members) {
         const Play play = player.play(hand);
-        visit({hand, members, play, hand.bestOf(play.fitting), hand.worstOf(play.fitting)});
+        visit({hand, members, play, std::popcount(play.fitting), hand.bestOf(play.fitting),
+               hand.worstOf(play.fitting)});
     });
 }
 
@@ -105,7 +106,7 @@ ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart)
             });
         }
         rows[deal.play.row].add(hand, deal.members, costs);
-        price.dealsWithAChoice += std::has_single_bit(deal.play.fitting) ? 0 : deal.members;
+        price.dealsWithAChoice += deal.choices == 1 ? 0 : deal.members;
         price.dealsPlayedPerfectly += costs[Taken::best] == 0 ? deal.members : 0;
     });
     price.perfect = perfect.odds();

@@ -55,6 +55,7 @@ struct PlayedDeal {
     const odds::DealtHand& hand;
     int members; // deals in the class, 1..24
     Play play;
+    int choices;         // holds that fit
     odds::Hold bestHold; // of those that fit; of holds worth the same, the first
     odds::Hold worstHold;
 };

@@ -29,7 +29,6 @@ ChartSearch::ChartSearch(const odds::HeldCards& heldCards)
 void ChartSearch::findFits(const odds::HeldCards& heldCards)
 {
     const auto kinds = rowKinds();
-    const HoldTable table(heldCards);
     const auto kindsThatFit = [&kinds](const HoldFacts& held) {
         std::vector<RowKindId> fitting;
         for (RowKindId kind = 0; kind < kinds.size(); ++kind) {
@@ -39,9 +38,8 @@ void ChartSearch::findFits(const odds::HeldCards& heldCards)
         return fitting;
     };
     std::vector<std::vector<RowKindId>> kindsOfClass;
-    for (std::size_t id = 0; id < table.classes(); ++id)
-        kindsOfClass.push_back(
-            kindsThatFit(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
+    for (const HoldFacts& held : factsByClass())
+        kindsOfClass.push_back(kindsThatFit(held));
 
     m_fits.resize(kinds.size());
     std::vector<double> credits(kinds.size());

@@ -1,5 +1,7 @@
 #include "charts/hold_facts.h"
 
+#include "odds/held_cards.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -43,9 +45,25 @@ HoldFacts::HoldFacts(std::span<const Card> held) : cards(static_cast<int>(held.s
     if (alike != 1)
         return;
     const RankSet fromLowest = ranks >> std::countr_zero(ranks);
-    follow = (fromLowest & (fromLowest + 1)) == 0;
+    consecutive = (fromLowest & (fromLowest + 1)) == 0;
     straights = static_cast<int>(std::ranges::count_if(
         straightsOfTheDeck, [this](RankSet straight) { return (ranks & ~straight) == 0; }));
+}
+
+const std::vector<HoldFacts>& factsByClass()
+{
+    static const std::vector<HoldFacts> facts = [] {
+        std::vector<HoldFacts> all;
+        all.reserve(odds::HeldCards::classCount);
+        for (int size = 0; size <= 4; ++size) {
+            odds::forEachClass(size, [&](const odds::SuitSets& sets) {
+                const auto cards = odds::cardsAt(odds::placesOf<5>(sets));
+                all.emplace_back(std::span(cards).first(static_cast<std::size_t>(size)));
+            });
+        }
+        return all;
+    }();
+    return facts;
 }
 
 RankSet straightPartners(RankSet ranks)

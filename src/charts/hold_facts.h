@@ -3,6 +3,7 @@
 #include "engine/card.h"
 
 #include <span>
+#include <vector>
 
 namespace quillet::charts
 {
@@ -23,21 +24,19 @@ inline constexpr RankSet royalRanks = highRanks | ten;
 struct HoldFacts {
     explicit HoldFacts(std::span<const Card> held);
 
-    // Cards of different ranks and of one suit.
-    [[nodiscard]] bool suitedRun(int count) const { return suited && run(count); }
-    // So many cards of different ranks that lie in one straight.
-    [[nodiscard]] bool run(int count) const { return cards == count && straights > 0; }
-
     int cards = 0;
     RankSet ranks = 0;
-    int alike = 0;         // the most cards of one rank
-    int pairs = 0;         // ranks of which there are two
-    bool highPair = false; // a pair of aces or faces
-    int high = 0;          // aces and faces
-    bool suited = true;    // all of one suit
-    bool follow = false;   // different ranks without a gap, the ace low
-    int straights = 0;     // how many of the ten straights have all these ranks; 0 with a pair
+    int alike = 0;            // the most cards of one rank
+    int pairs = 0;            // ranks of which there are two
+    bool highPair = false;    // a pair of aces or faces
+    int high = 0;             // aces and faces
+    bool suited = true;       // all of one suit
+    bool consecutive = false; // different ranks without a gap, the ace low
+    int straights = 0;        // how many of the ten straights have all these ranks; 0 with a pair
 };
+
+// The facts of every class of held cards, by HeldCards::ClassId; computed once.
+[[nodiscard]] const std::vector<HoldFacts>& factsByClass();
 
 // The ranks that lie in a straight with all of these, themselves not among them.
 [[nodiscard]] RankSet straightPartners(RankSet ranks);

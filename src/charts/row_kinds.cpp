@@ -10,50 +10,49 @@ namespace quillet::charts
 namespace
 {
 
-constexpr bool has(const HoldFacts& h, RankSet ranks)
+using H = const HoldFacts&;
+
+constexpr bool has(H h, RankSet ranks)
 {
     return (h.ranks & ranks) != 0;
 }
 
-constexpr bool isPair(const HoldFacts& h)
+// Cards of different ranks, all of them among these and, if asked for, at least one among those.
+template <RankSet Ranks, RankSet With = 0>
+bool among(H h)
 {
-    return h.cards == 2 && h.alike == 2;
+    return h.alike == 1 && !has(h, ~Ranks) && (With == 0 || has(h, With));
 }
 
-bool toRoyal(const HoldFacts& h)
+template <RankSet Ranks, RankSet With = 0>
+bool suitedAmong(H h)
 {
-    return h.suitedRun(3) && !has(h, ~royalRanks);
+    return h.suited && among<Ranks, With>(h);
 }
 
-bool toStraightFlush(const HoldFacts& h)
+template <int MinHigh = 0>
+bool suited(H h)
 {
-    return h.suitedRun(3);
+    return h.suited && h.high >= MinHigh;
 }
 
-// How many straights fewer than the three that are possible have these three cards.
-constexpr int missed(const HoldFacts& h)
+// Straights lost to gaps: three cards in a row lie in three straights, four in two, five in one.
+constexpr int gaps(H h)
 {
-    return 3 - h.straights;
+    return 6 - h.cards - h.straights;
+}
+constexpr int open = 0, inside = 1, doubleInside = 2;
+
+template <int MinGaps, int MaxGaps, int MinHigh = 0>
+bool straight(H h)
+{
+    return h.straights > 0 && gaps(h) >= MinGaps && gaps(h) <= MaxGaps && h.high >= MinHigh;
 }
 
-constexpr bool isFlushDraw(const HoldFacts& h, int cards, int leastHigh)
+template <int MinGaps, int MaxGaps, int MinHigh = 0>
+bool straightFlush(H h)
 {
-    return h.cards == cards && h.suited && h.high >= leastHigh;
-}
-
-constexpr bool isStraightDraw(const HoldFacts& h, int straights, int leastHigh)
-{
-    return h.cards == 4 && h.straights == straights && h.high >= leastHigh;
-}
-
-constexpr bool allHigh(const HoldFacts& h, int cards)
-{
-    return h.cards == cards && h.high == cards && h.alike == 1;
-}
-
-constexpr bool tenWith(const HoldFacts& h, RankSet others)
-{
-    return h.cards == 2 && h.suited && has(h, ten) && has(h, others);
+    return h.suited && straight<MinGaps, MaxGaps, MinHigh>(h);
 }
 
 // High ranks in their order, the ace highest.
@@ -69,204 +68,153 @@ bool areLowest(const HoldFacts& held, const HoldFacts& discarded)
     return thrown == 0 || inOrder(held.ranks) < lowestThrown;
 }
 
-using H = const HoldFacts&;
-
 constexpr std::array<RowKind, 95> kinds{{
-    {"royal", "Ten to ace of one suit.",
-     [](H h) { return h.suited && h.cards == 5 && h.ranks == royalRanks; }},
-    {"straight flush", "Five cards of one suit whose ranks follow each other, a royal too.",
-     [](H h) { return h.suitedRun(5); }},
-    {"4 of a kind", "Four cards of one rank, without the fifth card.",
-     [](H h) { return h.cards == 4 && h.alike == 4; }},
-    {"full house", "Three cards of one rank and two of another.",
-     [](H h) { return h.cards == 5 && h.alike == 3 && h.pairs == 1; }},
-    {"flush", "Five cards of one suit.", [](H h) { return h.cards == 5 && h.suited; }},
-    {"straight", "Five cards whose ranks follow each other, the ace low or high.",
-     [](H h) { return h.run(5); }},
-    {"straight or better, dealt",
-     "All five cards of a straight, a flush, a full house, a straight flush or a royal.",
-     [](H h) {
-         return h.run(5) || (h.cards == 5 && (h.suited || (h.alike == 3 && h.pairs == 1)));
-     }},
-    {"4 to a royal", "Four cards of a royal.",
-     [](H h) { return h.suitedRun(4) && (h.ranks & ~royalRanks) == 0; }},
-    {"4 to a straight flush", "Four cards of one suit that one or two cards make a straight flush.",
-     [](H h) { return h.suitedRun(4); }},
-    {"4 to a straight flush, no gap",
-     "Four cards of one suit whose ranks follow each other, the ace low.",
-     [](H h) { return h.cards == 4 && h.suited && h.follow; }},
-    {"4 to a straight flush, open",
-     "Four cards of one suit that a card at either end makes a straight flush.",
-     [](H h) { return h.suitedRun(4) && h.straights == 2; }},
-    {"4 to a straight flush, inside",
-     "Four cards of one suit that only one card makes a straight flush.",
-     [](H h) { return h.suitedRun(4) && h.straights == 1; }},
-    {"3 of a kind", "Three cards of one rank.", [](H h) { return h.cards == 3 && h.alike == 3; }},
-    {"2 pair", "Two pairs.", [](H h) { return h.cards == 4 && h.pairs == 2; }},
-    {"pair", "Two cards of one rank.", [](H h) { return isPair(h); }},
-    {"high pair", "A pair of aces, kings, queens or jacks.",
-     [](H h) { return isPair(h) && h.highPair; }},
-    {"low pair", "A pair of tens or lower.", [](H h) { return isPair(h) && !h.highPair; }},
-    {"3 to a royal", "Three cards of a royal.", [](H h) { return toRoyal(h); }},
-    {"3 to a royal, no ace", "Three cards of a royal, the ace not among them.",
-     [](H h) { return toRoyal(h) && !has(h, ace); }},
-    {"3 to a royal, with an ace", "Three cards of a royal, the ace among them.",
-     [](H h) { return toRoyal(h) && has(h, ace); }},
-    {"3 to a royal, no 10", "Three cards of a royal, the ten not among them.",
-     [](H h) { return toRoyal(h) && !has(h, ten); }},
-    {"3 to a royal, with a 10", "Three cards of a royal, the ten among them.",
-     [](H h) { return toRoyal(h) && has(h, ten); }},
-    {"3 to a royal, no ace and no 10", "Jack, queen and king of one suit.",
-     [](H h) { return toRoyal(h) && h.ranks == faces; }},
-    {"3 to a royal, with an ace, no 10",
-     "Three cards of a royal, the ace among them and not the ten.",
-     [](H h) { return toRoyal(h) && has(h, ace) && !has(h, ten); }},
-    {"4 to a flush", "Four cards of one suit.", [](H h) { return isFlushDraw(h, 4, 0); }},
-    {"4 to a flush, 1 high", "Four cards of one suit, at least one of them high.",
-     [](H h) { return isFlushDraw(h, 4, 1); }},
-    {"4 to a flush, 2 high", "Four cards of one suit, at least two of them high.",
-     [](H h) { return isFlushDraw(h, 4, 2); }},
-    {"4 to a flush, 3 high", "Four cards of one suit, at least three of them high.",
-     [](H h) { return isFlushDraw(h, 4, 3); }},
-    {"4 to an outside straight", "Four cards in a row with room at both ends.",
-     [](H h) { return isStraightDraw(h, 2, 0); }},
-    {"4 to an outside straight, 1 high",
-     "Four cards in a row with room at both ends, at least one of them high.",
-     [](H h) { return isStraightDraw(h, 2, 1); }},
-    {"4 to an outside straight, 2 high",
-     "Four cards in a row with room at both ends, at least two of them high.",
-     [](H h) { return isStraightDraw(h, 2, 2); }},
-    {"4 to an outside straight, 3 high",
-     "Four cards in a row with room at both ends, at least three of them high.",
-     [](H h) { return isStraightDraw(h, 2, 3); }},
-    {"4 to an inside straight", "Four cards that only one rank makes a straight.",
-     [](H h) { return isStraightDraw(h, 1, 0); }},
-    {"4 to an inside straight, 1 high",
-     "Four cards that only one rank makes a straight, at least one of them high.",
-     [](H h) { return isStraightDraw(h, 1, 1); }},
-    {"4 to an inside straight, 2 high",
-     "Four cards that only one rank makes a straight, at least two of them high.",
-     [](H h) { return isStraightDraw(h, 1, 2); }},
-    {"4 to an inside straight, 3 high",
-     "Four cards that only one rank makes a straight, at least three of them high.",
-     [](H h) { return isStraightDraw(h, 1, 3); }},
-    {"4 to an inside straight, 4 high",
-     "Four cards that only one rank makes a straight, all of them high.",
-     [](H h) { return isStraightDraw(h, 1, 4); }},
-    {"3 to a straight flush", "Three cards of one suit that lie in a straight flush.",
-     [](H h) { return toStraightFlush(h); }},
-    {"3 to a straight flush, 1 high",
-     "Three cards of one suit that lie in a straight flush, at least one of them high.",
-     [](H h) { return toStraightFlush(h) && h.high >= 1; }},
-    {"3 to a straight flush, 2 high",
-     "Three cards of one suit that lie in a straight flush, at least two of them high.",
-     [](H h) { return toStraightFlush(h) && h.high >= 2; }},
-    {"3 to a straight flush, no gap",
-     "Three cards of one suit whose ranks follow each other, the ace low.",
-     [](H h) { return h.cards == 3 && h.suited && h.follow; }},
-    {"3 to a straight flush, open", "Three cards of one suit that lie in three straight flushes.",
-     [](H h) { return toStraightFlush(h) && h.straights == 3; }},
-    {"3 to a straight flush, open, 1 high",
-     "Three cards of one suit that lie in three straight flushes, at least one of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 3 && h.high >= 1; }},
-    {"3 to a straight flush, open, 2 high",
-     "Three cards of one suit that lie in three straight flushes, at least two of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 3 && h.high >= 2; }},
-    {"3 to a straight flush, inside", "Three cards of one suit that lie in two straight flushes.",
-     [](H h) { return toStraightFlush(h) && h.straights == 2; }},
-    {"3 to a straight flush, inside, 1 high",
-     "Three cards of one suit that lie in two straight flushes, at least one of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 2 && h.high >= 1; }},
-    {"3 to a straight flush, inside, 2 high",
-     "Three cards of one suit that lie in two straight flushes, at least two of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 2 && h.high >= 2; }},
-    {"3 to a straight flush, double inside",
-     "Three cards of one suit that lie in only one straight flush.",
-     [](H h) { return toStraightFlush(h) && h.straights == 1; }},
-    {"3 to a straight flush, double inside, 1 high",
-     "Three cards of one suit that lie in only one straight flush, at least one of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 1 && h.high >= 1; }},
-    {"3 to a straight flush, double inside, 2 high",
-     "Three cards of one suit that lie in only one straight flush, at least two of them high.",
-     [](H h) { return toStraightFlush(h) && h.straights == 1 && h.high >= 2; }},
-    {"3 to a straight flush, open or inside",
-     "Three cards of one suit that lie in two or three straight flushes.",
-     [](H h) { return toStraightFlush(h) && h.straights >= 2; }},
-    {"3 to a straight flush, open or inside, 1 high",
+    {"royal", 5, suitedAmong<royalRanks>, "Ten to ace of one suit."},
+    {"straight flush", 5, straightFlush<open, open>,
+     "Five cards of one suit whose ranks follow each other, a royal too."},
+    {"4 of a kind", 4, [](H h) { return h.alike == 4; },
+     "Four cards of one rank, without the fifth card."},
+    {"full house", 5, [](H h) { return h.alike == 3 && h.pairs == 1; },
+     "Three cards of one rank and two of another."},
+    {"flush", 5, suited<>, "Five cards of one suit."},
+    {"straight", 5, straight<open, open>,
+     "Five cards whose ranks follow each other, the ace low or high."},
+    {"straight or better, dealt", 5,
+     [](H h) { return h.straights == 1 || h.suited || (h.alike == 3 && h.pairs == 1); },
+     "All five cards of a straight, a flush, a full house, a straight flush or a royal."},
+    {"4 to a royal", 4, suitedAmong<royalRanks>, "Four cards of a royal."},
+    {"4 to a straight flush", 4, straightFlush<open, inside>,
+     "Four cards of one suit that one or two cards make a straight flush."},
+    {"4 to a straight flush, no gap", 4, [](H h) { return h.suited && h.consecutive; },
+     "Four cards of one suit whose ranks follow each other, the ace low."},
+    {"4 to a straight flush, open", 4, straightFlush<open, open>,
+     "Four cards of one suit that a card at either end makes a straight flush."},
+    {"4 to a straight flush, inside", 4, straightFlush<inside, inside>,
+     "Four cards of one suit that only one card makes a straight flush."},
+    {"3 of a kind", 3, [](H h) { return h.alike == 3; }, "Three cards of one rank."},
+    {"2 pair", 4, [](H h) { return h.pairs == 2; }, "Two pairs."},
+    {"pair", 2, [](H h) { return h.pairs == 1; }, "Two cards of one rank."},
+    {"high pair", 2, [](H h) { return h.highPair; }, "A pair of aces, kings, queens or jacks."},
+    {"low pair", 2, [](H h) { return h.pairs == 1 && !h.highPair; }, "A pair of tens or lower."},
+    {"3 to a royal", 3, suitedAmong<royalRanks>, "Three cards of a royal."},
+    {"3 to a royal, no ace", 3, suitedAmong<faces | ten>,
+     "Three cards of a royal, the ace not among them."},
+    {"3 to a royal, with an ace", 3, suitedAmong<royalRanks, ace>,
+     "Three cards of a royal, the ace among them."},
+    {"3 to a royal, no 10", 3, suitedAmong<highRanks>,
+     "Three cards of a royal, the ten not among them."},
+    {"3 to a royal, with a 10", 3, suitedAmong<royalRanks, ten>,
+     "Three cards of a royal, the ten among them."},
+    {"3 to a royal, no ace and no 10", 3, suitedAmong<faces>, "Jack, queen and king of one suit."},
+    {"3 to a royal, with an ace, no 10", 3, suitedAmong<highRanks, ace>,
+     "Three cards of a royal, the ace among them and not the ten."},
+    {"4 to a flush", 4, suited<>, "Four cards of one suit."},
+    {"4 to a flush, 1 high", 4, suited<1>, "Four cards of one suit, at least one of them high."},
+    {"4 to a flush, 2 high", 4, suited<2>, "Four cards of one suit, at least two of them high."},
+    {"4 to a flush, 3 high", 4, suited<3>, "Four cards of one suit, at least three of them high."},
+    {"4 to an outside straight", 4, straight<open, open>,
+     "Four cards in a row with room at both ends."},
+    {"4 to an outside straight, 1 high", 4, straight<open, open, 1>,
+     "Four cards in a row with room at both ends, at least one of them high."},
+    {"4 to an outside straight, 2 high", 4, straight<open, open, 2>,
+     "Four cards in a row with room at both ends, at least two of them high."},
+    {"4 to an outside straight, 3 high", 4, straight<open, open, 3>,
+     "Four cards in a row with room at both ends, at least three of them high."},
+    {"4 to an inside straight", 4, straight<inside, inside>,
+     "Four cards that only one rank makes a straight."},
+    {"4 to an inside straight, 1 high", 4, straight<inside, inside, 1>,
+     "Four cards that only one rank makes a straight, at least one of them high."},
+    {"4 to an inside straight, 2 high", 4, straight<inside, inside, 2>,
+     "Four cards that only one rank makes a straight, at least two of them high."},
+    {"4 to an inside straight, 3 high", 4, straight<inside, inside, 3>,
+     "Four cards that only one rank makes a straight, at least three of them high."},
+    {"4 to an inside straight, 4 high", 4, straight<inside, inside, 4>,
+     "Four cards that only one rank makes a straight, all of them high."},
+    {"3 to a straight flush", 3, straightFlush<open, doubleInside>,
+     "Three cards of one suit that lie in a straight flush."},
+    {"3 to a straight flush, 1 high", 3, straightFlush<open, doubleInside, 1>,
+     "Three cards of one suit that lie in a straight flush, at least one of them high."},
+    {"3 to a straight flush, 2 high", 3, straightFlush<open, doubleInside, 2>,
+     "Three cards of one suit that lie in a straight flush, at least two of them high."},
+    {"3 to a straight flush, no gap", 3, [](H h) { return h.suited && h.consecutive; },
+     "Three cards of one suit whose ranks follow each other, the ace low."},
+    {"3 to a straight flush, open", 3, straightFlush<open, open>,
+     "Three cards of one suit that lie in three straight flushes."},
+    {"3 to a straight flush, open, 1 high", 3, straightFlush<open, open, 1>,
+     "Three cards of one suit that lie in three straight flushes, at least one of them high."},
+    {"3 to a straight flush, open, 2 high", 3, straightFlush<open, open, 2>,
+     "Three cards of one suit that lie in three straight flushes, at least two of them high."},
+    {"3 to a straight flush, inside", 3, straightFlush<inside, inside>,
+     "Three cards of one suit that lie in two straight flushes."},
+    {"3 to a straight flush, inside, 1 high", 3, straightFlush<inside, inside, 1>,
+     "Three cards of one suit that lie in two straight flushes, at least one of them high."},
+    {"3 to a straight flush, inside, 2 high", 3, straightFlush<inside, inside, 2>,
+     "Three cards of one suit that lie in two straight flushes, at least two of them high."},
+    {"3 to a straight flush, double inside", 3, straightFlush<doubleInside, doubleInside>,
+     "Three cards of one suit that lie in only one straight flush."},
+    {"3 to a straight flush, double inside, 1 high", 3,
+     straightFlush<doubleInside, doubleInside, 1>,
+     "Three cards of one suit that lie in only one straight flush, at least one of them high."},
+    {"3 to a straight flush, double inside, 2 high", 3,
+     straightFlush<doubleInside, doubleInside, 2>,
+     "Three cards of one suit that lie in only one straight flush, at least two of them high."},
+    {"3 to a straight flush, open or inside", 3, straightFlush<open, inside>,
+     "Three cards of one suit that lie in two or three straight flushes."},
+    {"3 to a straight flush, open or inside, 1 high", 3, straightFlush<open, inside, 1>,
      "Three cards of one suit that lie in two or three straight flushes, at least one of them "
-     "high.",
-     [](H h) { return toStraightFlush(h) && h.straights >= 2 && h.high >= 1; }},
-    {"3 to a straight flush, open or inside, 2 high",
+     "high."},
+    {"3 to a straight flush, open or inside, 2 high", 3, straightFlush<open, inside, 2>,
      "Three cards of one suit that lie in two or three straight flushes, at least two of them "
-     "high.",
-     [](H h) { return toStraightFlush(h) && h.straights >= 2 && h.high >= 2; }},
-    {"3 to a straight flush, high for each gap",
-     "Three cards of one suit: open, inside with a high card, or double inside with two.",
-     [](H h) { return toStraightFlush(h) && missed(h) <= h.high; }},
-    {"3 to a straight flush, high for each gap but one",
-     "Three cards of one suit: open, inside, or double inside with a high card.",
-     [](H h) { return toStraightFlush(h) && missed(h) <= h.high + 1; }},
-    {"3 to a flush", "Three cards of one suit.", [](H h) { return isFlushDraw(h, 3, 0); }},
-    {"3 to a flush, 1 high", "Three cards of one suit, at least one of them high.",
-     [](H h) { return isFlushDraw(h, 3, 1); }},
-    {"3 to a flush, 2 high", "Three cards of one suit, at least two of them high.",
-     [](H h) { return isFlushDraw(h, 3, 2); }},
-    {"3 to a flush, 3 high", "Three cards of one suit, all of them high.",
-     [](H h) { return isFlushDraw(h, 3, 3); }},
-    {"4 high", "Ace, king, queen and jack.", [](H h) { return allHigh(h, 4); }},
-    {"3 high", "Three high cards of different ranks.", [](H h) { return allHigh(h, 3); }},
-    {"3 high, no ace", "King, queen and jack.", [](H h) { return allHigh(h, 3) && !has(h, ace); }},
-    {"3 high, with an ace", "An ace and two of king, queen and jack.",
-     [](H h) { return allHigh(h, 3) && has(h, ace); }},
-    {"2 high, suited", "Two high cards of one suit.",
-     [](H h) { return allHigh(h, 2) && h.suited; }},
-    {"2 high, suited, no ace", "Two faces of one suit.",
-     [](H h) { return allHigh(h, 2) && h.suited && !has(h, ace); }},
-    {"2 high, suited, with an ace", "An ace and a face of one suit.",
-     [](H h) { return allHigh(h, 2) && h.suited && has(h, ace); }},
-    {"jack and queen, suited", "Jack and queen of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (jack | queen); }},
-    {"jack and king, suited", "Jack and king of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (jack | king); }},
-    {"queen and king, suited", "Queen and king of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (queen | king); }},
-    {"jack and ace, suited", "Jack and ace of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (jack | ace); }},
-    {"queen and ace, suited", "Queen and ace of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (queen | ace); }},
-    {"king and ace, suited", "King and ace of one suit.",
-     [](H h) { return h.cards == 2 && h.suited && h.ranks == (king | ace); }},
-    {"10 and face, suited", "A ten and a face of one suit.", [](H h) { return tenWith(h, faces); }},
-    {"10 and jack, suited", "Ten and jack of one suit.", [](H h) { return tenWith(h, jack); }},
-    {"10 and queen, suited", "Ten and queen of one suit.", [](H h) { return tenWith(h, queen); }},
-    {"10 and king, suited", "Ten and king of one suit.", [](H h) { return tenWith(h, king); }},
-    {"10 and jack or queen, suited", "A ten and a jack or queen of one suit.",
-     [](H h) { return tenWith(h, jack | queen); }},
-    {"10 and ace, suited", "Ten and ace of one suit.", [](H h) { return tenWith(h, ace); }},
-    {"2 high", "Two high cards of different ranks.", [](H h) { return allHigh(h, 2); }},
-    {"2 high, no ace", "Two faces of different ranks.",
-     [](H h) { return allHigh(h, 2) && !has(h, ace); }},
-    {"2 high, with an ace", "An ace and a face.", [](H h) { return allHigh(h, 2) && has(h, ace); }},
-    {"2 high, lowest", "Of the hand's high cards the two lowest; the ace is the highest.",
-     [](H h) { return allHigh(h, 2); }, areLowest},
-    {"jack and queen", "Jack and queen.",
-     [](H h) { return h.cards == 2 && h.ranks == (jack | queen); }},
-    {"jack and king", "Jack and king.",
-     [](H h) { return h.cards == 2 && h.ranks == (jack | king); }},
-    {"queen and king", "Queen and king.",
-     [](H h) { return h.cards == 2 && h.ranks == (queen | king); }},
-    {"jack and ace", "Jack and ace.", [](H h) { return h.cards == 2 && h.ranks == (jack | ace); }},
-    {"queen and ace", "Queen and ace.",
-     [](H h) { return h.cards == 2 && h.ranks == (queen | ace); }},
-    {"king and ace", "King and ace.", [](H h) { return h.cards == 2 && h.ranks == (king | ace); }},
-    {"1 high", "One high card.", [](H h) { return h.cards == 1 && h.high == 1; }},
-    {"1 face", "One jack, queen or king.",
-     [](H h) { return h.cards == 1 && (h.ranks & faces) != 0; }},
-    {"jack", "One jack.", [](H h) { return h.cards == 1 && h.ranks == jack; }},
-    {"queen", "One queen.", [](H h) { return h.cards == 1 && h.ranks == queen; }},
-    {"king", "One king.", [](H h) { return h.cards == 1 && h.ranks == king; }},
-    {"ace", "One ace.", [](H h) { return h.cards == 1 && h.ranks == ace; }},
-    {"nothing", "No card.", [](H h) { return h.cards == 0; }},
+     "high."},
+    {"3 to a straight flush, high for each gap", 3,
+     [](H h) { return straightFlush<open, doubleInside>(h) && gaps(h) <= h.high; },
+     "Three cards of one suit: open, inside with a high card, or double inside with two."},
+    {"3 to a straight flush, high for each gap but one", 3,
+     [](H h) { return straightFlush<open, doubleInside>(h) && gaps(h) <= h.high + 1; },
+     "Three cards of one suit: open, inside, or double inside with a high card."},
+    {"3 to a flush", 3, suited<>, "Three cards of one suit."},
+    {"3 to a flush, 1 high", 3, suited<1>, "Three cards of one suit, at least one of them high."},
+    {"3 to a flush, 2 high", 3, suited<2>, "Three cards of one suit, at least two of them high."},
+    {"3 to a flush, 3 high", 3, suited<3>, "Three cards of one suit, all of them high."},
+    {"4 high", 4, among<highRanks>, "Ace, king, queen and jack."},
+    {"3 high", 3, among<highRanks>, "Three high cards of different ranks."},
+    {"3 high, no ace", 3, among<faces>, "King, queen and jack."},
+    {"3 high, with an ace", 3, among<highRanks, ace>, "An ace and two of king, queen and jack."},
+    {"2 high, suited", 2, suitedAmong<highRanks>, "Two high cards of one suit."},
+    {"2 high, suited, no ace", 2, suitedAmong<faces>, "Two faces of one suit."},
+    {"2 high, suited, with an ace", 2, suitedAmong<highRanks, ace>,
+     "An ace and a face of one suit."},
+    {"jack and queen, suited", 2, suitedAmong<jack | queen>, "Jack and queen of one suit."},
+    {"jack and king, suited", 2, suitedAmong<jack | king>, "Jack and king of one suit."},
+    {"queen and king, suited", 2, suitedAmong<queen | king>, "Queen and king of one suit."},
+    {"jack and ace, suited", 2, suitedAmong<jack | ace>, "Jack and ace of one suit."},
+    {"queen and ace, suited", 2, suitedAmong<queen | ace>, "Queen and ace of one suit."},
+    {"king and ace, suited", 2, suitedAmong<king | ace>, "King and ace of one suit."},
+    {"10 and face, suited", 2, suitedAmong<ten | faces, ten>, "A ten and a face of one suit."},
+    {"10 and jack, suited", 2, suitedAmong<ten | jack>, "Ten and jack of one suit."},
+    {"10 and queen, suited", 2, suitedAmong<ten | queen>, "Ten and queen of one suit."},
+    {"10 and king, suited", 2, suitedAmong<ten | king>, "Ten and king of one suit."},
+    {"10 and jack or queen, suited", 2, suitedAmong<ten | jack | queen, ten>,
+     "A ten and a jack or queen of one suit."},
+    {"10 and ace, suited", 2, suitedAmong<ten | ace>, "Ten and ace of one suit."},
+    {"2 high", 2, among<highRanks>, "Two high cards of different ranks."},
+    {"2 high, no ace", 2, among<faces>, "Two faces of different ranks."},
+    {"2 high, with an ace", 2, among<highRanks, ace>, "An ace and a face."},
+    {"2 high, lowest", 2, among<highRanks>,
+     "Of the hand's high cards the two lowest; the ace is the highest.", areLowest},
+    {"jack and queen", 2, among<jack | queen>, "Jack and queen."},
+    {"jack and king", 2, among<jack | king>, "Jack and king."},
+    {"queen and king", 2, among<queen | king>, "Queen and king."},
+    {"jack and ace", 2, among<jack | ace>, "Jack and ace."},
+    {"queen and ace", 2, among<queen | ace>, "Queen and ace."},
+    {"king and ace", 2, among<king | ace>, "King and ace."},
+    {"1 high", 1, among<highRanks>, "One high card."},
+    {"1 face", 1, among<faces>, "One jack, queen or king."},
+    {"jack", 1, among<jack>, "One jack."},
+    {"queen", 1, among<queen>, "One queen."},
+    {"king", 1, among<king>, "One king."},
+    {"ace", 1, among<ace>, "One ace."},
+    {"nothing", 0, [](H) { return true; }, "No card."},
 }};
 
 } // namespace

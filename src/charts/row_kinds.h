@@ -13,10 +13,16 @@ namespace quillet::charts
 // One row that a chart can have: which cards it tells the player to keep. A hold fits it by the
 // cards kept; some rows also ask about those thrown away.
 struct RowKind {
-    std::string_view name;    // as it stands in a chart
+    std::string_view name; // as it stands in a chart
+    int cards;             // that it keeps
+    bool (*matches)(const HoldFacts& held);
     std::string_view meaning; // one sentence
-    bool (*fits)(const HoldFacts& held);
     bool (*allows)(const HoldFacts& held, const HoldFacts& discarded) = nullptr;
+
+    [[nodiscard]] bool fits(const HoldFacts& held) const
+    {
+        return held.cards == cards && matches(held);
+    }
 };
 
 // Where a kind stands in the list of all kinds.

@@ -27,7 +27,7 @@ class FinalHands
 {
 public:
     explicit FinalHands(const HeldCards& heldCards)
-        : m_heldCards(heldCards), m_timesNeeded(heldCards.classes())
+        : m_heldCards(heldCards), m_timesNeeded(HeldCards::classCount)
     {
     }
 

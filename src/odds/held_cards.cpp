@@ -9,8 +9,6 @@ namespace quillet::odds
 namespace
 {
 
-constexpr std::size_t classesUpToFour = 1 + 13 + 169 + 1755 + 16432;
-
 std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
 {
     std::uint32_t combination = 0;
@@ -24,14 +22,14 @@ std::uint32_t combinationOf(std::span<const DeckPlace> ascending)
 
 HeldCards::HeldCards(const Pays& pays) : m_pays(pays), m_classOf(firstOfSize[5])
 {
-    m_counts.resize(classesUpToFour);
+    m_counts.resize(classCount);
     numberClasses();
     countHandsOfFours();
     countHandsOf<3>();
     countHandsOf<2>();
     countHandsOf<1>();
     countHandsOf<0>();
-    m_pay.reserve(classesUpToFour);
+    m_pay.reserve(classCount);
     for (const OutcomeCounts& counts : m_counts) {
         std::int64_t pay = 0;
         for (std::size_t outcome = 1; outcome < outcomes; ++outcome)

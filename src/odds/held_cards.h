@@ -42,7 +42,8 @@ public:
 
     [[nodiscard]] const Pays& pays() const { return m_pays; }
 
-    [[nodiscard]] std::size_t classes() const { return m_pay.size(); }
+    // Of sets of up to four cards, numbered by size and then in the order of forEachClass.
+    static constexpr std::size_t classCount = 1 + 13 + 169 + 1755 + 16432;
 
     // The class of a set by its size and the sum of choose[n][place] over its n-th places,
     // ascending and counted from 1: the usual numbering of combinations.

@@ -101,7 +101,7 @@ Report answerHand(const Request& request)
     std::ranges::sort(places);
     const odds::HeldCards heldCards = heldCardsFor(request);
     const odds::DealtHand hand(heldCards, places);
-    const charts::ChartPlayer player(charts::HoldTable(heldCards), charts::trainersChart());
+    const charts::ChartPlayer player(charts::trainersChart());
     return handReport(heldCards, hand, player.play(hand), request.allHolds, request.style.format);
 }
 
@@ -134,7 +134,7 @@ Report answerSimulation(const Request& request)
     ProgressBar bar;
     const odds::HeldCards heldCards = heldCardsFor(request);
     const charts::Chart chart = charts::trainersChart();
-    const charts::ChartPlayer player(charts::HoldTable(heldCards), chart);
+    const charts::ChartPlayer player(chart);
     const odds::Simulation simulation = odds::simulate(
         heldCards, [&player](const odds::DealtHand& hand) { return player.bestHold(hand); },
         request.seed, request.hands, std::max(1U, std::thread::hardware_concurrency()),

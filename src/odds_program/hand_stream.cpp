@@ -71,7 +71,7 @@ void answerHands(std::istream& in, std::ostream& out, const odds::HeldCards& hel
 {
     if (style.format == Format::csv)
         out << "hand,row,best,expected,chart,chart expected,cost\n";
-    const charts::ChartPlayer player(charts::HoldTable(heldCards), charts::trainersChart());
+    const charts::ChartPlayer player(charts::trainersChart());
     const char* separator = "";
     for (int number = 1; const auto places = nextHand(in, number);) {
         const odds::DealtHand hand(heldCards, *places);

@@ -64,14 +64,12 @@ std::string Decision::name() const
 
 Decisions::Decisions(const odds::HeldCards& heldCards)
 {
-    const charts::HoldTable table(heldCards);
-    m_kindOfClass.reserve(table.classes());
-    for (std::size_t id = 0; id < table.classes(); ++id)
-        m_kindOfClass.push_back(
-            charts::plainKindOf(table.facts(static_cast<odds::HeldCards::ClassId>(id))));
+    m_kindOfClass.reserve(charts::factsByClass().size());
+    for (const charts::HoldFacts& held : charts::factsByClass())
+        m_kindOfClass.push_back(charts::plainKindOf(held));
     for (auto& row : m_id)
         row.fill(none);
-    addUp(heldCards, charts::ChartPlayer(table, charts::trainersChart()));
+    addUp(heldCards, charts::ChartPlayer(charts::trainersChart()));
     sort();
 }
 

@@ -16,10 +16,7 @@ std::uint32_t perfectHolds(const odds::DealtHand& hand)
 
 } // namespace
 
-Standard::Standard(const charts::HoldTable& table, const charts::Chart& chart)
-    : m_chart(chart), m_player(std::in_place, table, chart)
-{
-}
+Standard::Standard(const charts::Chart& chart) : m_chart(chart), m_player(chart) {}
 
 Judgement Standard::judge(const odds::DealtHand& hand, odds::Hold held) const
 {

@@ -23,8 +23,7 @@ class Standard
 {
 public:
     Standard() = default; // perfect play
-    // The table is only read here.
-    Standard(const charts::HoldTable& table, const charts::Chart& chart);
+    explicit Standard(const charts::Chart& chart);
 
     [[nodiscard]] Judgement judge(const odds::DealtHand& hand, odds::Hold held) const;
 

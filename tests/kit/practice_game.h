@@ -10,7 +10,6 @@ namespace quillet::practice::test
 struct Game {
     odds::HeldCards heldCards;
     Decisions decisions{heldCards};
-    charts::HoldTable table{heldCards};
 };
 
 inline const Game& game()

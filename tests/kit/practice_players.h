@@ -30,7 +30,7 @@ public:
         perfect = price.perfect.returned.value();
         returned = chart ? price.played[charts::Taken::best].returned.value() : perfect;
         if (chart)
-            m_chart.emplace(game().table, *chart);
+            m_chart.emplace(*chart);
         if (slipsOneIn == 0)
             return;
         double blind = 0; // loses so much

@@ -44,9 +44,8 @@ std::string cardOf(const Chart& chart)
 
 TEST(RowExamples, arePlayedByTheirRows)
 {
-    const charts::HoldTable table(heldCards());
     for (const Chart& chart : someCharts()) {
-        const charts::ChartPlayer player(table, chart);
+        const charts::ChartPlayer player(chart);
         const charts::ChartPrice price = charts::priceChart(heldCards(), chart);
         const auto examples = charts::rowExamples(heldCards(), chart);
         for (std::size_t row = 0; row < chart.size(); ++row) {

@@ -87,15 +87,14 @@ TEST(Standard, saysWhatIsRightAndWhatTheChartGivesAway)
     EXPECT_FALSE(perfect.right);
     EXPECT_EQ(perfect.cost.decimals(4), "5.7724");
     EXPECT_EQ(perfect.chartCost, odds::Fraction());
-    const Standard chart(game().table, charts::trainersChart());
+    const Standard chart(charts::trainersChart());
     EXPECT_TRUE(chart.judge(hand, three).right);
     EXPECT_EQ(chart.judge(hand, three).chartCost.decimals(4), "5.7724");
     EXPECT_FALSE(chart.judge(hand, hand.bestHold).right);
     EXPECT_EQ(chart.judge(hand, hand.bestHold).cost, odds::Fraction());
     EXPECT_EQ(chart.row(hand), "3 to a royal");
     const std::string lossless = quillet::test::fileText(QUILLET_CHARTS_FOLDER "/perfect.chart");
-    EXPECT_EQ(Standard(game().table, charts::parseChart(lossless)).row(hand),
-              "4 to a straight flush");
+    EXPECT_EQ(Standard(charts::parseChart(lossless)).row(hand), "4 to a straight flush");
     // Holds that are worth the same are all right.
     const odds::DealtHand four = dealt("2c 9c 9d 9h 9s");
     EXPECT_TRUE(Standard().judge(four, odds::holdAll).right);
