@@ -84,4 +84,10 @@ void presentAs(QWidget& widget, QAccessible::Role role)
     widget.setProperty(presentation, static_cast<int>(role));
 }
 
+void announce(QWidget& widget)
+{
+    QAccessibleEvent spoken(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&spoken);
+}
+
 } // namespace quillet

@@ -14,4 +14,7 @@ namespace quillet
 //   NoRole     hidden; its content is read elsewhere
 void presentAs(QWidget& widget, QAccessible::Role role);
 
+// Has readers say the widget's accessible name, or its text, at once.
+void announce(QWidget& widget);
+
 } // namespace quillet

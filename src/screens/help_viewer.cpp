@@ -1,10 +1,10 @@
 #include "screens/help_viewer.h"
 
+#include "platform/accessible_widgets.h"
 #include "screens/help_file.h"
 #include "screens/run_shell_execute.h"
 #include "screens/single_window.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -227,10 +227,8 @@ void HelpViewer::showMessage(const QString& message)
 {
     m_message->setText(message);
     m_message->setVisible(!message.isEmpty());
-    if (message.isEmpty())
-        return;
-    QAccessibleEvent spoken(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&spoken);
+    if (!message.isEmpty())
+        announce(*m_message);
 }
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "table/picture_box.h"
 
+#include "cards/card_marks.h"
 #include "table/table_canvas.h"
 
 #include <QAccessible>
@@ -84,11 +85,7 @@ void PictureBox::paintEvent(QPaintEvent*)
     if (!hasFocus())
         return;
     QPainter painter(this);
-    painter.setPen(QPen(QColor(0x20, 0x20, 0x20), 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(4, 4, -5, -5));
-    painter.setPen(QPen(QColor(0xff, 0xff, 0xff), 1, Qt::DotLine));
-    painter.drawRect(rect().adjusted(5, 5, -6, -6));
+    paintFocusFrame(painter, rect());
 }
 
 } // namespace quillet

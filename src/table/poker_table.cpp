@@ -1,10 +1,11 @@
 #include "table/poker_table.h"
 
+#include "cards/card_marks.h"
+#include "cards/card_names.h"
 #include "cards/card_numbers.h"
 #include "faults/guarded.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
-#include "table/card_names.h"
 #include "table/init_anim_delay.h"
 #include "table/masked_blit.h"
 #include "table/picture_box.h"
@@ -21,21 +22,19 @@ namespace quillet
 namespace
 {
 
-// Where the marks of a held card are, in device pixels.
-struct HoldMarker {
-    HoldMarker(const QRectF& card, double scale)
-        : width(deviceSize(3, scale)),
-          Shape1(card.adjusted(-width / 2, -width / 2, width / 2, width / 2)),
-          Shape2(card.topLeft(), QSizeF(deviceSize(2, scale), card.height())),
-          Shape3(Shape2.translated(card.width() - Shape2.width(), 0))
-    {
+// What screen readers call it.
+QString shownBy(const CardOnTable& card)
+{
+    switch (card.side) {
+    case CardOnTable::Side::none:
+        return "empty";
+    case CardOnTable::Side::back:
+        return "face down";
+    case CardOnTable::Side::face:
+        return cardName(card.number);
     }
-
-    double width;
-    QRectF Shape1; // the outline, around the card
-    QRectF Shape2; // inside the card's left edge
-    QRectF Shape3; // inside its right edge
-};
+    return {};
+}
 
 } // namespace
 
@@ -221,20 +220,8 @@ void PokerTable::paintOutlines(QPainter& painter, double scale) const
 {
     const QColor colour = colourOf(static_cast<std::uint32_t>(m_preferences.prfCardOutlineColor));
     for (const Slot slot : allSlots) {
-        if (!m_held[slot])
-            continue;
-        const QRect card = picPoker[slot]->devicePlace();
-        const HoldMarker marker(card, scale);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colour, marker.width));
-        painter.setBrush(Qt::NoBrush);
-        const double radius = 6 * scale + marker.width / 2;
-        painter.drawRoundedRect(marker.Shape1, radius, radius);
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setClipRect(card, Qt::IntersectClip);
-        painter.fillRect(marker.Shape2, colour);
-        painter.fillRect(marker.Shape3, colour);
-        painter.setClipping(false);
+        if (m_held[slot])
+            paintHoldMarker(painter, picPoker[slot]->devicePlace(), scale, colour);
     }
 }
 
@@ -263,7 +250,7 @@ void PokerTable::describe(Slot slot)
 {
     PictureBox& place = *picPoker[slot];
     place.setChecked(m_held[slot]);
-    place.setAccessibleName(spokenCard(slot, m_cards[slot], m_held[slot]));
+    place.setAccessibleName(spokenCard(slot, shownBy(m_cards[slot]), m_held[slot]));
 }
 
 // Paints everything again at the scale of the display that the table is on now.

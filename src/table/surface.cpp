@@ -3,27 +3,10 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 
 namespace quillet
 {
-
-int deviceOrigin(double position, double scale)
-{
-    return static_cast<int>(std::floor(position * scale + 0.5));
-}
-
-int deviceSize(double size, double scale)
-{
-    return static_cast<int>(std::floor(size * scale + 0.5));
-}
-
-QRect deviceRect(const QRectF& logical, double scale)
-{
-    return {deviceOrigin(logical.x(), scale), deviceOrigin(logical.y(), scale),
-            deviceSize(logical.width(), scale), deviceSize(logical.height(), scale)};
-}
 
 Surface::Surface(QSizeF size, double scale)
     : m_image(std::max(1, deviceSize(size.width(), scale)),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cards/device_pixels.h"
+
 #include <QColor>
 #include <QImage>
 #include <QRect>
@@ -7,12 +9,6 @@
 
 namespace quillet
 {
-
-// The only place that rounds logical to device pixels. Position and size are rounded separately, so
-// that equal cards have the same size everywhere.
-[[nodiscard]] int deviceOrigin(double position, double scale);
-[[nodiscard]] int deviceSize(double size, double scale);
-[[nodiscard]] QRect deviceRect(const QRectF& logical, double scale);
 
 // An off-screen picture. Its interface uses logical pixels, its buffer holds device pixels.
 // Copies are clipped; a rectangle outside the picture is no error.

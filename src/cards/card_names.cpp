@@ -1,4 +1,4 @@
-#include "table/card_names.h"
+#include "cards/card_names.h"
 
 #include "cards/card_numbers.h"
 #include "engine/card.h"
@@ -20,16 +20,9 @@ QString cardName(std::int32_t cardNumber)
     return QString("%1 of %2").arg(rank, suit);
 }
 
-QString spokenCard(Slot slot, const CardOnTable& card, bool held)
+QString spokenCard(std::size_t slot, const QString& shown, bool held)
 {
-    QString what = "empty";
-    if (card.side == CardOnTable::Side::back)
-        what = "face down";
-    else if (card.side == CardOnTable::Side::face)
-        what = cardName(card.number);
-    if (held)
-        what = QString("%1, held").arg(what);
-    return QString("Card %1: %2").arg(slot + 1).arg(what);
+    return QString("Card %1: %2%3").arg(slot + 1).arg(shown, held ? ", held" : "");
 }
 
 } // namespace quillet

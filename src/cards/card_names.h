@@ -1,9 +1,9 @@
 #pragma once
 
-#include "engine/slot.h"
-#include "table/card_on_table.h"
-
 #include <QString>
+
+#include <cstddef>
+#include <cstdint>
 
 namespace quillet
 {
@@ -12,6 +12,6 @@ namespace quillet
 [[nodiscard]] QString cardName(std::int32_t cardNumber);
 
 // The name of a card place for screen readers, "Card 2: Queen of hearts, held".
-[[nodiscard]] QString spokenCard(Slot slot, const CardOnTable& card, bool held);
+[[nodiscard]] QString spokenCard(std::size_t slot, const QString& shown, bool held);
 
 } // namespace quillet
