@@ -37,8 +37,8 @@ struct Tally {
     {
         const double exact = player.returned;
         Estimate estimate;
-        milliseconds += millisecondsOf(
-            [&] { estimate = estimateReturn(game().decisions, session.answers, player.perfect); });
+        milliseconds +=
+            millisecondsOf([&] { estimate = estimateReturn(game().decisions, session.answers); });
         const double half = 50 * (estimate.high - estimate.low);
         inside += exact >= estimate.low - 1e-12 && exact <= estimate.high + 1e-12 ? 1 : 0;
         returned += 100 * estimate.returned;

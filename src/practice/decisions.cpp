@@ -1,5 +1,6 @@
 #include "practice/decisions.h"
 
+#include "engine/pay_table.h"
 #include "odds/fair_odds.h"
 
 #include <algorithm>
@@ -25,6 +26,14 @@ std::uint32_t wildHolds(const odds::DealtHand& hand, const KindOfHold& kind)
             wild |= 1U << hold;
     }
     return wild;
+}
+
+// In credits won per credit paid, of what all deals of the game are worth.
+double returnOf(odds::Int128 worth)
+{
+    return odds::Fraction(worth,
+                          odds::Int128{odds::FairOdds::deals} * odds::DealtHand::worthUnit * wager)
+        .value();
 }
 
 } // namespace
@@ -71,6 +80,19 @@ Decisions::Decisions(const odds::HeldCards& heldCards)
         row.fill(none);
     addUp(heldCards, charts::ChartPlayer(charts::trainersChart()));
     sort();
+}
+
+double Decisions::perfectReturn() const
+{
+    return returnOf(m_worth);
+}
+
+double Decisions::chartReturn() const
+{
+    odds::Int128 worth = m_worth;
+    for (const Decision& decision : m_all)
+        worth -= decision.chartCostSum;
+    return returnOf(worth);
 }
 
 std::span<const DealClass> Decisions::deals(DecisionId id) const
@@ -123,6 +145,7 @@ void Decisions::addUp(const odds::HeldCards& heldCards, const charts::ChartPlaye
         const std::int64_t best = hand.worth[hand.bestHold];
         const std::int64_t chartCost = best - hand.worth[trainersChart.bestHold(hand)];
         Decision& decision = m_all[id];
+        m_worth += odds::Int128{best} * members;
         decision.deals += members;
         decision.leadSum += odds::Int128{best - hand.worth[met.rivalHold]} * members;
         decision.anyHoldSum +=

@@ -65,6 +65,10 @@ public:
     [[nodiscard]] std::span<const Decision> all() const { return m_all; }
     [[nodiscard]] const Decision& operator[](DecisionId id) const { return m_all[id]; }
 
+    // What perfect play and the trainer's chart return, in credits won per credit paid.
+    [[nodiscard]] double perfectReturn() const;
+    [[nodiscard]] double chartReturn() const;
+
     // The classes of the deals of one decision.
     [[nodiscard]] std::span<const DealClass> deals(DecisionId id) const;
 
@@ -81,6 +85,7 @@ private:
     std::vector<charts::PlainKind> m_kindOfClass;
     std::array<std::array<std::uint8_t, charts::plainKinds>, charts::plainKinds> m_id{};
     std::vector<Decision> m_all;
+    odds::Int128 m_worth = 0;           // of the best holds of all deals
     std::vector<DealClass> m_deals;     // by decision
     std::vector<std::size_t> m_firstOf; // by decision, and one more
 };

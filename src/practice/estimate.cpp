@@ -245,9 +245,9 @@ std::size_t shortestRun(const std::vector<double>& ascending, std::size_t size)
 
 } // namespace
 
-Estimate estimateReturn(const Decisions& decisions, std::span<const Answer> answers,
-                        double perfectReturn)
+Estimate estimateReturn(const Decisions& decisions, std::span<const Answer> answers)
 {
+    const double perfectReturn = decisions.perfectReturn();
     Sampler sampler(decisions, answers);
     for (int i = 0; i < drawsBefore; ++i)
         static_cast<void>(sampler.draw());

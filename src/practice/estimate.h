@@ -18,8 +18,7 @@ struct Estimate {
 };
 
 // The same answers give the same estimate. All of them weigh the same, so give those that are to
-// show how the player plays now: the last 1,000 are enough. Perfect play returns so much.
-[[nodiscard]] Estimate estimateReturn(const Decisions& decisions, std::span<const Answer> answers,
-                                      double perfectReturn);
+// show how the player plays now: the last 1,000 are enough.
+[[nodiscard]] Estimate estimateReturn(const Decisions& decisions, std::span<const Answer> answers);
 
 } // namespace quillet::practice

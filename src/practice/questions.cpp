@@ -26,11 +26,32 @@ std::uint64_t setOf(const std::array<odds::DeckPlace, 5>& cards)
 
 } // namespace
 
+Question firstQuestion(std::uint64_t seed)
+{
+    std::mt19937_64 random(seed);
+    std::array<odds::DeckPlace, 52> deck{};
+    std::iota(deck.begin(), deck.end(), odds::DeckPlace{0});
+    Question question;
+    for (std::size_t i = 0; i < question.cards.size(); ++i) {
+        const auto left = static_cast<double>(deck.size() - i);
+        const double chance = static_cast<double>(random() >> 11U) * 0x1p-53;
+        std::swap(deck[i], deck[i + static_cast<std::size_t>(chance * left)]);
+        question.cards[i] = deck[i];
+    }
+    return question;
+}
+
 Questions::Questions(const Decisions& decisions, std::uint64_t seed)
     : m_decisions(decisions), m_random(seed)
 {
     practise({});
     forgetDeals();
+}
+
+void Questions::hasBeenAsked(const Question& question)
+{
+    if (m_asked.insert(setOf(question.cards)).second)
+        --m_dealsLeft[question.decision];
 }
 
 void Questions::practise(const std::vector<DecisionId>& ticked)

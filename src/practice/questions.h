@@ -16,12 +16,18 @@ struct Question {
     Chosen chosen = Chosen::random;
 };
 
+// A deal for the time before the decisions are known: any, at random. Its decision is not set.
+[[nodiscard]] Question firstQuestion(std::uint64_t seed);
+
 // Chooses the deals of one session. The same seed and the same records give the same questions.
 class Questions
 {
 public:
     // The decisions outlive this.
     Questions(const Decisions& decisions, std::uint64_t seed);
+
+    // Keeps the deal from being asked again.
+    void hasBeenAsked(const Question& question);
 
     // Only these decisions come up; none stands for all.
     void practise(const std::vector<DecisionId>& ticked);

@@ -35,11 +35,11 @@ Record::Record(const Decisions& decisions)
         m_tallies.push_back({expectedErrorRate(decision), strengthOf(decision)});
 }
 
-void Record::add(const Answer& answer)
+void Record::add(DecisionId id, bool right)
 {
-    Tally& tally = m_tallies[answer.decision];
-    tally.right = tally.right * fading + (answer.isRight() ? 1 : 0);
-    tally.wrong = tally.wrong * fading + (answer.isRight() ? 0 : 1);
+    Tally& tally = m_tallies[id];
+    tally.right = tally.right * fading + (right ? 1 : 0);
+    tally.wrong = tally.wrong * fading + (right ? 0 : 1);
     ++tally.answers;
 }
 

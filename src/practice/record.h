@@ -15,7 +15,7 @@ class Record
 public:
     explicit Record(const Decisions& decisions);
 
-    void add(const Answer& answer);
+    void add(DecisionId id, bool right);
 
     // The mean of the Beta distribution of the player's error rate.
     [[nodiscard]] double doubt(DecisionId id) const;

@@ -27,6 +27,8 @@ public:
 
     [[nodiscard]] Judgement judge(const odds::DealtHand& hand, odds::Hold held) const;
 
+    [[nodiscard]] bool isPerfect() const { return !m_player; }
+
     // The row of the chart that plays the deal, as it is written in charts; empty for perfect play.
     [[nodiscard]] std::string row(const odds::DealtHand& hand) const;
 

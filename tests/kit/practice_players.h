@@ -25,18 +25,19 @@ class Player
 public:
     Player(const std::optional<charts::Chart>& chart, int slipsOneIn = 0) : m_slipsOneIn(slipsOneIn)
     {
-        const charts::ChartPrice price =
-            charts::priceChart(game().heldCards, chart.value_or(charts::trainersChart()));
-        perfect = price.perfect.returned.value();
-        returned = chart ? price.played[charts::Taken::best].returned.value() : perfect;
-        if (chart)
+        returned = decisions().perfectReturn();
+        if (chart) {
             m_chart.emplace(*chart);
+            returned = charts::priceChart(game().heldCards, *chart)
+                           .played[charts::Taken::best]
+                           .returned.value();
+        }
         if (slipsOneIn == 0)
             return;
         double blind = 0; // loses so much
         for (const Decision& decision : decisions().all())
             blind += decision.probability() * decision.anyHoldCost() / 5;
-        returned += (perfect - blind - returned) / slipsOneIn;
+        returned += (decisions().perfectReturn() - blind - returned) / slipsOneIn;
     }
 
     odds::Hold hold(const odds::DealtHand& hand, std::mt19937_64& chance) const
@@ -47,7 +48,6 @@ public:
     }
 
     double returned = 0;
-    double perfect = 0;
 
 private:
     int m_slipsOneIn;
@@ -69,7 +69,7 @@ public:
             asked.push_back(m_questions.next(record));
             const odds::DealtHand hand(game().heldCards, heldDeal(asked.back().cards, 0).places);
             answers.push_back(answerTo(decisions(), hand, m_player.hold(hand, m_chance)));
-            record.add(answers.back());
+            record.add(answers.back().decision, answers.back().isRight());
         }
     }
 

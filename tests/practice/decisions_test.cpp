@@ -28,12 +28,10 @@ TEST(Decisions, haveTheExactFiguresOfTheGame)
 {
     EXPECT_EQ(decisions().all().size(), 94U);
     std::int64_t deals = 0;
-    std::int64_t chartCost = 0;
     std::array<int, 2> close{}; // deals with a lead under half a credit and under one
     for (DecisionId id = 0; id < decisions().all().size(); ++id) {
         const Decision& decision = decisions()[id];
         deals += decision.deals;
-        chartCost += decision.chartCostSum;
         std::int64_t members = 0;
         for (const DealClass& deal : decisions().deals(id)) {
             members += deal.members;
@@ -50,9 +48,8 @@ TEST(Decisions, haveTheExactFiguresOfTheGame)
     EXPECT_EQ(deals, odds::FairOdds::deals);
     EXPECT_NEAR(100.0 * close[0] / odds::FairOdds::deals, 22.9, 0.05);
     EXPECT_NEAR(100.0 * close[1] / odds::FairOdds::deals, 43.9, 0.05);
-    EXPECT_NEAR(static_cast<double>(chartCost) / odds::DealtHand::worthUnit /
-                    odds::FairOdds::deals / 5,
-                0.0021241830, 1e-10);
+    EXPECT_NEAR(decisions().perfectReturn(), 0.9954390437, 1e-10);
+    EXPECT_NEAR(decisions().chartReturn(), 0.9933148607, 1e-10);
 
     const auto figures = [&](std::string_view name) {
         const Decision& decision = decisions()[decisions().find(name).value()];

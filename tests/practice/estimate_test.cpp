@@ -18,8 +18,9 @@ int insideOf(const Player& player, std::size_t answers, int sessions, double hal
     for (int seed = 1; seed <= sessions; ++seed) {
         Session session(player, static_cast<std::uint64_t>(seed));
         session.answerUntil(answers);
-        const Estimate told = estimateReturn(decisions(), session.answers, player.perfect);
-        EXPECT_NEAR(told.returned + told.closeLoss + told.slipLoss, player.perfect, 1e-12);
+        const Estimate told = estimateReturn(decisions(), session.answers);
+        EXPECT_NEAR(told.returned + told.closeLoss + told.slipLoss, decisions().perfectReturn(),
+                    1e-12);
         const double exact = player.returned;
         inside += exact >= told.low - 1e-12 && exact <= told.high + 1e-12 ? 1 : 0;
         sum += 50 * (told.high - told.low);
@@ -55,13 +56,13 @@ TEST(Estimate, doesNotTakeAHabitForSlips)
     while (answers.size() < 200) {
         const DecisionId id = questions.next(record).decision;
         answers.push_back({id, id == habit ? 0.75 : 0.0, id == habit});
-        record.add(answers.back());
+        record.add(id, id != habit);
     }
-    const Estimate told = estimateReturn(decisions(), answers, 0.9954);
+    const Estimate told = estimateReturn(decisions(), answers);
     EXPECT_NEAR(told.closeLoss, decisions()[habit].probability() * 0.75 / 5, 0.005);
     EXPECT_LT(told.slipLoss, 0.005);
-    EXPECT_EQ(told.low, estimateReturn(decisions(), answers, 0.9954).low) << "no chance in it";
-    EXPECT_LT(estimateReturn(decisions(), {}, 0.9954).low, 0.97) << "no answers yet";
+    EXPECT_EQ(told.low, estimateReturn(decisions(), answers).low) << "no chance in it";
+    EXPECT_LT(estimateReturn(decisions(), {}).low, 0.97) << "no answers yet";
 }
 
 } // namespace quillet::practice::test

@@ -77,7 +77,7 @@ TEST(Questions, comeBackToTheOneDecisionThatAPlayerGetsWrong)
             for (int i = 0; i < 100; ++i) {
                 const DecisionId id = questions.next(record).decision;
                 asked += id == wrong ? 1 : 0;
-                record.add({id, id == wrong ? 1.0 : 0.0, false});
+                record.add(id, id != wrong);
             }
             EXPECT_GE(asked, 10) << decisions()[wrong].name() << ", seed " << seed;
         }
@@ -117,11 +117,11 @@ TEST(Record, forgetsOldMistakes)
     Record record(decisions());
     EXPECT_EQ(record.state(0), State::unknown);
     for (int i = 0; i < 5; ++i)
-        record.add({0, 1, false});
+        record.add(0, false);
     EXPECT_GT(record.doubt(0), 0.9);
     EXPECT_EQ(record.state(0), State::shaky);
     for (int i = 0; i < 60; ++i)
-        record.add({0, 0, false});
+        record.add(0, true);
     EXPECT_LT(record.doubt(0), 0.02);
     EXPECT_EQ(record.state(0), State::firm);
 }
