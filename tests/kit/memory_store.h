@@ -17,7 +17,7 @@ public:
     {
         Settings settings;
         for (const auto& [key, text] : texts)
-            writeSetting(settings, application, "Preferences", key, text);
+            writeSetting(settings, application, section, key, text);
         return settings;
     }
 
@@ -34,6 +34,7 @@ public:
     [[nodiscard]] std::string location(const std::string&) const override { return "memory"; }
 
     std::map<std::string, std::string> texts;
+    std::string section = "Preferences"; // of all texts that are loaded
     std::string log;
     bool fails = false;
 };

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "practice/journal.h"
+#include "settings/settings_store.h"
+
+#include <QStringList>
+
+#include <array>
+#include <string_view>
+
+namespace quillet::practice_window
+{
+
+inline constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6",
+                                                           "8/5", "7/5", "6/5"};
+
+struct PracticePreferences {
+    practice::JudgedBy standard = practice::JudgedBy::perfect;
+    std::string chartFile;
+    std::string pays = "9/6";
+    int passMark = 95; // right answers of 100
+    bool sound = true;
+    std::string windowPlace; // of the toolkit, in base 64
+};
+
+struct LoadedPreferences {
+    PracticePreferences preferences;
+    QStringList problems; // sentences; what has one is as by default
+};
+
+[[nodiscard]] LoadedPreferences loadPracticePreferences(const SettingsStore& store);
+
+// Throws RunTimeError on failure.
+void savePracticePreferences(const PracticePreferences& preferences, SettingsStore& store);
+
+} // namespace quillet::practice_window
