@@ -4,7 +4,6 @@
 #include "charts/chart_search.h"
 #include "odds/hand_text.h"
 #include "odds_program/chart_card.h"
-#include "odds_program/chart_report.h"
 #include "odds_program/hand_stream.h"
 #include "odds_program/output_file.h"
 #include "odds_program/progress_bar.h"
@@ -52,7 +51,8 @@ odds::HeldCards heldCardsFor(const Request& request)
         throw;
     } catch (const std::runtime_error& error) {
         throw std::runtime_error(
-            error.what() + std::string("; a pay table is 9/6 or the like, nine numbers or a file"));
+            error.what() +
+            std::string("; a pay table is two numbers such as 9/6, nine numbers or a file"));
     }
 }
 
@@ -67,11 +67,11 @@ void checkFiles(const Request& request)
     const bool hands = request.question == Question::handsFromInput;
     const auto inputs = {request.pays, request.chartFile, std::string(hands ? "-" : "")};
     if (std::ranges::count_if(inputs, isStandardInput) > 1)
-        throw BadUsage("standard input can be read for one thing only");
+        throw BadUsage("only one of the inputs can be standard input");
     if (request.cardFile && std::ranges::any_of(inputs, [&request](const std::string& input) {
             return wouldReplace(*request.cardFile, input);
         }))
-        throw BadUsage("--card would replace the file that is read");
+        throw BadUsage("--card would overwrite an input file");
 }
 
 bool wantsColour()

@@ -141,7 +141,7 @@ void writeRow(std::ostream& out, const std::string& name, std::size_t number,
     if (example)
         writeHand(out, *example, top + air, height - 2 * air);
     else
-        out << drawnLine({"never plays", letters, wood}, right - handWidth, baseline, handWidth);
+        out << drawnLine({"never applies", letters, wood}, right - handWidth, baseline, handWidth);
     out << "</g>\n";
 }
 
@@ -173,8 +173,9 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
     double top = rowsTop;
     for (std::size_t row = 0; row < chart.size(); ++row, top += height)
         writeRow(out, charts::rowText(chart[row]), row + 1, examples[row], top, height);
-    constexpr std::string_view rules = "Play the first row that fits and keep the bold cards. Of "
-                                       "holds that fit alike the return takes the worst.";
+    constexpr std::string_view rules =
+        "Play the first row that fits and throw the pale cards away. "
+        "If several holds fit it, the return counts the worst.";
     constexpr double width = right - margin;
     out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none", wood)
         << drawnLine({rules, 2, wood}, margin, rowsBottom + 5.4, width, inMiddle)

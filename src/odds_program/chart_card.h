@@ -10,8 +10,8 @@
 namespace quillet::odds_program
 {
 
-// A chart as a page to print: A4, upright, as SVG. Each row has a hand for an example, the cards
-// to keep in front.
+// Writes a chart as a page to print, A4 in SVG. Each row has an example hand, the cards to keep
+// first.
 void writeChartCard(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price,
                     const std::vector<std::optional<charts::RowExample>>& examples,
                     const odds::Pays& pays);

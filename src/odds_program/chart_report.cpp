@@ -1,5 +1,3 @@
-#include "odds_program/chart_report.h"
-
 #include "odds/hand_text.h"
 #include "odds_program/reports.h"
 
@@ -17,9 +15,6 @@ using charts::Chart;
 using charts::ChartPrice;
 using charts::RowPrice;
 using charts::Taken;
-
-constexpr std::array<std::string_view, charts::allTaken.size()> takenNames{
-    "Best of the holds that fit", "Any of them", "Worst of them"};
 
 template <typename Kinds>
 void listKinds(std::ostream& out, const Kinds& kinds)
@@ -39,17 +34,26 @@ void reportRowKinds(std::ostream& out)
     listKinds(out, charts::discardKinds());
 }
 
+std::string_view nameOf(Taken taken)
+{
+    constexpr std::array<std::string_view, charts::allTaken.size()> names{
+        "Chart, best choice", "Chart, any choice", "Chart, worst choice"};
+    return names[static_cast<std::size_t>(taken)];
+}
+
+Table returnsTable(const ChartPrice& price)
+{
+    Table table{"returns",
+                "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
+                {{"play", "Play"}, {"return", "Return"}},
+                {{"Perfect play", percent(price.perfect.returned, 8)}}};
+    for (const Taken taken : charts::allTaken)
+        table.rows.push_back({nameOf(taken), percent(price.played[taken].returned, 8)});
+    return table;
+}
+
 Report chartReport(const Chart& chart, const ChartPrice& price)
 {
-    Table returns{"returns",
-                  "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
-                  {{"play", "Play"}, {"return", "Return"}},
-                  {{"Perfect play", percent(price.perfect.returned, 8)}},
-                  {}};
-    for (std::size_t way = 0; way < takenNames.size(); ++way)
-        returns.rows.push_back(
-            {takenNames[way], percent(price.played[static_cast<Taken>(way)].returned, 8)});
-
     Table rows{"rows",
                "\nThe loss of each row per 100 credits over all deals, taking the worst hold that\n"
                "fits, and its costliest deal\n\n",
@@ -76,7 +80,7 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
     }
     if (!idle.empty())
         rows.outro = "\nRows that never apply:\n" + idle;
-    return {returns, rows};
+    return {returnsTable(price), rows};
 }
 
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)

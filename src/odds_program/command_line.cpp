@@ -169,7 +169,7 @@ Question questionOf(const std::vector<Given>& given)
         const std::string name(kind->name);
         if (!kind->needs.empty())
             throw BadUsage(name + " is only for " + std::string(kind->needs));
-        throw BadUsage(name + " does not go with " + std::string(asked.asks[0]) +
+        throw BadUsage(name + " cannot be used with " + std::string(asked.asks[0]) +
                        (asked.asks[1].empty() ? "" : " " + std::string(asked.asks[1])));
     }
     return asked.question;
@@ -191,11 +191,12 @@ void checkValues(const Request& request)
     const bool data = request.style.format != Format::text;
     const bool exact = request.style.exact;
     if (question == Question::card && !oneChart)
-        throw BadUsage("--card is for one number of rows");
+        throw BadUsage("--card needs a single number of rows");
     if (question == Question::bestChart && oneChart && (data || exact))
-        throw BadUsage("--format and --exact do not go with --best-chart for one number of rows");
+        throw BadUsage(
+            "--format and --exact cannot be used with --best-chart for a single number of rows");
     if (question == Question::handsFromInput && data && exact)
-        throw BadUsage("--exact is for text only with hands on standard input");
+        throw BadUsage("with hands on standard input --exact is only for text");
     if (question == Question::sitting && request.hands > odds::mostHands)
         throw BadUsage("--sitting takes no more than 10M hands");
     if (question == Question::simulation && request.hands > odds::mostSimulated)
@@ -252,19 +253,19 @@ Questions, one at a time
                        first; # starts a comment
   --best-chart ROWS    the best chart found with at most that many rows, as a
                        chart file; 1..30: the loss for each number of rows
-  --card FILE          write the trainer's chart, or the one of --chart or
+  --card FILE          write the trainer's chart, or that of --chart or
                        --best-chart, as a page to print (SVG)
   --rows               the rows that a chart can have
   --version, --help
 
 Options
-  --pays TABLE         9/6, 8/5 ... (full house and flush for one credit), nine
-                       numbers for five credits, royal first, or a file
+  --pays TABLE         the pay table: 9/6, 8/5 ... (full house and flush for one
+                       credit), nine numbers for five credits, royal first, or
+                       a file
   --all                with a hand: all 32 holds
-  --bankroll CREDITS   with --sitting: the chance that fewer than five of these
-                       are left on the way
+  --bankroll CREDITS   with --sitting: the chance that these credits run out
   --seed NUMBER        with --simulate: seed of the random numbers (default 1)
-  --plays              with --chart: every deal and the hold that it plays
+  --plays              with --chart: every deal and the chart's hold
   --mistakes           with --chart: the deals that this chart misplays
   --format FORMAT      text, csv or json
   --exact              fractions in text too; csv and json always have them

@@ -7,18 +7,18 @@
 namespace quillet::odds_program
 {
 
-// A value under its name. A JSON value that is no text is a number.
+// A named value. In JSON it is a string or a number.
 struct Field {
     std::string name;
     std::string value;
     bool isText = false;
 };
 
-// The names, or the values, as a line of comma-separated values.
+// Writes the names, or the values, as a line of comma-separated values.
 void writeCsvNames(std::ostream& out, const std::vector<Field>& fields);
 void writeCsvValues(std::ostream& out, const std::vector<Field>& fields);
 
-// As a JSON object on one line, without the line's end.
+// Writes a JSON object on one line, without a newline.
 void writeJsonObject(std::ostream& out, const std::vector<Field>& fields);
 
 [[nodiscard]] std::string jsonText(const std::string& text);

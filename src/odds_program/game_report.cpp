@@ -23,9 +23,9 @@ using Strategies = std::array<Strategy, 4>;
 Strategies strategiesOf(const ChartPrice& chart)
 {
     return {{{"Perfect play", chart.perfect},
-             {"Chart, best choice", chart.played[Taken::best]},
-             {"Chart, any choice", chart.played[Taken::any]},
-             {"Chart, worst choice", chart.played[Taken::worst]}}};
+             {nameOf(Taken::best), chart.played[Taken::best]},
+             {nameOf(Taken::any), chart.played[Taken::any]},
+             {nameOf(Taken::worst), chart.played[Taken::worst]}}};
 }
 
 std::string rowName(std::size_t row)
@@ -33,13 +33,9 @@ std::string rowName(std::size_t row)
     return std::string(playName(static_cast<std::int16_t>(row + 1)));
 }
 
-Table returns(const Strategies& strategies, const ChartPrice& chart)
+Table returns(const ChartPrice& chart)
 {
-    Table table{"returns",
-                "Credits returned for every 100 bet, for a fairly shuffled deck\n\n",
-                {{"play", "Play"}, {"return", "Return"}}};
-    for (const Strategy& strategy : strategies)
-        table.rows.push_back({strategy.name, percent(strategy.odds.returned, 8)});
+    Table table = returnsTable(chart);
     table.outro =
         "\nOf the " + std::to_string(odds::FairOdds::deals) +
         " deals the coach accepts several holds for " + std::to_string(chart.dealsWithAChoice) +
@@ -53,15 +49,16 @@ Table returns(const Strategies& strategies, const ChartPrice& chart)
 
 Table hands(const Strategies& strategies, const odds::Pays& pays)
 {
-    Table table{"hands",
-                "\nWhat one hand does, in wagers of five credits: its variance and standard\n"
-                "deviation; what a hundred hands cost in credits; and how many hands it takes\n"
-                "for the edge to outweigh luck (1.96 standard deviations)\n\n",
-                {{"play", "Play"},
-                 {"variance", "Variance"},
-                 {"deviation", "Deviation"},
-                 {"cost of 100 hands", "100 hands cost"},
-                 {"edge shows after", "Edge shows after"}}};
+    Table table{
+        "hands",
+        "\nOne hand, in wagers of five credits: its variance and standard deviation; what a\n"
+        "hundred hands cost in credits; and how many hands it takes for the edge to\n"
+        "outweigh luck (1.96 standard deviations)\n\n",
+        {{"play", "Play"},
+         {"variance", "Variance"},
+         {"deviation", "Deviation"},
+         {"cost of 100 hands", "100 hands cost"},
+         {"edge shows after", "Edge shows after"}}};
     for (const Strategy& strategy : strategies) {
         const odds::OneHand one = odds::oneHand(strategy.odds.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
@@ -76,8 +73,8 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
 Table rows(const ChartPrice& chart)
 {
     Table table{"rows",
-                "\nWhat each row of the chart loses of 100 credits over all deals, and the deal\n"
-                "for which its best choice costs most credits\n\n",
+                "\nThe loss of each row of the chart per 100 credits over all deals, and the deal\n"
+                "for which its best choice costs the most credits\n\n",
                 {{"number", "No."},
                  {"row", "Row"},
                  {"deals", "Deals"},
@@ -123,7 +120,7 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
 Report gameReport(const ChartPrice& chart, const odds::Pays& pays)
 {
     const Strategies strategies = strategiesOf(chart);
-    return {returns(strategies, chart), hands(strategies, pays), rows(chart),
+    return {returns(chart), hands(strategies, pays), rows(chart),
             finalHands("perfect play", strategies[0], pays),
             finalHands("chart best choice", strategies[1], pays)};
 }

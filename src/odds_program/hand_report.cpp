@@ -28,7 +28,7 @@ std::string waysText(const odds::OutcomeCounts& counts)
     return text.empty() ? "nothing that pays" : text;
 }
 
-// The discards that the hold misses, and how much.
+// The discards that the hold would gain from if they were still in the deck, with the gain.
 std::string penaltiesText(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                           odds::Hold hold)
 {
@@ -69,8 +69,8 @@ std::string drawsText(const odds::HeldCards& heldCards, const odds::DealtHand& h
     return wrapped(text);
 }
 
-// The best hold is compared with the chart's or, if that is no worse, with the best of another
-// kind.
+// The hold that the best one is compared with: the chart's or, if that is as good, the best one of
+// another kind.
 odds::Hold rivalOf(const odds::DealtHand& hand, odds::Hold charts)
 {
     if (hand.worth[charts] < hand.worth[hand.bestHold])
@@ -99,7 +99,7 @@ std::vector<Column> columnsOf(Format format)
     std::vector<Column> columns{{"number", "No."},
                                 {"hold", "Hold"},
                                 {"expected", "Expected"},
-                                {"cost", "Costs"},
+                                {"cost", "Cost"},
                                 {"marks", "Is"}};
     if (format == Format::text)
         return columns;

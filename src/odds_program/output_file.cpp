@@ -28,7 +28,7 @@ using FileStatus = struct stat;
     throw std::system_error(error, std::generic_category());
 }
 
-// Signals that arrive during its life act after it.
+// Delays signals while it lives.
 class SignalsHeld
 {
 public:

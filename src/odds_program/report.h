@@ -17,7 +17,7 @@ namespace quillet::odds_program
 
 // A report is a list of tables, which can be printed as text, CSV or JSON.
 
-// A value, which is a number or words.
+// A number or words.
 struct Cell {
     template <std::convertible_to<std::string_view> Words>
     Cell(const Words& words) : text(std::string_view(words)), data(text)

@@ -7,13 +7,15 @@
 #include "odds_program/report.h"
 
 #include <array>
+#include <iosfwd>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace quillet::odds_program
 {
 
-// The worth of the game: returns, what one hand of it does, rows of the chart, final hands.
+// Returns, variance, rows of the chart and final hands.
 [[nodiscard]] Report gameReport(const charts::ChartPrice& chart, const odds::Pays& pays);
 
 // The holds of a deal, six and the chart's or all 32, and why the best is worth more. Text has
@@ -21,9 +23,8 @@ namespace quillet::odds_program
 [[nodiscard]] Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                                 const charts::Play& play, bool all, Format format);
 
-// What so many hands come to, for perfect play and the chart's best choice. With bars, the text
-// draws the distribution. Reports the share of the work that is done, first for the sitting, then
-// for the bankroll.
+// How a session turns out, for perfect play and the chart's best choice. With bars, the text draws
+// the distribution. Reports the progress first of the sitting and then of the bankroll.
 [[nodiscard]] Report sittingReport(const std::array<odds::OneHand, 2>& plays, std::int64_t hands,
                                    std::optional<std::int64_t> bankroll, bool bars,
                                    const odds::WorkProgress& progress);
@@ -33,7 +34,13 @@ namespace quillet::odds_program
 [[nodiscard]] Report simulationReport(const odds::Simulation& simulation,
                                       const charts::ChartPrice& chart, const odds::Pays& pays);
 
-// What a chart is worth, and each of its rows.
+// "Chart, best choice" and so on.
+[[nodiscard]] std::string_view nameOf(charts::Taken taken);
+
+// The returns of perfect play and of a chart.
+[[nodiscard]] Table returnsTable(const charts::ChartPrice& price);
+
+// The returns of a chart, and the price of each row.
 [[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);
 
 // The best chart found with at most this number of rows.
@@ -44,5 +51,14 @@ struct PricedChart {
 };
 
 [[nodiscard]] Report bestChartsReport(const std::vector<PricedChart>& found);
+
+// All rows that a chart can have and all conditions on discards, with their meanings.
+void reportRowKinds(std::ostream& out);
+
+// The chart as a file, with its price in comments.
+void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price);
+
+// Each class of deals with the worst hold that fits its row of the chart, as CSV.
+void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const charts::Chart& chart);
 
 } // namespace quillet::odds_program

@@ -23,19 +23,19 @@ Table returnsTable(const odds::Simulation& simulation, const charts::ChartPrice&
          {"return percent", "Return"},
          {"margin", "+-"},
          {"fair return", "From a fair deck"}}};
-    const auto add = [&](const char* name, const odds::PlayedHands& hands,
+    const auto add = [&](std::string_view name, const odds::PlayedHands& hands,
                          const odds::Fraction& fairReturn) {
         table.rows.push_back({name, played, rounded(100 * hands.returned(pays), 4),
                               played < 2 ? "unknown" : rounded(100 * hands.margin(pays), 4),
                               percent(fairReturn, 4)});
     };
-    add("Best holds", simulation.perfect, chart.perfect.returned);
-    add("Chart, best choice", simulation.player, chart.played[Taken::best].returned);
+    add("Perfect play", simulation.perfect, chart.perfect.returned);
+    add(nameOf(Taken::best), simulation.player, chart.played[Taken::best].returned);
     if (played < odds::tellingHands)
         table.outro =
-            "\nFewer than a million hands say next to nothing about a return: a royal is some\n"
-            "2 % of it and comes once in 40,000 hands, and the margin itself is computed\n"
-            "from the royals that happened to come.\n";
+            "\nFewer than a million hands say little about the return: royals make up about 2 %\n"
+            "of it and come once in 40,000 hands, and the margin is computed from the royals\n"
+            "that happened to come.\n";
     return table;
 }
 
@@ -44,8 +44,8 @@ Table handsTable(const odds::Simulation& simulation, const charts::ChartPrice& c
     Table table{"final hands",
                 "\nHow often each hand came up, and the average with a fair deck\n\n",
                 {{"final hand", "Final hand"},
-                 {"best holds", "Best holds"},
-                 {"fair best holds", "Fair deck"},
+                 {"perfect play", "Perfect play"},
+                 {"fair perfect play", "Fair deck"},
                  {"chart", "Chart"},
                  {"fair chart", "Fair deck"}}};
     const auto expected = [&](const odds::Fraction& chance) {

@@ -20,7 +20,8 @@ Cell percent(double share)
     return rounded(100 * share, 4);
 }
 
-// How the sittings spread. The lowest hundredth and the twentieth that royals lift are only named.
+// The distribution of results as bars, without the lowest 1 % and the highest 5 %, which royals
+// spread far.
 std::string barsOf(const odds::Sitting& sitting)
 {
     constexpr std::int64_t maxBars = 16;
@@ -50,7 +51,7 @@ std::string barsOf(const odds::Sitting& sitting)
            " % below and " + decimals(100 * sitting.chanceOf(from, endless), 1) + " % above.\n";
 }
 
-// Computes the same for perfect play and the chart, side by side.
+// Computes the same for perfect play and for the chart, in two threads.
 template <typename Compute>
 auto forBoth(const std::array<odds::OneHand, 2>& plays, const Compute& compute,
              const odds::WorkProgress& progress)
@@ -112,8 +113,8 @@ Table ruinTable(const std::array<std::array<double, 10>, 2>& ruined, std::int64_
                              "too few for another hand\n\n",
                          "after hands", "After hands");
     for (std::size_t tenth = 0; tenth < ruined[0].size(); ++tenth) {
-        // The first number of hands that is so many tenths.
-        const std::int64_t after = (hands * static_cast<std::int64_t>(tenth + 1) + 9) / 10;
+        const std::int64_t after =
+            (hands * static_cast<std::int64_t>(tenth + 1) + 9) / 10; // rounded up
         ruin.rows.push_back({after, percent(ruined[0][tenth]), percent(ruined[1][tenth])});
     }
     return ruin;

@@ -38,7 +38,7 @@ struct Lettering {
     double tracking = 0; // extra space between letters, as a share of the height
 };
 
-// Where a line is in its room, as the share of the free room before it.
+// Alignment of a line in its room: the share of the free room that is left of it.
 inline constexpr double atLeft = 0;
 inline constexpr double inMiddle = 0.5;
 inline constexpr double atRight = 1;

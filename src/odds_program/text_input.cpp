@@ -68,7 +68,7 @@ bool takeLine(std::istream& standardInput, std::string& line)
         fail("-");
     if (standardInput.fail() && !standardInput.eof())
         throw odds::BadInput("the line is longer than 4096 bytes");
-    const bool ended = !standardInput.eof(); // by the end of the line, which is counted
+    const bool ended = !standardInput.eof(); // with an end of line, which gcount includes
     line.assign(text.data(), static_cast<std::size_t>(standardInput.gcount()) - (ended ? 1 : 0));
     decode(line);
     return !standardInput.fail();

@@ -1,6 +1,6 @@
 #include "charts/chart_player.h"
 #include "odds_program/chart_card.h"
-#include "odds_program/chart_report.h"
+#include "odds_program/reports.h"
 #include "tests/kit/file_text.h"
 #include "tests/kit/held_cards.h"
 

@@ -205,7 +205,7 @@ TEST(Program, refusesHostileInputWithItsReason)
              {"-", "printf '2c2d3h4s5c\\n#\\n9\\033\\377\u2663'", 2,
               "line 3: '9\\x1b\\xff\u2663' is not a card"},
              {"-", "printf '\\377\\3769\\0c\\0'", 2, "UTF-16"},
-             {"--chart - --pays -", "", 2, "standard input can be read for one thing only"},
+             {"--chart - --pays -", "", 2, "only one of the inputs can be standard input"},
              {"--chart -", "printf '" + mark + "# mine\\r\\nnothing\\r\\n'", 0, "33.68670545"},
              {"--pays /dev/stdin", "printf '" + mark + "8/5\\r\\n'", 0, "97.29843375"},
              {"--format csv -", "printf '" + mark + "9c Tc Jc Kc Ad # mine\\r\\n'", 0, "Kc,12.340"},
