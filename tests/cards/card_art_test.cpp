@@ -1,12 +1,10 @@
 #include "cards/court.h"
 #include "engine/card.h"
-#include "platform/colour_contrast.h"
 #include "tests/kit/pixels.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <iterator>
 #include <map>
@@ -87,26 +85,6 @@ TEST(CardFaces, noClubHasAHole)
 {
     const QImage two = cardAt(4, 2);
     EXPECT_EQ(regions(two, [](QRgb pixel) { return qGray(pixel) > 128; }).size(), 1U);
-}
-
-TEST(CardFaces, indexStaysReadableUnderTheHatch)
-{
-    const QImage overlay = cardAt(hatch, 1);
-    for (int number = 0; number <= 51; ++number) {
-        const QImage card = cardAt(number, 1);
-        std::array<int, 2> grey{}; // of the paper and of the ink
-        std::array<int, 2> pixels{};
-        for (int y = index.top(); y <= index.bottom(); ++y)
-            for (int x = index.left(); x <= index.right(); ++x) {
-                const bool covered = overlay.pixel(x, y) != qRgb(255, 255, 255);
-                const std::size_t ink = isInk(card.pixel(x, y)) ? 1 : 0;
-                grey[ink] += qGray((covered ? overlay : card).pixel(x, y));
-                ++pixels[ink];
-            }
-        const auto paper = QColor::fromHsv(0, 0, grey[0] / pixels[0]);
-        const auto ink = QColor::fromHsv(0, 0, grey[1] / pixels[1]);
-        EXPECT_GE(contrast(ink, paper), 3) << number;
-    }
 }
 
 TEST(CardFaces, indexIsLargeClearOfTheBodyAndOfItsSuitsColour)

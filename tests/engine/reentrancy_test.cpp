@@ -79,20 +79,6 @@ TEST(Reentrancy, newGameWhileAWinIsCountedCreditsTheRestAtOnce)
     EXPECT_EQ(game.counters.won, 1);
 }
 
-TEST(Reentrancy, aClickRightAfterAskingForANewGameDealsNoHandInBetween)
-{
-    for (const bool automatic : {false, true}) {
-        Game game;
-        game.prfPokerAutoDeal = automatic;
-        game.in(300, [&] {
-            game.controller.initPokerScreen();
-            game.click();
-        });
-        game.deal(jacks);
-        expectOneFreshDeal(game, 2);
-    }
-}
-
 TEST(Reentrancy, aDeckClickBeforeTheFirstDealIsHeardWhenDealingIsByHand)
 {
     for (const auto& [moment, automatic] : {std::pair{100, false}, {900, false}, {900, true}}) {
