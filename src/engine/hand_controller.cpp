@@ -16,11 +16,6 @@ namespace
 {
 
 constexpr std::int16_t programsOwnCall = 3;
-constexpr int fadeSteps = 25;
-
-// By the number of cards held.
-constexpr std::array wrongCues{Cue::wrong, Cue::wrongOne, Cue::wrongTwo,
-                               Cue::wrong, Cue::wrong,    Cue::wrong};
 
 // Counts a sequence while it runs, even if an exception ends it.
 class RunningSequence
@@ -74,7 +69,7 @@ void HandController::runNewGame()
         m_state.handDealt = false;
         m_state.judgePending = false;
         m_state.holdFlags.fill(false);
-        for (int step = 1; step <= fadeSteps; ++step) {
+        for (int step = 1; step <= pace::fadeSteps; ++step) {
             m_ports.screen.fadeStatusText(step);
             if (!pause(epoch, pace::fadeStep))
                 return;
@@ -211,7 +206,7 @@ void HandController::refuseHold()
     const auto cardsHeld = static_cast<std::size_t>(std::ranges::count(m_state.holdFlags, true));
     m_state.handDealt = true;
     m_state.holdFlags.fill(false);
-    m_ports.cues.play(wrongCues[cardsHeld]);
+    m_ports.cues.play(pace::wrongCues[cardsHeld]);
     m_state.handBusy = false;
 }
 
@@ -276,7 +271,7 @@ void HandController::dealNextHandByItself(std::uint32_t epoch)
 void HandController::endFade()
 {
     if (std::exchange(m_firstDealComing, false))
-        m_ports.screen.fadeStatusText(fadeSteps);
+        m_ports.screen.fadeStatusText(pace::fadeSteps);
 }
 
 void HandController::charge()
@@ -312,12 +307,6 @@ void HandController::clearHand()
     m_state.handBusy = false;
     m_state.handDealt = false;
     m_state.holdFlags.fill(false);
-}
-
-void HandController::endGame()
-{
-    ++m_state.epoch;
-    m_next = Next::end;
 }
 
 bool HandController::pause(std::uint32_t epoch, std::int32_t delayTime)

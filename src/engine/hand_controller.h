@@ -53,7 +53,11 @@ public:
     void showPokerHand();
 
     // The window is closing: no sequence goes on after its pause, none starts.
-    void endGame();
+    void endGame()
+    {
+        ++m_state.epoch;
+        m_next = Next::end;
+    }
 
 private:
     // Runs a sequence. After the outermost one it starts the new game, if one was requested during

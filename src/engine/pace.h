@@ -5,10 +5,11 @@
 #include <array>
 #include <cstdint>
 
-// How fast a hand is shown. Pauses are in milliseconds.
+// How a hand is shown: its pauses, in milliseconds, and its cues.
 namespace quillet::pace
 {
 
+inline constexpr int fadeSteps = 25;
 inline constexpr std::int32_t fadeStep = 20;
 inline constexpr std::int32_t beforeFirstDeal = 1000;
 inline constexpr std::int32_t beforeFlights = 600; // if cards of the last deal were showing
@@ -16,6 +17,10 @@ inline constexpr std::int32_t beforeDealtFaces = 650;
 inline constexpr std::int32_t beforeDrawnFaces = 250;
 inline constexpr std::int32_t beforePay = 200;
 inline constexpr std::int32_t beforeNextDeal = 2500; // of automatic dealing
+
+// For a refused hold, by the number of cards held.
+inline constexpr std::array wrongCues{Cue::wrong, Cue::wrongOne, Cue::wrongTwo,
+                                      Cue::wrong, Cue::wrong,    Cue::wrong};
 
 // How a win is counted up.
 struct CountUp {
