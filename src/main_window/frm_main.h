@@ -24,7 +24,8 @@ class ChartPanel;
 class StatusBar;
 
 // The main window. It owns the running state (the preference fields, the hand, the counters) and
-// the objects that work on it. It forwards keys, clicks and menus, and loads and saves.
+// the objects that work on it. It forwards keys, clicks and menus, and loads and saves. Preferences
+// is a public base because the fixed names of its fields are members of the window.
 class frmMain : public QMainWindow, public Preferences, private GameScreen
 {
     Q_OBJECT
