@@ -47,6 +47,7 @@ public:
             EXPECT_EQ(window->counters().hands, hands + 1) << "the deck is dead";
         }
         close();
+        choose("mnuPoker"); // nothing starts after the end
         EXPECT_TRUE(errors.texts.empty()) << errors.texts.front();
         EXPECT_EQ(ended, std::vector{0});
         EXPECT_EQ(std::ranges::count(store.log, '='), 12) << "every setting is stored once";
@@ -187,6 +188,7 @@ private:
             std::ranges::sort(cards);
             EXPECT_EQ(cards, buildDeck()) << "every card once";
             m_deckClicks = 0;
+            sounds.names.clear(); // with the sound off, an old refusal would stay the last
         }
         const bool refused = !sounds.names.empty() && sounds.names.back().starts_with("wrong");
         EXPECT_FALSE(refused && m_wasDealt && m_deckClicks == 0) << "nobody asked to draw";
