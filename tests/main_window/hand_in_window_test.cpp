@@ -113,9 +113,11 @@ TEST(HandInWindow, theBestPlayHasAnArrow)
 {
     PlayedWindow game;
     game.store.texts["prfShowPokerPlay"] = "True";
-    ASSERT_TRUE(game.start());
-    const QRect row = game.placeOf("pkLabel10");
+    ASSERT_TRUE(game.start("2h 4s 6c 8d Th 3c 5d 7h 9s Kc"));
+    const QRect row = game.placeOf("pkLabel20");
     EXPECT_LT(qGray(game.picture().pixel(row.left() + 2, row.center().y() - 3)), 64);
+    game.draw("");
+    EXPECT_EQ(game.rowColour(21), grey) << "a lost hand lights nothing";
 }
 
 TEST(HandInWindow, lastsOnDisplaysOfOtherScales)

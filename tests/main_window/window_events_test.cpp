@@ -20,11 +20,6 @@ namespace
 constexpr int longPause = 1000; // moments of a start, in milliseconds
 constexpr int faceDown = 1700;
 
-void closeWindow(PlayedWindow& game)
-{
-    whileOpen<frmExitNoBanner>([&] { game.window->close(); }, [](frmExitNoBanner&) {});
-}
-
 } // namespace
 
 TEST(WindowEvents, clicksAndANewGameInAPauseDealOneFreshHand)
@@ -100,25 +95,6 @@ TEST(WindowEvents, automaticDealingUntickedInItsPauseStops)
     EXPECT_EQ(game.counters(), "0/1/1") << "no further hand";
     game.clickDeck();
     EXPECT_EQ(game.counters(), "-5/2/1") << "the deck is never dead";
-}
-
-TEST(WindowEvents, closingInAnyPauseEndsEverything)
-{
-    for (const int moment : {longPause, faceDown}) {
-        PlayedWindow game;
-        std::string counters;
-        game.in(moment, [&] {
-            closeWindow(game);
-            counters = game.counters();
-        });
-        EXPECT_TRUE(game.start());
-        EXPECT_EQ(game.ended, std::vector<int>{0}) << moment;
-        EXPECT_EQ(game.counters(), counters) << "the interrupted sequence goes nowhere";
-        EXPECT_FALSE(game.window->isVisible());
-        game.choose("mnuPoker");
-        EXPECT_EQ(game.counters(), counters);
-        EXPECT_TRUE(game.errors.texts.empty());
-    }
 }
 
 TEST(WindowEvents, theSettingsAreWrittenOnceBeforeTheExitScreen)
