@@ -84,109 +84,102 @@ bool wantsColour()
 
 Style styleFor(const Request& request)
 {
-    Style style = request.style;
-    style.colour = wantsColour();
-    return style;
+    return {request.style.format, request.style.exact, wantsColour()};
 }
 
-Report answerGame(const Request& request)
+// What an answer is computed from.
+struct Inputs {
+    [[nodiscard]] charts::ChartPrice price() const { return charts::priceChart(heldCards, chart); }
+
+    const Request& request;
+    charts::Chart chart = chartFor(request);
+    odds::HeldCards heldCards = heldCardsFor(request);
+};
+
+Report answerGame(const Inputs& in)
 {
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    return gameReport(charts::priceChart(heldCards, charts::trainersChart()), heldCards.pays());
+    return gameReport(in.price(), in.heldCards.pays());
 }
 
-Report answerHand(const Request& request)
+Report answerMistakes(const Inputs& in)
 {
-    auto places = odds::parseHand(request.hand);
+    return mistakesReport(charts::mistakesOf(in.heldCards, in.chart));
+}
+
+Report answerChart(const Inputs& in)
+{
+    return chartReport(in.chart, in.price());
+}
+
+Report answerHand(const Inputs& in)
+{
+    auto places = odds::parseHand(in.request.hand);
     std::ranges::sort(places);
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    const odds::DealtHand hand(heldCards, places);
-    const charts::ChartPlayer player(charts::trainersChart());
-    return handReport(heldCards, hand, player.play(hand), request.allHolds, request.style.format);
+    const odds::DealtHand hand(in.heldCards, places);
+    return handReport(in.heldCards, hand, charts::ChartPlayer(in.chart).play(hand),
+                      in.request.allHolds, in.request.style.format);
 }
 
-void answerHandsFromInput(const Request& request, std::ostream& out)
+void answerHandsFromInput(const Inputs& in, std::ostream& out)
 {
     std::cin.tie(nullptr); // answerHands flushes less often
-    answerHands(std::cin, out, heldCardsFor(request), request.allHolds, styleFor(request));
+    answerHands(std::cin, out, in.heldCards, in.request.allHolds, styleFor(in.request));
 }
 
-Report answerMistakes(const Request& request)
-{
-    const charts::Chart chart = chartFor(request);
-    return mistakesReport(charts::mistakesOf(heldCardsFor(request), chart));
-}
-
-Report answerSitting(const Request& request)
+Report answerSitting(const Inputs& in)
 {
     ProgressBar bar;
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    const odds::Pays& pays = heldCards.pays();
-    const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
+    const odds::Pays& pays = in.heldCards.pays();
+    const charts::ChartPrice chart = in.price();
     return sittingReport({odds::oneHand(chart.perfect.chances, pays),
                           odds::oneHand(chart.played[charts::Taken::best].chances, pays)},
-                         request.hands, request.bankroll, isatty(STDOUT_FILENO) == 1,
+                         in.request.hands, in.request.bankroll, isatty(STDOUT_FILENO) == 1,
                          [&bar](double share) { bar.show(share); });
 }
 
-Report answerSimulation(const Request& request)
+Report answerSimulation(const Inputs& in)
 {
     ProgressBar bar;
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    const charts::Chart chart = charts::trainersChart();
-    const charts::ChartPlayer player(chart);
+    const charts::ChartPlayer player(in.chart);
     const odds::Simulation simulation = odds::simulate(
-        heldCards, [&player](const odds::DealtHand& hand) { return player.bestHold(hand); },
-        request.seed, request.hands, std::max(1U, std::thread::hardware_concurrency()),
+        in.heldCards, [&player](const odds::DealtHand& hand) { return player.bestHold(hand); },
+        in.request.seed, in.request.hands, std::max(1U, std::thread::hardware_concurrency()),
         [&](std::int64_t done) {
-            bar.show(static_cast<double>(done) / static_cast<double>(request.hands));
+            bar.show(static_cast<double>(done) / static_cast<double>(in.request.hands));
         });
-    return simulationReport(simulation, charts::priceChart(heldCards, chart), heldCards.pays());
+    return simulationReport(simulation, in.price(), in.heldCards.pays());
 }
 
-Report answerChart(const Request& request)
+void answerBestChart(const Inputs& in, std::ostream& out)
 {
-    const charts::Chart chart = chartFor(request);
-    return chartReport(chart, charts::priceChart(heldCardsFor(request), chart));
-}
-
-void answerPlays(const Request& request, std::ostream& out)
-{
-    const charts::Chart chart = chartFor(request);
-    reportPlays(out, heldCardsFor(request), chart);
-}
-
-void answerBestChart(const Request& request, std::ostream& out)
-{
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    charts::ChartSearch search(heldCards);
-    const std::size_t count = request.maxRows - request.minRows + 1;
+    charts::ChartSearch search(in.heldCards);
+    const std::size_t count = in.request.maxRows - in.request.minRows + 1;
     std::vector<PricedChart> found;
     ProgressBar bar;
-    for (std::size_t rows = request.minRows; rows <= request.maxRows; ++rows) {
+    for (std::size_t rows = in.request.minRows; rows <= in.request.maxRows; ++rows) {
         const charts::Chart chart = search.best(rows, [&](double share) {
             bar.show((static_cast<double>(found.size()) + share) / static_cast<double>(count));
         });
-        found.push_back({rows, chart, charts::priceChart(heldCards, chart)});
+        found.push_back({rows, chart, charts::priceChart(in.heldCards, chart)});
     }
     if (count == 1)
         writeChartFile(out, found.front().chart, found.front().price);
     else
-        writeReport(out, bestChartsReport(found), styleFor(request));
+        writeReport(out, bestChartsReport(found), styleFor(in.request));
 }
 
-void answerCard(const Request& request)
+void answerCard(const Inputs& in)
 {
     ProgressBar bar;
-    charts::Chart chart = chartFor(request);
-    const odds::HeldCards heldCards = heldCardsFor(request);
-    if (request.maxRows > 0)
-        chart = charts::ChartSearch(heldCards).best(request.maxRows,
-                                                    [&bar](double share) { bar.show(share); });
+    const std::size_t rows = in.request.maxRows;
+    const charts::Chart chart =
+        rows == 0 ? in.chart : charts::ChartSearch(in.heldCards).best(rows, [&bar](double share) {
+            bar.show(share);
+        });
     std::ostringstream page;
-    writeChartCard(page, chart, charts::priceChart(heldCards, chart),
-                   charts::rowExamples(heldCards, chart), heldCards.pays());
-    writeFile(*request.cardFile, page.str());
+    writeChartCard(page, chart, charts::priceChart(in.heldCards, chart),
+                   charts::rowExamples(in.heldCards, chart), in.heldCards.pays());
+    writeFile(*in.request.cardFile, page.str());
 }
 
 } // namespace
@@ -194,6 +187,7 @@ void answerCard(const Request& request)
 void answer(const Request& request, std::ostream& out)
 {
     checkFiles(request);
+    const auto in = [&request] { return Inputs{request}; };
     const auto print = [&](const Report& report) { writeReport(out, report, styleFor(request)); };
     switch (request.question) {
     case Question::help:
@@ -205,25 +199,25 @@ void answer(const Request& request, std::ostream& out)
     case Question::rowKinds:
         return reportRowKinds(out);
     case Question::game:
-        return print(answerGame(request));
+        return print(answerGame(in()));
     case Question::hand:
-        return print(answerHand(request));
+        return print(answerHand(in()));
     case Question::handsFromInput:
-        return answerHandsFromInput(request, out);
+        return answerHandsFromInput(in(), out);
     case Question::mistakes:
-        return print(answerMistakes(request));
+        return print(answerMistakes(in()));
     case Question::sitting:
-        return print(answerSitting(request));
+        return print(answerSitting(in()));
     case Question::simulation:
-        return print(answerSimulation(request));
+        return print(answerSimulation(in()));
     case Question::chart:
-        return print(answerChart(request));
+        return print(answerChart(in()));
     case Question::plays:
-        return answerPlays(request, out);
+        return reportPlays(out, heldCardsFor(request), chartFor(request));
     case Question::bestChart:
-        return answerBestChart(request, out);
+        return answerBestChart(in(), out);
     case Question::card:
-        return answerCard(request);
+        return answerCard(in());
     }
 }
 

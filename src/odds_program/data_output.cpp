@@ -20,28 +20,17 @@ std::string quoted(const std::string& text, char escape)
     return result + '"';
 }
 
-void writeCsvLine(std::ostream& out, const std::vector<Field>& fields, std::string Field::*part)
+} // namespace
+
+void writeCsvLine(std::ostream& out, const std::vector<Field>& fields)
 {
     const char* separator = "";
     for (const Field& field : fields) {
-        const std::string& text = field.*part;
-        const bool isPlain = text.find_first_of(",\"\n") == std::string::npos;
-        out << separator << (isPlain ? text : quoted(text, '"'));
+        const bool isPlain = field.value.find_first_of(",\"\n") == std::string::npos;
+        out << separator << (isPlain ? field.value : quoted(field.value, '"'));
         separator = ",";
     }
     out << '\n';
-}
-
-} // namespace
-
-void writeCsvNames(std::ostream& out, const std::vector<Field>& fields)
-{
-    writeCsvLine(out, fields, &Field::name);
-}
-
-void writeCsvValues(std::ostream& out, const std::vector<Field>& fields)
-{
-    writeCsvLine(out, fields, &Field::value);
 }
 
 void writeJsonObject(std::ostream& out, const std::vector<Field>& fields)

@@ -14,9 +14,8 @@ struct Field {
     bool isText = false;
 };
 
-// Writes the names, or the values, as a line of comma-separated values.
-void writeCsvNames(std::ostream& out, const std::vector<Field>& fields);
-void writeCsvValues(std::ostream& out, const std::vector<Field>& fields);
+// Writes the values as a line of comma-separated values.
+void writeCsvLine(std::ostream& out, const std::vector<Field>& fields);
 
 // Writes a JSON object on one line, without a newline.
 void writeJsonObject(std::ostream& out, const std::vector<Field>& fields);

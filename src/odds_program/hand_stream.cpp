@@ -82,7 +82,7 @@ void answerHands(std::istream& in, std::ostream& out, const odds::HeldCards& hel
                         style);
             break;
         case Format::csv:
-            writeCsvValues(out, fieldsOf(hand, player.play(hand)));
+            writeCsvLine(out, fieldsOf(hand, player.play(hand)));
             break;
         case Format::json:
             writeJsonObject(out, fieldsOf(hand, player.play(hand)));

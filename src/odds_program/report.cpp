@@ -140,10 +140,12 @@ std::vector<Field> fieldsOf(const Table& table, const std::vector<Cell>& row, Fo
 void writeWideCsv(std::ostream& out, const Table& table)
 {
     const std::vector<Cell> none(table.columns.size(), "");
-    const auto& first = table.rows.empty() ? none : table.rows.front();
-    writeCsvNames(out, fieldsOf(table, first, Format::csv));
+    auto names = fieldsOf(table, table.rows.empty() ? none : table.rows.front(), Format::csv);
+    for (Field& field : names)
+        field.value = field.name;
+    writeCsvLine(out, names);
     for (const auto& row : table.rows)
-        writeCsvValues(out, fieldsOf(table, row, Format::csv));
+        writeCsvLine(out, fieldsOf(table, row, Format::csv));
 }
 
 void writeLongCsv(std::ostream& out, const Report& report)
@@ -152,11 +154,11 @@ void writeLongCsv(std::ostream& out, const Report& report)
     for (const Table& table : report)
         for (const auto& row : table.rows)
             for (std::size_t i = 1; i < row.size(); ++i)
-                writeCsvValues(out, {{"table", table.name},
-                                     {"row", row[0].data},
-                                     {"field", table.columns[i].field},
-                                     {"value", row[i].data},
-                                     {"fraction", row[i].fraction}});
+                writeCsvLine(out, {{"table", table.name},
+                                   {"row", row[0].data},
+                                   {"field", table.columns[i].field},
+                                   {"value", row[i].data},
+                                   {"fraction", row[i].fraction}});
 }
 
 void writeJson(std::ostream& out, const Report& report)

@@ -119,25 +119,6 @@ std::string codeOf(char sign)
     return std::to_string(static_cast<int>(sign));
 }
 
-// Calls visit for each letter with the position of its outline's origin. Returns the width of the
-// line. The height is 1.
-template <typename Visit>
-double layOut(const Lettering& line, const Visit& visit)
-{
-    double x = 0;
-    for (const char letter : line.text) {
-        if (letter == ' ') {
-            x += blankBetweenWords + line.tracking;
-            continue;
-        }
-        const char sign = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-        const Letter& found = letterOf(sign);
-        visit(sign, x + found.left + line.tracking / 2);
-        x += found.advance + line.tracking;
-    }
-    return x;
-}
-
 // SVG paths have no circles and rectangles.
 std::string svgPath(std::string_view outline)
 {
@@ -209,9 +190,18 @@ std::string cardMarkDefinitions()
 std::string drawnLine(const Lettering& line, double x, double y, double room, double align)
 {
     std::string letters;
-    const double width = layOut(line, [&letters](char sign, double at) {
-        letters += svg(R"(<use href="#l@" x="@"/>)", {codeOf(sign), at});
-    });
+    double width = 0; // of a line one unit high
+    for (const char letter : line.text) {
+        if (letter == ' ') {
+            width += blankBetweenWords + line.tracking;
+            continue;
+        }
+        const Letter& found =
+            letterOf(static_cast<char>(std::toupper(static_cast<unsigned char>(letter))));
+        letters += svg(R"(<use href="#l@" x="@"/>)",
+                       {codeOf(found.sign), width + found.left + line.tracking / 2});
+        width += found.advance + line.tracking;
+    }
     const double height = std::min(line.height, room / width);
     const double left = x + align * (room - height * width);
     return svg("<g fill=\"@\" stroke=\"@\" transform=\"translate(@ @) scale(@)\">@</g>\n",
