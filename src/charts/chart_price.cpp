@@ -1,7 +1,5 @@
 #include "charts/chart_price.h"
 
-#include "engine/pay_table.h"
-
 #include <bit>
 
 namespace quillet::charts
@@ -10,50 +8,7 @@ namespace quillet::charts
 namespace
 {
 
-// Every number of holds that can fit a row, 1 to 10, divides it, so that each gets a whole share.
-constexpr std::int64_t shares = 2520;
-
-odds::Fraction perCreditBet(odds::Int128 sum)
-{
-    constexpr odds::Int128 unit =
-        odds::Int128{odds::FairOdds::deals} * shares * wager * odds::DealtHand::worthUnit;
-    return {sum, unit};
-}
-
-// Adds up the deals that one row plays. Costs are in shares of a worth unit.
-class RowSum
-{
-public:
-    void add(const odds::DealtHand& hand, int members, const PerTaken<std::int64_t>& costs)
-    {
-        m_deals += members;
-        for (const Taken taken : allTaken) {
-            m_cost[taken] += odds::Int128{costs[taken]} * members;
-            if (costs[taken] > m_highest[taken]) {
-                m_highest[taken] = costs[taken];
-                m_places[taken] = hand.places;
-            }
-        }
-    }
-
-    [[nodiscard]] RowPrice price() const
-    {
-        RowPrice price{m_deals, {}, {}};
-        for (const Taken taken : allTaken) {
-            price.loss[taken] = perCreditBet(m_cost[taken]);
-            price.costliest[taken] = {
-                {m_highest[taken], odds::Int128{odds::DealtHand::worthUnit} * shares},
-                m_places[taken]};
-        }
-        return price;
-    }
-
-private:
-    std::int64_t m_deals = 0;
-    PerTaken<odds::Int128> m_cost{};
-    PerTaken<std::int64_t> m_highest{};
-    PerTaken<std::array<odds::DeckPlace, 5>> m_places{};
-};
+constexpr std::int64_t shares = CostSum::shares;
 
 // Calls visit with each hold that is taken, and the shares of the deal in which it is.
 template <typename Visit>
@@ -88,34 +43,39 @@ void forEachPlayedDeal(const odds::HeldCards& heldCards, const Chart& chart,
 ChartPrice priceChart(const odds::HeldCards& heldCards, const Chart& chart)
 {
     ChartPrice price;
-    std::vector<RowSum> rows(chart.size());
+    price.rows.resize(chart.size());
+    std::vector<PerTaken<CostSum>> costs(chart.size());
     odds::FinalHands perfect(heldCards);
     // Most deals are played perfectly, so only the differences from perfect play are added up.
     PerTaken<odds::FinalHands> differences{{perfect, perfect, perfect}};
     forEachPlayedDeal(heldCards, chart, [&](const PlayedDeal& deal) {
         const odds::DealtHand& hand = deal.hand;
         perfect.add(hand, hand.bestHold, deal.members * shares);
-        PerTaken<std::int64_t> costs{};
+        price.rows[deal.play.row].deals += deal.members;
+        price.dealsWithAChoice += deal.choices == 1 ? 0 : deal.members;
+        price.dealsPlayedPerfectly +=
+            hand.worth[deal.bestHold] == hand.worth[hand.bestHold] ? deal.members : 0;
         for (const Taken taken : allTaken) {
+            std::int64_t cost = 0;
             forEachTaken(deal, taken, [&](odds::Hold hold, std::int64_t share) {
                 if (hold == hand.bestHold)
                     return;
-                costs[taken] += (hand.worth[hand.bestHold] - hand.worth[hold]) * share;
+                cost += (hand.worth[hand.bestHold] - hand.worth[hold]) * share;
                 differences[taken].add(hand, hold, deal.members * share);
                 differences[taken].add(hand, hand.bestHold, -deal.members * share);
             });
+            costs[deal.play.row][taken].add(hand, cost, deal.members);
         }
-        rows[deal.play.row].add(hand, deal.members, costs);
-        price.dealsWithAChoice += deal.choices == 1 ? 0 : deal.members;
-        price.dealsPlayedPerfectly += costs[Taken::best] == 0 ? deal.members : 0;
     });
     price.perfect = perfect.odds();
     for (const Taken taken : allTaken) {
         differences[taken].add(perfect);
         price.played[taken] = differences[taken].odds();
+        for (std::size_t row = 0; row < chart.size(); ++row) {
+            price.rows[row].loss[taken] = costs[row][taken].perCreditBet();
+            price.rows[row].costliest[taken] = costs[row][taken].costliest();
+        }
     }
-    for (const RowSum& row : rows)
-        price.rows.push_back(row.price());
     return price;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/chart_player.h"
+#include "charts/cost_sum.h"
 #include "odds/fair_odds.h"
 
 #include <array>
@@ -19,11 +20,6 @@ struct PerTaken : std::array<T, allTaken.size()> {
     using std::array<T, allTaken.size()>::operator[];
     T& operator[](Taken taken) { return (*this)[static_cast<std::size_t>(taken)]; }
     const T& operator[](Taken taken) const { return (*this)[static_cast<std::size_t>(taken)]; }
-};
-
-struct CostliestDeal {
-    odds::Fraction cost;                     // in credits
-    std::array<odds::DeckPlace, 5> places{}; // not set when no deal costs anything
 };
 
 // One row over all deals that it plays. The losses are against perfect play, in credits per credit
