@@ -88,11 +88,14 @@ Chart parseChart(std::string_view text)
     return chart;
 }
 
-Chart trainersChart()
+const Chart& trainersChart()
 {
-    Chart chart;
-    for (std::int16_t code = 1; code <= playCodeCount; ++code)
-        chart.push_back({*findRowKind(playName(code))});
+    static const Chart chart = [] {
+        Chart rows;
+        for (std::int16_t code = 1; code <= playCodeCount; ++code)
+            rows.push_back({*findRowKind(playName(code))});
+        return rows;
+    }();
     return chart;
 }
 

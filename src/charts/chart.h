@@ -29,8 +29,8 @@ using Chart = std::vector<Row>;
 // end with the row for nothing gets it. Throws BadInput, which says in which line and why.
 [[nodiscard]] Chart parseChart(std::string_view text);
 
-// The trainer's own.
-[[nodiscard]] Chart trainersChart();
+// The trainer's own: row 0 is that of play code 1, and so on.
+[[nodiscard]] const Chart& trainersChart();
 
 // "4 to a flush; no high, a 10"
 [[nodiscard]] std::string rowText(const Row& row);

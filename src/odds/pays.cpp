@@ -20,6 +20,13 @@ constexpr std::string_view digits = "0123456789";
 constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr std::string_view separators = " \t\r\v\f,:=";
 
+// The trainer's payout by outcome.
+constexpr std::array<Payout, outcomes> payouts = [] {
+    std::array<Payout, outcomes> all{};
+    std::ranges::copy(payTable, all.begin() + 1);
+    return all;
+}();
+
 struct Line {
     std::string place; // for complaints
     std::string_view text;
@@ -46,11 +53,10 @@ std::int64_t numberIn(std::string_view word, const std::string& place)
 // "9/6" and the like.
 Pays shortTable(const Line& line)
 {
-    constexpr std::int64_t credits = 5;
     const auto slash = line.text.find('/');
     Pays pays = trainersPays();
-    pays[fullHouse] = credits * numberIn(line.text.substr(0, slash), line.place);
-    pays[flush] = credits * numberIn(line.text.substr(slash + 1), line.place);
+    pays[fullHouse] = wager * numberIn(line.text.substr(0, slash), line.place);
+    pays[flush] = wager * numberIn(line.text.substr(slash + 1), line.place);
     if (std::max(pays[fullHouse], pays[flush]) > mostPaid)
         throw BadInput(line.place + ": '" + printable(line.text) + "' pays too much");
     return pays;
@@ -113,19 +119,20 @@ std::vector<Line> linesIn(std::string_view text)
 Pays trainersPays()
 {
     Pays pays{};
-    std::ranges::transform(payTable, pays.begin() + 1, &Payout::pays);
+    std::ranges::transform(payouts, pays.begin(), &Payout::pays);
     return pays;
 }
 
 std::size_t outcomeOf(std::span<const Card, 5> finalHand)
 {
-    const Payout* found = payoutFor(EvaluatePokerHand(finalHand, true));
-    return found == nullptr ? 0 : static_cast<std::size_t>(found - payTable.data()) + 1;
+    const auto found =
+        std::ranges::find(payouts, EvaluatePokerHand(finalHand, true), &Payout::playCode);
+    return found == payouts.end() ? 0 : static_cast<std::size_t>(found - payouts.begin());
 }
 
 std::string_view outcomeName(std::size_t outcome)
 {
-    return outcome == 0 ? "nothing" : playName(payTable[outcome - 1].playCode);
+    return outcome == 0 ? "nothing" : playName(payouts[outcome].playCode);
 }
 
 bool looksLikePays(std::string_view text)
@@ -157,17 +164,6 @@ Pays parsePays(std::string_view text)
         throw BadInput("pay table: the royal comes first and the high pair last, not the other way "
                        "round");
     return pays;
-}
-
-std::string paysText(const Pays& pays)
-{
-    std::string text;
-    for (std::size_t outcome = 1; outcome < outcomes; ++outcome) {
-        if (!text.empty())
-            text += ' ';
-        text += std::to_string(pays[outcome]);
-    }
-    return text;
 }
 
 } // namespace quillet::odds

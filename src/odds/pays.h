@@ -37,7 +37,4 @@ inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 // Throws BadInput, which says where and why.
 [[nodiscard]] Pays parsePays(std::string_view text);
 
-// "4000 250 125 45 30 20 15 10 5", as parsePays reads it.
-[[nodiscard]] std::string paysText(const Pays& pays);
-
 } // namespace quillet::odds

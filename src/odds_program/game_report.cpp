@@ -1,4 +1,3 @@
-#include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "odds/hand_text.h"
 #include "odds_program/reports.h"
@@ -26,11 +25,6 @@ Strategies strategiesOf(const ChartPrice& chart)
              {nameOf(Taken::best), chart.played[Taken::best]},
              {nameOf(Taken::any), chart.played[Taken::any]},
              {nameOf(Taken::worst), chart.played[Taken::worst]}}};
-}
-
-std::string rowName(std::size_t row)
-{
-    return std::string(playName(static_cast<std::int16_t>(row + 1)));
 }
 
 Table returns(const ChartPrice& chart)
@@ -62,10 +56,10 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
     for (const Strategy& strategy : strategies) {
         const odds::OneHand one = odds::oneHand(strategy.odds.chances, pays);
         const auto shows = one.handsUntilTheEdgeShows();
-        table.rows.push_back({strategy.name, rounded(one.variance(), 4),
-                              rounded(std::sqrt(one.variance()), 4),
-                              exact((odds::Fraction(1, 1) - strategy.odds.returned) * 500, 4),
-                              shows ? rounded(*shows, 0) : "never"});
+        table.rows.push_back(
+            {strategy.name, rounded(one.variance(), 4), rounded(std::sqrt(one.variance()), 4),
+             exact((odds::Fraction(1, 1) - strategy.odds.returned) * (100 * wager), 4),
+             shows ? rounded(*shows, 0) : "never"});
     }
     return table;
 }
@@ -87,11 +81,11 @@ Table rows(const ChartPrice& chart)
         const charts::RowPrice& row = chart.rows[i];
         const charts::CostliestDeal& costliest = row.costliest[Taken::best];
         const bool costs = costliest.cost != odds::Fraction();
-        table.rows.push_back({static_cast<std::int64_t>(i + 1), rowName(i), row.deals,
-                              percent(row.loss[Taken::best], 5), percent(row.loss[Taken::any], 5),
-                              percent(row.loss[Taken::worst], 5),
-                              costs ? closeCards(costliest.places) : "",
-                              costs ? exact(costliest.cost, 2) : ""});
+        table.rows.push_back(
+            {static_cast<std::int64_t>(i + 1), charts::rowText(charts::trainersChart()[i]),
+             row.deals, percent(row.loss[Taken::best], 5), percent(row.loss[Taken::any], 5),
+             percent(row.loss[Taken::worst], 5), costs ? closeCards(costliest.places) : "",
+             costs ? exact(costliest.cost, 2) : ""});
     }
     return table;
 }

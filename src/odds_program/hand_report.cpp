@@ -1,5 +1,4 @@
 #include "charts/plain_kinds.h"
-#include "engine/hand_evaluation.h"
 #include "odds/hand_text.h"
 #include "odds_program/reports.h"
 #include "practice/reason.h"
@@ -142,7 +141,7 @@ Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
     Table table{"holds",
                 odds::holdText(hand.places, odds::holdAll) + ": row " +
                     std::to_string(play.row + 1) + " of the chart, " +
-                    std::string(playName(static_cast<std::int16_t>(play.row + 1))) + "\n\n",
+                    charts::rowText(charts::trainersChart()[play.row]) + "\n\n",
                 columnsOf(format)};
     std::array<odds::Hold, odds::holds> order{};
     std::iota(order.begin(), order.end(), 0U);
