@@ -38,14 +38,10 @@ HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold)
 
 bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
 {
-    const RowKind& kind = rowKinds()[row.kind];
-    if (kind.allows == nullptr && row.discards == 0)
-        return true;
-    const KeptCards kept(hand, hold);
-    const KeptCards thrown(hand, odds::holdAll & ~hold);
-    return (kind.allows == nullptr ||
-            kind.allows(HoldFacts(kept.cards()), HoldFacts(thrown.cards()))) &&
-           fitAll(row.discards, DiscardFacts(kept.cards(), thrown.cards()));
+    const DiscardSet conditions = row.discards | rowKinds()[row.kind].discards;
+    return conditions == 0 ||
+           fitAll(conditions, DiscardFacts(KeptCards(hand, hold).cards(),
+                                           KeptCards(hand, odds::holdAll & ~hold).cards()));
 }
 
 ChartPlayer::ChartPlayer(const Chart& chart) : m_chart(chart)

@@ -16,7 +16,7 @@ constexpr RankSet nine = 1U << 8;
 
 using T = const DiscardFacts&;
 
-constexpr std::array<DiscardKind, 21> kinds{{
+constexpr std::array<DiscardKind, 22> kinds{{
     {"no flush card", "None is of the suit of the kept cards, when these are of one suit.",
      [](T t) { return t.flushCards == 0; }},
     {"a flush card", "One or more are of the suit of the kept cards, which are of one suit.",
@@ -44,8 +44,16 @@ constexpr std::array<DiscardKind, 21> kinds{{
     {"a 9", "A nine or more.", [](T t) { return (t.ranks & nine) != 0; }},
     {"no 8", "No eight.", [](T t) { return (t.ranks & eight) == 0; }},
     {"no pair", "No two of one rank.", [](T t) { return !t.pair; }},
+    {"no lower high", "Every ace or face is higher than the kept ones; the ace is the highest.",
+     [](T t) { return t.highsAbove; }},
 }};
-static_assert(kinds.size() <= 32);
+static_assert(kinds.size() <= 32 && DiscardSet{1} << (kinds.size() - 1) == noLowerHigh);
+
+// Aces and faces only, with the ace above the king.
+constexpr RankSet highsInOrder(RankSet ranks)
+{
+    return (ranks & faces) | ((ranks & ace) != 0 ? king << 1 : 0);
+}
 
 } // namespace
 
@@ -59,6 +67,9 @@ DiscardFacts::DiscardFacts(std::span<const Card> kept, std::span<const Card> thr
         if (held.cards > 0 && held.suited && card.suit == kept.front().suit)
             ++flushCards;
     }
+    const RankSet highs = highsInOrder(ranks);
+    const RankSet lowestHigh = highs & (~highs + 1);
+    highsAbove = highs == 0 || highsInOrder(held.ranks) < lowestHigh;
     if (held.cards > 0)
         straightCards = std::popcount(ranks & straightPartners(held.ranks));
 }

@@ -16,9 +16,10 @@ struct DiscardFacts {
     DiscardFacts(std::span<const Card> kept, std::span<const Card> thrown);
 
     RankSet ranks = 0;
-    bool pair = false;     // two or more of one rank
-    int flushCards = 0;    // of the suit of the kept cards, when these are of one
-    int straightCards = 0; // ranks that lie in a straight with the kept cards
+    bool pair = false;       // two or more of one rank
+    bool highsAbove = false; // every ace or face is higher than all that are kept
+    int flushCards = 0;      // of the suit of the kept cards, when these are of one
+    int straightCards = 0;   // ranks that lie in a straight with the kept cards
 };
 
 // What a row can ask about the cards thrown away.
@@ -30,6 +31,9 @@ struct DiscardKind {
 
 // Bit k is set for the kind that is the k-th of all.
 using DiscardSet = std::uint32_t;
+
+// That of the hand's aces and faces the lowest are kept: "no lower high".
+inline constexpr DiscardSet noLowerHigh = 1U << 21;
 
 // All that can be asked, in the order in which it is told to players.
 [[nodiscard]] std::span<const DiscardKind> discardKinds();

@@ -55,19 +55,6 @@ bool straightFlush(H h)
     return h.suited && straight<MinGaps, MaxGaps, MinHigh>(h);
 }
 
-// High ranks in their order, the ace highest.
-constexpr RankSet inOrder(RankSet ranks)
-{
-    return (ranks & faces) | ((ranks & ace) != 0 ? king << 1 : 0);
-}
-
-bool areLowest(const HoldFacts& held, const HoldFacts& discarded)
-{
-    const RankSet thrown = inOrder(discarded.ranks);
-    const RankSet lowestThrown = thrown & (~thrown + 1);
-    return thrown == 0 || inOrder(held.ranks) < lowestThrown;
-}
-
 constexpr std::array<RowKind, 95> kinds{{
     {"royal", 5, suitedAmong<royalRanks>, "Ten to ace of one suit."},
     {"straight flush", 5, straightFlush<open, open>,
@@ -201,7 +188,7 @@ constexpr std::array<RowKind, 95> kinds{{
     {"2 high, no ace", 2, among<faces>, "Two faces of different ranks."},
     {"2 high, with an ace", 2, among<highRanks, ace>, "An ace and a face."},
     {"2 high, lowest", 2, among<highRanks>,
-     "Of the hand's high cards the two lowest; the ace is the highest.", areLowest},
+     "Of the hand's high cards the two lowest; the ace is the highest.", noLowerHigh},
     {"jack and queen", 2, among<jack | queen>, "Jack and queen."},
     {"jack and king", 2, among<jack | king>, "Jack and king."},
     {"queen and king", 2, among<queen | king>, "Queen and king."},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/hold_facts.h"
+#include "charts/discard_kinds.h"
 
 #include <cstddef>
 #include <optional>
@@ -10,14 +10,13 @@
 namespace quillet::charts
 {
 
-// One row that a chart can have: which cards it tells the player to keep. A hold fits it by the
-// cards kept; some rows also ask about those thrown away.
+// One row that a chart can have: which cards it tells the player to keep.
 struct RowKind {
     std::string_view name; // as it stands in a chart
     int cards;             // that it keeps
     bool (*matches)(const HoldFacts& held);
     std::string_view meaning; // one sentence
-    bool (*allows)(const HoldFacts& held, const HoldFacts& discarded) = nullptr;
+    DiscardSet discards = 0;  // conditions on the discards that the row always has
 
     [[nodiscard]] bool fits(const HoldFacts& held) const
     {
