@@ -11,7 +11,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     try {
         const Pays pays = parsePays(fuzz::textOf(data, size));
         fuzz::require(std::ranges::all_of(
-            pays, [](std::int64_t credits) { return credits >= 0 && credits <= mostPaid; }));
+            pays, [](std::int64_t credits) { return credits >= 0 && credits <= maxPay; }));
     } catch (const BadInput& error) {
         fuzz::require(printable(error.what(), 4096) == error.what());
     }

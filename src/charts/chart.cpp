@@ -27,7 +27,7 @@ std::string_view withoutBlanks(std::string_view text)
     throw odds::BadInput("line " + std::to_string(line) + ": " + why);
 }
 
-// What stands where a name is looked for in vain.
+// Reports an unknown name and the nearest known ones.
 template <typename Kinds>
 [[noreturn]] void failAtName(std::size_t line, const char* what, std::string_view name,
                              const Kinds& kinds)
@@ -74,14 +74,14 @@ Chart parseChart(std::string_view text)
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
         if (row.empty())
             continue;
-        if (chart.size() == mostRows)
-            failAt(line, "a chart has no more than " + std::to_string(mostRows) + " rows");
+        if (chart.size() == maxRows)
+            failAt(line, "a chart has no more than " + std::to_string(maxRows) + " rows");
         chart.push_back(rowIn(row, line));
     }
     if (chart.empty())
         throw odds::BadInput("there is no row in it");
     if (chart.back() != Row{nothingRow()}) {
-        if (chart.size() == mostRows)
+        if (chart.size() == maxRows)
             throw odds::BadInput("there is no room left for the last row, \"nothing\"");
         chart.push_back({nothingRow()});
     }

@@ -10,9 +10,9 @@
 namespace quillet::charts
 {
 
-inline constexpr std::size_t mostRows = 64;
+inline constexpr std::size_t maxRows = 64;
 
-// A row as it stands in a chart: what to keep, and what to ask about the cards thrown away.
+// A row of a chart: what to keep, and conditions on the discards.
 struct Row {
     RowKindId kind = 0;
     DiscardSet discards = 0;
@@ -21,12 +21,12 @@ struct Row {
 };
 
 // The rows of a chart, best first. A deal is played by the first row that one of its holds fits.
-// The last row keeps nothing and asks nothing, so that every deal is played.
+// The last row keeps nothing and has no conditions, so every deal is played.
 using Chart = std::vector<Row>;
 
-// Reads a chart: one row a line, and behind a semicolon what it asks about the cards thrown away,
-// with commas between; what follows # is a comment and empty lines are none. A chart that does not
-// end with the row for nothing gets it. Throws BadInput, which says in which line and why.
+// Reads a chart: one row per line, with conditions on the discards after a semicolon, separated by
+// commas. # starts a comment, and empty lines are ignored. The last row "nothing" is added if it is
+// missing. Throws BadInput with the line and the reason.
 [[nodiscard]] Chart parseChart(std::string_view text);
 
 // The trainer's own: row 0 is that of play code 1, and so on.

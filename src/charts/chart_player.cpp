@@ -46,7 +46,7 @@ bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
 
 ChartPlayer::ChartPlayer(const Chart& chart) : m_chart(chart)
 {
-    assert(!chart.empty() && chart.size() <= mostRows && chart.back() == Row{nothingRow()});
+    assert(!chart.empty() && chart.size() <= maxRows && chart.back() == Row{nothingRow()});
     for (std::size_t row = 0; row < chart.size(); ++row)
         m_rowsOfFive |= RowSet{rowKinds()[chart[row].kind].cards == 5} << row;
     m_rowsOfClass.reserve(factsByClass().size());

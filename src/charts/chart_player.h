@@ -31,7 +31,7 @@ public:
 
 private:
     using RowSet = std::uint64_t; // bit r for row r of the chart
-    static_assert(mostRows <= 64);
+    static_assert(maxRows <= 64);
 
     [[nodiscard]] RowSet rowsThatFit(const HoldFacts& held, RowSet candidates) const;
 

@@ -11,7 +11,7 @@
 namespace quillet::charts
 {
 
-// Which of the holds that fit the row is taken.
+// Which of the holds that fit the row the player takes.
 enum class Taken { best, any, worst };
 inline constexpr std::array allTaken{Taken::best, Taken::any, Taken::worst};
 
@@ -23,7 +23,7 @@ struct PerTaken : std::array<T, allTaken.size()> {
 };
 
 // One row over all deals that it plays. The losses are against perfect play, in credits per credit
-// paid over all deals of the game, so that the rows add up.
+// bet over all deals of the game, so that the rows add up.
 struct RowPrice {
     std::int64_t deals = 0; // none for a row that is never used
     PerTaken<odds::Fraction> loss;

@@ -73,7 +73,7 @@ void ChartSearch::addFit(RowKindId kind, const odds::DealtHand& hand, odds::Hold
 
 Chart ChartSearch::best(std::size_t rows, const Progress& progress)
 {
-    assert(rows >= 1 && rows <= mostRows);
+    assert(rows >= 1 && rows <= maxRows);
     // A chart of all rows, sorted by the worth of their holds, plays nearly perfectly. The least
     // useful rows are removed until few enough remain.
     Chart all;

@@ -21,7 +21,7 @@ public:
 
     explicit ChartSearch(const odds::HeldCards& heldCards);
 
-    // The best chart found with at most `rows` rows, 1..mostRows, "nothing" included.
+    // The best chart found with at most `rows` rows, 1..maxRows, "nothing" included.
     [[nodiscard]] Chart best(std::size_t rows, const Progress& progress = {});
 
 private:

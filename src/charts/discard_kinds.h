@@ -11,7 +11,7 @@
 namespace quillet::charts
 {
 
-// What the cards that are thrown away show beside those that are kept.
+// The facts of the discards beside the kept cards.
 struct DiscardFacts {
     DiscardFacts(std::span<const Card> kept, std::span<const Card> thrown);
 
@@ -22,25 +22,25 @@ struct DiscardFacts {
     int straightCards = 0;   // ranks that lie in a straight with the kept cards
 };
 
-// What a row can ask about the cards thrown away.
+// A condition that a row can put on the discards.
 struct DiscardKind {
-    std::string_view name;    // as it stands in a chart, behind the row
+    std::string_view name;    // in charts, after the row
     std::string_view meaning; // one sentence
     bool (*fits)(const DiscardFacts& thrown);
 };
 
-// Bit k is set for the kind that is the k-th of all.
+// Bit k stands for the k-th of discardKinds().
 using DiscardSet = std::uint32_t;
 
 // That of the hand's aces and faces the lowest are kept: "no lower high".
 inline constexpr DiscardSet noLowerHigh = 1U << 21;
 
-// All that can be asked, in the order in which it is told to players.
+// All conditions, in the order of --rows.
 [[nodiscard]] std::span<const DiscardKind> discardKinds();
 
 [[nodiscard]] std::optional<std::size_t> findDiscardKind(std::string_view name);
 
-// Whether the cards thrown away are as all of these ask.
+// Whether the discards meet all of these conditions.
 [[nodiscard]] bool fitAll(DiscardSet asked, const DiscardFacts& thrown);
 
 } // namespace quillet::charts

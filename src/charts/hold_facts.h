@@ -20,13 +20,13 @@ inline constexpr RankSet faces = jack | queen | king;
 inline constexpr RankSet highRanks = faces | ace;
 inline constexpr RankSet royalRanks = highRanks | ten;
 
-// What cards that are kept together show: all that the rows of a chart ask of them.
+// The facts of a set of held cards that the rows of a chart look at.
 struct HoldFacts {
     explicit HoldFacts(std::span<const Card> held);
 
     int cards = 0;
     RankSet ranks = 0;
-    int alike = 0;            // the most cards of one rank
+    int alike = 0;            // the highest number of cards of one rank
     int pairs = 0;            // ranks of which there are two
     bool highPair = false;    // a pair of aces or faces
     int high = 0;             // aces and faces

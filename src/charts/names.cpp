@@ -21,7 +21,7 @@ std::string plainName(std::string_view name)
     return text;
 }
 
-std::size_t lettersApart(std::string_view one, std::string_view other)
+std::size_t editDistance(std::string_view one, std::string_view other)
 {
     std::vector<std::size_t> row(other.size() + 1);
     for (std::size_t j = 0; j < row.size(); ++j)

@@ -14,11 +14,10 @@ namespace quillet::charts
 // In lower case, each run of blanks one blank, none at the ends.
 [[nodiscard]] std::string plainName(std::string_view name);
 
-// How many letters have to be changed, put in or taken out.
-[[nodiscard]] std::size_t lettersApart(std::string_view one, std::string_view other);
+// Edit distance: letters to change, insert or remove.
+[[nodiscard]] std::size_t editDistance(std::string_view one, std::string_view other);
 
-// Where the kind of this name stands among the kinds. Upper and lower case and the number of
-// blanks are all one.
+// The index of the kind with this name. Case and the number of blanks are ignored.
 template <typename Kinds>
 [[nodiscard]] std::optional<std::size_t> findNamed(const Kinds& kinds, std::string_view name)
 {
@@ -30,11 +29,11 @@ template <typename Kinds>
     return static_cast<std::size_t>(found - kinds.begin());
 }
 
-// The names that are written most like this one, best first, no more than so many; none when it is
-// far longer than all of them.
+// Up to `count` names closest to this one, closest first; none if it is far longer than all of
+// them.
 template <typename Kinds>
 [[nodiscard]] std::vector<std::string_view> nearestNames(const Kinds& kinds, std::string_view name,
-                                                         std::size_t most)
+                                                         std::size_t count)
 {
     constexpr std::size_t maxLetters = 100;
     if (name.size() > maxLetters)
@@ -42,10 +41,10 @@ template <typename Kinds>
     const std::string wanted = plainName(name);
     std::multimap<std::size_t, std::string_view> byDistance;
     for (const auto& kind : kinds)
-        byDistance.emplace(lettersApart(wanted, kind.name), kind.name);
+        byDistance.emplace(editDistance(wanted, kind.name), kind.name);
     std::vector<std::string_view> names;
     for (const auto& [distance, each] : byDistance) {
-        if (names.size() < most)
+        if (names.size() < count)
             names.push_back(each);
     }
     return names;

@@ -9,8 +9,7 @@
 namespace quillet::charts
 {
 
-// One of the kinds of hold that a player tells apart, in the order in which they are tested; the
-// last is for cards that no kind fits.
+// A category of holds, in the order in which they are tested; the last is for all other cards.
 using PlainKind = std::uint8_t;
 inline constexpr std::size_t plainKinds = 24;
 inline constexpr PlainKind otherCards = plainKinds - 1;

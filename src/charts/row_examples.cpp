@@ -12,7 +12,7 @@ namespace quillet::charts
 namespace
 {
 
-// Chooses one of the deals that show a row best, each with the same chance.
+// Chooses one of the best deals for a row, each with the same chance.
 struct Choice {
     int merit = -1;
     unsigned among = 0; // deals of that merit
@@ -26,12 +26,12 @@ int meritOf(const PlayedDeal& deal)
            (deal.hand.worth[deal.worstHold] == best ? 1 : 0);
 }
 
-// Exchanges the suits, which in classes of deals come in the same order always.
-RowExample withMixedSuits(const RowExample& example, std::mt19937& chance)
+// Exchanges the suits, as forEachClass always orders them in the same way.
+RowExample withMixedSuits(const RowExample& example, std::mt19937& random)
 {
     constexpr unsigned orders = 24;
     std::array<unsigned, 4> suits{0, 1, 2, 3};
-    for (auto left = static_cast<unsigned>(chance() % orders); left > 0; --left)
+    for (auto left = static_cast<unsigned>(random() % orders); left > 0; --left)
         std::ranges::next_permutation(suits);
     struct Dealt {
         unsigned place;
@@ -56,7 +56,7 @@ std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCa
                                                    const Chart& chart)
 {
     std::vector<Choice> choices(chart.size());
-    std::mt19937 chance; // from its usual seed: the same examples every time
+    std::mt19937 random; // default seed: the same examples every time
     forEachPlayedDeal(heldCards, chart, [&](const PlayedDeal& deal) {
         Choice& choice = choices[deal.play.row];
         const int merit = meritOf(deal);
@@ -64,13 +64,13 @@ std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCa
             return;
         choice.among = merit == choice.merit ? choice.among + 1 : 1;
         choice.merit = merit;
-        if (chance() % choice.among == 0)
+        if (random() % choice.among == 0)
             choice.example = {deal.hand.places, deal.bestHold};
     });
     std::vector<std::optional<RowExample>> examples(chart.size());
     for (std::size_t row = 0; row < chart.size(); ++row) {
         if (choices[row].among > 0)
-            examples[row] = withMixedSuits(choices[row].example, chance);
+            examples[row] = withMixedSuits(choices[row].example, random);
     }
     return examples;
 }

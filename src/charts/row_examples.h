@@ -10,14 +10,14 @@
 namespace quillet::charts
 {
 
-// A deal that shows what a row is about, and what it tells to keep.
+// A deal that illustrates a row, and the hold that the row selects.
 struct RowExample {
     std::array<odds::DeckPlace, 5> places{}; // ascending
     odds::Hold hold = 0;
 };
 
-// One for each row of the chart, none for a row that never plays: where there is such a deal, one
-// that the row plays perfectly and that only one hold fits. Always the same.
+// One for each row of the chart, none for a row that never applies. If possible, exactly one hold
+// fits the deal and that hold is optimal. Always the same deals.
 [[nodiscard]] std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCards,
                                                                  const Chart& chart);
 

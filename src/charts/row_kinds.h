@@ -12,7 +12,7 @@ namespace quillet::charts
 
 // One row that a chart can have: which cards it tells the player to keep.
 struct RowKind {
-    std::string_view name; // as it stands in a chart
+    std::string_view name; // in charts
     int cards;             // that it keeps
     bool (*matches)(const HoldFacts& held);
     std::string_view meaning; // one sentence
@@ -24,11 +24,11 @@ struct RowKind {
     }
 };
 
-// Where a kind stands in the list of all kinds.
+// The index of a kind in rowKinds().
 using RowKindId = std::size_t;
 
-// Every row that a chart can have, in the order in which they are told to players. The last one
-// keeps nothing and fits every deal.
+// Every row that a chart can have, in the order of --rows. The last one keeps nothing and fits
+// every deal.
 [[nodiscard]] std::span<const RowKind> rowKinds();
 
 // The row that keeps nothing.

@@ -8,15 +8,15 @@
 namespace quillet::odds
 {
 
-// Arguments, a hand, a chart or a pay table that make no sense; what() says where and why.
+// Invalid arguments, hand, chart or pay table; what() says where and why.
 class BadInput : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// The text as a message may quote it: what a terminal would obey, and what is not UTF-8, as
-// escapes such as \x1b, and no more than a line of it.
+// The text as a message may quote it: at most one line, with control characters and invalid UTF-8
+// as escapes such as \x1b.
 [[nodiscard]] std::string printable(std::string_view text, std::size_t maxLetters = 60);
 
 } // namespace quillet::odds

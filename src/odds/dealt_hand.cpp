@@ -51,7 +51,7 @@ OutcomeCounts DealtHand::drawOutcomes(const HeldCards& heldCards, Hold hold) con
             return;
         }
         const OutcomeCounts& hands = heldCards.counts(classOfHold[larger]);
-        for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+        for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
             counts[outcome] += sign * hands[outcome];
     });
     return counts;

@@ -31,7 +31,7 @@ void forEachHold(HoldSet set, const Visit& visit)
         visit(static_cast<Hold>(std::countr_zero(set)));
 }
 
-// The number of cards in each hold: std::popcount without its call.
+// The number of cards in each hold; without -mpopcnt std::popcount is a call.
 inline constexpr std::array<std::size_t, holds> cardsIn = [] {
     std::array<std::size_t, holds> count{};
     for (Hold hold = 0; hold < holds; ++hold)
@@ -41,7 +41,7 @@ inline constexpr std::array<std::size_t, holds> cardsIn = [] {
 
 // One deal and the worth of its 32 holds when the other cards come from a fairly shuffled deck.
 struct DealtHand {
-    // The least number that every count of possible draws divides: 47 cards taken 0 to 5 at a time.
+    // Least common multiple of the numbers of possible draws: 0 to 5 of 47 cards.
     static constexpr std::int64_t worthUnit = 7669695;
 
     // Worth units per credit that one of the draws to a hold pays.
@@ -59,12 +59,12 @@ struct DealtHand {
     // How often each outcome comes up among all draws to this hold.
     [[nodiscard]] OutcomeCounts drawOutcomes(const HeldCards& heldCards, Hold hold) const;
 
-    // Of these holds the one that is worth most or least; of equals, the first.
+    // The hold among these that is worth most or least; the first of equals.
     [[nodiscard]] Hold bestOf(HoldSet candidates) const;
     [[nodiscard]] Hold worstOf(HoldSet candidates) const;
 
-    // What the hold would be worth more if this discard were still in the deck, as a share of one
-    // credit; below 0 for a card that it does not miss.
+    // How many credits more the hold would be worth if this discard were still in the deck;
+    // negative if the hold is better off without it.
     [[nodiscard]] double penaltyOf(const HeldCards& heldCards, Hold hold,
                                    std::size_t discard) const;
 

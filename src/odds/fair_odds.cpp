@@ -30,7 +30,7 @@ void FinalHands::add(const FinalHands& others)
 FairOdds FinalHands::odds() const
 {
     FairOdds odds;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome) {
         Int128 total = m_asDealt[outcome];
         for (std::size_t id = 0; id < m_timesNeeded.size(); ++id)
             total += Int128{m_timesNeeded[id]} *

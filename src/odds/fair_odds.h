@@ -11,7 +11,7 @@
 namespace quillet::odds
 {
 
-using OutcomeChances = std::array<Fraction, outcomes>;
+using OutcomeChances = std::array<Fraction, outcomeCount>;
 
 // What one way to play all deals returns, exactly, with a fair shuffle.
 struct FairOdds {
@@ -41,7 +41,7 @@ private:
     const HeldCards& m_heldCards;
     std::int64_t m_deals = 0;                // the sum of the weights
     std::vector<std::int64_t> m_timesNeeded; // by class
-    std::array<std::int64_t, outcomes> m_asDealt{};
+    std::array<std::int64_t, outcomeCount> m_asDealt{};
 };
 
 // Calls visit for each of the 134,459 classes of deals, always in the same order, with one deal of

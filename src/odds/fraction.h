@@ -20,7 +20,7 @@ public:
     [[nodiscard]] double value() const;
     [[nodiscard]] std::string text() const; // "3/4", or "3" when it is whole
 
-    // Rounded to so many decimals, halves away from zero.
+    // Rounded to this number of decimals, halves away from zero.
     [[nodiscard]] std::string decimals(int places) const;
 
     // Products of numerators and denominators must fit in 128 bits.

@@ -32,7 +32,7 @@ HeldCards::HeldCards(const Pays& pays) : m_pays(pays), m_classOf(firstOfSize[5])
     m_pay.reserve(classCount);
     for (const OutcomeCounts& counts : m_counts) {
         std::int64_t pay = 0;
-        for (std::size_t outcome = 1; outcome < outcomes; ++outcome)
+        for (std::size_t outcome = 1; outcome < outcomeCount; ++outcome)
             pay += counts[outcome] * pays[outcome];
         m_pay.push_back(pay);
     }

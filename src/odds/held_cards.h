@@ -12,7 +12,7 @@
 namespace quillet::odds
 {
 
-using OutcomeCounts = std::array<std::int32_t, outcomes>;
+using OutcomeCounts = std::array<std::int32_t, outcomeCount>;
 
 // Row n, column m: the ways to choose n of m cards.
 using ChooseTable = std::array<std::array<std::uint32_t, 53>, 6>;
@@ -45,8 +45,8 @@ public:
     // Of sets of up to four cards, numbered by size and then in the order of forEachClass.
     static constexpr std::size_t classCount = 1 + 13 + 169 + 1755 + 16432;
 
-    // The class of a set by its size and the sum of choose[n][place] over its n-th places,
-    // ascending and counted from 1: the usual numbering of combinations.
+    // The class of a set by its size and its number in the combinatorial number system: the sum
+    // of choose[n][place] over its places in ascending order, n from 1.
     [[nodiscard]] ClassId classOf(std::size_t size, std::uint32_t combination) const
     {
         return m_classOf[firstOfSize[size] + combination];

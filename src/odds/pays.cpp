@@ -21,8 +21,8 @@ constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOP
 constexpr std::string_view separators = " \t\r\v\f,:=";
 
 // The trainer's payout by outcome.
-constexpr std::array<Payout, outcomes> payouts = [] {
-    std::array<Payout, outcomes> all{};
+constexpr std::array<Payout, outcomeCount> payouts = [] {
+    std::array<Payout, outcomeCount> all{};
     std::ranges::copy(payTable, all.begin() + 1);
     return all;
 }();
@@ -41,9 +41,9 @@ std::int64_t numberIn(std::string_view word, const std::string& place)
 {
     std::int64_t number = -1;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > mostPaid)
+    if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > maxPay)
         throw BadInput(place + ": '" + printable(word) + "' is not a number of credits, 0 to " +
-                       std::to_string(mostPaid));
+                       std::to_string(maxPay));
     if (word.size() > 1 && word.front() == '0')
         throw BadInput(place + ": '" + printable(word) +
                        "' begins with 0; a comma stands between two numbers, so write 4000");
@@ -57,7 +57,7 @@ Pays shortTable(const Line& line)
     Pays pays = trainersPays();
     pays[fullHouse] = wager * numberIn(line.text.substr(0, slash), line.place);
     pays[flush] = wager * numberIn(line.text.substr(slash + 1), line.place);
-    if (std::max(pays[fullHouse], pays[flush]) > mostPaid)
+    if (std::max(pays[fullHouse], pays[flush]) > maxPay)
         throw BadInput(line.place + ": '" + printable(line.text) + "' pays too much");
     return pays;
 }
@@ -151,12 +151,12 @@ Pays parsePays(std::string_view text)
     std::size_t found = 0;
     for (const Line& line : lines) {
         for (const std::int64_t number : numbersIn(line)) {
-            if (++found == outcomes)
+            if (++found == outcomeCount)
                 throw BadInput(line.place + ": more than nine hands pay");
             pays[found] = number;
         }
     }
-    if (found + 1 != outcomes)
+    if (found + 1 != outcomeCount)
         throw BadInput("pay table: nine numbers are needed, royal first, or two such as 9/6; there "
                        "are " +
                        std::to_string(found));

@@ -12,14 +12,13 @@
 namespace quillet::odds
 {
 
-// What a final hand can come to: outcome 0 pays nothing, the others are the paying hands, best
-// first.
-inline constexpr std::size_t outcomes = 10;
+// The outcomes of a final hand: 0 pays nothing, the others are the paying hands, best first.
+inline constexpr std::size_t outcomeCount = 10;
 
 // Credits for each outcome when five are paid; outcome 0 pays none.
-using Pays = std::array<std::int64_t, outcomes>;
+using Pays = std::array<std::int64_t, outcomeCount>;
 
-inline constexpr std::int64_t mostPaid = 100'000; // for any hand
+inline constexpr std::int64_t maxPay = 100'000; // for any hand
 
 [[nodiscard]] Pays trainersPays();
 
@@ -28,7 +27,7 @@ inline constexpr std::int64_t mostPaid = 100'000; // for any hand
 // "royal" ... "high pair", or "nothing".
 [[nodiscard]] std::string_view outcomeName(std::size_t outcome);
 
-// Whether the text itself is meant as a pay table, right or wrong, and not as the name of a file.
+// Whether the text is meant as a pay table, right or wrong, and not as the name of a file.
 [[nodiscard]] bool looksLikePays(std::string_view text);
 
 // Reads "9/6", the full house and the flush for one credit with the trainer's other pays, or nine

@@ -48,7 +48,7 @@ void PlayedHands::add(const PlayedHands& others)
 double PlayedHands::returned(const Pays& pays) const
 {
     std::int64_t credits = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
         credits += count[outcome] * pays[outcome];
     return static_cast<double>(credits) / static_cast<double>(hands() * wager);
 }
@@ -57,7 +57,7 @@ double PlayedHands::margin(const Pays& pays) const
 {
     const auto total = static_cast<double>(hands());
     double squares = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome) {
         const double off = static_cast<double>(pays[outcome]) / wager - returned(pays);
         squares += static_cast<double>(count[outcome]) * off * off;
     }

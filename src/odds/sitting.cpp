@@ -21,18 +21,20 @@ namespace
 
 using Complex = std::complex<long double>;
 
-constexpr double outside = 30;                // e to the minus this is left outside on either side
-constexpr std::size_t mostResults = 1U << 22; // 300 MB
-constexpr double mostSteps = 3e11;            // of hands by units: some minutes
+constexpr double tailExponent = 30;          // a tail of e^-30 is left out on each side
+constexpr std::size_t maxResults = 1U << 22; // 300 MB
+constexpr double maxSteps = 3e11;            // hands times units: some minutes
 
+// The largest number of credits that divides all pays and `with`.
 std::int64_t unitOf(const OneHand& hand, std::int64_t with)
 {
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
         with = hand.chance[outcome] > 0 ? std::gcd(with, hand.pays[outcome]) : with;
     return std::max<std::int64_t>(with, 1);
 }
 
-// The logarithm of what e to the power of (slope times the win in units) is on average.
+// The cumulant generating function of one hand's win in units: the logarithm of the mean of
+// e^(slope * win).
 double cumulant(const OneHand& hand, std::int64_t unit, double slope)
 {
     double largest = 0; // nothing wins nothing
@@ -40,15 +42,16 @@ double cumulant(const OneHand& hand, std::int64_t unit, double slope)
         const std::int64_t units = hand.pays[outcome] / unit;
         return slope * static_cast<double>(units);
     };
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
         largest = std::max(largest, hand.chance[outcome] > 0 ? power(outcome) : 0);
     double sum = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
         sum += hand.chance[outcome] * std::exp(power(outcome) - largest);
     return largest + std::log(sum);
 }
 
-// The least value of a bound over all slopes; each of them holds.
+// The least of the Chernoff bounds, one for each slope, which all hold. It is found next to the
+// saddle point, which need not be exact.
 template <typename Bound>
 double leastBound(const Bound& bound)
 {
@@ -58,33 +61,42 @@ double leastBound(const Bound& bound)
     return least;
 }
 
-// In units won: outside there is next to nothing.
+// The results, in units won, that are computed.
 struct Window {
     std::int64_t first = 0;
     std::int64_t last = 0;
+
+    [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(last - first + 1); }
 };
+
+// By Chernoff, a win of `high` or more has a chance of at most e^(hands * K(slope) - slope * high),
+// where K is the cumulant; with a negative slope the same holds for a win of `low` or less.
 
 Window windowOf(const OneHand& hand, std::int64_t unit, std::int64_t hands)
 {
     const auto count = static_cast<double>(hands);
     const double high = leastBound(
-        [&](double slope) { return (count * cumulant(hand, unit, slope) + outside) / slope; });
-    const double low = -leastBound(
-        [&](double slope) { return (count * cumulant(hand, unit, -slope) + outside) / slope; });
+        [&](double slope) { return (count * cumulant(hand, unit, slope) + tailExponent) / slope; });
+    const double low = -leastBound([&](double slope) {
+        return (count * cumulant(hand, unit, -slope) + tailExponent) / slope;
+    });
     const std::int64_t most = *std::ranges::max_element(hand.pays) / unit * hands;
     return {std::max<std::int64_t>(0, std::llround(std::floor(low))),
             std::min<std::int64_t>(most, std::llround(std::ceil(high)))};
 }
 
-// A number of hands whose results fit into the memory.
-std::int64_t possibleHands(const OneHand& hand, std::int64_t unit, std::int64_t hands)
+// Throws BadInput, with a number of hands that would be possible, when memory is too small.
+Window possibleWindow(const OneHand& hand, std::int64_t unit, std::int64_t hands)
 {
-    Window window;
-    do {
-        hands /= 2;
-        window = windowOf(hand, unit, hands);
-    } while (window.last - window.first >= static_cast<std::int64_t>(mostResults));
-    return hands;
+    const Window window = windowOf(hand, unit, hands);
+    if (window.size() <= maxResults)
+        return window;
+    std::int64_t possible = hands / 2;
+    while (windowOf(hand, unit, possible).size() > maxResults)
+        possible /= 2;
+    throw BadInput(std::to_string(hands) + " hands with these pays end in " +
+                   std::to_string(window.size()) + " ways, too many for the memory; " +
+                   std::to_string(possible) + " are possible");
 }
 
 std::vector<Complex> rootsOfOne(std::size_t size)
@@ -134,6 +146,36 @@ void transform(std::vector<Complex>& values, const std::vector<Complex>& roots)
     }
 }
 
+// The chances of all results in the window. The characteristic function of the sum is the power of
+// one hand's; the discrete Fourier transform turns it into chances.
+std::vector<double> chancesIn(const Window& window, const OneHand& hand, std::int64_t unit,
+                              std::int64_t hands, const WorkProgress& progress)
+{
+    const std::size_t size = std::bit_ceil(window.size());
+    const std::vector<Complex> roots = rootsOfOne(size);
+    const auto turn = [&](std::uint64_t steps) { return roots[steps & (size - 1)]; };
+    std::vector<Complex> values(size);
+    for (std::size_t k = 0; k <= size / 2; ++k) {
+        Complex one = 0;
+        for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
+            one += static_cast<long double>(hand.chance[outcome]) *
+                   std::conj(turn(k * static_cast<std::uint64_t>(hand.pays[outcome] / unit)));
+        // Moves the window's first result to index 0.
+        const Complex shift = turn(k * (static_cast<std::uint64_t>(window.first) % size));
+        values[k] = power(one, hands) * shift;
+        if (k != 0)
+            values[size - k] = std::conj(values[k]);
+        if (progress && k % 10'000 == 0)
+            progress(2.0 * static_cast<double>(k) / static_cast<double>(size));
+    }
+    transform(values, roots);
+    std::vector<double> chances(window.size());
+    for (std::size_t i = 0; i < chances.size(); ++i)
+        chances[i] =
+            std::max(0.0, static_cast<double>(values[i].real() / static_cast<long double>(size)));
+    return chances;
+}
+
 // The chance of each number of units that a bankroll can have.
 class Bankroll
 {
@@ -148,7 +190,7 @@ public:
             start(units, hands);
     }
 
-    // Whether what is to come changes nothing that counts.
+    // Whether the remaining hands can no longer change the result noticeably.
     [[nodiscard]] bool isDecided(std::int64_t handsLeft)
     {
         if (std::accumulate(m_chance.begin(), m_chance.end(), 0.0) < sittingBound / 100)
@@ -164,13 +206,14 @@ public:
     [[nodiscard]] double lost() const { return m_lost; }
 
 private:
-    // How many units are so many that the hands left lose them all too seldom to count.
+    // The smallest bankroll in units whose chance of ruin in the remaining hands is negligible:
+    // Chernoff's bound on the loss, by Doob's maximal inequality for the highest loss on the way.
     [[nodiscard]] std::int64_t safeFor(std::int64_t left) const
     {
         const double bound = leastBound([&](double slope) {
             const double each =
                 cumulant(m_hand, m_unit, -slope) + slope * static_cast<double>(m_cost);
-            return (static_cast<double>(left) * std::max(each, 0.0) + outside) / slope;
+            return (static_cast<double>(left) * std::max(each, 0.0) + tailExponent) / slope;
         });
         return std::llround(std::min(std::ceil(bound), static_cast<double>(left * m_cost))) +
                m_cost;
@@ -178,7 +221,7 @@ private:
 
     void start(std::int64_t units, std::int64_t hands)
     {
-        if (static_cast<double>(m_safe) * static_cast<double>(hands) > mostSteps)
+        if (static_cast<double>(m_safe) * static_cast<double>(hands) > maxSteps)
             throw BadInput("a bankroll takes too long for " + std::to_string(hands) +
                            " hands with these pays; try a tenth of them");
         m_chance.resize(static_cast<std::size_t>(m_safe) + 1);
@@ -189,7 +232,7 @@ private:
     const OneHand& m_hand;
     const std::int64_t m_unit; // credits
     const std::int64_t m_cost; // units for a hand
-    std::int64_t m_safe = 0;   // more units than these are never lost
+    std::int64_t m_safe = 0;   // a bankroll above this counts as safe
     std::vector<double> m_chance;
     std::vector<double> m_next;
     double m_lost = 0;
@@ -198,7 +241,7 @@ private:
 void Bankroll::playHand()
 {
     std::ranges::fill(m_next, 0.0);
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome) {
         const double share = m_hand.chance[outcome];
         const std::int64_t step = m_hand.pays[outcome] / m_unit - m_cost;
         const std::int64_t first = std::max(m_cost, -step);
@@ -229,7 +272,7 @@ OneHand oneHand(const OutcomeChances& chances, const Pays& pays)
 double OneHand::returned() const
 {
     double sum = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
         sum += chance[outcome] * static_cast<double>(pays[outcome]);
     return sum / wager;
 }
@@ -237,7 +280,7 @@ double OneHand::returned() const
 double OneHand::variance() const
 {
     double sum = 0;
-    for (std::size_t outcome = 0; outcome < outcomes; ++outcome) {
+    for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome) {
         const double off = static_cast<double>(pays[outcome]) / wager - returned();
         sum += chance[outcome] * off * off;
     }
@@ -260,36 +303,10 @@ std::optional<double> OneHand::handsUntilTheEdgeShows() const
 Sitting::Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress)
     : m_unit(unitOf(hand, 0)), m_paid(hands * wager)
 {
-    assert(hands >= 1 && hands <= mostHands);
-    const Window window = windowOf(hand, m_unit, hands);
+    assert(hands >= 1 && hands <= maxHands);
+    const Window window = possibleWindow(hand, m_unit, hands);
     m_first = window.first;
-    const auto used = static_cast<std::size_t>(window.last - m_first + 1);
-    if (used > mostResults)
-        throw BadInput(std::to_string(hands) + " hands with these pays end in " +
-                       std::to_string(used) + " ways, too many for the memory; " +
-                       std::to_string(possibleHands(hand, m_unit, hands)) + " are possible");
-    const std::size_t size = std::bit_ceil(used);
-
-    const std::vector<Complex> roots = rootsOfOne(size);
-    const auto turn = [&](std::uint64_t steps) { return roots[steps & (size - 1)]; };
-    std::vector<Complex> values(size);
-    for (std::size_t k = 0; k <= size / 2; ++k) {
-        Complex one = 0;
-        for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
-            one += static_cast<long double>(hand.chance[outcome]) *
-                   std::conj(turn(k * static_cast<std::uint64_t>(hand.pays[outcome] / m_unit)));
-        // The window begins at m_first.
-        values[k] = power(one, hands) * turn(k * (static_cast<std::uint64_t>(m_first) % size));
-        if (k != 0)
-            values[size - k] = std::conj(values[k]);
-        if (progress && k % 10'000 == 0)
-            progress(2.0 * static_cast<double>(k) / static_cast<double>(size));
-    }
-    transform(values, roots);
-    m_chance.resize(used);
-    for (std::size_t i = 0; i < used; ++i)
-        m_chance[i] =
-            std::max(0.0, static_cast<double>(values[i].real() / static_cast<long double>(size)));
+    m_chance = chancesIn(window, hand, m_unit, hands, progress);
 }
 
 double Sitting::chanceOf(std::int64_t least, std::int64_t most) const

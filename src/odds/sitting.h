@@ -12,48 +12,46 @@
 namespace quillet::odds
 {
 
-// The chance of each outcome of one hand, as a way to play gives it, and what each pays.
+// The chance and the pay of each outcome of one hand, for one way to play.
 struct OneHand {
-    std::array<double, outcomes> chance{};
+    std::array<double, outcomeCount> chance{};
     Pays pays{};
 
     // In wagers of five credits.
     [[nodiscard]] double returned() const;
     [[nodiscard]] double variance() const;
 
-    // To get the outcome in so many hands.
+    // The chance to get the outcome at least once in this number of hands.
     [[nodiscard]] double chanceOfAtLeastOne(std::size_t outcome, std::int64_t hands) const;
 
-    // After so many hands what is to be expected of the edge is 1.96 standard deviations of chance;
-    // nothing when there is no edge.
+    // The number of hands after which the expected gain or loss equals 1.96 standard deviations;
+    // nothing when the game is fair.
     [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;
 };
 
 [[nodiscard]] OneHand oneHand(const OutcomeChances& chances, const Pays& pays);
 
-// Takes the share of the work that is done.
+// Called with the share of the work done, 0 to 1.
 using WorkProgress = std::function<void(double)>;
 
-// How every chance below may be off: by what lies outside the window that is worked out, and by
-// rounding.
+// Error bound of every chance below, from cut tails and rounding.
 inline constexpr double sittingBound = 1e-9;
 
-inline constexpr std::int64_t mostHands = 10'000'000;
+inline constexpr std::int64_t maxHands = 10'000'000;
 
-// What a sitting of so many hands comes to, 1..mostHands, each five credits: the distribution of
-// credits won less credits paid. It is the power of one hand's distribution, through its Fourier
-// transform.
+// The distribution of credits won less credits paid over a sitting of 1..maxHands hands at five
+// credits each, computed as a power of one hand's characteristic function.
 class Sitting
 {
 public:
-    // Throws BadInput when there are too many possible results for the memory.
+    // Throws BadInput when memory is too small for all possible results.
     Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress = {});
 
-    // Between two possible results, in credits.
+    // The step between possible results, in credits.
     [[nodiscard]] std::int64_t unit() const { return m_unit; }
-    // That the net lies from the one to the other, both included.
+    // The chance of a result from `least` to `most`, both included.
     [[nodiscard]] double chanceOf(std::int64_t least, std::int64_t most) const;
-    // The least net that so large a share of the sittings does not exceed.
+    // The least result that this share of the sittings does not exceed.
     [[nodiscard]] std::int64_t quantile(double share) const;
 
 private:
@@ -68,8 +66,8 @@ private:
     std::vector<double> m_chance;
 };
 
-// The chance that a bankroll is too small for another hand within so many of them, after each
-// tenth of them, the last one for all. Throws BadInput when it would take too long.
+// The chance of ruin, when the bankroll is too small for another hand, after each tenth of the
+// hands; the last entry is for all of them. Throws BadInput when it would take too long.
 [[nodiscard]] std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands,
                                                    std::int64_t bankroll,
                                                    const WorkProgress& progress = {});

@@ -19,7 +19,7 @@ namespace quillet::odds
 // The place of a card when the deck is sorted by suit, then rank: 0..51.
 using DeckPlace = std::uint8_t;
 
-// The cards by their places, for loops that ask for many of them.
+// The cards by their places.
 inline constexpr std::array<Card, 52> deckBySuit = [] {
     std::array<Card, 52> deck;
     for (int place = 0; place < 52; ++place)

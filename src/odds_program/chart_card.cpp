@@ -148,7 +148,7 @@ void writeRow(std::ostream& out, const std::string& name, std::size_t number,
 std::string payLine(const odds::Pays& pays)
 {
     std::string text = "Pays for five credits: ";
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         text += (outcome == 1 ? "" : ", ") + std::string(odds::outcomeName(outcome)) + ' ' +
                 std::to_string(pays[outcome]);
     return text;

@@ -67,7 +67,7 @@ void takeRows(Request& request, std::string_view word)
     const auto min = countIn("--best-chart", word.substr(0, dots));
     const auto max =
         dots == std::string_view::npos ? min : countIn("--best-chart", word.substr(dots + 2));
-    if (max > static_cast<std::int64_t>(charts::mostRows) || min > max)
+    if (max > static_cast<std::int64_t>(charts::maxRows) || min > max)
         needs("--best-chart", "a number of rows, 1 to 64, or two such as 1..30", word);
     request.minRows = static_cast<std::size_t>(min);
     request.maxRows = static_cast<std::size_t>(max);
@@ -197,9 +197,9 @@ void checkValues(const Request& request)
             "--format and --exact cannot be used with --best-chart for a single number of rows");
     if (question == Question::handsFromInput && data && exact)
         throw BadUsage("with hands on standard input --exact is only for text");
-    if (question == Question::sitting && request.hands > odds::mostHands)
+    if (question == Question::sitting && request.hands > odds::maxHands)
         throw BadUsage("--sitting takes no more than 10M hands");
-    if (question == Question::simulation && request.hands > odds::mostSimulated)
+    if (question == Question::simulation && request.hands > odds::maxSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");
 }
 

@@ -98,8 +98,8 @@ Table finalHands(const char* name, const Strategy& strategy, const odds::Pays& p
                  {"pays", "Pays"},
                  {"chance", "Chance in %"},
                  {"one in", "One in"}}};
-    for (std::size_t i = 0; i < odds::outcomes; ++i) {
-        const std::size_t outcome = (i + 1) % odds::outcomes;
+    for (std::size_t i = 0; i < odds::outcomeCount; ++i) {
+        const std::size_t outcome = (i + 1) % odds::outcomeCount;
         const odds::Fraction& chance = strategy.odds.chances[outcome];
         const bool comes = chance != odds::Fraction();
         table.rows.push_back(

@@ -19,7 +19,7 @@ constexpr std::int64_t shownByDefault = 6;
 std::string waysText(const odds::OutcomeCounts& counts)
 {
     std::string text;
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome) {
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome) {
         if (counts[outcome] > 0)
             text += (text.empty() ? "" : ", ") + std::string(odds::outcomeName(outcome)) + " in " +
                     std::to_string(counts[outcome]);
@@ -104,7 +104,7 @@ std::vector<Column> columnsOf(Format format)
         return columns;
     for (const char* field : {"best", "chart", "accepted", "draws"})
         columns.push_back({field, ""});
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         columns.push_back({std::string(odds::outcomeName(outcome)), ""});
     columns.push_back({"missed discards", ""});
     columns.push_back({"reason", ""});

@@ -31,7 +31,7 @@ Table returnsTable(const odds::Simulation& simulation, const charts::ChartPrice&
     };
     add("Perfect play", simulation.perfect, chart.perfect.returned);
     add(nameOf(Taken::best), simulation.player, chart.played[Taken::best].returned);
-    if (played < odds::tellingHands)
+    if (played < odds::minMeaningfulHands)
         table.outro =
             "\nFewer than a million hands say little about the return: royals make up about 2 %\n"
             "of it and come once in 40,000 hands, and the margin is computed from the royals\n"
@@ -51,7 +51,7 @@ Table handsTable(const odds::Simulation& simulation, const charts::ChartPrice& c
     const auto expected = [&](const odds::Fraction& chance) {
         return rounded(static_cast<double>(simulation.perfect.hands()) * chance.value(), 1);
     };
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         table.rows.push_back({odds::outcomeName(outcome), simulation.perfect.count[outcome],
                               expected(chart.perfect.chances[outcome]),
                               simulation.player.count[outcome],

@@ -97,7 +97,7 @@ Table onceTable(const std::array<odds::OneHand, 2>& plays, std::int64_t hands)
 {
     Table once = tableOf("at least once", "\nThe chance in % of each paying hand at least once\n\n",
                          "final hand", "Final hand");
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         once.rows.push_back({odds::outcomeName(outcome),
                              percent(plays[0].chanceOfAtLeastOne(outcome, hands)),
                              percent(plays[1].chanceOfAtLeastOne(outcome, hands))});

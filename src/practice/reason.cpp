@@ -20,7 +20,7 @@ namespace
 constexpr std::size_t shownParts = 4;
 constexpr double smallestShare = 0.05; // of the largest part
 
-constexpr std::array<std::string_view, odds::outcomes> finalHands{
+constexpr std::array<std::string_view, odds::outcomeCount> finalHands{
     "losing hands", "royals",    "straight flushes", "fours of a kind", "full houses",
     "flushes",      "straights", "threes of a kind", "two pairs",       "high pairs"};
 
@@ -30,25 +30,25 @@ struct Part {
     double units; // by which the better hold earns more with them
 };
 
-std::array<double, odds::outcomes> creditsByOutcome(const odds::HeldCards& heldCards,
-                                                    const odds::DealtHand& hand, odds::Hold hold)
+std::array<double, odds::outcomeCount>
+creditsByOutcome(const odds::HeldCards& heldCards, const odds::DealtHand& hand, odds::Hold hold)
 {
     const odds::OutcomeCounts counts = hand.drawOutcomes(heldCards, hold);
     const double draws = std::accumulate(counts.begin(), counts.end(), 0);
-    std::array<double, odds::outcomes> credits{};
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    std::array<double, odds::outcomeCount> credits{};
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         credits[outcome] = counts[outcome] * static_cast<double>(heldCards.pays()[outcome]) / draws;
     return credits;
 }
 
 // The largest parts, the largest first, and the sum of the others. Each is rounded; the largest one
 // takes what is then missing from the total.
-std::vector<Part> partsOf(const std::array<double, odds::outcomes>& more,
-                          const std::array<double, odds::outcomes>& less, double unitsPerCredit,
+std::vector<Part> partsOf(const std::array<double, odds::outcomeCount>& more,
+                          const std::array<double, odds::outcomeCount>& less, double unitsPerCredit,
                           double total)
 {
     std::vector<Part> parts;
-    for (std::size_t outcome = 1; outcome < odds::outcomes; ++outcome)
+    for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
         parts.push_back({finalHands[outcome], (more[outcome] - less[outcome]) * unitsPerCredit});
     const auto size = [](const Part& part) { return std::abs(part.units); };
     std::ranges::stable_sort(parts, std::greater(), size);

@@ -32,7 +32,7 @@ std::map<std::int64_t, double> directly(const OneHand& one, int hands, std::int6
             if (credits < 5)
                 next[credits] += chance;
             else
-                for (std::size_t outcome = 0; outcome < outcomes; ++outcome)
+                for (std::size_t outcome = 0; outcome < outcomeCount; ++outcome)
                     next[credits - 5 + one.pays[outcome]] += chance * one.chance[outcome];
         }
         now = next;

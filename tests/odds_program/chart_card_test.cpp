@@ -25,7 +25,7 @@ using charts::Chart;
 std::vector<Chart> someCharts()
 {
     Chart all;
-    for (charts::RowKindId kind = charts::nothingRow() + 1 - charts::mostRows;
+    for (charts::RowKindId kind = charts::nothingRow() + 1 - charts::maxRows;
          kind <= charts::nothingRow(); ++kind)
         all.push_back({kind});
     return {charts::trainersChart(),

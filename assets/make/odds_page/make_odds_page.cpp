@@ -57,8 +57,8 @@ void writeTrainersTable(std::ostream& out, const charts::ChartPrice& trainers)
            "| hand | pays | chance in %, perfect play | one in | chance in %, chart | one in |\n"
            "|---|---|---|---|---|---|\n";
     const odds::Pays pays = odds::trainersPays();
-    for (std::size_t i = 0; i < odds::outcomes; ++i) {
-        const std::size_t outcome = (i + 1) % odds::outcomes;
+    for (std::size_t i = 0; i < odds::outcomeCount; ++i) {
+        const std::size_t outcome = (i + 1) % odds::outcomeCount;
         out << "| " << odds::outcomeName(outcome) << " | " << pays[outcome];
         for (const auto* odds : {&trainers.perfect, &trainers.played[charts::Taken::best]}) {
             const odds::Fraction& chance = odds->chances[outcome];
