@@ -14,7 +14,7 @@ namespace
 
 constexpr int margin = 10;
 constexpr int smallestCard = 56;
-constexpr int largestCard = 176;
+constexpr int largestCard = 210;
 
 } // namespace
 

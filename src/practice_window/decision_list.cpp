@@ -25,6 +25,13 @@ protected:
         else
             QTableView::keyPressEvent(event);
     }
+
+    // In a narrow window the names of the decisions need the room.
+    void resizeEvent(QResizeEvent* event) override
+    {
+        setColumnHidden(DecisionModel::asked, width() < 400);
+        QTableView::resizeEvent(event);
+    }
 };
 
 QTableView* viewOf(DecisionModel& model)

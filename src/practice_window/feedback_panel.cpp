@@ -31,9 +31,13 @@ FeedbackPanel::FeedbackPanel(QWidget* parent)
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setBold(true);
     m_headline->setFont(large);
+    QFont readable = font();
+    readable.setPointSizeF(readable.pointSizeF() * 1.1);
+    for (QLabel* label : {m_reason, m_rule})
+        label->setFont(readable);
     m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(2, 0, 2, 0);
+    column->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part : std::initializer_list<QWidget*>{m_headline, m_bars, m_reason, m_rule})
         column->addWidget(part);
     column->addStretch(1);

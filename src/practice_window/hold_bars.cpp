@@ -94,9 +94,9 @@ void HoldBars::paintRow(QPainter& painter, const Row& row, const QRect& place) c
     int caption = 0;
     for (const Row& each : m_rows)
         caption = std::max(caption, fontMetrics().horizontalAdvance(each.whose));
-    const int left = caption + gap;
+    const int left = 4 + caption + gap;
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(QRect(4, place.top(), left, place.height()), Qt::AlignVCenter, row.whose);
+    painter.drawText(QRect(4, place.top(), caption, place.height()), Qt::AlignVCenter, row.whose);
     if (row.faces.empty())
         painter.drawText(QRect(left, place.top(), 5 * cardStep, place.height()), Qt::AlignVCenter,
                          "no card");

@@ -86,7 +86,9 @@ void ReturnLine::paintAxes(QPainter& painter, const Axes& axes) const
     const double under = axes.area.bottom() + 3;
     const QRectF below(axes.area.left(), under, axes.area.width(), height() - under);
     painter.drawText(below, Qt::AlignLeft | Qt::AlignTop, "0");
-    painter.drawText(below, Qt::AlignRight | Qt::AlignTop, QString("%1 answers").arg(axes.answers));
+    painter.drawText(below, Qt::AlignRight | Qt::AlignTop,
+                     axes.answers == 1 ? QString("1 answer")
+                                       : QString("%1 answers").arg(axes.answers));
     faint.setAlpha(40);
     painter.setPen(faint);
     for (double tick = std::ceil(axes.low / step) * step; tick <= axes.high; tick += step)

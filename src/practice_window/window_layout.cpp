@@ -80,6 +80,7 @@ QWidget* PracticeWindow::layOutProgress()
     part->setChildrenCollapsible(false);
     part->setHandleWidth(10);
     part->setMinimumWidth(300);
+    part->setMaximumWidth(560);
     part->addWidget(new ReturnPanel(m_history));
     part->addWidget(new DecisionList(m_decisions));
     part->setStretchFactor(0, 2);
