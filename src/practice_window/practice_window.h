@@ -30,6 +30,7 @@ public:
     explicit PracticeWindow(const Surroundings& surroundings);
     ~PracticeWindow() override;
 
+    [[nodiscard]] const practice::Question& question() const { return m_question; }
     [[nodiscard]] DecisionModel& decisions() { return m_decisions; }
 
     // Answers with the held cards, or goes on to the next question.

@@ -5,10 +5,12 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -58,6 +60,13 @@ private:
     QStringList m_cards;
 };
 
+// Of the window, at its own size; null for a hand.
+QImage pictureIn(const QTextFormat& format)
+{
+    const QString name = format.toImageFormat().name();
+    return name.startsWith(":/help/") ? QImage(name) : QImage();
+}
+
 } // namespace
 
 HelpCards::HelpCards(QTextDocument* document) : QObject(document)
@@ -104,6 +113,11 @@ QString HelpCards::withoutPictures(QString copied)
 QSizeF HelpCards::intrinsicSize(QTextDocument* document, int /*position*/,
                                 const QTextFormat& format)
 {
+    if (const QImage picture = pictureIn(format); !picture.isNull()) {
+        const double room = document->textWidth() - 2 * document->documentMargin();
+        const double share = std::min(1.0, std::max(room, 100.0) / picture.width());
+        return QSizeF(picture.size()) * share;
+    }
     const Measures card = measuresIn(*document);
     const auto cards = static_cast<double>(PictureName(format).cards().size());
     return {cards * card.step, card.height + card.raise};
@@ -112,6 +126,10 @@ QSizeF HelpCards::intrinsicSize(QTextDocument* document, int /*position*/,
 void HelpCards::drawObject(QPainter* painter, const QRectF& area, QTextDocument* document,
                            int /*position*/, const QTextFormat& format)
 {
+    if (const QImage picture = pictureIn(format); !picture.isNull()) {
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        return painter->drawImage(area, picture);
+    }
     const QTransform toPixels = painter->deviceTransform();
     const auto pixels = [&](double length) {
         return static_cast<int>(std::lround(length * toPixels.m11()));

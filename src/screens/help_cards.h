@@ -7,7 +7,8 @@
 namespace quillet
 {
 
-// Shows the hands of the help as small cards: a picture before each hand, painted at the scale of
+// Shows the pictures of the program that the help names (":/help/..."), no wider than the page, and
+// the hands of the help as small cards: a picture before each hand, painted at the scale of
 // the display and in proportion to the font. The hand stays below it as text, which can be read
 // aloud, found and copied.
 class HelpCards : public QObject, public QTextObjectInterface

@@ -1,17 +1,21 @@
 #include "practice_window/practice_window.h"
+#include "screens/help_page.h"
 #include "tests/kit/file_text.h"
 #include "tests/kit/memory_store.h"
 #include "tests/kit/practice_game.h"
 #include "tests/kit/window_driving.h"
 
 #include <QAbstractItemView>
+#include <QAbstractTextDocumentLayout>
 #include <QAccessible>
 #include <QComboBox>
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTimer>
 #include <gmock/gmock.h>
 
@@ -229,6 +233,19 @@ TEST_F(PracticeTest, judgesByTheStandardAndPayTableOfThePreferences)
     for (int i = 0; i < 2; ++i)
         press(Qt::Key_Return);
     EXPECT_EQ(window->teacher().entries().back().standard, practice::JudgedBy::trainer);
+}
+
+TEST_F(PracticeTest, showsItsOwnHelpWithAPictureAsWideAsThePage)
+{
+    ASSERT_TRUE(QFile::copy(QUILLET_HELP_FILE, folder.filePath("practice.hlp")));
+    open();
+    press(Qt::Key_F1);
+    auto& page = control<HelpPage>(*window, "helpPage");
+    QTextDocument& text = *page.document();
+    const QTextBlock picture = text.find(QString(QChar::ObjectReplacementCharacter)).block();
+    const QRectF place = text.documentLayout()->blockBoundingRect(picture);
+    EXPECT_GT(place.height(), 200);
+    EXPECT_LE(place.right(), page.viewport()->width());
 }
 
 } // namespace quillet::practice_window::test

@@ -18,6 +18,8 @@ const Colour wine = rgb(0x8e2331);
 const Colour gold = rgb(0xe3ab43);
 const Colour paleGold = rgb(0xf7dc97);
 const Colour suitRed = rgb(0xc8102e);
+const Colour pine = rgb(0x1c5a40);
+const Colour green = rgb(0x23895b);
 
 QPainterPath grown(const QPainterPath& shape, double by)
 {
@@ -47,17 +49,34 @@ void addQuill(FlatDrawing& drawing, const Quill& feather, double outline, bool f
     drawing.shapes.push_back({feather.nib, paleGold});
 }
 
-FlatDrawing fullDrawing()
+Colour clothOf(Program program)
+{
+    return program == Program::trainer ? wine : pine;
+}
+
+// A heart, or a tick that is as high.
+FlatShape mark(Program program, QPointF middle, double height)
+{
+    if (program == Program::trainer)
+        return {suitMark(hearts, middle, height), suitRed};
+    QPainterPath tick(middle + QPointF(-0.46, 0.02) * height);
+    tick.lineTo(middle + QPointF(-0.1, 0.38) * height);
+    tick.lineTo(middle + QPointF(0.5, -0.42) * height);
+    return {stroked(tick, 0.27 * height, Qt::FlatCap, Qt::MiterJoin), green};
+}
+
+FlatDrawing fullDrawing(Program program)
 {
     FlatDrawing drawing{64, {}};
     // The quill points as on the table.
     addCard(drawing, {27, 12, 30, 40}, 4, 13, 1.5, paper);
     const QTransform turned = QTransform::fromTranslate(42, 32).rotate(13).translate(-42, -32);
-    drawing.shapes.push_back({turned.map(roundedPath({31, 16, 22, 32}, 2)), wine});
+    drawing.shapes.push_back({turned.map(roundedPath({31, 16, 22, 32}, 2)), clothOf(program)});
     addCard(drawing, {9, 9, 35, 49}, 4.2, -7, 1.5, paper);
     const QTransform leaning =
         QTransform::fromTranslate(26.5, 33.5).rotate(-7).translate(-26.5, -33.5);
-    drawing.shapes.push_back({leaning.map(suitMark(hearts, {27, 23}, 20)), suitRed});
+    const auto [outline, colour] = mark(program, {27, 23}, 20);
+    drawing.shapes.push_back({leaning.map(outline), colour});
     addQuill(drawing, quill({55, 61.5}, {2.2, 25}, 1.15), 1.2, true);
     return drawing;
 }
@@ -81,25 +100,25 @@ const std::array smallIcons{
     SmallIcon{32, {10, 1, 20, 27}, {3, 3, 21, 28}, 3, {14.5, 12}, 12.5, {27, 31.4}, {0.5, 12.5}},
 };
 
-FlatDrawing smallDrawing(const SmallIcon& small)
+FlatDrawing smallDrawing(const SmallIcon& small, Program program)
 {
     FlatDrawing drawing{static_cast<double>(small.size), {}};
     if (!small.back.isEmpty())
-        addCard(drawing, small.back, small.radius, 0, 1, wine);
+        addCard(drawing, small.back, small.radius, 0, 1, clothOf(program));
     addCard(drawing, small.front, small.radius, 0, 1, paper);
-    drawing.shapes.push_back({suitMark(hearts, small.heart, small.heartHeight), suitRed});
+    drawing.shapes.push_back(mark(program, small.heart, small.heartHeight));
     addQuill(drawing, quill(small.point, small.tip, 1.7), 0.8, false);
     return drawing;
 }
 
 } // namespace
 
-FlatDrawing iconDrawing(int size)
+FlatDrawing iconDrawing(int size, Program program)
 {
     for (const SmallIcon& small : smallIcons)
         if (small.size == size)
-            return smallDrawing(small);
-    return fullDrawing();
+            return smallDrawing(small, program);
+    return fullDrawing(program);
 }
 
 } // namespace quillet::artwork

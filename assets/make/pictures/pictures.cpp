@@ -63,12 +63,12 @@ void writeFrame(const QString& folder)
             framePiece(piece).toImage().convertToFormat(QImage::Format_RGB888));
 }
 
-void writeIcons(const QString& folder)
+void writeIcons(const QString& folder, const QString& name, Program program)
 {
     for (const int size : iconSizes)
-        writePng(inFolder(folder, QString("quillet-%1.png").arg(size)),
-                 toPixels(iconDrawing(size), size).toImage());
-    writeText(inFolder(folder, "quillet.svg"), toSvg(iconDrawing(iconSizes.back())));
+        writePng(inFolder(folder, QString("%1-%2.png").arg(name).arg(size)),
+                 toPixels(iconDrawing(size, program), size).toImage());
+    writeText(inFolder(folder, name + ".svg"), toSvg(iconDrawing(iconSizes.back(), program)));
 }
 
 } // namespace
@@ -84,7 +84,8 @@ void writePictures(const QString& folder)
     write("vpokerfelt.jpg", feltTable);
     write("vpokernight.jpg", nightTable);
     writeFrame(folder + "/frame");
-    writeIcons(folder + "/icons");
+    writeIcons(folder + "/icons", "quillet", Program::trainer);
+    writeIcons(folder + "/icons", "quillet-practice", Program::practice);
     writePng(inFolder(folder + "/pointer", "hand@2x.png"), pointingHand(2).toImage());
 }
 
