@@ -5,7 +5,9 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace quillet::practice_window
@@ -34,6 +36,30 @@ protected:
     }
 };
 
+// Styles draw a tick box in shades of its ground, which nobody sees on a dark one.
+class FramedTicks : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.column() != DecisionModel::name)
+            return;
+        QStyleOptionViewItem item = option;
+        initStyleOption(&item, index);
+        const QStyle& style = *option.widget->style();
+        QColor edge = option.palette.color(QPalette::Text);
+        edge.setAlpha(150);
+        painter->setPen(edge);
+        painter->drawRect(
+            style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &item, option.widget)
+                .adjusted(0, 0, -1, -1));
+    }
+};
+
 QTableView* viewOf(DecisionModel& model)
 {
     auto* view = new DecisionView;
@@ -41,6 +67,7 @@ QTableView* viewOf(DecisionModel& model)
     sorted->setSourceModel(&model);
     sorted->setSortRole(DecisionModel::sortRole);
     view->setModel(sorted);
+    view->setItemDelegate(new FramedTicks(view));
     view->setObjectName("decisions");
     view->setAccessibleName("Decisions");
     view->setSelectionBehavior(QAbstractItemView::SelectRows);

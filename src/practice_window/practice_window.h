@@ -55,6 +55,7 @@ protected:
 
 private:
     void layOut();
+    void orderTabs();
     [[nodiscard]] QWidget* layOutQuestion();
     [[nodiscard]] QWidget* layOutProgress();
 

@@ -42,8 +42,21 @@ void PracticeWindow::layOut()
     column->addWidget(m_splitter, 1);
     column->addWidget(m_messages);
     setCentralWidget(all);
+    orderTabs();
     resize(980, 640);
     restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(m_preferences.windowPlace)));
+}
+
+// As the eye goes: the cards, the answer, what is said about it, the decisions.
+void PracticeWindow::orderTabs()
+{
+    QWidget* last = m_cards->buttons().front();
+    for (const char* name :
+         {"card2", "card3", "card4", "card5", "answer", "holdBars", "reason", "decisions"}) {
+        auto* next = findChild<QWidget*>(name);
+        setTabOrder(last, next);
+        last = next;
+    }
 }
 
 QWidget* PracticeWindow::layOutQuestion()
