@@ -1,6 +1,5 @@
 #include "practice_window/feedback_panel.h"
 
-#include "platform/accessible_widgets.h"
 #include "practice_window/card_text.h"
 
 #include <QLabel>
@@ -31,6 +30,7 @@ FeedbackPanel::FeedbackPanel(QWidget* parent)
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setBold(true);
     m_headline->setFont(large);
+    m_headline->setFocusPolicy(Qt::TabFocus);
     QFont readable = font();
     readable.setPointSizeF(readable.pointSizeF() * 1.1);
     for (QLabel* label : {m_reason, m_rule})
@@ -73,7 +73,7 @@ void FeedbackPanel::show(const practice::Verdict& verdict,
     for (QWidget* part : std::initializer_list<QWidget*>{m_headline, m_bars})
         part->show();
     m_rule->setVisible(!rule.isEmpty());
-    announce(*m_headline);
+    m_headline->setFocus();
 }
 
 } // namespace quillet::practice_window

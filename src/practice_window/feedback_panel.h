@@ -17,7 +17,8 @@ public:
 
     // Before an answer: what to do.
     void showHint(const QString& hint);
-    // The cards in the order in which they lie on the table. Has readers say it.
+    // The cards in the order in which they lie on the table. Gives it the focus, so that readers
+    // read it.
     void show(const practice::Verdict& verdict, const std::array<odds::DeckPlace, 5>& cards);
 
 private:

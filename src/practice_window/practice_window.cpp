@@ -1,7 +1,6 @@
 #include "practice_window/practice_window.h"
 
 #include "faults/run_time_error.h"
-#include "platform/accessible_widgets.h"
 #include "platform/file_exists.h"
 #include "platform/number_keys.h"
 #include "practice_window/chart_file.h"
@@ -16,7 +15,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTimer>
 
 #include <utility>
 
@@ -49,7 +47,6 @@ PracticeWindow::PracticeWindow(const Surroundings& surroundings)
     connect(&m_decisions, &DecisionModel::tickedChanged, this, &PracticeWindow::practiseTicked);
     ask(practice::firstQuestion(m_surroundings.seed));
     callTeacher({});
-    m_answer->setFocus();
 }
 
 PracticeWindow::~PracticeWindow() = default;
@@ -115,8 +112,8 @@ void PracticeWindow::ask(const practice::Question& question)
     m_title->setText("Which cards do you hold?");
     m_title->setAccessibleName(m_title->text() + ' ' + m_cards->spokenCards());
     showProgress();
-    if (isVisible())
-        announce(*m_title);
+    // A screen reader reads what has the focus. All keys work from here.
+    m_title->setFocus();
 }
 
 void PracticeWindow::askNext()
@@ -163,7 +160,6 @@ void PracticeWindow::explain(const practice::Verdict& verdict)
     m_right += verdict.judgement.right ? 1 : 0;
     m_cards->setAnswered(true);
     m_answer->setText("Next question");
-    m_answer->setFocus();
     showProgress();
     m_feedback->show(verdict, m_question.cards);
     playCue(verdict.judgement.right);
@@ -273,13 +269,6 @@ void PracticeWindow::closeEvent(QCloseEvent* event)
 {
     savePreferences();
     event->accept();
-}
-
-// Readers follow a window once it is on the screen.
-void PracticeWindow::showEvent(QShowEvent* event)
-{
-    QMainWindow::showEvent(event);
-    QTimer::singleShot(0, this, [this] { announce(*m_title); });
 }
 
 void PracticeWindow::resizeEvent(QResizeEvent* event)

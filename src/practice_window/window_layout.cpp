@@ -47,12 +47,12 @@ void PracticeWindow::layOut()
     restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(m_preferences.windowPlace)));
 }
 
-// As the eye goes: the cards, the answer, what is said about it, the decisions.
+// As the eye goes: the question, the cards, the answer, what is said about it, the decisions.
 void PracticeWindow::orderTabs()
 {
-    QWidget* last = m_cards->buttons().front();
-    for (const char* name :
-         {"card2", "card3", "card4", "card5", "answer", "holdBars", "reason", "decisions"}) {
+    QWidget* last = m_title;
+    for (const char* name : {"card1", "card2", "card3", "card4", "card5", "answer", "headline",
+                             "holdBars", "reason", "decisions"}) {
         auto* next = findChild<QWidget*>(name);
         setTabOrder(last, next);
         last = next;
@@ -62,6 +62,7 @@ void PracticeWindow::orderTabs()
 QWidget* PracticeWindow::layOutQuestion()
 {
     m_title->setObjectName("question");
+    m_title->setFocusPolicy(Qt::TabFocus);
     m_title->setFont(scaled(font(), 1.4));
     m_progress->setObjectName("progress");
     m_answer->setObjectName("answer");

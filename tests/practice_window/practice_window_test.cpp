@@ -127,7 +127,7 @@ TEST_F(PracticeTest, asksTakesAnAnswerByMouseExplainsItAndGoesOn)
 TEST_F(PracticeTest, tellsAScreenReaderTheCardsTheHoldsAndTheVerdict)
 {
     open();
-    const QString question = control(*window, "question").accessibleName();
+    const QString question = window->focusWidget()->accessibleName();
     EXPECT_TRUE(question.startsWith("Which cards do you hold? ")) << question.toStdString();
     EXPECT_EQ(question.count(" of "), 5);
     QWidget& card = control(*window, "card1");
@@ -138,7 +138,7 @@ TEST_F(PracticeTest, tellsAScreenReaderTheCardsTheHoldsAndTheVerdict)
     press(Qt::Key_1);
     holdByKeys();
     press(Qt::Key_Space);
-    const QString verdict = control(*window, "headline").accessibleName();
+    const QString verdict = window->focusWidget()->accessibleName();
     EXPECT_TRUE(verdict.startsWith("Right. ")) << verdict.toStdString();
     EXPECT_THAT(control(*window, "holdBars").accessibleName().toStdString(), HasSubstr("credits"));
 }
