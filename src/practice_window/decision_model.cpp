@@ -114,7 +114,7 @@ QVariant DecisionModel::data(const QModelIndex& index, int role) const
         return {};
     case Qt::AccessibleTextRole:
         if (index.column() == name)
-            return QString("%1, %2, asked %3 times")
+            return QString("%1, %2, asked: %3")
                 .arg(text(id, name), wordFor(m_rows[id].state), text(id, asked));
         return {};
     case Qt::TextAlignmentRole:
