@@ -43,10 +43,17 @@ public:
         answerUntil(window, "practice-right", [](const practice::Verdict& verdict) {
             return verdict.judgement.right && verdict.hand.bestHold != 0;
         });
-        answerUntil(window, "practice-wrong", [](const practice::Verdict& verdict) {
+        const auto costs = [](const practice::Verdict& verdict) {
             return verdict.judgement.cost.value() > 0.3 && odds::cardsIn[verdict.held] > 1;
-        });
+        };
+        answerUntil(window, "practice-wrong", costs);
         showQuestions(window);
+
+        m_store.save({{"Quillet", "Practice", "standard", "trainer"}});
+        PracticeWindow byChart(surroundings());
+        byChart.resize(window.size());
+        byChart.show();
+        answerUntil(byChart, "practice-chart", costs);
     }
 
 private:
