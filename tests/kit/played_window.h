@@ -53,10 +53,7 @@ public:
     // Holds the slots whose digits (1..5) are named and clicks the deck.
     void draw(std::string_view heldSlots);
 
-    [[nodiscard]] QWidget& part(const std::string& name)
-    {
-        return control(*window, QString::fromStdString(name));
-    }
+    [[nodiscard]] QWidget& part(const std::string& name) { return control(*window, name.c_str()); }
     // The counters, "total/hands/won".
     [[nodiscard]] std::string counters();
     // What a screen reader says of the card places, their numbers left out.

@@ -27,7 +27,7 @@ struct RecordingShell : PageOpener {
 };
 
 template <typename Widget = QWidget>
-Widget& control(QWidget& window, const QString& name)
+Widget& control(QWidget& window, const char* name)
 {
     auto* widget = window.findChild<Widget*>(name);
     if (widget == nullptr)

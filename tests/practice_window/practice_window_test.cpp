@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <string>
 
 namespace quillet::practice_window::test
 {
@@ -69,7 +70,8 @@ struct PracticeTest : testing::Test {
 
     odds::DeckPlace place(int slot)
     {
-        const QString name = control(*window, QString("card%1").arg(slot + 1)).accessibleName();
+        const std::string card = "card" + std::to_string(slot + 1);
+        const QString name = control(*window, card.c_str()).accessibleName();
         static const QStringList ranks{"Ace",   "Two",  "Three", "Four", "Five",  "Six", "Seven",
                                        "Eight", "Nine", "Ten",   "Jack", "Queen", "King"};
         static const QStringList suits{"clubs", "diamonds", "hearts", "spades"};
