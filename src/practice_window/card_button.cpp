@@ -73,12 +73,12 @@ const QImage& CardButton::picture(QSize deviceSize)
 void CardButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QRect caption(0, height() - practice_window::caption, width(), practice_window::caption);
+    const QRect below(0, height() - caption, width(), caption);
     QFont font = painter.font();
     font.setBold(isChecked());
     painter.setFont(font);
     painter.setPen(isChecked() ? held : quiet);
-    painter.drawText(caption, Qt::AlignCenter,
+    painter.drawText(below, Qt::AlignCenter,
                      isChecked() ? QString("HELD") : QString::number(m_slot + 1));
 
     const double scale = devicePixelRatioF();
