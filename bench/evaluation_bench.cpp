@@ -5,8 +5,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
+#include <random>
 #include <vector>
 
 namespace quillet
@@ -20,52 +23,65 @@ std::uint64_t stoppedClock()
     return 0;
 }
 
-// Enough hands in random order that the branch predictor cannot learn them.
-constexpr std::size_t handCount = 1 << 14;
-
-std::vector<std::array<Card, 5>> randomHands()
+// The next larger number with as many bits (Gosper's hack).
+std::uint64_t nextChoice(std::uint64_t bits)
 {
-    BlendingRandom random(stoppedClock, 1);
-    std::vector<std::array<Card, 5>> hands(handCount);
-    PokerDeck deck{};
-    for (auto& hand : hands) {
-        shuffleDeck(deck, random);
-        hand = dealHand(deck);
+    const std::uint64_t lowest = bits & -bits;
+    const std::uint64_t carried = bits + lowest;
+    return carried | ((bits ^ carried) >> 2) / lowest;
+}
+
+using Hand = std::array<Card, 5>;
+
+// Every hand of the deck, in random order, so that no branch predictor can learn them. 78 MB.
+std::vector<Hand> allHands()
+{
+    std::vector<Hand> hands;
+    hands.reserve(2'598'960);
+    std::mt19937 random(1);
+    for (std::uint64_t cards = 0b11111; cards < std::uint64_t{1} << 52; cards = nextChoice(cards)) {
+        Hand& hand = hands.emplace_back();
+        std::uint64_t rest = cards;
+        for (Card& card : hand) {
+            card = makeCard(static_cast<std::int16_t>(std::countr_zero(rest)));
+            rest &= rest - 1;
+        }
+        std::ranges::shuffle(hand, random);
     }
+    std::ranges::shuffle(hands, random);
     return hands;
 }
 
 // A random number of each hand's cards, none to five, over fillers.
-std::vector<std::array<Card, 5>> randomHolds()
+std::vector<Hand> randomHolds()
 {
-    BlendingRandom random(stoppedClock, 2);
-    auto hands = randomHands();
-    for (auto& hand : hands) {
-        for (int place = static_cast<int>(random.next() * 6); place < 5; ++place)
+    std::mt19937 random(2);
+    auto hands = allHands();
+    for (Hand& hand : hands) {
+        for (int place = static_cast<int>(random() % 6); place < 5; ++place)
             hand[static_cast<std::size_t>(place)] = fillerCard(place);
     }
     return hands;
 }
 
-void classify(benchmark::State& state, const std::vector<std::array<Card, 5>>& hands,
-              bool finalHand)
+void classify(benchmark::State& state, const std::vector<Hand>& hands, bool finalHand)
 {
     std::size_t next = 0;
     for ([[maybe_unused]] auto step : state) {
         benchmark::DoNotOptimize(EvaluatePokerHand(hands[next], finalHand));
-        next = (next + 1) % handCount;
+        next = next + 1 < hands.size() ? next + 1 : 0;
     }
 }
 
 void dealtHands(benchmark::State& state)
 {
-    classify(state, randomHands(), false);
+    classify(state, allHands(), false);
 }
 BENCHMARK(dealtHands);
 
 void finalHands(benchmark::State& state)
 {
-    classify(state, randomHands(), true);
+    classify(state, allHands(), true);
 }
 BENCHMARK(finalHands);
 
@@ -77,17 +93,19 @@ BENCHMARK(heldCardsOverFillers);
 
 void judgements(benchmark::State& state)
 {
-    const auto hands = randomHands();
+    const auto hands = allHands();
     std::vector<std::int16_t> plays;
-    plays.reserve(hands.size());
-    for (const auto& hand : hands)
+    std::vector<std::array<bool, 5>> holds;
+    std::mt19937 random(3);
+    for (const auto& hand : hands) {
         plays.push_back(EvaluatePokerHand(hand, false));
+        for (bool& held : holds.emplace_back())
+            held = random() % 2 != 0;
+    }
     std::size_t next = 0;
     for ([[maybe_unused]] auto step : state) {
-        const std::array<bool, 5> held{(next & 1) != 0, (next & 2) != 0, (next & 4) != 0,
-                                       (next & 8) != 0, (next & 16) != 0};
-        benchmark::DoNotOptimize(isCorrectHold(hands[next], held, plays[next]));
-        next = (next + 1) % handCount;
+        benchmark::DoNotOptimize(isCorrectHold(hands[next], holds[next], plays[next]));
+        next = next + 1 < hands.size() ? next + 1 : 0;
     }
 }
 BENCHMARK(judgements);

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Prints the medians of two sets of benchmark results, and the ratio of each pair."""
+"""Prints the medians of two sets of benchmark results and the ratio of each pair, or, with a second
+argument that describes the run, the table of one set."""
 import collections
 import glob
 import json
@@ -23,7 +24,10 @@ def results(folder, name):
             # Of a benchmark that repeats itself the median counts.
             if one.get("aggregate_name", "median") != "median":
                 continue
-            what = re.sub("/(iterations|repeats):[0-9]+|/manual_time|_median$", "", one["name"])
+            what = re.sub("/(iterations|repeats):[0-9]+|/(manual|real|process)_time|_median$", "",
+                          one["name"])
+            if name == "ours" and "real_time" in one:
+                wall[what].append(one["real_time"] * NANOSECONDS[one["time_unit"]])
             if "processor ms" in one:
                 time = one["processor ms"] * 1e6
             elif "cpu_time" in one:
@@ -49,7 +53,13 @@ def text(times):
     return f"{time / NANOSECONDS[unit]:.3g} {unit}"
 
 
+wall = collections.defaultdict(list)
 ours, theirs = (results(sys.argv[1], name) for name in ("ours", "theirs"))
+if len(sys.argv) > 2:
+    print(sys.argv[2] + "\n\n| benchmark | processor time | wall time |\n|---|---|---|")
+    for name in ours:
+        print(f"| `{name}` | {text(ours[name])} | {text(wall[name]) if name in wall else ''} |")
+    sys.exit()
 print(f"{'processor time':40}{'theirs':>10}{'ours':>10}{'ratio':>8}")
 for name in dict.fromkeys([*ours, *theirs]):
     ratio = "-"

@@ -2,8 +2,6 @@
 // window for comparison, for a second start, and for the very first start, which measures the
 // machine. Then it leaves the trainer idle for a minute. The counter "main ms" is the processor
 // time of the main thread, on which other programs have little influence.
-#include "bench/busy_load.h"
-
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -104,10 +102,8 @@ void waitUntilIdle(const Trainer& trainer)
     }
 }
 
-// The range is the number of busy programs beside it.
 void startToVisibleTable(benchmark::State& state, Start start)
 {
-    const BusyLoad load(state.range(0));
     for ([[maybe_unused]] auto step : state) {
         QElapsedTimer waited;
         waited.start();
@@ -141,17 +137,9 @@ void manyStarts(benchmark::internal::Benchmark* benchmark)
 
 BENCHMARK_CAPTURE(startToVisibleTable, emptyWindow, Start::emptyWindow)
     ->Apply(manyStarts)
-    ->Arg(0)
     ->Repetitions(15);
-BENCHMARK_CAPTURE(startToVisibleTable, second, Start::second)
-    ->Apply(manyStarts)
-    ->Arg(0)
-    ->Repetitions(15);
-BENCHMARK_CAPTURE(startToVisibleTable, first, Start::first)
-    ->Apply(manyStarts)
-    ->Arg(0)
-    ->Arg(8)
-    ->Repetitions(3);
+BENCHMARK_CAPTURE(startToVisibleTable, second, Start::second)->Apply(manyStarts)->Repetitions(15);
+BENCHMARK_CAPTURE(startToVisibleTable, first, Start::first)->Apply(manyStarts)->Repetitions(3);
 BENCHMARK(aMinuteOfWaiting)->Unit(benchmark::kSecond)->UseRealTime()->Iterations(1);
 
 } // namespace
