@@ -1,5 +1,6 @@
 #include "charts/chart_price.h"
 #include "engine/random.h"
+#include "odds/bankroll.h"
 #include "odds/fair_odds.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"

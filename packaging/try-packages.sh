@@ -11,7 +11,8 @@ apt-get -q -y install ./build/package/quillet-odds_*.deb
 packaging/debian/tests/odds
 
 echo "== both, and the tools with which the test plays"
-apt-get -q -y install ./build/package/*.deb imagemagick openbox x11-utils xauth xdotool xvfb
+apt-get -q -y install ./build/package/*.deb imagemagick openbox procps x11-utils xauth xdotool \
+    xvfb
 packaging/debian/tests/play
 
 echo "== purged"

@@ -1,41 +1,13 @@
 #pragma once
 
-#include "odds/fair_odds.h"
-#include "odds/pays.h"
+#include "odds/one_hand.h"
+#include "odds/work_progress.h"
 
-#include <array>
 #include <cstdint>
-#include <functional>
-#include <optional>
 #include <vector>
 
 namespace quillet::odds
 {
-
-// The chance and the pay of each outcome of one hand, for one way to play.
-struct OneHand {
-    std::array<double, outcomeCount> chance{};
-    Pays pays{};
-
-    // In wagers of five credits.
-    [[nodiscard]] double returned() const;
-    [[nodiscard]] double variance() const;
-
-    // The chance to get the outcome at least once in this number of hands.
-    [[nodiscard]] double chanceOfAtLeastOne(std::size_t outcome, std::int64_t hands) const;
-
-    // The number of hands after which the expected gain or loss equals 1.96 standard deviations;
-    // nothing when the game is fair.
-    [[nodiscard]] std::optional<double> handsUntilTheEdgeShows() const;
-};
-
-[[nodiscard]] OneHand oneHand(const OutcomeChances& chances, const Pays& pays);
-
-// Called with the share of the work done, 0 to 1.
-using WorkProgress = std::function<void(double)>;
-
-// Error bound of every chance below, from cut tails and rounding.
-inline constexpr double sittingBound = 1e-9;
 
 inline constexpr std::int64_t maxHands = 10'000'000;
 
@@ -65,11 +37,5 @@ private:
     std::int64_t m_paid = 0;  // credits
     std::vector<double> m_chance;
 };
-
-// The chance of ruin, when the bankroll is too small for another hand, after each tenth of the
-// hands; the last entry is for all of them. Throws BadInput when it would take too long.
-[[nodiscard]] std::array<double, 10> chancesOfRuin(const OneHand& hand, std::int64_t hands,
-                                                   std::int64_t bankroll,
-                                                   const WorkProgress& progress = {});
 
 } // namespace quillet::odds

@@ -2,8 +2,9 @@
 
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
+#include "odds/one_hand.h"
 #include "odds/simulation.h"
-#include "odds/sitting.h"
+#include "odds/work_progress.h"
 #include "odds_program/report.h"
 
 #include <array>

@@ -1,3 +1,5 @@
+#include "odds/bankroll.h"
+#include "odds/sitting.h"
 #include "odds_program/reports.h"
 
 #include <algorithm>

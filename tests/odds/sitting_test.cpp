@@ -1,5 +1,7 @@
 #include "odds/bad_input.h"
+#include "odds/bankroll.h"
 #include "odds/sitting.h"
+#include "odds/tail_bounds.h"
 #include "tests/kit/held_cards.h"
 
 #include <gmock/gmock.h>

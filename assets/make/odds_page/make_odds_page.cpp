@@ -1,6 +1,7 @@
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
 #include "charts/mistakes.h"
+#include "odds/bankroll.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
 #include "odds/sitting.h"
