@@ -70,7 +70,7 @@ void printCoverages(int sessions)
 {
     std::printf("\n%-24s %7s %8s %8s %9s %11s %8s %6s\n", "player", "answers", "exact", "mean",
                 "inside", "half width", "widest", "ms");
-    const auto trainers = charts::trainersChart();
+    const auto& trainers = charts::trainersChart();
     printCoverage("perfect play", Player({}), sessions);
     printCoverage("the trainer's chart", Player(trainers), sessions);
     printCoverage("the best 12 rows", Player(charts::parseChart(bestOf12)), sessions);

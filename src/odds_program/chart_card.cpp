@@ -64,7 +64,8 @@ std::string scooped(double inset, std::string_view fill, std::string_view stroke
     const double width = right - margin - 2 * inset - 2 * r;
     const double height = plateHeight - 2 * inset - 2 * r;
     std::string path = svgCommand('M', std::array{margin + inset + r, margin + inset});
-    double dx = 1, dy = 0; // clockwise from the upper side
+    double dx = 1; // clockwise from the upper side
+    double dy = 0;
     for (const double length : {width, height, width, height}) {
         path += svgCommand('l', std::array{dx * length, dy * length}) +
                 svgCommand('a', std::array{r, r, 0.0, 0.0, 0.0, r * (dx - dy), r * (dx + dy)});

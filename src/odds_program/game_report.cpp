@@ -58,7 +58,8 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
         const auto shows = one.handsUntilTheEdgeShows();
         table.rows.push_back(
             {strategy.name, rounded(one.variance(), 4), rounded(std::sqrt(one.variance()), 4),
-             exact((odds::Fraction(1, 1) - strategy.odds.returned) * (100 * wager), 4),
+             exact((odds::Fraction(1, 1) - strategy.odds.returned) * (odds::Int128{100} * wager),
+                   4),
              shows ? rounded(*shows, 0) : "never"});
     }
     return table;

@@ -282,11 +282,11 @@ void PracticeWindow::keyPressEvent(QKeyEvent* event)
     const std::optional<int> digit = digitOfKey(*event, QGuiApplication::platformName());
     const int key = event->key();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (event->isAutoRepeat() || (!digit && !plain))
-        QMainWindow::keyPressEvent(event);
-    else if (digit && *digit >= 1 && *digit <= 5)
+    const bool answers = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool pressed = !event->isAutoRepeat();
+    if (pressed && digit && *digit >= 1 && *digit <= 5)
         m_cards->toggle(*digit - 1);
-    else if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+    else if (pressed && plain && answers)
         answerOrGoOn();
     else
         QMainWindow::keyPressEvent(event);

@@ -119,9 +119,8 @@ void ReturnLine::paintPoints(QPainter& painter, const Axes& axes) const
         const auto count = static_cast<double>(point.answers);
         line.append(axes.at(count, point.estimate.returned));
         band.append(axes.at(count, point.estimate.high));
+        band.prepend(axes.at(count, point.estimate.low));
     }
-    for (auto point = points.rbegin(); point != points.rend(); ++point)
-        band.append(axes.at(static_cast<double>(point->answers), point->estimate.low));
     painter.save();
     painter.setClipRect(axes.area.adjusted(-4, -4, 4, 0));
     QColor shade = lineColour;

@@ -89,7 +89,7 @@ TEST(DiscardKinds, tellWhatIsThrownAway)
 
 TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
 {
-    const Chart chart = trainersChart();
+    const Chart& chart = trainersChart();
     EXPECT_EQ(chartIn("trainer.chart"), chart);
     forEachPlayedDeal(heldCards(), chart, [](const PlayedDeal& deal) {
         std::array<Card, 5> cards;

@@ -34,7 +34,7 @@ int insideOf(const Player& player, std::size_t answers, int sessions, double hal
 // The benchmark has the same for many more sessions.
 TEST(Estimate, holdsTheExactReturnOfPlayersWhoseReturnIsKnown)
 {
-    const auto chart = charts::trainersChart();
+    const auto& chart = charts::trainersChart();
     for (const Player& player : {Player({}), Player(chart)}) {
         EXPECT_GE(insideOf(player, 200, 15, 0.5), 14);
         EXPECT_GE(insideOf(player, 1000, 4, 0.2), 4);

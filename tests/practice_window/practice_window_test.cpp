@@ -105,7 +105,7 @@ struct PracticeTest : testing::Test {
 TEST_F(PracticeTest, asksTakesAnAnswerByMouseExplainsItAndGoesOn)
 {
     open();
-    CardButton& card = control<CardButton>(*window, "card2");
+    auto& card = control<CardButton>(*window, "card2");
     click(card);
     EXPECT_TRUE(card.isChecked());
     click(card);
