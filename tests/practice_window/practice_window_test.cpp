@@ -122,7 +122,8 @@ TEST_F(PracticeTest, asksTakesAnAnswerByMouseExplainsItAndGoesOn)
     EXPECT_NE(deal().places, before.places);
     EXPECT_EQ(answerButton(), "Answer");
     EXPECT_THAT(fileText(journal), HasSubstr("2026-01-02T00:00:00Z,"));
-    QTRY_VERIFY_WITH_TIMEOUT(text("return").contains("You return about"), 20'000);
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return text("return").contains("You return about"); }, 20'000));
 }
 
 // The words are all that a blind player has.
