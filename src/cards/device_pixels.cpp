@@ -21,4 +21,16 @@ QRect deviceRect(const QRectF& logical, double scale)
             deviceSize(logical.width(), scale), deviceSize(logical.height(), scale)};
 }
 
+InDevicePixels::InDevicePixels(QPainter& painter)
+    : m_painter(painter), m_toPixels(painter.deviceTransform())
+{
+    painter.save();
+    painter.setWorldTransform(m_toPixels.inverted() * painter.worldTransform());
+}
+
+InDevicePixels::~InDevicePixels()
+{
+    m_painter.restore();
+}
+
 } // namespace quillet

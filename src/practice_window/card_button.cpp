@@ -69,7 +69,6 @@ const QImage& CardButton::picture(QSize deviceSize)
     return m_picture;
 }
 
-// The card in device pixels, so that its edges are sharp at every scale.
 void CardButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -81,15 +80,12 @@ void CardButton::paintEvent(QPaintEvent*)
     painter.drawText(below, Qt::AlignCenter,
                      isChecked() ? QString("HELD") : QString::number(m_slot + 1));
 
-    const double scale = devicePixelRatioF();
-    const QTransform toPixels = painter.deviceTransform();
-    const QPoint corner = toPixels.map(QPointF(edge, edge)).toPoint();
-    const QRect card(
-        corner, QSize(deviceSize(m_cardWidth, scale), deviceSize(cardHeight(m_cardWidth), scale)));
-    painter.setWorldTransform(toPixels.inverted() * painter.worldTransform());
+    const InDevicePixels pixels(painter);
+    const QRect card(pixels.at(QPointF(edge, edge)),
+                     QSize(pixels.length(m_cardWidth), pixels.length(cardHeight(m_cardWidth))));
     painter.drawImage(card.topLeft(), picture(card.size()));
     if (isChecked())
-        paintHoldMarker(painter, card, scale, held);
+        paintHoldMarker(painter, card, devicePixelRatioF(), held);
     if (hasFocus())
         paintFocusFrame(painter, card);
 }

@@ -1,13 +1,13 @@
 #include "practice_window/hold_bars.h"
 
 #include "cards/card_names.h"
+#include "cards/device_pixels.h"
 #include "cards/small_card.h"
 
 #include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quillet::practice_window
 {
@@ -24,11 +24,11 @@ QString creditsText(double credits)
     return QLocale::c().toString(credits, 'f', 2);
 }
 
-QColor barColour(const QString& whose, bool isBest)
+QColor barColour(bool isPlayers, bool isBest)
 {
     if (isBest)
         return {0x2f, 0x9e, 0x6e};
-    return whose.startsWith("Yours") ? QColor(0xcf, 0x5b, 0x45) : QColor(0x6f, 0x8f, 0xb5);
+    return isPlayers ? QColor(0xcf, 0x5b, 0x45) : QColor(0x6f, 0x8f, 0xb5);
 }
 
 } // namespace
@@ -46,7 +46,7 @@ void HoldBars::show(const practice::Verdict& verdict, const std::array<odds::Dec
     m_most = std::max(verdict.holds.front().credits, 0.01);
     QStringList spoken;
     for (const practice::ShownHold& shown : verdict.holds) {
-        Row row{QString::fromStdString(shown.whose), {}, shown.credits};
+        Row row{QString::fromStdString(shown.whose), {}, shown.credits, shown.hold == verdict.held};
         QStringList names;
         for (const odds::DeckPlace card : cards) {
             const auto at = std::ranges::find(verdict.hand.places, card);
@@ -110,7 +110,7 @@ void HoldBars::paintRow(QPainter& painter, const Row& row, const QRect& place) c
                      13);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(barColour(row.whose, row.credits >= m_most));
+    painter.setBrush(barColour(row.isPlayers, row.credits >= m_most));
     painter.drawRoundedRect(bar, 3, 3);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QRectF(bar.right() + 6, place.top(), number, place.height()), Qt::AlignVCenter,
@@ -119,19 +119,13 @@ void HoldBars::paintRow(QPainter& painter, const Row& row, const QRect& place) c
 
 void HoldBars::paintCards(QPainter& painter, const Row& row, QPoint corner) const
 {
-    const QTransform toPixels = painter.deviceTransform();
-    const auto pixels = [&](int length) {
-        return static_cast<int>(std::lround(length * toPixels.m11()));
-    };
-    QPoint at = toPixels.map(QPointF(corner)).toPoint();
-    painter.save();
-    painter.setWorldTransform(toPixels.inverted() * painter.worldTransform());
+    const InDevicePixels pixels(painter);
+    const QSize size(pixels.length(cardSize.width()), pixels.length(cardSize.height()));
+    QPoint at = pixels.at(corner);
     for (const int face : row.faces) {
-        painter.drawImage(
-            at, renderSmallCard(face, {pixels(cardSize.width()), pixels(cardSize.height())}));
-        at.rx() += pixels(cardStep);
+        painter.drawImage(at, renderSmallCard(face, size));
+        at.rx() += pixels.length(cardStep);
     }
-    painter.restore();
 }
 
 } // namespace quillet::practice_window

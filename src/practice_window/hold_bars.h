@@ -28,6 +28,7 @@ private:
         QString whose;
         std::vector<int> faces;
         double credits = 0;
+        bool isPlayers = false;
     };
 
     [[nodiscard]] int rowHeight() const;

@@ -1,11 +1,11 @@
 #include "screens/help_cards.h"
 
+#include "cards/device_pixels.h"
 #include "cards/small_card.h"
 #include "engine/card.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
-#include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTextDocument>
@@ -60,13 +60,6 @@ private:
     QStringList m_cards;
 };
 
-// Of the window, at its own size; null for a hand.
-QImage pictureIn(const QTextFormat& format)
-{
-    const QString name = format.toImageFormat().name();
-    return name.startsWith(":/help/") ? QImage(name) : QImage();
-}
-
 } // namespace
 
 HelpCards::HelpCards(QTextDocument* document) : QObject(document)
@@ -110,6 +103,17 @@ QString HelpCards::withoutPictures(QString copied)
     return copied.remove(pictures);
 }
 
+// At its own size; null for a hand.
+QImage HelpCards::pictureIn(const QTextFormat& format)
+{
+    const QString name = format.toImageFormat().name();
+    if (!name.startsWith(":/help/"))
+        return {};
+    if (!m_pictures.contains(name))
+        m_pictures.insert(name, QImage(name));
+    return m_pictures.value(name);
+}
+
 QSizeF HelpCards::intrinsicSize(QTextDocument* document, int /*position*/,
                                 const QTextFormat& format)
 {
@@ -130,24 +134,16 @@ void HelpCards::drawObject(QPainter* painter, const QRectF& area, QTextDocument*
         painter->setRenderHint(QPainter::SmoothPixmapTransform);
         return painter->drawImage(area, picture);
     }
-    const QTransform toPixels = painter->deviceTransform();
-    const auto pixels = [&](double length) {
-        return static_cast<int>(std::lround(length * toPixels.m11()));
-    };
     const Measures card = measuresIn(*document);
-    const QSize size(pixels(card.width), pixels(card.height));
-    QPoint corner = toPixels.map(area.topLeft()).toPoint();
+    const InDevicePixels pixels(*painter);
+    const QSize size(pixels.length(card.width), pixels.length(card.height));
+    QPoint corner = pixels.at(area.topLeft());
     const PictureName picture(format);
-
-    painter->save();
-    // In device pixels, so that the edges of the cards are sharp.
-    painter->setWorldTransform(toPixels.inverted() * painter->worldTransform());
     for (const QString& name : picture.cards()) {
-        const QPoint lowered(0, picture.isHeld(name) ? 0 : pixels(card.raise));
+        const QPoint lowered(0, picture.isHeld(name) ? 0 : pixels.length(card.raise));
         painter->drawImage(corner + lowered, renderSmallCard(faceOf(name), size));
-        corner.rx() += pixels(card.step);
+        corner.rx() += pixels.length(card.step);
     }
-    painter->restore();
 }
 
 } // namespace quillet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QImage>
 #include <QObject>
 #include <QString>
 #include <QTextObjectInterface>
@@ -30,6 +32,11 @@ public:
     QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
     void drawObject(QPainter* painter, const QRectF& area, QTextDocument* document, int position,
                     const QTextFormat& format) override;
+
+private:
+    [[nodiscard]] QImage pictureIn(const QTextFormat& format);
+
+    QHash<QString, QImage> m_pictures; // by name, decoded once
 };
 
 } // namespace quillet
