@@ -4,13 +4,12 @@
 #include "platform/message_error_box.h"
 #include "platform/short_delay.h"
 #include "platform/system_clock.h"
+#include "platform/window_icon.h"
 #include "platform/window_loss.h"
 #include "settings/text_file_store.h"
 #include "sound/sdl_sound_output.h"
 
 #include <QApplication>
-#include <QIcon>
-#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,18 +17,6 @@
 
 namespace
 {
-
-// Given to the window manager with the first events, when the window has just appeared.
-void useIcons()
-{
-    QTimer::singleShot(0, [] {
-        QIcon icon;
-        // Window managers use no larger ones.
-        for (const int size : {16, 22, 24, 32, 48, 64, 128})
-            icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
-        QApplication::setWindowIcon(icon);
-    });
-}
 
 // Loads the main window and runs the program to its end.
 int Main()
@@ -75,6 +62,6 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet"));
     QGuiApplication::setDesktopFileName(QStringLiteral("quillet"));
-    useIcons();
+    quillet::useWindowIcon("quillet");
     return Main();
 }

@@ -2,9 +2,8 @@
 
 #include "main_window/frm_main.h"
 #include "main_window/indicator_style.h"
+#include "platform/menu_entry.h"
 
-#include <QAction>
-#include <QMenu>
 #include <QMenuBar>
 
 namespace quillet
@@ -12,18 +11,6 @@ namespace quillet
 
 namespace
 {
-
-template <typename Handler>
-QAction* addEntry(QMenu& menu, const QString& name, const QString& caption, frmMain& window,
-                  Handler handler)
-{
-    QAction* entry = menu.addAction(caption);
-    entry->setObjectName(name);
-    // Otherwise some desktops move entries with certain captions to another menu.
-    entry->setMenuRole(QAction::NoRole);
-    QObject::connect(entry, &QAction::triggered, &window, handler);
-    return entry;
-}
 
 QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption)
 {

@@ -1,28 +1,12 @@
 #include "practice_window/practice_menus.h"
 
+#include "platform/menu_entry.h"
 #include "practice_window/practice_window.h"
 
-#include <QAction>
-#include <QMenu>
 #include <QMenuBar>
 
 namespace quillet::practice_window
 {
-
-namespace
-{
-
-template <typename Act>
-QAction* addEntry(QMenu& menu, const QString& name, const QString& caption, PracticeWindow& window,
-                  Act act)
-{
-    QAction* entry = menu.addAction(caption);
-    entry->setObjectName(name);
-    QObject::connect(entry, &QAction::triggered, &window, act);
-    return entry;
-}
-
-} // namespace
 
 void makeMenus(PracticeWindow& window)
 {
