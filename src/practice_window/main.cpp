@@ -1,16 +1,15 @@
 #include "platform/browser_opener.h"
+#include "platform/window_icon.h"
 #include "platform/window_loss.h"
 #include "practice_window/practice_window.h"
 #include "settings/text_file_store.h"
+#include "settings/user_folder.h"
 #include "sound/sdl_sound_output.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
-#include <QTimer>
 
-#include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <random>
 
 namespace
@@ -18,14 +17,10 @@ namespace
 
 using namespace quillet;
 
-// Where programs keep what they have noted.
-std::filesystem::path stateFolder()
+std::filesystem::path journalPath()
 {
-    const char* state = std::getenv("XDG_STATE_HOME");
-    if (state != nullptr && *state == '/')
-        return state;
-    const char* home = std::getenv("HOME");
-    return std::filesystem::path(home != nullptr ? home : "/") / ".local" / "state";
+    const QString folder = userFolder("XDG_STATE_HOME", ".local/state") + "/Quillet";
+    return std::filesystem::path(QFile::encodeName(folder).toStdString()) / "practice.csv";
 }
 
 charts::Chart losslessChart()
@@ -41,16 +36,6 @@ std::chrono::sys_seconds now()
     return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
 }
 
-void useIcons()
-{
-    QTimer::singleShot(0, [] {
-        QIcon icon;
-        for (const int size : {16, 22, 24, 32, 48, 64, 128})
-            icon.addFile(QString(":/icons/quillet-practice-%1.png").arg(size));
-        QApplication::setWindowIcon(icon);
-    });
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -60,7 +45,7 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet Practice"));
     QGuiApplication::setDesktopFileName(QStringLiteral("quillet-practice"));
-    useIcons();
+    useWindowIcon("quillet-practice");
     TextFileStore store;
     BrowserOpener pages;
     SdlSoundOutput sound;
@@ -70,7 +55,7 @@ int main(int argc, char* argv[])
          .pages = pages,
          .sound = sound,
          .rules = losslessChart(),
-         .journal = stateFolder() / "Quillet" / "practice.csv",
+         .journal = journalPath(),
          .programFolder = QCoreApplication::applicationDirPath().toStdString(),
          .seed = seed(),
          .now = now});

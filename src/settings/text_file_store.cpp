@@ -2,6 +2,7 @@
 
 #include "faults/run_time_error.h"
 #include "settings/settings_text.h"
+#include "settings/user_folder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,7 +13,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,23 +42,6 @@ struct StoredFile {
 {
     const QString text = QStringLiteral("The settings cannot be stored in %1: %2");
     throw RunTimeError(text.arg(path, cause).toStdString());
-}
-
-// A relative folder counts as not set, because it would change with the current directory.
-QString absoluteFolder(const char* variable)
-{
-    const QString folder = qEnvironmentVariable(variable);
-    return QDir::isAbsolutePath(folder) ? folder : QString();
-}
-
-QString userConfigFolder()
-{
-    if (QString folder = absoluteFolder("XDG_CONFIG_HOME"); !folder.isEmpty())
-        return folder;
-    QString home = absoluteFolder("HOME");
-    if (const passwd* user = home.isEmpty() ? ::getpwuid(::getuid()) : nullptr)
-        home = QFile::decodeName(user->pw_dir);
-    return home + "/.config";
 }
 
 // The file that a link at this path leads to, present or not. Links in a circle stay links.
@@ -175,7 +158,7 @@ void replace(const QString& path, const std::string& bytes, bool keepOld)
 
 } // namespace
 
-TextFileStore::TextFileStore() : TextFileStore(userConfigFolder()) {}
+TextFileStore::TextFileStore() : TextFileStore(userFolder("XDG_CONFIG_HOME", ".config")) {}
 
 TextFileStore::TextFileStore(QString configFolder) : m_configFolder(std::move(configFolder)) {}
 
