@@ -182,8 +182,7 @@ void PracticeWindow::keepInJournal(const practice::Verdict& verdict)
 void PracticeWindow::playCue(bool right)
 {
     const Cue cue = right ? Cue::smallWin : Cue::wrong;
-    const std::string file =
-        m_surroundings.programFolder + (right ? "/wavs/pokerwin1.wav" : "/wavs/wrong.wav");
+    const std::string file = m_cues.pathOf(cue);
     const bool missing = m_preferences.sound && !FileExists(file);
     m_messages->show("sound",
                      missing ? QString("The sound %1 is missing.").arg(file.c_str()) : QString());

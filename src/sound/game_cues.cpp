@@ -30,15 +30,25 @@ void GameCues::play(Cue cue)
     playSoundCue(fileNames[static_cast<std::size_t>(cue)]);
 }
 
+std::string GameCues::pathOf(Cue cue) const
+{
+    return inProgramFolder(fileNames[static_cast<std::size_t>(cue)]);
+}
+
 void GameCues::playSoundCue(std::string_view fileName)
 {
     if (!m_wantsSound())
         return;
-    std::string below(fileName);
-    std::ranges::replace(below, '\\', '/');
-    const std::string path = m_programFolder + below;
+    const std::string path = inProgramFolder(fileName);
     if (FileExists(path))
         m_output.play(path);
+}
+
+std::string GameCues::inProgramFolder(std::string_view fileName) const
+{
+    std::string below(fileName);
+    std::ranges::replace(below, '\\', '/');
+    return m_programFolder + below;
 }
 
 void GameCues::prepare()
