@@ -130,8 +130,7 @@ std::optional<DecisionId> Decisions::find(std::string_view name) const
 void Decisions::addUp(const odds::HeldCards& heldCards, const charts::ChartPlayer& trainersChart)
 {
     m_deals.reserve(134'459);
-    odds::forEachClass(5, [&](const odds::SuitSets& sets) {
-        const odds::DealtHand hand(heldCards, odds::placesOf<5>(sets));
+    odds::forEachDeal(heldCards, [&](const odds::DealtHand& hand, int members) {
         const DealtDecision met = of(hand);
         std::uint8_t& id = m_id[met.best][met.rival];
         if (id == none) {
@@ -139,7 +138,6 @@ void Decisions::addUp(const odds::HeldCards& heldCards, const charts::ChartPlaye
             id = static_cast<std::uint8_t>(m_all.size());
             m_all.push_back({met.best, met.rival});
         }
-        const int members = odds::classSize(sets);
         m_deals.push_back({hand.places, id, static_cast<std::uint8_t>(members)});
 
         const std::int64_t best = hand.worth[hand.bestHold];

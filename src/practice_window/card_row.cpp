@@ -57,11 +57,6 @@ void CardRow::setAnswered(bool answered)
         card->setEnabled(!answered);
 }
 
-bool CardRow::hasCardInFocus() const
-{
-    return std::ranges::any_of(m_buttons, &QWidget::hasFocus);
-}
-
 QString CardRow::spokenCards() const
 {
     QStringList names;

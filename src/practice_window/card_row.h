@@ -19,7 +19,6 @@ public:
     void toggle(int slot);
     // While an answer is shown, the cards stay as they are.
     void setAnswered(bool answered);
-    [[nodiscard]] bool hasCardInFocus() const;
     [[nodiscard]] const std::array<CardButton*, 5>& buttons() const { return m_buttons; }
     // "Ace of spades, Two of clubs ..."
     [[nodiscard]] QString spokenCards() const;

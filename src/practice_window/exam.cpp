@@ -1,7 +1,9 @@
 #include "practice_window/exam.h"
 
+#include "engine/pay_table.h"
 #include "odds/hand_text.h"
 #include "practice_window/card_text.h"
+#include "practice_window/fonts.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -55,7 +57,7 @@ QString Exam::cost() const
 {
     return QString("Against perfect play these hands lose %1 credits of the %2 paid for them.")
         .arg(m_cost, 0, 'f', 2)
-        .arg(5 * m_answered);
+        .arg(wager * m_answered);
 }
 
 void Exam::showResult(QWidget* parent) const
@@ -66,10 +68,7 @@ void Exam::showResult(QWidget* parent) const
     auto* column = new QVBoxLayout(&dialog);
     auto* headline = new QLabel(result());
     headline->setObjectName("examHeadline");
-    QFont large = headline->font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
-    large.setBold(true);
-    headline->setFont(large);
+    headline->setFont(headingFont(headline->font(), 1.3));
     column->addWidget(headline);
     column->addWidget(new QLabel(cost()));
     const QStringList captions{"Deal", "You held", "Right", "Cost", "Why"};

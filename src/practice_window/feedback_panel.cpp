@@ -1,6 +1,7 @@
 #include "practice_window/feedback_panel.h"
 
 #include "practice_window/card_text.h"
+#include "practice_window/fonts.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -26,15 +27,10 @@ FeedbackPanel::FeedbackPanel(QWidget* parent)
     : QWidget(parent), m_headline(textLabel("headline")), m_reason(textLabel("reason")),
       m_bars(new HoldBars), m_rule(textLabel("rule"))
 {
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
-    large.setBold(true);
-    m_headline->setFont(large);
+    m_headline->setFont(headingFont(font(), 1.3));
     m_headline->setFocusPolicy(Qt::TabFocus);
-    QFont readable = font();
-    readable.setPointSizeF(readable.pointSizeF() * 1.1);
     for (QLabel* label : {m_reason, m_rule})
-        label->setFont(readable);
+        label->setFont(scaled(font(), 1.1));
     m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

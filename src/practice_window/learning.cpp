@@ -10,17 +10,15 @@ namespace
 
 using practice::JournalEntry;
 
-Learned learned(const charts::Chart& rules, const Syllabus& syllabus,
-                std::vector<JournalEntry> past)
+std::unique_ptr<practice::Teacher> teacherOf(const charts::Chart& rules, const Syllabus& syllabus,
+                                             std::vector<JournalEntry> past)
 {
     const auto course =
         std::make_shared<const practice::Course>(odds::parsePays(syllabus.pays), rules);
     practice::Standard standard =
         syllabus.chart.empty() ? practice::Standard() : practice::Standard(syllabus.chart);
-    return {std::make_unique<practice::Teacher>(course, std::move(standard), syllabus.judgedBy,
-                                                std::move(past), syllabus.seed),
-            0,
-            {}};
+    return std::make_unique<practice::Teacher>(course, std::move(standard), syllabus.judgedBy,
+                                               std::move(past), syllabus.seed);
 }
 
 } // namespace
@@ -37,9 +35,8 @@ std::future<Learned> learn(const Surroundings& surroundings, Syllabus syllabus,
             journal.entries = std::move(*past);
         else
             journal = practice::readJournal(path);
-        Learned result = learned(rules, syllabus, std::move(journal.entries));
-        result.unreadable = journal.unreadable;
-        result.trouble = journal.trouble;
+        Learned result{teacherOf(rules, syllabus, std::move(journal.entries)), journal.unreadable,
+                       journal.trouble};
         done();
         return result;
     });

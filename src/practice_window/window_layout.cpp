@@ -1,4 +1,5 @@
 #include "practice_window/decision_list.h"
+#include "practice_window/fonts.h"
 #include "practice_window/message_strip.h"
 #include "practice_window/practice_window.h"
 #include "practice_window/return_panel.h"
@@ -11,18 +12,6 @@
 
 namespace quillet::practice_window
 {
-
-namespace
-{
-
-QFont scaled(QFont font, double factor)
-{
-    font.setPointSizeF(font.pointSizeF() * factor);
-    font.setBold(true);
-    return font;
-}
-
-} // namespace
 
 void PracticeWindow::layOut()
 {
@@ -63,11 +52,11 @@ QWidget* PracticeWindow::layOutQuestion()
 {
     m_title->setObjectName("question");
     m_title->setFocusPolicy(Qt::TabFocus);
-    m_title->setFont(scaled(font(), 1.4));
+    m_title->setFont(headingFont(font(), 1.4));
     m_progress->setObjectName("progress");
     m_answer->setObjectName("answer");
     m_answer->setMinimumWidth(180);
-    m_answer->setFont(scaled(font(), 1.1));
+    m_answer->setFont(headingFont(font(), 1.1));
     auto* heading = new QHBoxLayout;
     heading->addWidget(m_title);
     heading->addStretch(1);
