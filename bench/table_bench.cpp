@@ -25,6 +25,19 @@ struct Painted : test::PaintedTable {
     SystemClock clock;
 };
 
+// Its milliseconds begin now, as if the program had just started.
+class ClockFromNow : public SystemClock
+{
+public:
+    [[nodiscard]] std::int64_t milliseconds() const override
+    {
+        return SystemClock::milliseconds() - m_start;
+    }
+
+private:
+    const std::int64_t m_start = SystemClock::milliseconds();
+};
+
 // Without delay. The counter shows the time of one frame.
 void flight(benchmark::State& state)
 {
@@ -58,10 +71,10 @@ void firstStartCalibration(benchmark::State& state)
     const BusyLoad load(state.range(0));
     Painted painted(1.0);
     for ([[maybe_unused]] auto step : state) {
+        const ClockFromNow clock;
         painted.preferences.prfBannerDelay = 0;
-        DelayMeter(painted.canvas, painted.library, painted.preferences, painted.clock, painted,
-                   [] {})
-            .InitAnimDelay(Painted::measures);
+        DelayMeter(painted.canvas, painted.library, painted.preferences, clock, painted, [] {
+        }).InitAnimDelay(Painted::measures);
     }
     state.counters["flight delay"] = painted.preferences.prfAnimationDelay;
     state.counters["banner delay"] = painted.preferences.prfBannerDelay;
