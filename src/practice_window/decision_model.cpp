@@ -62,27 +62,22 @@ std::vector<DecisionId> DecisionModel::ticked() const
     return ids;
 }
 
-void DecisionModel::tickAll(State which)
+void DecisionModel::tick(std::set<std::string> names)
 {
-    m_ticked.clear();
-    for (DecisionId id = 0; id < m_rows.size(); ++id) {
-        if (m_rows[id].state == which)
-            m_ticked.insert(nameOf(id));
-    }
-    showTicks();
-}
-
-void DecisionModel::untickAll()
-{
-    m_ticked.clear();
-    showTicks();
-}
-
-void DecisionModel::showTicks()
-{
+    m_ticked = std::move(names);
     if (!m_rows.empty())
         emit dataChanged(index(0, name), index(rowCount() - 1, name), {Qt::CheckStateRole});
     emit tickedChanged();
+}
+
+void DecisionModel::tickAll(State which)
+{
+    std::set<std::string> names;
+    for (DecisionId id = 0; id < m_rows.size(); ++id) {
+        if (m_rows[id].state == which)
+            names.insert(nameOf(id));
+    }
+    tick(std::move(names));
 }
 
 int DecisionModel::count(State which) const

@@ -28,8 +28,10 @@ public:
     void update(practice::DecisionId id, const practice::Record& record);
 
     [[nodiscard]] std::vector<practice::DecisionId> ticked() const;
+    [[nodiscard]] const std::set<std::string>& tickedNames() const { return m_ticked; }
+    // Unknown names have no effect.
+    void tick(std::set<std::string> names);
     void tickAll(practice::State which);
-    void untickAll();
     [[nodiscard]] int count(practice::State which) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -53,7 +55,6 @@ private:
     [[nodiscard]] QString details(practice::DecisionId id) const;
     [[nodiscard]] QVariant sortKey(practice::DecisionId id, int column) const;
     [[nodiscard]] std::string nameOf(practice::DecisionId id) const;
-    void showTicks();
 
     std::shared_ptr<const practice::Course> m_course;
     std::vector<Row> m_rows;

@@ -26,7 +26,7 @@ void makeMenus(PracticeWindow& window)
         window.decisions().tickAll(practice::State::shaky);
     });
     addEntry(practice, "untickAll", "&Untick all decisions", window,
-             [&window] { window.decisions().untickAll(); });
+             [&window] { window.decisions().tick({}); });
     practice.addSeparator();
     addEntry(practice, "preferences", "P&references...", window,
              &PracticeWindow::choosePreferences);

@@ -12,8 +12,18 @@ namespace
 
 constexpr const char* application = "Quillet";
 constexpr const char* section = "Practice";
+constexpr const char* nameSeparator = "; ";
 constexpr std::array<std::string_view, 3> standards{"perfect", "trainer", "chart"};
 constexpr std::array<std::string_view, 2> truths{"False", "True"};
+
+std::set<std::string> namesIn(const std::string& text)
+{
+    std::set<std::string> names;
+    for (const QString& name :
+         QString::fromStdString(text).split(nameSeparator, Qt::SkipEmptyParts))
+        names.insert(name.toStdString());
+    return names;
+}
 
 // Reads texts, and notes those that make no sense.
 class Reader
@@ -82,7 +92,10 @@ LoadedPreferences loadPracticePreferences(const SettingsStore& store)
     preferences.pays = payTables.at(reader.oneOf("pays", payTables, 0));
     preferences.passMark = reader.number("passMark", 1, 100, preferences.passMark);
     preferences.sound = reader.oneOf("sound", truths, 1) == 1;
+    preferences.ticked = namesIn(reader.text("ticked"));
     preferences.windowPlace = reader.text("window");
+    preferences.columns = reader.text("columns");
+    preferences.progressPanes = reader.text("progressPanes");
     return loaded;
 }
 
@@ -97,7 +110,13 @@ void savePracticePreferences(const PracticePreferences& preferences, SettingsSto
     write("pays", preferences.pays);
     write("passMark", std::to_string(preferences.passMark));
     write("sound", truths.at(preferences.sound ? 1 : 0));
+    std::string ticked;
+    for (const std::string& name : preferences.ticked)
+        ticked += (ticked.empty() ? "" : nameSeparator) + name;
+    write("ticked", ticked);
     write("window", preferences.windowPlace);
+    write("columns", preferences.columns);
+    write("progressPanes", preferences.progressPanes);
     store.save(settings);
 }
 

@@ -6,6 +6,8 @@
 #include <QStringList>
 
 #include <array>
+#include <set>
+#include <string>
 #include <string_view>
 
 namespace quillet::practice_window
@@ -20,7 +22,11 @@ struct PracticePreferences {
     std::string pays = "9/6";
     int passMark = 95; // right answers of 100
     bool sound = true;
-    std::string windowPlace; // of the toolkit, in base 64
+    std::set<std::string> ticked; // names of decisions
+    // The window's and its splitters' places, in the toolkit's form in base 64.
+    std::string windowPlace;
+    std::string columns;
+    std::string progressPanes;
 };
 
 struct LoadedPreferences {

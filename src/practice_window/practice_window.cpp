@@ -36,10 +36,12 @@ PracticeWindow::PracticeWindow(const Surroundings& surroundings)
     : m_surroundings(surroundings), m_cues([this] { return m_preferences.sound; },
                                            surroundings.programFolder, surroundings.sound),
       m_title(new QLabel), m_progress(new QLabel), m_cards(new CardRow), m_answer(new QPushButton),
-      m_feedback(new FeedbackPanel), m_messages(new MessageStrip), m_splitter(new QSplitter)
+      m_feedback(new FeedbackPanel), m_messages(new MessageStrip), m_columns(new QSplitter),
+      m_progressPanes(new QSplitter)
 {
     const LoadedPreferences loaded = loadPracticePreferences(m_surroundings.store);
     m_preferences = loaded.preferences;
+    m_decisions.tick(m_preferences.ticked);
     layOut();
     makeMenus(*this);
     m_messages->show("settings", loaded.problems.join('\n'));
@@ -240,7 +242,10 @@ void PracticeWindow::choosePreferences()
 
 void PracticeWindow::savePreferences()
 {
+    m_preferences.ticked = m_decisions.tickedNames();
     m_preferences.windowPlace = saveGeometry().toBase64().toStdString();
+    m_preferences.columns = m_columns->saveState().toBase64().toStdString();
+    m_preferences.progressPanes = m_progressPanes->saveState().toBase64().toStdString();
     try {
         savePracticePreferences(m_preferences, m_surroundings.store);
         m_messages->show("settings", {});

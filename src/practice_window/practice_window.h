@@ -92,7 +92,8 @@ private:
     QPushButton* m_answer;
     FeedbackPanel* m_feedback;
     MessageStrip* m_messages;
-    QSplitter* m_splitter;
+    QSplitter* m_columns;
+    QSplitter* m_progressPanes;
 };
 
 } // namespace quillet::practice_window

@@ -13,6 +13,16 @@
 namespace quillet::practice_window
 {
 
+namespace
+{
+
+QByteArray bytesOf(const std::string& base64)
+{
+    return QByteArray::fromBase64(QByteArray::fromStdString(base64));
+}
+
+} // namespace
+
 void PracticeWindow::layOut()
 {
     setObjectName("practiceWindow");
@@ -21,19 +31,21 @@ void PracticeWindow::layOut()
     auto* all = new QWidget;
     auto* column = new QVBoxLayout(all);
     column->setContentsMargins(10, 8, 10, 8);
-    m_splitter->setChildrenCollapsible(false);
-    m_splitter->setHandleWidth(12);
-    m_splitter->addWidget(layOutQuestion());
-    m_splitter->addWidget(layOutProgress());
-    m_splitter->setStretchFactor(0, 3);
-    m_splitter->setStretchFactor(1, 2);
-    m_splitter->setSizes({580, 370});
-    column->addWidget(m_splitter, 1);
+    m_columns->setChildrenCollapsible(false);
+    m_columns->setHandleWidth(12);
+    m_columns->addWidget(layOutQuestion());
+    m_columns->addWidget(layOutProgress());
+    m_columns->setStretchFactor(0, 3);
+    m_columns->setStretchFactor(1, 2);
+    m_columns->setSizes({580, 370});
+    column->addWidget(m_columns, 1);
     column->addWidget(m_messages);
     setCentralWidget(all);
     orderTabs();
     resize(980, 640);
-    restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(m_preferences.windowPlace)));
+    restoreGeometry(bytesOf(m_preferences.windowPlace));
+    m_columns->restoreState(bytesOf(m_preferences.columns));
+    m_progressPanes->restoreState(bytesOf(m_preferences.progressPanes));
 }
 
 // As the eye goes: the question, the cards, the answer, what is said about it, the decisions.
@@ -79,16 +91,16 @@ QWidget* PracticeWindow::layOutQuestion()
 
 QWidget* PracticeWindow::layOutProgress()
 {
-    auto* part = new QSplitter(Qt::Vertical);
-    part->setChildrenCollapsible(false);
-    part->setHandleWidth(10);
-    part->setMinimumWidth(300);
-    part->setMaximumWidth(560);
-    part->addWidget(new ReturnPanel(m_history));
-    part->addWidget(new DecisionList(m_decisions));
-    part->setStretchFactor(0, 2);
-    part->setStretchFactor(1, 3);
-    return part;
+    m_progressPanes->setOrientation(Qt::Vertical);
+    m_progressPanes->setChildrenCollapsible(false);
+    m_progressPanes->setHandleWidth(10);
+    m_progressPanes->setMinimumWidth(300);
+    m_progressPanes->setMaximumWidth(560);
+    m_progressPanes->addWidget(new ReturnPanel(m_history));
+    m_progressPanes->addWidget(new DecisionList(m_decisions));
+    m_progressPanes->setStretchFactor(0, 2);
+    m_progressPanes->setStretchFactor(1, 3);
+    return m_progressPanes;
 }
 
 } // namespace quillet::practice_window

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTimer>
@@ -200,7 +201,7 @@ TEST_F(PracticeTest, countsAnAnswerThatCannotBeSavedAndSaysSo)
     EXPECT_EQ(answerButton(), "Next question");
 }
 
-TEST_F(PracticeTest, practisesTheTickedDecisionsOnly)
+TEST_F(PracticeTest, practisesTheTickedDecisionsOnlyAndKeepsTheTicks)
 {
     open();
     auto& list = control<QAbstractItemView>(*window, "decisions");
@@ -216,6 +217,14 @@ TEST_F(PracticeTest, practisesTheTickedDecisionsOnly)
     const auto id = window->decisions().ticked().front();
     EXPECT_GE(window->teacher().record().answers(id), 5);
     EXPECT_THAT(text("decisionCounts").toStdString(), HasSubstr("Only the 1 ticked"));
+
+    window->findChild<QSplitter*>()->setSizes({610, 346});
+    const QList<int> columns = window->findChild<QSplitter*>()->sizes();
+    window->close();
+    open();
+    static_cast<void>(window->teacher());
+    EXPECT_THAT(window->decisions().ticked(), testing::ElementsAre(id));
+    EXPECT_EQ(window->findChild<QSplitter*>()->sizes(), columns);
 }
 
 TEST_F(PracticeTest, judgesByTheStandardAndPayTableOfThePreferences)
