@@ -129,11 +129,18 @@ void answerHandsFromInput(const Inputs& in, std::ostream& out)
 Report answerSitting(const Inputs& in)
 {
     ProgressBar bar;
-    const odds::Pays& pays = in.heldCards.pays();
-    const charts::ChartPrice chart = in.price();
-    return sittingReport({odds::oneHand(chart.perfect.chances, pays),
-                          odds::oneHand(chart.played[charts::Taken::best].chances, pays)},
-                         in.request.hands, in.request.bankroll, isatty(STDOUT_FILENO) == 1,
+    const auto bestChoice = [&in](const charts::ChartPrice& price) {
+        return odds::oneHand(price.played[charts::Taken::best].chances, in.heldCards.pays());
+    };
+    const charts::ChartPrice trainers = charts::priceChart(in.heldCards, charts::trainersChart());
+    std::vector<SittingPlay> plays{
+        {"perfect play", "Perfect play",
+         odds::oneHand(trainers.perfect.chances, in.heldCards.pays())},
+        {"chart best choice", "Chart, best choice", bestChoice(trainers)}};
+    if (!in.request.chartFile.empty())
+        plays.push_back(
+            {"own chart best choice", "Own chart, best choice", bestChoice(in.price())});
+    return sittingReport(plays, in.request.hands, in.request.bankroll, isatty(STDOUT_FILENO) == 1,
                          [&bar](double share) { bar.show(share); });
 }
 

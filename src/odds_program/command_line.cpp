@@ -116,9 +116,9 @@ constexpr std::array<Combination, 12> combinations{{
     {Question::card, {"--card"}, "--chart --pays"},
     {Question::mistakes, {"--mistakes"}, "--chart --pays --format --exact"},
     {Question::plays, {"--chart", "--plays"}, "--pays"},
+    {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
-    {Question::sitting, {"--sitting"}, "--pays --format --bankroll"},
     {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
     {Question::handsFromInput, {input.name}, "--pays --format --exact --all"},
     {Question::hand, {hand.name}, "--pays --format --exact --all"},
@@ -263,6 +263,7 @@ Options
                        credit), nine numbers for five credits, royal first, or
                        a file
   --all                with a hand: all 32 holds
+  --chart FILE         with --sitting: play by this chart, too
   --bankroll CREDITS   with --sitting: the chance that these credits run out
   --seed NUMBER        with --simulate: seed of the random numbers (default 1)
   --plays              with --chart: every deal and the chart's hold

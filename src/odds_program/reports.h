@@ -7,9 +7,9 @@
 #include "odds/work_progress.h"
 #include "odds_program/report.h"
 
-#include <array>
 #include <iosfwd>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,9 +24,16 @@ namespace quillet::odds_program
 [[nodiscard]] Report handReport(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                                 const charts::Play& play, bool all, Format format);
 
-// How a session turns out, for perfect play and the chart's best choice. With bars, the text draws
-// the distribution. Reports the progress first of the sitting and then of the bankroll.
-[[nodiscard]] Report sittingReport(const std::array<odds::OneHand, 2>& plays, std::int64_t hands,
+// A way to play, and the field and the heading of its column.
+struct SittingPlay {
+    std::string field;
+    std::string heading;
+    odds::OneHand hand;
+};
+
+// How a session turns out for each play. With bars, the text draws the distribution for the first.
+// Reports the progress first of the sitting and then of the bankroll.
+[[nodiscard]] Report sittingReport(const std::vector<SittingPlay>& plays, std::int64_t hands,
                                    std::optional<std::int64_t> bankroll, bool bars,
                                    const odds::WorkProgress& progress);
 

@@ -7,7 +7,9 @@
 #include <cmath>
 #include <future>
 #include <limits>
+#include <span>
 #include <utility>
+#include <vector>
 
 namespace quillet::odds_program
 {
@@ -53,98 +55,117 @@ std::string barsOf(const odds::Sitting& sitting)
            " % below and " + decimals(100 * sitting.chanceOf(from, endless), 1) + " % above.\n";
 }
 
-// Computes the same for perfect play and for the chart, in two threads.
+// Computes the same for each play, in as many threads. Reports the progress of the first.
 template <typename Compute>
-auto forBoth(const std::array<odds::OneHand, 2>& plays, const Compute& compute,
-             const odds::WorkProgress& progress)
+auto forEachPlay(const std::vector<SittingPlay>& plays, const Compute& compute,
+                 const odds::WorkProgress& progress)
 {
-    auto chart =
-        std::async(std::launch::async, [&] { return compute(plays[1], odds::WorkProgress{}); });
-    auto perfect = compute(plays[0], progress);
-    return std::array{std::move(perfect), chart.get()};
+    using Result = decltype(compute(plays[0].hand, progress));
+    std::vector<std::future<Result>> others;
+    for (const SittingPlay& play : std::span(plays).subspan(1))
+        others.push_back(std::async(std::launch::async, [&compute, &play] {
+            return compute(play.hand, odds::WorkProgress{});
+        }));
+    std::vector<Result> results;
+    results.push_back(compute(plays[0].hand, progress));
+    for (std::future<Result>& other : others)
+        results.push_back(other.get());
+    return results;
 }
 
-Table tableOf(const char* name, std::string intro, const char* field, const char* heading)
+Table tableOf(const char* name, std::string intro, Column first,
+              const std::vector<SittingPlay>& plays)
 {
-    return {name,
-            std::move(intro),
-            {{field, heading},
-             {"perfect play", "Perfect play"},
-             {"chart best choice", "Chart, best choice"}}};
+    Table table{name, std::move(intro), {std::move(first)}};
+    for (const SittingPlay& play : plays)
+        table.columns.push_back({play.field, play.heading});
+    return table;
 }
 
-Table netTable(const std::array<odds::Sitting, 2>& sittings, std::int64_t hands)
+// Adds a row with a cell for each play.
+template <typename Of, typename CellOf>
+void addRow(Table& table, const Cell& name, const std::vector<Of>& plays, const CellOf& cellOf)
+{
+    std::vector<Cell> row{name};
+    for (const Of& play : plays)
+        row.push_back(cellOf(play));
+    table.rows.push_back(std::move(row));
+}
+
+Table netTable(const std::vector<SittingPlay>& plays, const std::vector<odds::Sitting>& sittings,
+               std::int64_t hands)
 {
     Table net = tableOf("sitting",
                         "A session of " + std::to_string(hands) +
                             " hands, five credits each, from a fairly shuffled deck:\n"
                             "chances in % and credits won or lost, each chance within 1e-9\n\n",
-                        "figure", "Figure");
+                        {"figure", "Figure"}, plays);
     const auto chance = [&](const char* name, std::int64_t least, std::int64_t most) {
-        net.rows.push_back({name, percent(sittings[0].chanceOf(least, most)),
-                            percent(sittings[1].chanceOf(least, most))});
+        addRow(net, name, sittings, [&](const odds::Sitting& sitting) {
+            return percent(sitting.chanceOf(least, most));
+        });
     };
     chance("behind", -endless, -1);
     chance("even", 0, 0);
     chance("ahead", 1, endless);
-    for (const int hundredth : {5, 25, 50, 75, 95}) {
-        const double share = hundredth / 100.0;
-        net.rows.push_back({std::to_string(hundredth) + " % end at or below",
-                            sittings[0].quantile(share), sittings[1].quantile(share)});
-    }
+    for (const int hundredth : {5, 25, 50, 75, 95})
+        addRow(net, std::to_string(hundredth) + " % end at or below", sittings,
+               [&](const odds::Sitting& sitting) { return sitting.quantile(hundredth / 100.0); });
     return net;
 }
 
-Table onceTable(const std::array<odds::OneHand, 2>& plays, std::int64_t hands)
+Table onceTable(const std::vector<SittingPlay>& plays, std::int64_t hands)
 {
     Table once = tableOf("at least once", "\nThe chance in % of each paying hand at least once\n\n",
-                         "final hand", "Final hand");
+                         {"final hand", "Final hand"}, plays);
     for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
-        once.rows.push_back({odds::outcomeName(outcome),
-                             percent(plays[0].chanceOfAtLeastOne(outcome, hands)),
-                             percent(plays[1].chanceOfAtLeastOne(outcome, hands))});
+        addRow(once, odds::outcomeName(outcome), plays, [&](const SittingPlay& play) {
+            return percent(play.hand.chanceOfAtLeastOne(outcome, hands));
+        });
     return once;
 }
 
-Table ruinTable(const std::array<std::array<double, 10>, 2>& ruined, std::int64_t hands,
+Table ruinTable(const std::vector<SittingPlay>& plays,
+                const std::vector<std::array<double, 10>>& ruined, std::int64_t hands,
                 std::int64_t bankroll)
 {
     Table ruin = tableOf("bankroll",
                          "\nThe chance in % that " + std::to_string(bankroll) +
                              " credits have run out: fewer than five are left,\n"
                              "too few for another hand\n\n",
-                         "after hands", "After hands");
+                         {"after hands", "After hands"}, plays);
     for (std::size_t tenth = 0; tenth < ruined[0].size(); ++tenth) {
         const std::int64_t after =
             (hands * static_cast<std::int64_t>(tenth + 1) + 9) / 10; // rounded up
-        ruin.rows.push_back({after, percent(ruined[0][tenth]), percent(ruined[1][tenth])});
+        addRow(ruin, after, ruined,
+               [tenth](const std::array<double, 10>& chances) { return percent(chances[tenth]); });
     }
     return ruin;
 }
 
 } // namespace
 
-Report sittingReport(const std::array<odds::OneHand, 2>& plays, std::int64_t hands,
+Report sittingReport(const std::vector<SittingPlay>& plays, std::int64_t hands,
                      std::optional<std::int64_t> bankroll, bool bars,
                      const odds::WorkProgress& progress)
 {
-    const auto sittings = forBoth(
+    const auto sittings = forEachPlay(
         plays,
         [hands](const odds::OneHand& one, const odds::WorkProgress& report) {
             return odds::Sitting(one, hands, report);
         },
         progress);
-    Report report{netTable(sittings, hands), onceTable(plays, hands)};
+    Report report{netTable(plays, sittings, hands), onceTable(plays, hands)};
     if (bars)
         report[0].outro = barsOf(sittings[0]);
     if (bankroll) {
-        const auto ruined = forBoth(
+        const auto ruined = forEachPlay(
             plays,
             [&](const odds::OneHand& one, const odds::WorkProgress& reportWork) {
                 return odds::chancesOfRuin(one, hands, *bankroll, reportWork);
             },
             progress);
-        report.push_back(ruinTable(ruined, hands, *bankroll));
+        report.push_back(ruinTable(plays, ruined, hands, *bankroll));
     }
     return report;
 }

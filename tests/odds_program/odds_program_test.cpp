@@ -111,7 +111,7 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
         taken,
         "9c --pays 8/5|9c --all|9c --format csv|9c --exact|- --pays 8/5|- --all|- --format csv|"
         "- --exact|--mistakes --chart x|--mistakes --pays 8/5|--mistakes --format csv|"
-        "--mistakes --exact|--sitting 5 --pays 8/5|--sitting 5 --bankroll 5|"
+        "--mistakes --exact|--sitting 5 --chart x|--sitting 5 --pays 8/5|--sitting 5 --bankroll 5|"
         "--sitting 5 --format csv|--simulate 5 --pays 8/5|--simulate 5 --seed 3|"
         "--simulate 5 --format csv|--simulate 5 --exact|--chart x --card x|"
         "--chart x --pays 8/5|--chart x --plays|--chart x --format csv|--chart x --exact|"
@@ -163,7 +163,8 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
                 testing::AllOf(HasSubstr("\x1b[31mh"), HasSubstr("\x1b[33md")));
     EXPECT_THAT(run("", "NO_COLOR=1 TERM=xterm " + onTerminal + " exit").first,
                 testing::Not(HasSubstr("\x1b")));
-    EXPECT_THAT(run("--sitting 2400").first, testing::ContainsRegex("ahead +30\\.3451"));
+    EXPECT_THAT(run("--sitting 2400 --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
+                testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
 }
 
@@ -251,7 +252,7 @@ TEST(Program, keepsToEightyColumnsInText)
     const std::string perfect = "--chart " QUILLET_CHARTS_FOLDER "/perfect.chart";
     const std::vector<std::string> all{"",
                                        "--mistakes",
-                                       "--sitting 1e4 --bankroll 1000",
+                                       perfect + " --sitting 1e4 --bankroll 1000",
                                        "--all 9cTcJcKcAd",
                                        "--simulate 1000",
                                        "--rows",
@@ -296,7 +297,7 @@ TEST(SittingReport, drawsBarsOfPossibleResults)
 {
     const OneHand perfect = oneHand(fairOdds(HeldCards()).chances, trainersPays());
     const auto bars = [&](std::int64_t hands) {
-        return sittingReport({perfect, perfect}, hands, {}, true, {})[0].outro;
+        return sittingReport({{"", "", perfect}}, hands, {}, true, {})[0].outro;
     };
     EXPECT_THAT(bars(1), HasSubstr("\n                  -5 |###"));
     EXPECT_THAT(bars(600), HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));
