@@ -5,7 +5,7 @@
 # machine.
 
 folder=$(mktemp -d)
-mkdir -m 700 "$folder"/{config,cache,data,run}
+mkdir -m 700 "$folder"/{config,cache,data,run,state}
 helpers=()
 
 clean_up() {
@@ -60,7 +60,8 @@ unset WAYLAND_DISPLAY SESSION_MANAGER QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS \
 # with the address sanitizer can hang in the fork while its other threads allocate memory.
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_CACHE_HOME=$folder/cache \
-    XDG_DATA_HOME=$folder/data XDG_RUNTIME_DIR=$folder/run XAUTHORITY=$folder/authority
+    XDG_DATA_HOME=$folder/data XDG_STATE_HOME=$folder/state XDG_RUNTIME_DIR=$folder/run \
+    XAUTHORITY=$folder/authority
 
 start_display() {
     local cookie number

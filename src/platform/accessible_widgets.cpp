@@ -69,6 +69,8 @@ QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* obje
     const auto role = static_cast<QAccessible::Role>(presented.toInt());
     if (role == QAccessible::NoRole)
         return new HiddenWidget(*widget);
+    if (role == QAccessible::Notification)
+        return new QAccessibleWidget(widget, role);
     return new AccessibleActor(*widget, role);
 }
 
@@ -82,12 +84,6 @@ void presentAs(QWidget& widget, QAccessible::Role role)
     }();
     Q_UNUSED(installed)
     widget.setProperty(presentation, static_cast<int>(role));
-}
-
-void announce(QWidget& widget)
-{
-    QAccessibleEvent spoken(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&spoken);
 }
 
 } // namespace quillet

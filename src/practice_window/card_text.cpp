@@ -44,7 +44,10 @@ QString withSuitSigns(const QString& text)
 
 QString spokenCardCodes(const QString& text)
 {
-    return withCards(text, [](const QRegularExpressionMatch& code) {
+    static const QRegularExpression between("(?<=\\b[A2-9TJQK][cdhs]) (?=[A2-9TJQK][cdhs]\\b)");
+    QString listed = text;
+    listed.replace(between, ", ");
+    return withCards(listed, [](const QRegularExpressionMatch& code) {
         const auto rank = QStringView(u"A23456789TJQK").indexOf(code.capturedView(1));
         return cardName(static_cast<int>(4 * rank + suitOf(code)));
     });

@@ -12,6 +12,7 @@ namespace quillet::practice_window
 MessageStrip::MessageStrip(QWidget* parent) : QFrame(parent), m_text(new QLabel)
 {
     setFrameShape(QFrame::StyledPanel);
+    presentAs(*this, QAccessible::Notification);
     m_text->setObjectName("message");
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
@@ -32,9 +33,10 @@ void MessageStrip::show(const QString& subject, const QString& message)
     if (m_messages.value(subject) == message)
         return;
     m_messages[subject] = message;
-    showAll();
+    // A new message appears, with those that are still true.
     if (!message.isEmpty())
-        announce(*m_text);
+        hide();
+    showAll();
 }
 
 void MessageStrip::showAll()
@@ -42,7 +44,7 @@ void MessageStrip::showAll()
     QStringList messages = m_messages.values();
     messages.removeAll(QString());
     m_text->setText("\u26a0  " + messages.join('\n'));
-    m_text->setAccessibleName(messages.join(' '));
+    setAccessibleName(messages.join(' '));
     setVisible(!messages.isEmpty());
 }
 

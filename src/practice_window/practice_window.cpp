@@ -41,10 +41,10 @@ PracticeWindow::PracticeWindow(const Surroundings& surroundings)
 {
     const LoadedPreferences loaded = loadPracticePreferences(m_surroundings.store);
     m_preferences = loaded.preferences;
+    m_problems = loaded.problems.join('\n');
     m_decisions.tick(m_preferences.ticked);
     layOut();
     makeMenus(*this);
-    m_messages->show("settings", loaded.problems.join('\n'));
     connect(m_answer, &QPushButton::clicked, this, &PracticeWindow::answerOrGoOn);
     connect(&m_decisions, &DecisionModel::tickedChanged, this, &PracticeWindow::practiseTicked);
     ask(practice::firstQuestion(m_surroundings.seed));
@@ -77,6 +77,7 @@ void PracticeWindow::takeTeacher()
 {
     Learned learned = m_learning.get();
     m_teacher = std::move(learned.teacher);
+    m_messages->show("settings", std::exchange(m_problems, {}));
     const QString path = QString::fromStdString(m_surroundings.journal.string());
     if (learned.trouble)
         m_messages->show("journal", QString("The journal %1 cannot be read: %2.")

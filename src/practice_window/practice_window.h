@@ -75,6 +75,7 @@ private:
 
     Surroundings m_surroundings;
     PracticePreferences m_preferences;
+    QString m_problems; // of the preferences; readers hear of them once the window is on screen
     GameCues m_cues;
     DecisionModel m_decisions;
     ReturnHistory m_history;

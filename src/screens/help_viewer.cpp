@@ -124,6 +124,7 @@ QWidget* HelpViewer::layOutPage()
     m_message->setWordWrap(true);
     m_message->setContentsMargins(8, 4, 8, 4);
     m_message->hide();
+    presentAs(*m_message, QAccessible::Notification);
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
@@ -225,10 +226,10 @@ void HelpViewer::searchTyped(const QString& text)
 
 void HelpViewer::showMessage(const QString& message)
 {
+    m_message->hide();
     m_message->setText(message);
+    m_message->setAccessibleName(message);
     m_message->setVisible(!message.isEmpty());
-    if (!message.isEmpty())
-        announce(*m_message);
 }
 
 } // namespace quillet

@@ -197,6 +197,7 @@ TEST_F(PracticeTest, countsAnAnswerThatCannotBeSavedAndSaysSo)
     open();
     press(Qt::Key_Return);
     EXPECT_THAT(text("message").toStdString(), HasSubstr("was not saved in"));
+    EXPECT_THAT(text("message").toStdString(), HasSubstr("/wavs/wrong.wav is missing."));
     EXPECT_EQ(window->teacher().entries().size(), 1U);
     EXPECT_EQ(answerButton(), "Next question");
 }
