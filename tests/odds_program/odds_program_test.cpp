@@ -1,6 +1,8 @@
+#include "charts/chart.h"
 #include "engine/random.h"
 #include "odds/bad_input.h"
 #include "odds/hand_text.h"
+#include "odds/pays.h"
 #include "odds/simulation.h"
 #include "odds_program/command_line.h"
 #include "odds_program/reports.h"
@@ -49,6 +51,22 @@ std::pair<std::string, int> run(const std::string& arguments, const std::string&
     std::string output(1 << 20, '\0');
     output.resize(std::fread(output.data(), 1, output.size(), pipe));
     return {output, WEXITSTATUS(pclose(pipe))};
+}
+
+// Whether this is refused, with a reason of one printable line.
+template <typename Try>
+void expectRefused(const std::string& what, const Try& attempt)
+{
+    try {
+        attempt();
+        ADD_FAILURE() << what << " is taken";
+    } catch (const BadInput& refusal) {
+        const std::string_view why(refusal.what());
+        const std::string_view line = why.substr(0, why.find('\n'));
+        const auto isControl = [](unsigned char letter) { return letter < 0x20 || letter == 0x7f; };
+        EXPECT_TRUE(line.size() > 5 && line.size() < 400) << what;
+        EXPECT_TRUE(std::ranges::none_of(line, isControl)) << what;
+    }
 }
 
 // Exchanges every card with itself.
@@ -117,6 +135,33 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
         "--chart x --pays 8/5|--chart x --plays|--chart x --format csv|--chart x --exact|"
         "--card x --pays 8/5|--card x --best-chart 3|--pays 8/5 --best-chart 3|"
         "--pays 8/5 --format csv|--pays 8/5 --exact|--format csv --exact|");
+}
+
+TEST(CommandLine, refusesHostileValuesOfEveryOption)
+{
+    std::istringstream words(
+        "-1 + -- nan inf 0x10 1e99 1e-1 1,5 5.5.5 ..3 . \u0663 kk 1kM 5% '' 1/0 "
+        "k 1e 3- 9..1 \xff 9\x7f \x1b[31m9 " +
+        std::string(5000, '9'));
+    for (std::string value; words >> value;) {
+        for (const char* option : {"--sitting ", "--simulate ", "--best-chart ", "--format ",
+                                   "--sitting 5 --bankroll ", "--simulate 5 --seed "})
+            expectRefused(option + value, [&] { (void)parsed(option + value); });
+    }
+}
+
+TEST(Readers, refuseHostileTexts)
+{
+    std::istringstream texts(
+        "\xff|\x1b[2J|\xc3\x28|;|1|4 of|9/|//|-9/6|4 of a kind; no|pair, pair, pair|royal 1e9|"
+        "9c 9c 9c 9c 9c|1 2 3 4 5 6 7 8 9 10|Ac Kc Qc Jc|nothing\rnothing\v|\u202e9/6|" +
+        std::string(1, '\0'));
+    for (std::string text; std::getline(texts, text, '|');) {
+        const std::string shown = printable(text);
+        expectRefused("chart: " + shown, [&] { (void)charts::parseChart(text); });
+        expectRefused("pay table: " + shown, [&] { (void)parsePays(text); });
+        expectRefused("hand: " + shown, [&] { (void)parseHand(text); });
+    }
 }
 
 TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
