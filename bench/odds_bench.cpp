@@ -1,6 +1,7 @@
 #include "charts/chart_price.h"
 #include "engine/random.h"
 #include "odds/bankroll.h"
+#include "odds/break_even.h"
 #include "odds/fair_odds.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"
@@ -30,6 +31,13 @@ void theTrainersChart(benchmark::State& state)
         benchmark::DoNotOptimize(charts::priceChart(heldCards, charts::trainersChart()));
 }
 BENCHMARK(theTrainersChart)->Unit(benchmark::kMillisecond);
+
+void theBreakEvenRoyal(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto step : state)
+        benchmark::DoNotOptimize(OpenRoyal(trainersPays()).breakEven());
+}
+BENCHMARK(theBreakEvenRoyal)->Unit(benchmark::kMillisecond);
 
 void countsOfHeldCards(benchmark::State& state)
 {

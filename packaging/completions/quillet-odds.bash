@@ -15,7 +15,7 @@ _quillet_odds()
     --pays) action=(-W "9/6 9/5 8/6 8/5 7/5 6/5") ;;
     --chart | --card) ;;
     --sitting | --simulate | --best-chart | --bankroll | --seed) return ;;
-    *) action=(-W "--mistakes --sitting --simulate --chart --best-chart --card --rows
+    *) action=(-W "--mistakes --break-even --sitting --simulate --chart --best-chart --card --rows
         --version --help --pays --all --bankroll --seed --plays --format --exact") ;;
     esac
     COMPREPLY=()

@@ -1,6 +1,7 @@
 # Completion of quillet-odds for fish.
 complete -c quillet-odds -f
 complete -c quillet-odds -l mistakes -d 'The deals that the chart misplays'
+complete -c quillet-odds -l break-even -d 'The royal at which perfect play returns 100 %'
 complete -c quillet-odds -l sitting -x -d 'How a session of that many hands turns out'
 complete -c quillet-odds -l simulate -x -d "Play that many hands with the trainer's own shuffle"
 complete -c quillet-odds -l chart -r -F -d 'What a chart of your own costs'

@@ -78,6 +78,11 @@ Fraction operator/(const Fraction& a, Int128 divisor)
     return {a.m_numerator, a.m_denominator * divisor};
 }
 
+bool operator<(const Fraction& a, const Fraction& b)
+{
+    return a.m_numerator * b.m_denominator < b.m_numerator * a.m_denominator;
+}
+
 std::string textOf(Int128 number)
 {
     std::string digits;

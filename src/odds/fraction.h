@@ -28,6 +28,7 @@ public:
     friend Fraction operator-(const Fraction& a, const Fraction& b);
     friend Fraction operator*(const Fraction& a, Int128 factor);
     friend Fraction operator/(const Fraction& a, Int128 divisor);
+    friend bool operator<(const Fraction& a, const Fraction& b);
     friend bool operator==(const Fraction&, const Fraction&) = default;
 
 private:

@@ -90,6 +90,13 @@ Style styleFor(const Request& request)
 // What an answer is computed from.
 struct Inputs {
     [[nodiscard]] charts::ChartPrice price() const { return charts::priceChart(heldCards, chart); }
+    // The cards of the hand, ascending.
+    [[nodiscard]] std::array<odds::DeckPlace, 5> places() const
+    {
+        auto places = odds::parseHand(request.hand);
+        std::ranges::sort(places);
+        return places;
+    }
 
     const Request& request;
     charts::Chart chart = chartFor(request);
@@ -113,11 +120,22 @@ Report answerChart(const Inputs& in)
 
 Report answerHand(const Inputs& in)
 {
-    auto places = odds::parseHand(in.request.hand);
-    std::ranges::sort(places);
-    const odds::DealtHand hand(in.heldCards, places);
+    const odds::DealtHand hand(in.heldCards, in.places());
     return handReport(in.heldCards, hand, charts::ChartPlayer(in.chart).play(hand),
                       in.request.allHolds, in.request.style.format);
+}
+
+Report answerBreakEven(const Inputs& in)
+{
+    const odds::Pays& pays = in.heldCards.pays();
+    return breakEvenReport(odds::OpenRoyal(pays).breakEven(), in.price(), pays);
+}
+
+Report answerBestHolds(const Inputs& in)
+{
+    const auto places = in.places();
+    const odds::Pays& pays = in.heldCards.pays();
+    return bestHoldsReport(places, odds::OpenRoyal(pays).bestHolds(places), pays);
 }
 
 void answerHandsFromInput(const Inputs& in, std::ostream& out)
@@ -209,6 +227,10 @@ void answer(const Request& request, std::ostream& out)
         return print(answerGame(in()));
     case Question::hand:
         return print(answerHand(in()));
+    case Question::breakEven:
+        return print(answerBreakEven(in()));
+    case Question::bestHolds:
+        return print(answerBestHolds(in()));
     case Question::handsFromInput:
         return answerHandsFromInput(in(), out);
     case Question::mistakes:

@@ -82,9 +82,10 @@ struct OptionKind {
 };
 
 // If an option is repeated, the last value counts.
-constexpr std::array<OptionKind, 14> optionKinds{{
+constexpr std::array<OptionKind, 15> optionKinds{{
     {"--rows"},
     {"--mistakes"},
+    {"--break-even"},
     {"--plays", nullptr, "--chart"},
     {"--sitting", [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
     {"--simulate", [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
@@ -110,12 +111,14 @@ struct Combination {
 };
 
 // The first one whose options are all given is the question.
-constexpr std::array<Combination, 12> combinations{{
+constexpr std::array<Combination, 14> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
     {Question::card, {"--card", "--best-chart"}, "--pays"},
     {Question::card, {"--card"}, "--chart --pays"},
     {Question::mistakes, {"--mistakes"}, "--chart --pays --format --exact"},
     {Question::plays, {"--chart", "--plays"}, "--pays"},
+    {Question::bestHolds, {"--break-even", hand.name}, "--pays --format --exact"},
+    {Question::breakEven, {"--break-even"}, "--chart --pays --format --exact"},
     {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
@@ -170,7 +173,7 @@ Question questionOf(const std::vector<Given>& given)
         if (!kind->needs.empty())
             throw BadUsage(name + " is only for " + std::string(kind->needs));
         throw BadUsage(name + " cannot be used with " + std::string(asked.asks[0]) +
-                       (asked.asks[1].empty() ? "" : " " + std::string(asked.asks[1])));
+                       (asked.asks[1].empty() ? "" : " and " + std::string(asked.asks[1])));
     }
     return asked.question;
 }
@@ -246,6 +249,8 @@ Questions, one at a time
                        or 9♣10♣J♣K♣A♦, and why
   -                    the hands on standard input, one per line
   --mistakes           the deals that the chart misplays, in groups
+  --break-even [HAND]  the royal at which perfect play returns 100 %, or those
+                       at which the best hold of the hand changes
   --sitting HANDS      how a session of that many hands turns out
   --simulate HANDS     play that many hands with the trainer's own shuffle,
                        which is not fair

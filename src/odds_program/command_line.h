@@ -17,6 +17,8 @@ enum class Question {
     game,
     hand,
     handsFromInput,
+    breakEven,
+    bestHolds,
     mistakes,
     sitting,
     simulation,

@@ -2,6 +2,7 @@
 
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
+#include "odds/break_even.h"
 #include "odds/one_hand.h"
 #include "odds/simulation.h"
 #include "odds/work_progress.h"
@@ -36,6 +37,16 @@ struct SittingPlay {
 [[nodiscard]] Report sittingReport(const std::vector<SittingPlay>& plays, std::int64_t hands,
                                    std::optional<std::int64_t> bankroll, bool bars,
                                    const odds::WorkProgress& progress);
+
+// The royal at which perfect play, with a royal that pays this or another, and the chart's best
+// choice return 100 %.
+[[nodiscard]] Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
+                                     const charts::ChartPrice& chart, const odds::Pays& pays);
+
+// The best hold of a deal at each royal, and the change that is nearest to the royal of the pays.
+[[nodiscard]] Report bestHoldsReport(const std::array<odds::DeckPlace, 5>& places,
+                                     const std::vector<odds::BestHold>& best,
+                                     const odds::Pays& pays);
 
 [[nodiscard]] Report mistakesReport(const std::vector<charts::Mistake>& mistakes);
 

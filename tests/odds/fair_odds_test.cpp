@@ -1,4 +1,5 @@
 #include "odds/bad_input.h"
+#include "odds/break_even.h"
 #include "odds/dealt_hand.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
@@ -23,6 +24,13 @@ const FairOdds& odds()
     return theOdds;
 }
 
+HeldCards withRoyal(std::string_view name, std::int64_t royal)
+{
+    Pays pays = parsePays(name);
+    pays[1] = royal;
+    return HeldCards(pays);
+}
+
 } // namespace
 
 // These figures have been published again and again.
@@ -40,6 +48,41 @@ TEST(FairOdds, perfectPlayComesOutAsPublished)
     EXPECT_EQ(odds().returned.text(), "1653526326983/1661102543100");
     const Fraction& royal = odds().chances[1];
     EXPECT_EQ(Fraction(royal.denominator(), royal.numerator()).decimals(2), "40390.55");
+}
+
+TEST(BreakEven, isWhereTheReturnWithAWholeRoyalPassesOne)
+{
+    for (const auto& [name, up] : {std::pair{"9/6", 4880}, {"8/5", 8666}}) {
+        const Fraction below = fairOdds(withRoyal(name, up - 1)).returned;
+        const Fraction rise = fairOdds(withRoyal(name, up)).returned - below;
+        const Fraction missing = Fraction(1, 1) - below;
+        EXPECT_TRUE(Fraction() < missing && !(rise < missing)) << name;
+        // Perfect play is the same for both royals, so the return is a straight line between them.
+        EXPECT_EQ(OpenRoyal(parsePays(name)).breakEven()->royal,
+                  Fraction(up - 1, 1) + Fraction(missing.numerator() * rise.denominator(),
+                                                 missing.denominator() * rise.numerator()));
+    }
+    EXPECT_FALSE(OpenRoyal(parsePays("99/9")).breakEven()) << "more without a royal";
+    EXPECT_TRUE(OpenRoyal(Pays{}).breakEven()) << "royals alone pay";
+}
+
+TEST(BreakEven, bestHoldsAreThoseOfEachRoyal)
+{
+    const OpenRoyal open(trainersPays());
+    for (const std::int64_t royal : {0, 250, 3600, 4000, 5000, 20000, 100000}) {
+        const HeldCards heldCards = withRoyal("9/6", royal);
+        for (const char* text : {"AcKdQhJh2s", "9cTcJcKcAd", "TcJcQcJdTh", "2c2d2h2s3d"}) {
+            std::array<DeckPlace, 5> deal = parseHand(text);
+            std::ranges::sort(deal);
+            const DealtHand dealt(heldCards, deal);
+            const auto best = open.bestHolds(deal);
+            std::size_t i = best.size() - 1;
+            while (Fraction(royal, 1) < best[i].royal)
+                --i;
+            EXPECT_EQ(dealt.worth[best[i].hold], dealt.worth[dealt.bestHold])
+                << text << " at " << royal;
+        }
+    }
 }
 
 TEST(DealtHand, drawsPayWhatAHoldIsWorth)

@@ -112,29 +112,31 @@ TEST(CommandLine, refusesWhatMakesNoSense)
 TEST(CommandLine, takesOnlyThePairsThatMakeSense)
 {
     const std::vector<std::string> options{
-        "9c",        "-",        "--mistakes",   "--sitting 5",    "--simulate 5", "--rows",
-        "--chart x", "--card x", "--pays 8/5",   "--best-chart 3", "--all",        "--bankroll 5",
-        "--seed 3",  "--plays",  "--format csv", "--exact"};
+        "9c",           "-",         "--mistakes", "--break-even", "--sitting 5",    "--simulate 5",
+        "--rows",       "--chart x", "--card x",   "--pays 8/5",   "--best-chart 3", "--all",
+        "--bankroll 5", "--seed 3",  "--plays",    "--format csv", "--exact"};
     std::string taken;
     for (std::size_t i = 0; i < options.size(); ++i) {
+        std::string partners;
         for (std::size_t j = i + 1; j < options.size(); ++j) {
             try {
                 (void)parsed(options[i] + " " + options[j]);
-                taken += options[i] + " " + options[j] + "|";
+                partners += (partners.empty() ? ": " : ", ") + options[j];
             } catch (const BadUsage&) {
             }
         }
+        taken += partners.empty() ? "" : options[i] + partners + "\n";
     }
-    EXPECT_EQ(
-        taken,
-        "9c --pays 8/5|9c --all|9c --format csv|9c --exact|- --pays 8/5|- --all|- --format csv|"
-        "- --exact|--mistakes --chart x|--mistakes --pays 8/5|--mistakes --format csv|"
-        "--mistakes --exact|--sitting 5 --chart x|--sitting 5 --pays 8/5|--sitting 5 --bankroll 5|"
-        "--sitting 5 --format csv|--simulate 5 --pays 8/5|--simulate 5 --seed 3|"
-        "--simulate 5 --format csv|--simulate 5 --exact|--chart x --card x|"
-        "--chart x --pays 8/5|--chart x --plays|--chart x --format csv|--chart x --exact|"
-        "--card x --pays 8/5|--card x --best-chart 3|--pays 8/5 --best-chart 3|"
-        "--pays 8/5 --format csv|--pays 8/5 --exact|--format csv --exact|");
+    EXPECT_EQ(taken, "9c: --break-even, --pays 8/5, --all, --format csv, --exact\n"
+                     "-: --pays 8/5, --all, --format csv, --exact\n"
+                     "--mistakes: --chart x, --pays 8/5, --format csv, --exact\n"
+                     "--break-even: --chart x, --pays 8/5, --format csv, --exact\n"
+                     "--sitting 5: --chart x, --pays 8/5, --bankroll 5, --format csv\n"
+                     "--simulate 5: --pays 8/5, --seed 3, --format csv, --exact\n"
+                     "--chart x: --card x, --pays 8/5, --plays, --format csv, --exact\n"
+                     "--card x: --pays 8/5, --best-chart 3\n"
+                     "--pays 8/5: --best-chart 3, --format csv, --exact\n"
+                     "--format csv: --exact\n");
 }
 
 TEST(CommandLine, refusesHostileValuesOfEveryOption)
@@ -198,6 +200,15 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--mistakes").first,
                 testing::AllOf(HasSubstr("468  0.01997     74  9cTcJcKcAd"),
                                HasSubstr("which cost 0.21241830 of 100")));
+    EXPECT_THAT(run("--break-even --pays 8/5 --exact").first,
+                testing::AllOf(testing::ContainsRegex("Perfect play +8665\\.[0-9]+ +8666 "),
+                               HasSubstr("      royal = "), HasSubstr("Perfect play at 4000")));
+    EXPECT_THAT(run("--break-even --pays 99/9").first,
+                testing::ContainsRegex("Perfect play +none\n.*even without a royal\\."));
+    EXPECT_THAT(run("--break-even Ac Kd Qh Jh 8c").first,
+                testing::AllOf(HasSubstr("Qh     0.0000  3945.0000\n"),
+                               HasSubstr("Qh        3945.0000        any  best at 4000\n")));
+    EXPECT_THAT(run("--break-even TcJcQcKc2d").first, HasSubstr("No other hold is ever better"));
     EXPECT_THAT(run("--plays --chart -", "echo nothing").first,
                 testing::StartsWith("deal,hold\nAc 2c 3c 4c 5c,\n"));
     EXPECT_THAT(run("--chart -", "printf 'ace\\nace\\n'").first,
@@ -297,6 +308,8 @@ TEST(Program, keepsToEightyColumnsInText)
     const std::string perfect = "--chart " QUILLET_CHARTS_FOLDER "/perfect.chart";
     const std::vector<std::string> all{"",
                                        "--mistakes",
+                                       "--break-even",
+                                       "--break-even 9cTcJcKcAd",
                                        perfect + " --sitting 1e4 --bankroll 1000",
                                        "--all 9cTcJcKcAd",
                                        "--simulate 1000",
@@ -336,6 +349,15 @@ TEST(Simulation, playsTheEnginesOwnDecks)
     // for the trainer's: high pairs come some 20 % less often.
     EXPECT_NEAR(played(1, 1).returned(trainersPays()), 0.975, 0.2);
     EXPECT_NEAR(static_cast<double>(played(1, 1).count[9]) / 40000, 0.173, 0.006);
+}
+
+TEST(BestHoldsReport, namesTheNearestChange)
+{
+    const auto outro = [](const std::vector<BestHold>& best) {
+        return bestHoldsReport(parseHand("AcKdJhQhTs"), best, trainersPays())[0].outro;
+    };
+    EXPECT_THAT(outro({{{}, 1}, {{3000, 1}, 2}, {{9001, 2}, 4}, {{9002, 1}, 16}}),
+                HasSubstr("changes at 4500.5000: up to there it is Kd,\n    beyond it Jh.\n"));
 }
 
 TEST(SittingReport, drawsBarsOfPossibleResults)

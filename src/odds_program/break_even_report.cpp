@@ -1,0 +1,79 @@
+#include "odds/hand_text.h"
+#include "odds_program/reports.h"
+
+namespace quillet::odds_program
+{
+
+namespace
+{
+
+// The number in `best` of the hold that takes over at the royal nearest to this one.
+std::size_t nearestChange(const std::vector<odds::BestHold>& best, const odds::Fraction& now)
+{
+    const auto distance = [&](std::size_t i) {
+        const odds::Fraction off = best[i].royal - now;
+        return off < odds::Fraction() ? off * -1 : off;
+    };
+    std::size_t nearest = 1;
+    for (std::size_t i = 2; i < best.size(); ++i)
+        nearest = distance(i) < distance(nearest) ? i : nearest;
+    return nearest;
+}
+
+} // namespace
+
+Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
+                       const charts::ChartPrice& chart, const odds::Pays& pays)
+{
+    Table table{"break-even",
+                "The royal in credits at which play returns 100 %. Perfect play changes with the\n"
+                "royal, the other ways to play do not.\n\n",
+                {{"play", "Play"},
+                 {"royal", "Royal"},
+                 {"rounded up", "Rounded up"},
+                 {"one royal in", "One royal in"}}};
+    const auto add = [&table](std::string_view play, const std::optional<odds::BreakEven>& even) {
+        if (!even)
+            return table.rows.push_back({play, "none", "", ""});
+        const odds::Fraction& royal = even->royal;
+        const odds::Int128 up = (royal.numerator() + royal.denominator() - 1) / royal.denominator();
+        table.rows.push_back({play, exact(royal, 8), static_cast<std::int64_t>(up),
+                              exact({even->chance.denominator(), even->chance.numerator()}, 2)});
+    };
+    add("Perfect play", perfect);
+    add("Perfect play at " + std::to_string(pays[1]), odds::breakEven(chart.perfect, pays));
+    add(nameOf(charts::Taken::best), odds::breakEven(chart.played[charts::Taken::best], pays));
+    if (!perfect)
+        table.outro = "\nPerfect play returns more than 100 % even without a royal.\n";
+    return {table};
+}
+
+Report bestHoldsReport(const std::array<odds::DeckPlace, 5>& places,
+                       const std::vector<odds::BestHold>& best, const odds::Pays& pays)
+{
+    const odds::Fraction now(pays[1], 1);
+    const std::string pay = std::to_string(pays[1]);
+    Table table{"best holds",
+                odds::holdText(places, odds::holdAll) +
+                    ": the best hold by what a royal pays, in credits\n\n",
+                {{"hold", "Best hold"}, {"from", "From"}, {"to", "To"}, {"is", "Is"}}};
+    for (std::size_t i = 0; i < best.size(); ++i) {
+        const bool last = i + 1 == best.size();
+        const bool isNow = !(now < best[i].royal) && (last || !(best[i + 1].royal < now));
+        table.rows.push_back({cards(places, best[i].hold), exact(best[i].royal, 4),
+                              last ? "any" : exact(best[i + 1].royal, 4),
+                              isNow ? "best at " + pay : ""});
+    }
+    if (best.size() == 1) {
+        table.outro = "\nNo other hold is ever better.\n";
+        return {table};
+    }
+    const std::size_t change = nearestChange(best, now);
+    table.outro = "\n" + wrapped("Nearest to " + pay + ", the best hold changes at " +
+                                 best[change].royal.decimals(4) + ": up to there it is " +
+                                 odds::holdText(places, best[change - 1].hold) + ", beyond it " +
+                                 odds::holdText(places, best[change].hold) + ".");
+    return {table};
+}
+
+} // namespace quillet::odds_program
