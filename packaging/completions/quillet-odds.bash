@@ -16,7 +16,7 @@ _quillet_odds()
     --chart | --card) ;;
     --sitting | --simulate | --best-chart | --bankroll | --seed) return ;;
     *) action=(-W "--mistakes --break-even --sitting --simulate --chart --best-chart --card --rows
-        --version --help --pays --all --bankroll --seed --plays --format --exact") ;;
+        --self-test --version --help --pays --all --bankroll --seed --plays --format --exact") ;;
     esac
     COMPREPLY=()
     [[ ${#action[@]} == 0 ]] || mapfile -t COMPREPLY < <(compgen "${action[@]}" -- "$word")

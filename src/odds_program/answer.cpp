@@ -8,6 +8,7 @@
 #include "odds_program/output_file.h"
 #include "odds_program/progress_bar.h"
 #include "odds_program/reports.h"
+#include "odds_program/self_test.h"
 #include "odds_program/text_input.h"
 
 #include <algorithm>
@@ -223,6 +224,8 @@ void answer(const Request& request, std::ostream& out)
         break;
     case Question::rowKinds:
         return reportRowKinds(out);
+    case Question::selfTest:
+        return selfTest(out);
     case Question::game:
         return print(answerGame(in()));
     case Question::hand:

@@ -82,8 +82,9 @@ struct OptionKind {
 };
 
 // If an option is repeated, the last value counts.
-constexpr std::array<OptionKind, 15> optionKinds{{
+constexpr std::array<OptionKind, 16> optionKinds{{
     {"--rows"},
+    {"--self-test"},
     {"--mistakes"},
     {"--break-even"},
     {"--plays", nullptr, "--chart"},
@@ -111,8 +112,9 @@ struct Combination {
 };
 
 // The first one whose options are all given is the question.
-constexpr std::array<Combination, 14> combinations{{
+constexpr std::array<Combination, 15> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
+    {Question::selfTest, {"--self-test"}, ""},
     {Question::card, {"--card", "--best-chart"}, "--pays"},
     {Question::card, {"--card"}, "--chart --pays"},
     {Question::mistakes, {"--mistakes"}, "--chart --pays --format --exact"},
@@ -261,6 +263,7 @@ Questions, one at a time
   --card FILE          write the trainer's chart, or that of --chart or
                        --best-chart, as a page to print (SVG)
   --rows               the rows that a chart can have
+  --self-test          check tables and computations against the rules
   --version, --help
 
 Options

@@ -27,6 +27,7 @@ enum class Question {
     bestChart,
     card,
     rowKinds,
+    selfTest,
     help,
     version
 };

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-// Returns 0 if the answer was written, 1 if something could not be read or written, 2 for bad
-// input.
+// Returns 0 if the answer was written, 1 if something could not be read or written or the self-test
+// failed, 2 for bad input.
 int main(int argc, char** argv)
 {
     using namespace quillet::odds_program;

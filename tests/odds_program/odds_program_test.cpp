@@ -114,7 +114,7 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
     const std::vector<std::string> options{
         "9c",           "-",         "--mistakes", "--break-even", "--sitting 5",    "--simulate 5",
         "--rows",       "--chart x", "--card x",   "--pays 8/5",   "--best-chart 3", "--all",
-        "--bankroll 5", "--seed 3",  "--plays",    "--format csv", "--exact"};
+        "--bankroll 5", "--seed 3",  "--plays",    "--format csv", "--exact",        "--self-test"};
     std::string taken;
     for (std::size_t i = 0; i < options.size(); ++i) {
         std::string partners;
@@ -222,6 +222,13 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--sitting 2400 --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
                 testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
+}
+
+TEST(Program, testsItself)
+{
+    const auto [output, status] = run("--self-test");
+    EXPECT_THAT(output, testing::MatchesRegex("(passed  [^\n]{1,72}\n){5}"));
+    EXPECT_EQ(status, 0);
 }
 
 TEST(Program, answersHandsOnItsInputOnlyWhenAsked)
