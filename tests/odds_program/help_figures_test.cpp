@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <map>
 #include <numeric>
+#include <regex>
 #include <span>
 #include <string>
 
@@ -160,6 +161,31 @@ TEST(HelpFigures, theHelpAndTheFirstPagesTellWhatTheChartIsWorth)
     for (const char* page : {QUILLET_README, QUILLET_METAINFO})
         for (const Fraction& returned : {odds.returned, chart.played[Taken::best].returned})
             EXPECT_NE(fileText(page).find(inHundred(returned)), std::string::npos) << page;
+}
+
+// OddsPage.isUpToDate checks that our figures are those computed.
+TEST(OddsPage, agreesWithTheLiterature)
+{
+    const std::string page = fileText(QUILLET_ODDS_PAGE);
+    const std::regex row(R"(\|([^|]*)\|([^|]*)\| (\[\d\]|not known) \|)"), number(R"([\d.]+)");
+    const std::sregex_iterator end;
+    int compared = 0;
+    for (std::sregex_iterator at(page.begin(), page.end(), row); at != end; ++at) {
+        const std::string published = (*at)[1], ours = (*at)[2];
+        std::sregex_iterator theirs(published.begin(), published.end(), number);
+        std::sregex_iterator our(ours.begin(), ours.end(), number);
+        for (; theirs != end && our != end; ++theirs, ++our, ++compared) {
+            const std::string figure = theirs->str();
+            const auto point = std::min(figure.find('.'), figure.size() - 1);
+            const double unit =
+                std::pow(10, static_cast<double>(point + 1) - static_cast<double>(figure.size()));
+            // The page says that 3624 is not ours.
+            EXPECT_LT(std::abs(std::stod(figure) - std::stod(our->str())),
+                      figure == "3624" ? 1.5 : unit)
+                << at->str();
+        }
+    }
+    EXPECT_EQ(compared, 14);
 }
 
 TEST(HelpFigures, theExampleHandsAreWhatTheHelpSays)

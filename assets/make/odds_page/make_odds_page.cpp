@@ -1,7 +1,9 @@
 #include "charts/chart_price.h"
 #include "charts/chart_search.h"
 #include "charts/mistakes.h"
+#include "literature.h"
 #include "odds/bankroll.h"
+#include "odds/break_even.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
 #include "odds/sitting.h"
@@ -38,9 +40,9 @@ void writePayTables(std::ostream& out)
            "The return in % at five credits a hand, where a royal pays 4000. The variance is that\n"
            "of one hand of perfect play, in wagers squared. The chart's player takes the best of\n"
            "the holds that the coach accepts; the loss is against perfect play. The chart is made\n"
-           "for 9/6.\n\n"
-           "| full house/flush | perfect play | variance | the chart | loss |\n"
-           "|---|---|---|---|---|\n";
+           "for 9/6. With the royal in the last column perfect play returns 100 %.\n\n"
+           "| full house/flush | perfect play | variance | the chart | loss | royal for 100 % |\n"
+           "|---|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
         const odds::Pays pays = odds::parsePays(name);
         const charts::ChartPrice chart =
@@ -48,7 +50,8 @@ void writePayTables(std::ostream& out)
         out << "| " << name << " | " << percent(chart.perfect.returned, 6) << " | "
             << decimals(odds::oneHand(chart.perfect.chances, pays).variance(), 4) << " | "
             << percent(chart.played[charts::Taken::best].returned, 6) << " | "
-            << percent(chart.loss(charts::Taken::best), 6) << " |\n";
+            << percent(chart.loss(charts::Taken::best), 6) << " | "
+            << odds::OpenRoyal(pays).breakEven()->royal.decimals(2) << " |\n";
     }
 }
 
@@ -151,4 +154,5 @@ int main()
     writeMistakes(std::cout, heldCards);
     writeSittings(std::cout, trainers.perfect);
     writeCharts(std::cout, heldCards, trainers);
+    writeLiterature(std::cout, heldCards, trainers.perfect);
 }
