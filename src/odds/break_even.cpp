@@ -22,19 +22,12 @@ Pays withoutRoyal(Pays pays)
 // The best hold when a royal pays this much; of holds worth the same, the one with most royals.
 Hold bestAt(const Fraction& pay, const DealtHand& others, const DealtHand& royals)
 {
-    const auto worth = [&](Hold hold) {
-        return std::pair(others.worth[hold] * pay.denominator() +
-                             royals.worth[hold] * pay.numerator(),
-                         royals.worth[hold]);
-    };
-    Hold best = 0;
-    auto most = worth(best);
-    for (Hold hold = 1; hold < holds; ++hold)
-        if (const auto other = worth(hold); other > most) {
-            best = hold;
-            most = other;
-        }
-    return best;
+    std::array<std::pair<Int128, std::int64_t>, holds> worth;
+    for (Hold hold = 0; hold < holds; ++hold)
+        worth[hold] = {others.worth[hold] * pay.denominator() +
+                           royals.worth[hold] * pay.numerator(),
+                       royals.worth[hold]};
+    return static_cast<Hold>(std::ranges::max_element(worth) - worth.begin());
 }
 
 } // namespace
@@ -86,19 +79,17 @@ std::vector<BestHold> OpenRoyal::bestHolds(const std::array<DeckPlace, 5>& ascen
     std::vector<BestHold> best{{{}, bestAt({}, others, royals)}};
     for (;;) {
         const Hold now = best.back().hold;
-        std::optional<BestHold> next;
+        std::optional<Fraction> next;
         for (Hold hold = 0; hold < holds; ++hold) {
             const std::int64_t more = royals.worth[hold] - royals.worth[now];
             if (more <= 0)
                 continue;
             const Fraction pay(others.worth[now] - others.worth[hold], more);
-            if (!next || pay < next->royal ||
-                (pay == next->royal && royals.worth[hold] > royals.worth[next->hold]))
-                next = {pay, hold};
+            next = next && *next < pay ? next : pay;
         }
         if (!next)
             return best;
-        best.push_back(*next);
+        best.push_back({*next, bestAt(*next, others, royals)});
     }
 }
 

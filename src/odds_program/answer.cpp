@@ -8,7 +8,6 @@
 #include "odds_program/output_file.h"
 #include "odds_program/progress_bar.h"
 #include "odds_program/reports.h"
-#include "odds_program/self_test.h"
 #include "odds_program/text_input.h"
 
 #include <algorithm>
@@ -129,14 +128,10 @@ Report answerHand(const Inputs& in)
 Report answerBreakEven(const Inputs& in)
 {
     const odds::Pays& pays = in.heldCards.pays();
-    return breakEvenReport(odds::OpenRoyal(pays).breakEven(), in.price(), pays);
-}
-
-Report answerBestHolds(const Inputs& in)
-{
-    const auto places = in.places();
-    const odds::Pays& pays = in.heldCards.pays();
-    return bestHoldsReport(places, odds::OpenRoyal(pays).bestHolds(places), pays);
+    const odds::OpenRoyal open(pays);
+    return in.request.hand.empty()
+               ? breakEvenReport(open.breakEven(), in.price(), pays)
+               : bestHoldsReport(in.places(), open.bestHolds(in.places()), pays);
 }
 
 void answerHandsFromInput(const Inputs& in, std::ostream& out)
@@ -232,8 +227,6 @@ void answer(const Request& request, std::ostream& out)
         return print(answerHand(in()));
     case Question::breakEven:
         return print(answerBreakEven(in()));
-    case Question::bestHolds:
-        return print(answerBestHolds(in()));
     case Question::handsFromInput:
         return answerHandsFromInput(in(), out);
     case Question::mistakes:

@@ -1,26 +1,11 @@
 #include "odds/hand_text.h"
 #include "odds_program/reports.h"
 
+#include <cmath>
+#include <limits>
+
 namespace quillet::odds_program
 {
-
-namespace
-{
-
-// The number in `best` of the hold that takes over at the royal nearest to this one.
-std::size_t nearestChange(const std::vector<odds::BestHold>& best, const odds::Fraction& now)
-{
-    const auto distance = [&](std::size_t i) {
-        const odds::Fraction off = best[i].royal - now;
-        return off < odds::Fraction() ? off * -1 : off;
-    };
-    std::size_t nearest = 1;
-    for (std::size_t i = 2; i < best.size(); ++i)
-        nearest = distance(i) < distance(nearest) ? i : nearest;
-    return nearest;
-}
-
-} // namespace
 
 Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
                        const charts::ChartPrice& chart, const odds::Pays& pays)
@@ -56,23 +41,26 @@ Report bestHoldsReport(const std::array<odds::DeckPlace, 5>& places,
     Table table{"best holds",
                 odds::holdText(places, odds::holdAll) +
                     ": the best hold by what a royal pays, in credits\n\n",
-                {{"hold", "Best hold"}, {"from", "From"}, {"to", "To"}, {"is", "Is"}}};
+                {{"hold", "Best hold"}, {"from", "From"}, {"to", "To"}, {"is", "Is"}},
+                {},
+                "\nNo other hold is ever better.\n"};
+    double nearest = std::numeric_limits<double>::infinity();
     for (std::size_t i = 0; i < best.size(); ++i) {
+        const auto& [from, hold] = best[i];
         const bool last = i + 1 == best.size();
-        const bool isNow = !(now < best[i].royal) && (last || !(best[i + 1].royal < now));
-        table.rows.push_back({cards(places, best[i].hold), exact(best[i].royal, 4),
+        const bool isNow = !(now < from) && (last || !(best[i + 1].royal < now));
+        table.rows.push_back({cards(places, hold), exact(from, 4),
                               last ? "any" : exact(best[i + 1].royal, 4),
                               isNow ? "best at " + pay : ""});
+        const double distance = std::abs((from - now).value());
+        if (i == 0 || distance >= nearest)
+            continue;
+        nearest = distance;
+        table.outro =
+            "\n" + wrapped("Nearest to " + pay + ", the best hold changes at " + from.decimals(4) +
+                           ": up to there it is " + odds::holdText(places, best[i - 1].hold) +
+                           ", beyond it " + odds::holdText(places, hold) + ".");
     }
-    if (best.size() == 1) {
-        table.outro = "\nNo other hold is ever better.\n";
-        return {table};
-    }
-    const std::size_t change = nearestChange(best, now);
-    table.outro = "\n" + wrapped("Nearest to " + pay + ", the best hold changes at " +
-                                 best[change].royal.decimals(4) + ": up to there it is " +
-                                 odds::holdText(places, best[change - 1].hold) + ", beyond it " +
-                                 odds::holdText(places, best[change].hold) + ".");
     return {table};
 }
 

@@ -119,7 +119,7 @@ constexpr std::array<Combination, 15> combinations{{
     {Question::card, {"--card"}, "--chart --pays"},
     {Question::mistakes, {"--mistakes"}, "--chart --pays --format --exact"},
     {Question::plays, {"--chart", "--plays"}, "--pays"},
-    {Question::bestHolds, {"--break-even", hand.name}, "--pays --format --exact"},
+    {Question::breakEven, {"--break-even", hand.name}, "--pays --format --exact"},
     {Question::breakEven, {"--break-even"}, "--chart --pays --format --exact"},
     {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},

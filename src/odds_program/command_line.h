@@ -18,7 +18,6 @@ enum class Question {
     hand,
     handsFromInput,
     breakEven,
-    bestHolds,
     mistakes,
     sitting,
     simulation,

@@ -80,4 +80,8 @@ void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts:
 // Each class of deals with the worst hold that fits its row of the chart, as CSV.
 void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const charts::Chart& chart);
 
+// Compares what the tables give with what follows from the rules in another way, and prints a line
+// for each comparison. Throws a std::runtime_error if one fails.
+void selfTest(std::ostream& out);
+
 } // namespace quillet::odds_program

@@ -1,22 +1,15 @@
-#include "odds_program/self_test.h"
-
-#include "charts/chart_price.h"
 #include "engine/pay_table.h"
 #include "engine/play_rules.h"
 #include "odds/hand_text.h"
 #include "odds/sitting.h"
 #include "odds/tail_bounds.h"
 #include "odds_program/progress_bar.h"
-#include "odds_program/report.h"
+#include "odds_program/reports.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <ostream>
 #include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace quillet::odds_program
 {
@@ -24,32 +17,26 @@ namespace quillet::odds_program
 namespace
 {
 
-// Each check returns a difference that it found, or nothing.
-
+// A check returns a difference that it found, or nothing.
 std::string differs(const std::string& what, const std::string& found, const std::string& expected)
 {
     return found == expected ? "" : what + ": " + found + ", not " + expected;
 }
 
-struct HandFaults {
-    std::string rows;
-    std::string draws;
-};
-
-// Every hand is also the result of a draw: to the hold that it has in common with the deal.
-HandFaults checkHands(const odds::DealtHand& deal)
+// Of all hands, and of the draws to the holds of a deal. Every hand is also the result of a draw:
+// to the hold that it has in common with the deal.
+std::array<std::string, 2> checkHands(const odds::DealtHand& deal)
 {
-    HandFaults faults;
+    std::string rows;
     std::array<std::int64_t, odds::holds> paid{};
     std::int64_t hands = 0;
-    ProgressBar bar;
     const auto visit = [&](const odds::SuitSets& sets) {
         const auto places = odds::placesOf<5>(sets);
         const auto cards = odds::cardsAt(places);
         const rules::HandFacts facts(rules::sortedByRank(cards));
         for (const bool final : {false, true})
             if (EvaluatePokerHand(cards, final) != rules::playCode(facts, final))
-                faults.rows = odds::holdText(places, odds::holdAll);
+                rows = odds::holdText(places, odds::holdAll);
         const Payout* payout = payoutFor(rules::playCode(facts, true));
         odds::Hold hold = 0;
         for (std::size_t card = 0; card < places.size(); ++card)
@@ -57,69 +44,64 @@ HandFaults checkHands(const odds::DealtHand& deal)
         paid[hold] += payout == nullptr ? 0 : payout->pays;
         ++hands;
     };
+    ProgressBar bar;
     odds::forEachClass(5, [&](const odds::SuitSets& sets) {
         odds::forEachMember(sets, visit);
         bar.show(static_cast<double>(hands) / static_cast<double>(odds::FairOdds::deals));
     });
-    if (hands != odds::FairOdds::deals)
-        faults.rows = std::to_string(hands) + " hands";
-    for (odds::Hold hold = 0; hold < odds::holds && faults.draws.empty(); ++hold)
-        faults.draws =
+    std::string draws;
+    for (odds::Hold hold = 0; hold < odds::holds && draws.empty(); ++hold)
+        draws =
             differs(odds::holdText(deal.places, hold), deal.expectedCredits(hold).text(),
                     odds::Fraction(paid[hold], odds::choose[5 - odds::cardsIn[hold]][47]).text());
-    return faults;
+    return {hands == odds::FairOdds::deals ? rows : std::to_string(hands) + " hands", draws};
 }
 
 std::string checkReturns()
 {
-    constexpr std::array<std::pair<const char*, const char*>, 6> known{{
-        {"9/6", "1653526326983/1661102543100"},
-        {"9/5", "408838064311/415275635775"},
-        {"8/6", "38009381393/38630291700"},
-        {"8/5", "1616226757427/1661102543100"},
-        {"7/5", "24570826799/25555423740"},
-        {"6/5", "1577983249081/1661102543100"},
-    }};
     std::string fault;
-    for (const auto& [pays, returned] : known)
+    for (const auto& [pays, known] : {std::pair{"9/6", "1653526326983/1661102543100"},
+                                      {"9/5", "408838064311/415275635775"},
+                                      {"8/6", "38009381393/38630291700"},
+                                      {"8/5", "1616226757427/1661102543100"},
+                                      {"7/5", "24570826799/25555423740"},
+                                      {"6/5", "1577983249081/1661102543100"}})
         if (fault.empty())
             fault = differs(pays,
                             odds::fairOdds(odds::HeldCards(odds::parsePays(pays))).returned.text(),
-                            returned);
+                            known);
     return fault;
 }
 
-// Winnings only grow, so the results up to even need no larger ones.
+// Winnings only grow, so the chances of results up to even need no larger ones.
 std::string checkSession(const odds::OneHand& one)
 {
-    constexpr std::size_t hands = 600;
+    constexpr std::int64_t hands = 600;
     std::vector<double> chances(hands + 1); // of each number of wagers won
     chances[0] = 1;
-    for (std::size_t hand = 0; hand < hands; ++hand)
-        for (std::size_t won = hands + 1; won-- > 0;) {
+    for (std::int64_t hand = 0; hand < hands; ++hand)
+        for (std::size_t won = chances.size(); won-- > 0;) {
             double chance = 0;
-            for (std::size_t outcome = 0; outcome < odds::outcomeCount; ++outcome)
-                if (const auto pays = static_cast<std::size_t>(one.pays[outcome] / wager);
-                    pays <= won)
-                    chance += one.chance[outcome] * chances[won - pays];
+            for (std::size_t outcome = 0; outcome < odds::outcomeCount; ++outcome) {
+                const auto pays = static_cast<std::size_t>(one.pays[outcome] / wager);
+                chance += pays <= won ? one.chance[outcome] * chances[won - pays] : 0;
+            }
             chances[won] = chance;
         }
     const odds::Sitting sitting(one, hands);
-    std::string fault;
-    for (std::int64_t net = 0; const double chance : chances) {
-        const std::int64_t credits = net++ * wager - std::int64_t{hands} * wager;
-        const double found = sitting.chanceOf(credits, credits);
+    for (std::int64_t net = -hands * wager; const double chance : chances) {
+        const double found = sitting.chanceOf(net, net);
         if (std::abs(found - chance) > odds::sittingBound)
-            fault = differs("result " + std::to_string(credits), decimals(found, 12),
-                            decimals(chance, 12));
+            return differs(std::to_string(net), decimals(found, 12), decimals(chance, 12));
+        net += wager;
     }
-    return fault;
+    return {};
 }
 
 std::string checkChart(const odds::HeldCards& heldCards, const charts::ChartPrice& price)
 {
     const charts::Chart& chart = charts::trainersChart();
-    std::string fault = differs("the return", price.played[charts::Taken::best].returned.text(),
+    std::string fault = differs("return", price.played[charts::Taken::best].returned.text(),
                                 "149999803741/151009322100");
     charts::forEachPlayedDeal(heldCards, chart, [&](const charts::PlayedDeal& deal) {
         const auto code = rules::playCode(odds::cardsAt(deal.hand.places), false);
@@ -135,18 +117,16 @@ std::string checkChart(const odds::HeldCards& heldCards, const charts::ChartPric
 void selfTest(std::ostream& out)
 {
     int failed = 0;
-    const auto print = [&](std::string_view compared, const std::string& fault) {
-        out << (fault.empty() ? "passed  " : "FAILED  ") << compared << "\n";
+    const auto print = [&](const char* compared, const std::string& fault) {
+        out << (fault.empty() ? "passed  " : "FAILED  ") << compared << "\n" << std::flush;
         if (!fault.empty())
             out << "        " << fault << "\n";
-        out.flush();
         failed += fault.empty() ? 0 : 1;
     };
     const odds::HeldCards heldCards;
-    const odds::DealtHand deal(heldCards, {8, 9, 10, 12, 13}); // 9c Tc Jc Kc Ad
-    const HandFaults faults = checkHands(deal);
-    print("the rows of all 2,598,960 hands, dealt and final: by tables and by rules", faults.rows);
-    print("the 32 holds of a deal: by tables, and draw by draw by rules", faults.draws);
+    const auto [rows, draws] = checkHands({heldCards, {8, 9, 10, 12, 13}}); // 9c Tc Jc Kc Ad
+    print("the rows of all 2,598,960 hands, dealt and final: by tables and by rules", rows);
+    print("the 32 holds of a deal: by tables, and draw by draw by rules", draws);
     print("the return of perfect play at six pay tables: as known, exactly", checkReturns());
     const charts::ChartPrice price = charts::priceChart(heldCards, charts::trainersChart());
     print("the results of 600 hands: by Fourier transform, and hand by hand",
@@ -155,7 +135,7 @@ void selfTest(std::ostream& out)
           checkChart(heldCards, price));
     if (failed > 0)
         throw std::runtime_error("the self-test failed: " + std::to_string(failed) +
-                                 (failed == 1 ? " check" : " checks"));
+                                 " of 5 checks");
 }
 
 } // namespace quillet::odds_program
