@@ -28,7 +28,7 @@ constexpr double right = pageWidth - margin;
 constexpr double plateHeight = 27;
 constexpr double rowsTop = margin + plateHeight + 4;
 constexpr double rowsBottom = pageHeight - margin - 10;
-constexpr double highestRow = 11.5;
+constexpr double maxRowHeight = 11.5;
 constexpr double cardWidth = 10.5;
 constexpr double cardGap = 0.9;
 constexpr double handWidth = 5 * cardWidth + 4 * cardGap;
@@ -168,7 +168,7 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
         << rectangle(0, 0, pageWidth, pageHeight, paper);
     writePlate(out, chart, price);
     const double height =
-        std::min(highestRow, (rowsBottom - rowsTop) / static_cast<double>(chart.size()));
+        std::min(maxRowHeight, (rowsBottom - rowsTop) / static_cast<double>(chart.size()));
     const double bottom = rowsTop + height * static_cast<double>(chart.size());
     out << rectangle(margin, rowsTop, namesLeft - margin, bottom - rowsTop, wood);
     double top = rowsTop;

@@ -22,7 +22,7 @@ namespace
                    "'");
 }
 
-// "20", "1e6", "10k" or "10M".
+// Reads "20", "1e6", "10k" or "10M".
 std::int64_t countIn(std::string_view option, std::string_view word)
 {
     std::string_view digits = word;
@@ -60,7 +60,7 @@ Format formatIn(std::string_view word)
     needs("--format", "text, csv or json", word);
 }
 
-// "24" or "1..30".
+// Reads "24" or "1..30".
 void takeRows(Request& request, std::string_view word)
 {
     const auto dots = word.find("..");
@@ -101,7 +101,7 @@ constexpr std::array<OptionKind, 16> optionKinds{{
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
 
-// What is given without an option.
+// Arguments that are not options.
 constexpr OptionKind hand{"a hand", [](Request& r, Value v) { r.hand.append(v) += ' '; }};
 constexpr OptionKind input{"hands on standard input"};
 
@@ -111,7 +111,7 @@ struct Combination {
     std::string_view also;                // the options that may go with it
 };
 
-// The first one whose options are all given is the question.
+// The first combination whose options are all given is the question.
 constexpr std::array<Combination, 15> combinations{{
     {Question::rowKinds, {"--rows"}, ""},
     {Question::selfTest, {"--self-test"}, ""},

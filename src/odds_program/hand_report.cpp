@@ -27,7 +27,7 @@ std::string waysText(const odds::OutcomeCounts& counts)
     return text.empty() ? "nothing that pays" : text;
 }
 
-// The discards that the hold would gain from if they were still in the deck, with the gain.
+// The discards that would make the hold worth more if they were still in the deck, with the gain.
 std::string penaltiesText(const odds::HeldCards& heldCards, const odds::DealtHand& hand,
                           odds::Hold hold)
 {
@@ -68,7 +68,7 @@ std::string drawsText(const odds::HeldCards& heldCards, const odds::DealtHand& h
     return wrapped(text);
 }
 
-// The hold that the best one is compared with: the chart's or, if that is as good, the best one of
+// The hold to compare the best one with: the chart's or, if that is as good, the best hold of
 // another kind.
 odds::Hold rivalOf(const odds::DealtHand& hand, odds::Hold charts)
 {

@@ -25,7 +25,7 @@ int main(int argc, char** argv)
         std::cerr << "quillet-odds: " << why << "\n";
     };
     try {
-        // Stops as soon as the output fails.
+        // Throws as soon as the output fails.
         std::cout.exceptions(std::ios::badbit | std::ios::failbit);
         const std::vector<std::string_view> arguments(argv + std::min(argc, 1), argv + argc);
         answer(parseArguments(arguments), std::cout);

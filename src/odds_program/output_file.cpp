@@ -28,7 +28,7 @@ using FileStatus = struct stat;
     throw std::system_error(error, std::generic_category());
 }
 
-// Delays signals while it lives.
+// Delays signals until it is destroyed.
 class SignalsHeld
 {
 public:
@@ -55,20 +55,20 @@ bool wrote(const std::string& path, const std::string& content)
     return !file.fail();
 }
 
-// Gives the new file the mode of the old one and, if that is allowed, its owner. Without an old
-// one it gets the mode of new files.
-bool tookAfter(int file, const FileStatus* old)
+// Gives the new file the mode of the old one, and its owner if that is allowed. Without an old file
+// the mode is the default. Returns false and sets errno on failure.
+bool copiedMode(int file, const FileStatus* old)
 {
     const mode_t mask = umask(0);
     umask(mask);
     if (old != nullptr && fchown(file, old->st_uid, old->st_gid) != 0)
         errno = 0;
-    constexpr mode_t ofNewFiles = 0666;
+    constexpr mode_t byDefault = 0666;
     constexpr mode_t permissions = 0777;
-    return fchmod(file, old != nullptr ? old->st_mode & permissions : ofNewFiles & ~mask) == 0;
+    return fchmod(file, old != nullptr ? old->st_mode & permissions : byDefault & ~mask) == 0;
 }
 
-// Writes a file of another name in the same folder first.
+// Writes a new file in the same folder, then renames it, so the target is never incomplete.
 void replaceFile(const fs::path& target, const FileStatus* old, const std::string& content)
 {
     const SignalsHeld signals;
@@ -76,7 +76,7 @@ void replaceFile(const fs::path& target, const FileStatus* old, const std::strin
     const int file = mkstemp(part.data());
     if (file < 0)
         fail(errno);
-    const bool done = wrote(part, content) && tookAfter(file, old) && fsync(file) == 0 &&
+    const bool done = wrote(part, content) && copiedMode(file, old) && fsync(file) == 0 &&
                       std::rename(part.c_str(), target.c_str()) == 0;
     const int error = errno;
     close(file);

@@ -5,8 +5,8 @@
 namespace quillet::odds_program
 {
 
-// A progress bar on standard error, for work that takes longer than a second. Shown on terminals
-// only, and removed by the destructor.
+// A progress bar on standard error, for work that takes longer than a second. It is shown only on
+// terminals, and the destructor removes it.
 class ProgressBar
 {
 public:
@@ -19,7 +19,7 @@ public:
 
 private:
     const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-    int m_percent = -1; // as shown; -1: nothing is
+    int m_percent = -1; // as shown; -1: not shown
 };
 
 } // namespace quillet::odds_program

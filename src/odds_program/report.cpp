@@ -40,7 +40,7 @@ struct TextColumn {
     bool alignsRight;
 };
 
-// Words longer than maxWords do not widen their column.
+// Cells of words longer than maxWords do not widen their column.
 std::vector<TextColumn> textColumns(const Table& table, std::size_t maxWords)
 {
     std::vector<TextColumn> columns;
@@ -72,12 +72,12 @@ std::vector<TextColumn> fittingColumns(const Table& table)
     }
 }
 
-// After a cell wider than its column the line breaks.
+// A line break follows a cell that is wider than its column.
 void writeTextLine(std::ostream& out, const std::vector<TextColumn>& columns,
                    const std::vector<Cell>& cells, bool colour)
 {
     std::size_t start = columnGap;
-    std::size_t end = 0; // of what is on the line
+    std::size_t end = 0; // of the text on the line
     const auto moveTo = [&out, &end](std::size_t place) { out << std::string(place - end, ' '); };
     for (const TextColumn& column : columns) {
         const Cell& cell = cells[column.index];
@@ -120,7 +120,7 @@ void writeTextTable(std::ostream& out, const Table& table, const Style& style)
     out << table.outro;
 }
 
-// An exact number is followed by its fraction. CSV has as many fields in every row.
+// An exact number is followed by its fraction. All rows of CSV have the same fields.
 std::vector<Field> fieldsOf(const Table& table, const std::vector<Cell>& row, Format format)
 {
     std::vector<Field> fields;

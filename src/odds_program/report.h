@@ -15,7 +15,7 @@
 namespace quillet::odds_program
 {
 
-// A report is a list of tables, which can be printed as text, CSV or JSON.
+// A report is a list of tables. It can be printed as text, CSV or JSON.
 
 // A number or words.
 struct Cell {
@@ -37,12 +37,13 @@ struct Cell {
     bool isCards = false;
 };
 
-// `places` are the decimals in text.
+// `places` is the number of decimals in text.
 [[nodiscard]] Cell exact(const odds::Fraction& number, int places);
 [[nodiscard]] Cell percent(const odds::Fraction& share, int places); // a share of 1 in data
 [[nodiscard]] Cell rounded(double number, int places);
-// The held cards of a hand, with blanks between them or, in text only, without.
+// The held cards of a hand, with blanks between them.
 [[nodiscard]] Cell cards(const std::array<odds::DeckPlace, 5>& places, odds::Hold hold);
+// All five cards; no blanks in text.
 [[nodiscard]] Cell closeCards(const std::array<odds::DeckPlace, 5>& places);
 
 struct Column {
@@ -68,11 +69,11 @@ struct Style {
     bool colour = false; // coloured suits in text
 };
 
-// CSV has a column for each field if the report is one table, and a line for each cell if it is
-// several. An exact number is followed by its fraction.
+// As CSV, a report of one table has a column for each field, and one of several tables has a line
+// for each cell. An exact number is followed by its fraction.
 void writeReport(std::ostream& out, const Report& report, const Style& style);
 
-// Wrapped at the width of a terminal, with continuation lines indented.
+// Wrapped at 76 columns, with continuation lines indented.
 [[nodiscard]] std::string wrapped(const std::string& text);
 
 // Rounded to `places` decimals.

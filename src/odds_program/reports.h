@@ -38,12 +38,12 @@ struct SittingPlay {
                                    std::optional<std::int64_t> bankroll, bool bars,
                                    const odds::WorkProgress& progress);
 
-// The royal at which perfect play, with a royal that pays this or another, and the chart's best
-// choice return 100 %.
+// The royal at which perfect play returns 100 %, and those at which perfect play for the royal of
+// the pays and the chart's best choice do.
 [[nodiscard]] Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
                                      const charts::ChartPrice& chart, const odds::Pays& pays);
 
-// The best hold of a deal at each royal, and the change that is nearest to the royal of the pays.
+// The best hold of a deal for each royal, and the change nearest to the royal of the pays.
 [[nodiscard]] Report bestHoldsReport(const std::array<odds::DeckPlace, 5>& places,
                                      const std::vector<odds::BestHold>& best,
                                      const odds::Pays& pays);
@@ -80,8 +80,8 @@ void writeChartFile(std::ostream& out, const charts::Chart& chart, const charts:
 // Each class of deals with the worst hold that fits its row of the chart, as CSV.
 void reportPlays(std::ostream& out, const odds::HeldCards& heldCards, const charts::Chart& chart);
 
-// Compares what the tables give with what follows from the rules in another way, and prints a line
-// for each comparison. Throws a std::runtime_error if one fails.
+// Checks tables against the rules, and results against the same computed in another way. Prints a
+// line for each check, and throws a std::runtime_error if one fails.
 void selfTest(std::ostream& out);
 
 } // namespace quillet::odds_program

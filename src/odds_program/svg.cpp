@@ -62,7 +62,7 @@ LetterPoint pointOf(const PathCommand& arc, double degrees)
     return inside(x + rx * std::cos(angle), y - ry * std::sin(angle));
 }
 
-// Two arcs, because one cannot be a whole ellipse.
+// Two arcs, because a single one cannot be a full ellipse.
 std::string svgArc(const PathCommand& arc, bool startsStroke)
 {
     const auto& [x, y, rx, ry, start, part] = arc.numbers;
@@ -85,7 +85,7 @@ std::string svgSlant(const PathCommand& slant)
     return path + 'Z';
 }
 
-// What the pen draws, and the outlines of slanted strokes.
+// The strokes drawn with a pen, and the outlines of slanted strokes.
 struct LetterPaths {
     std::string pen;
     std::string slants;
@@ -113,7 +113,7 @@ LetterPaths pathsOf(const char* strokes)
     return paths;
 }
 
-// The names of definitions may have only letters and digits, so a letter goes by its code.
+// Names of definitions can have only letters and digits, so a letter is named by its code.
 std::string codeOf(char sign)
 {
     return std::to_string(static_cast<int>(sign));
@@ -187,7 +187,7 @@ std::string cardMarkDefinitions()
 
 } // namespace
 
-std::string drawnLine(const Lettering& line, double x, double y, double room, double align)
+std::string drawnLine(const Lettering& line, double x, double y, double space, double align)
 {
     std::string letters;
     double width = 0; // of a line one unit high
@@ -202,8 +202,8 @@ std::string drawnLine(const Lettering& line, double x, double y, double room, do
                        {codeOf(found.sign), width + found.left + line.tracking / 2});
         width += found.advance + line.tracking;
     }
-    const double height = std::min(line.height, room / width);
-    const double left = x + align * (room - height * width);
+    const double height = std::min(line.height, space / width);
+    const double left = x + align * (space - height * width);
     return svg("<g fill=\"@\" stroke=\"@\" transform=\"translate(@ @) scale(@)\">@</g>\n",
                {line.colour, line.colour, left, y - height, height, letters});
 }

@@ -38,13 +38,14 @@ struct Lettering {
     double tracking = 0; // extra space between letters, as a share of the height
 };
 
-// Alignment of a line in its room: the share of the free room that is left of it.
+// Alignment of a line: the share of the free space that is to its left.
 inline constexpr double atLeft = 0;
 inline constexpr double inMiddle = 0.5;
 inline constexpr double atRight = 1;
 
-// The line in the room from x on, its baseline at y; smaller if it is wider than the room.
-[[nodiscard]] std::string drawnLine(const Lettering& line, double x, double y, double room,
+// The line in the space that begins at x, with its baseline at y. A line wider than the space is
+// drawn smaller.
+[[nodiscard]] std::string drawnLine(const Lettering& line, double x, double y, double space,
                                     double align = atLeft);
 
 struct Box {
@@ -54,7 +55,7 @@ struct Box {
     double height;
 };
 
-// A small card: its rank beside its suit. Cards to throw away are pale.
+// A small card: its rank beside its suit. Discards are pale.
 [[nodiscard]] std::string drawnCard(odds::DeckPlace place, bool kept, const Box& box);
 
 // The definitions of all letters, ranks and suits, which the page must contain.
