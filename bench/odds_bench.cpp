@@ -35,7 +35,7 @@ BENCHMARK(theTrainersChart)->Unit(benchmark::kMillisecond);
 void theBreakEvenRoyal(benchmark::State& state)
 {
     for ([[maybe_unused]] auto step : state)
-        benchmark::DoNotOptimize(OpenRoyal(trainersPays()).breakEven());
+        benchmark::DoNotOptimize(perfectBreakEven(HeldCards()));
 }
 BENCHMARK(theBreakEvenRoyal)->Unit(benchmark::kMillisecond);
 

@@ -13,19 +13,20 @@ namespace
 
 constexpr std::size_t royal = 1; // outcome
 
-Pays withoutRoyal(Pays pays)
+// Pays a credit for a royal and nothing else. With it the worth of a hold is a line: its worth at
+// the pay table's royal, and the chance of a royal for each credit that a royal pays more.
+HeldCards onlyRoyals()
 {
-    pays[royal] = 0;
-    return pays;
+    return HeldCards({0, 1});
 }
 
-// The best hold when a royal pays this much; of holds worth the same, the one with most royals.
-Hold bestAt(const Fraction& pay, const DealtHand& others, const DealtHand& royals)
+// The best hold when a royal pays more or less; of holds worth the same, the one with most royals.
+Hold bestAt(const Fraction& more, const DealtHand& hand, const DealtHand& royals)
 {
     std::array<std::pair<Int128, std::int64_t>, holds> worth;
     for (Hold hold = 0; hold < holds; ++hold)
-        worth[hold] = {others.worth[hold] * pay.denominator() +
-                           royals.worth[hold] * pay.numerator(),
+        worth[hold] = {hand.worth[hold] * more.denominator() +
+                           royals.worth[hold] * more.numerator(),
                        royals.worth[hold]};
     return static_cast<Hold>(std::ranges::max_element(worth) - worth.begin());
 }
@@ -44,52 +45,45 @@ std::optional<BreakEven> breakEven(const FairOdds& odds, const Pays& pays)
     return needed < Fraction() ? std::nullopt : std::optional(BreakEven{needed, chance});
 }
 
-OpenRoyal::OpenRoyal(const Pays& pays)
-    : m_start(std::ranges::max(pays)), m_others(withoutRoyal(pays)), m_royals({0, 1})
-{
-}
-
-FairOdds OpenRoyal::perfectAt(const Fraction& pay) const
-{
-    FinalHands finalHands(m_others);
-    forEachDeal(m_others, [&](const DealtHand& hand, int members) {
-        finalHands.add(hand, bestAt(pay, hand, DealtHand(m_royals, hand.places)), members);
-    });
-    return finalHands.odds();
-}
-
 // Newton's method. The return is a convex function of the royal, made of straight pieces, so all
 // steps but the first go down, and they end at the exact root. At the start a dealt royal is held,
 // or royals might not come at all.
-std::optional<BreakEven> OpenRoyal::breakEven() const
+std::optional<BreakEven> perfectBreakEven(const HeldCards& heldCards)
 {
+    const Pays& pays = heldCards.pays();
+    const HeldCards royals = onlyRoyals();
     Fraction pay;
-    std::optional next = BreakEven{{m_start, 1}, {}};
+    std::optional next = BreakEven{{std::ranges::max(pays), 1}, {}};
     do {
         pay = next->royal;
-        next = odds::breakEven(perfectAt(pay), m_others.pays());
+        const Fraction more = pay - Fraction(pays[royal], 1);
+        FinalHands finalHands(heldCards);
+        forEachDeal(heldCards, [&](const DealtHand& hand, int members) {
+            finalHands.add(hand, bestAt(more, hand, {royals, hand.places}), members);
+        });
+        next = breakEven(finalHands.odds(), pays);
     } while (next && next->royal != pay);
     return next;
 }
 
-std::vector<BestHold> OpenRoyal::bestHolds(const std::array<DeckPlace, 5>& ascending) const
+std::vector<BestHold> bestHolds(const HeldCards& heldCards, const DealtHand& hand)
 {
-    const DealtHand others(m_others, ascending);
-    const DealtHand royals(m_royals, ascending);
-    std::vector<BestHold> best{{{}, bestAt({}, others, royals)}};
+    const Fraction pay(heldCards.pays()[royal], 1);
+    const DealtHand royals(onlyRoyals(), hand.places);
+    std::vector<BestHold> best{{{}, bestAt(pay * -1, hand, royals)}};
     for (;;) {
         const Hold now = best.back().hold;
-        std::optional<Fraction> next;
+        std::optional<Fraction> next; // more than `pay`
         for (Hold hold = 0; hold < holds; ++hold) {
-            const std::int64_t more = royals.worth[hold] - royals.worth[now];
-            if (more <= 0)
+            const std::int64_t moreRoyals = royals.worth[hold] - royals.worth[now];
+            if (moreRoyals <= 0)
                 continue;
-            const Fraction pay(others.worth[now] - others.worth[hold], more);
-            next = next && *next < pay ? next : pay;
+            const Fraction more(hand.worth[now] - hand.worth[hold], moreRoyals);
+            next = next && *next < more ? next : more;
         }
         if (!next)
             return best;
-        best.push_back({*next, bestAt(*next, others, royals)});
+        best.push_back({pay + *next, bestAt(*next, hand, royals)});
     }
 }
 

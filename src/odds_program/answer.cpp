@@ -90,12 +90,11 @@ Style styleFor(const Request& request)
 // What an answer is computed from.
 struct Inputs {
     [[nodiscard]] charts::ChartPrice price() const { return charts::priceChart(heldCards, chart); }
-    // The cards of the hand, ascending.
-    [[nodiscard]] std::array<odds::DeckPlace, 5> places() const
+    [[nodiscard]] odds::DealtHand hand() const
     {
         auto places = odds::parseHand(request.hand);
         std::ranges::sort(places);
-        return places;
+        return {heldCards, places};
     }
 
     const Request& request;
@@ -120,7 +119,7 @@ Report answerChart(const Inputs& in)
 
 Report answerHand(const Inputs& in)
 {
-    const odds::DealtHand hand(in.heldCards, in.places());
+    const odds::DealtHand hand = in.hand();
     return handReport(in.heldCards, hand, charts::ChartPlayer(in.chart).play(hand),
                       in.request.allHolds, in.request.style.format);
 }
@@ -128,10 +127,10 @@ Report answerHand(const Inputs& in)
 Report answerBreakEven(const Inputs& in)
 {
     const odds::Pays& pays = in.heldCards.pays();
-    const odds::OpenRoyal open(pays);
-    return in.request.hand.empty()
-               ? breakEvenReport(open.breakEven(), in.price(), pays)
-               : bestHoldsReport(in.places(), open.bestHolds(in.places()), pays);
+    if (in.request.hand.empty())
+        return breakEvenReport(odds::perfectBreakEven(in.heldCards), in.price(), pays);
+    const odds::DealtHand hand = in.hand();
+    return bestHoldsReport(hand.places, odds::bestHolds(in.heldCards, hand), pays);
 }
 
 void answerHandsFromInput(const Inputs& in, std::ostream& out)

@@ -58,24 +58,23 @@ TEST(BreakEven, isWhereTheReturnWithAWholeRoyalPassesOne)
         const Fraction missing = Fraction(1, 1) - below;
         EXPECT_TRUE(Fraction() < missing && !(rise < missing)) << name;
         // Perfect play is the same for both royals, so the return is a straight line between them.
-        EXPECT_EQ(OpenRoyal(parsePays(name)).breakEven()->royal,
+        EXPECT_EQ(perfectBreakEven(HeldCards(parsePays(name)))->royal,
                   Fraction(up - 1, 1) + Fraction(missing.numerator() * rise.denominator(),
                                                  missing.denominator() * rise.numerator()));
     }
-    EXPECT_FALSE(OpenRoyal(parsePays("99/9")).breakEven()) << "more without a royal";
-    EXPECT_TRUE(OpenRoyal(Pays{}).breakEven()) << "royals alone pay";
+    EXPECT_FALSE(perfectBreakEven(HeldCards(parsePays("99/9")))) << "more without a royal";
+    EXPECT_TRUE(perfectBreakEven(HeldCards(Pays{}))) << "royals alone pay";
 }
 
 TEST(BreakEven, bestHoldsAreThoseOfEachRoyal)
 {
-    const OpenRoyal open(trainersPays());
     for (const std::int64_t royal : {0, 250, 3600, 4000, 5000, 20000, 100000}) {
-        const HeldCards heldCards = withRoyal("9/6", royal);
+        const HeldCards paying = withRoyal("9/6", royal);
         for (const char* text : {"AcKdQhJh2s", "9cTcJcKcAd", "TcJcQcJdTh", "2c2d2h2s3d"}) {
             std::array<DeckPlace, 5> deal = parseHand(text);
             std::ranges::sort(deal);
-            const DealtHand dealt(heldCards, deal);
-            const auto best = open.bestHolds(deal);
+            const DealtHand dealt(paying, deal);
+            const auto best = bestHolds(heldCards(), DealtHand(heldCards(), deal));
             std::size_t i = best.size() - 1;
             while (Fraction(royal, 1) < best[i].royal)
                 --i;

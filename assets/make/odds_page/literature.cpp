@@ -63,15 +63,14 @@ void writeSessions(std::ostream& out, const FairOdds& perfect)
 }
 
 // The royals at which the queen and the jack, suited, are worth as much as all four high cards.
-std::string equalRoyals()
+std::string equalRoyals(const HeldCards& heldCards)
 {
-    const OpenRoyal open(trainersPays());
     std::vector<Fraction> royals;
     for (const char suit : {'c', 's'}) {
         for (char rank = '2'; rank <= '9'; ++rank) {
             auto places = parseHand(std::string("AdKhQcJc") + rank + suit);
             std::ranges::sort(places);
-            const auto best = open.bestHolds(places);
+            const auto best = bestHolds(heldCards, {heldCards, places});
             for (std::size_t i = 1; i < best.size(); ++i)
                 if (holdText(places, best[i].hold) == "Jc Qc" && cardsIn[best[i - 1].hold] == 4)
                     royals.push_back(best[i].royal);
@@ -103,11 +102,12 @@ void writeLiterature(std::ostream& out, const HeldCards& heldCards, const FairOd
     writeSessions(out, perfect);
     for (const auto& [pays, published] : {std::pair{"9/6", "4880"}, {"8/5", "8666"}})
         writeRow(out, "royal for a return of 100 % at " + std::string(pays) + ", rounded up",
-                 published, OpenRoyal(parsePays(pays)).breakEven()->royal.decimals(2), unknown);
+                 published, perfectBreakEven(HeldCards(parsePays(pays)))->royal.decimals(2),
+                 unknown);
     writeRow(out,
              "royals at which queen and jack, suited, are worth as much as ace, king, queen and "
              "jack, by the discards",
-             "3624; 3945; 4185; 4975", equalRoyals(), unknown);
+             "3624; 3945; 4185; 4975", equalRoyals(heldCards), unknown);
     out << "\nOne published figure, 3624, is not equal to ours: with such a royal the four high\n"
            "cards are still worth a little more.\n\n"
            "1. Michael Shackleford: The Wizard of Odds, a web site; year not known\n"

@@ -45,13 +45,13 @@ void writePayTables(std::ostream& out)
            "|---|---|---|---|---|---|\n";
     for (const std::string_view name : payTables) {
         const odds::Pays pays = odds::parsePays(name);
-        const charts::ChartPrice chart =
-            charts::priceChart(odds::HeldCards(pays), charts::trainersChart());
+        const odds::HeldCards heldCards(pays);
+        const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
         out << "| " << name << " | " << percent(chart.perfect.returned, 6) << " | "
             << decimals(odds::oneHand(chart.perfect.chances, pays).variance(), 4) << " | "
             << percent(chart.played[charts::Taken::best].returned, 6) << " | "
             << percent(chart.loss(charts::Taken::best), 6) << " | "
-            << odds::OpenRoyal(pays).breakEven()->royal.decimals(2) << " |\n";
+            << odds::perfectBreakEven(heldCards)->royal.decimals(2) << " |\n";
     }
 }
 
