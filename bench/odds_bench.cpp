@@ -1,8 +1,8 @@
 #include "charts/chart_price.h"
 #include "engine/random.h"
-#include "odds/bankroll.h"
 #include "odds/break_even.h"
 #include "odds/fair_odds.h"
+#include "odds/ruin.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"
 
@@ -68,26 +68,55 @@ void simulatedHands(benchmark::State& state)
 }
 BENCHMARK(simulatedHands)->Unit(benchmark::kMillisecond);
 
-OneHand perfectHand()
+Draws perfectDraws()
 {
-    return oneHand(fairOdds(HeldCards()).chances, trainersPays());
+    const Player perfect = [](const DealtHand& hand) { return hand.bestHold; };
+    return drawsOf(HeldCards(), {perfect})[0];
 }
+
+void theDraws(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto step : state)
+        benchmark::DoNotOptimize(perfectDraws());
+}
+BENCHMARK(theDraws)->Unit(benchmark::kMillisecond);
+
+void aRound(benchmark::State& state)
+{
+    const Draws draws = perfectDraws();
+    for ([[maybe_unused]] auto step : state)
+        benchmark::DoNotOptimize(roundOf(draws, trainersPays(), state.range(0)));
+}
+BENCHMARK(aRound)->Arg(1)->Arg(10)->Arg(100)->Unit(benchmark::kMillisecond);
 
 void aSitting(benchmark::State& state)
 {
-    const OneHand one = perfectHand();
+    const Round round = roundOf(perfectDraws(), trainersPays(), 1);
     for ([[maybe_unused]] auto step : state)
-        benchmark::DoNotOptimize(Sitting(one, state.range(0)).quantile(0.5));
+        benchmark::DoNotOptimize(Sitting(round, state.range(0)).quantile(0.5));
 }
 BENCHMARK(aSitting)->Arg(600)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 void aBankroll(benchmark::State& state)
 {
-    const OneHand one = perfectHand();
+    const Round round = roundOf(perfectDraws(), trainersPays(), 1);
     for ([[maybe_unused]] auto step : state)
-        benchmark::DoNotOptimize(chancesOfRuin(one, state.range(0), 500));
+        benchmark::DoNotOptimize(Ruin(round, state.range(0)).chance(500));
 }
 BENCHMARK(aBankroll)->Arg(1000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+// 600 rounds, with the distribution of a round, the results and ruin.
+void severalLines(benchmark::State& state)
+{
+    const Draws draws = perfectDraws();
+    const std::int64_t lines = state.range(0);
+    for ([[maybe_unused]] auto step : state) {
+        const Round round = roundOf(draws, trainersPays(), lines);
+        benchmark::DoNotOptimize(Sitting(round, 600).quantile(0.5));
+        benchmark::DoNotOptimize(Ruin(round, 600).chance(1000 * lines));
+    }
+}
+BENCHMARK(severalLines)->Arg(3)->Arg(5)->Arg(10)->Arg(100)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "odds/dealt_hand.h"
+#include "odds/draws.h"
 
 #include <array>
 #include <cstdint>
@@ -26,9 +26,6 @@ struct PlayedHands {
 inline constexpr std::int64_t minMeaningfulHands = 1'000'000;
 
 inline constexpr std::int64_t maxSimulated = 100'000'000'000; // some days on two cores
-
-// Returns the hold that a player chooses. Called from several threads at once.
-using Player = std::function<Hold(const DealtHand&)>;
 
 // The same deals and replacements, played in two ways.
 struct Simulation {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "odds/one_hand.h"
+#include "odds/round.h"
 #include "odds/work_progress.h"
 
 #include <cstdint>
@@ -9,15 +9,15 @@
 namespace quillet::odds
 {
 
-inline constexpr std::int64_t maxHands = 10'000'000;
+inline constexpr std::int64_t maxRounds = 10'000'000;
 
-// The distribution of credits won less credits paid over a sitting of 1..maxHands hands at five
-// credits each, computed as a power of one hand's characteristic function.
+// The distribution of credits won less credits paid over a sitting of 1..maxRounds rounds, computed
+// as a power of one round's characteristic function.
 class Sitting
 {
 public:
     // Throws BadInput when memory is too small for all possible results.
-    Sitting(const OneHand& hand, std::int64_t hands, const WorkProgress& progress = {});
+    Sitting(const Round& round, std::int64_t rounds, const WorkProgress& progress = {});
 
     // The step between possible results, in credits.
     [[nodiscard]] std::int64_t unit() const { return m_unit; }
@@ -27,6 +27,8 @@ public:
     [[nodiscard]] std::int64_t quantile(double share) const;
 
 private:
+    void compute(const Round& round, std::int64_t rounds, const WorkProgress& progress);
+
     [[nodiscard]] std::int64_t netOf(std::size_t index) const
     {
         return (m_first + static_cast<std::int64_t>(index)) * m_unit - m_paid;

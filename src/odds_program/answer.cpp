@@ -142,18 +142,20 @@ void answerHandsFromInput(const Inputs& in, std::ostream& out)
 Report answerSitting(const Inputs& in)
 {
     ProgressBar bar;
-    const auto bestChoice = [&in](const charts::ChartPrice& price) {
-        return odds::oneHand(price.played[charts::Taken::best].chances, in.heldCards.pays());
+    const charts::ChartPlayer trainers(charts::trainersChart()), own(in.chart);
+    const auto playerOf = [](const charts::ChartPlayer& chart) {
+        return [&chart](const odds::DealtHand& hand) { return chart.bestHold(hand); };
     };
-    const charts::ChartPrice trainers = charts::priceChart(in.heldCards, charts::trainersChart());
-    std::vector<SittingPlay> plays{
-        {"perfect play", "Perfect play",
-         odds::oneHand(trainers.perfect.chances, in.heldCards.pays())},
-        {"chart best choice", "Chart, best choice", bestChoice(trainers)}};
+    std::vector<odds::Player> players{[](const odds::DealtHand& hand) { return hand.bestHold; },
+                                      playerOf(trainers)};
     if (!in.request.chartFile.empty())
-        plays.push_back(
-            {"own chart best choice", "Own chart, best choice", bestChoice(in.price())});
-    return sittingReport(plays, in.request.hands, in.request.bankroll, isatty(STDOUT_FILENO) == 1,
+        players.emplace_back(playerOf(own));
+    const std::vector<odds::Draws> draws = odds::drawsOf(in.heldCards, players);
+    std::vector<SittingPlay> plays{{"perfect play", "Perfect play", draws[0]},
+                                   {"chart best choice", "Chart, best choice", draws[1]}};
+    if (players.size() > plays.size())
+        plays.push_back({"own chart best choice", "Own chart, best choice", draws[2]});
+    return sittingReport(plays, in.heldCards.pays(), in.request.session, isatty(STDOUT_FILENO) == 1,
                          [&bar](double share) { bar.show(share); });
 }
 

@@ -88,7 +88,7 @@ constexpr std::array<OptionKind, 16> optionKinds{{
     {"--mistakes"},
     {"--break-even"},
     {"--plays", nullptr, "--chart"},
-    {"--sitting", [](Request& r, Value v) { r.hands = countIn("--sitting", v); }},
+    {"--sitting", [](Request& r, Value v) { r.session.hands = countIn("--sitting", v); }},
     {"--simulate", [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
     {"--chart", [](Request& r, Value v) { r.chartFile = v; }},
     {"--best-chart", [](Request& r, Value v) { takeRows(r, v); }},
@@ -97,7 +97,8 @@ constexpr std::array<OptionKind, 16> optionKinds{{
     {"--format", [](Request& r, Value v) { r.style.format = formatIn(v); }},
     {"--exact"},
     {"--all", nullptr, "hands"},
-    {"--bankroll", [](Request& r, Value v) { r.bankroll = countIn("--bankroll", v); }, "--sitting"},
+    {"--bankroll", [](Request& r, Value v) { r.session.bankroll = countIn("--bankroll", v); },
+     "--sitting"},
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
 
@@ -202,7 +203,7 @@ void checkValues(const Request& request)
             "--format and --exact cannot be used with --best-chart for a single number of rows");
     if (question == Question::handsFromInput && data && exact)
         throw BadUsage("with hands on standard input --exact is only for text");
-    if (question == Question::sitting && request.hands > odds::maxHands)
+    if (question == Question::sitting && request.session.hands > odds::maxRounds)
         throw BadUsage("--sitting takes no more than 10M hands");
     if (question == Question::simulation && request.hands > odds::maxSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");

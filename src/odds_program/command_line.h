@@ -2,7 +2,7 @@
 
 #include "odds/bad_input.h"
 #include "odds/pays.h"
-#include "odds_program/report.h"
+#include "odds_program/reports.h"
 
 #include <cstdint>
 #include <optional>
@@ -35,11 +35,11 @@ enum class Question {
 struct Request {
     Question question = Question::game;
     Style style;
-    std::string pays;       // a pay table or the name of a file; empty: the trainer's
-    std::string hand;       // the words of Question::hand
-    bool allHolds = false;  // show 32 holds of a hand, not six
-    std::int64_t hands = 0; // count, for Question::sitting and Question::simulation
-    std::optional<std::int64_t> bankroll;
+    std::string pays;      // a pay table or the name of a file; empty: the trainer's
+    std::string hand;      // the words of Question::hand
+    bool allHolds = false; // show 32 holds of a hand, not six
+    Session session;
+    std::int64_t hands = 0; // count, for Question::simulation
     std::uint64_t seed = 1;
     std::string chartFile;   // empty: the trainer's chart
     std::size_t minRows = 0; // of --best-chart

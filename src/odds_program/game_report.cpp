@@ -1,5 +1,6 @@
 #include "engine/pay_table.h"
 #include "odds/hand_text.h"
+#include "odds/round.h"
 #include "odds_program/reports.h"
 
 #include <cmath>
@@ -54,8 +55,8 @@ Table hands(const Strategies& strategies, const odds::Pays& pays)
          {"cost of 100 hands", "100 hands cost"},
          {"edge shows after", "Edge shows after"}}};
     for (const Strategy& strategy : strategies) {
-        const odds::OneHand one = odds::oneHand(strategy.odds.chances, pays);
-        const auto shows = one.handsUntilTheEdgeShows();
+        const odds::Round one = odds::roundOf(strategy.odds.chances, pays);
+        const auto shows = one.untilTheEdgeShows();
         table.rows.push_back(
             {strategy.name, rounded(one.variance(), 4), rounded(std::sqrt(one.variance()), 4),
              exact((odds::Fraction(1, 1) - strategy.odds.returned) * (odds::Int128{100} * wager),

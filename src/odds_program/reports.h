@@ -3,7 +3,7 @@
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
 #include "odds/break_even.h"
-#include "odds/one_hand.h"
+#include "odds/draws.h"
 #include "odds/simulation.h"
 #include "odds/work_progress.h"
 #include "odds_program/report.h"
@@ -29,13 +29,20 @@ namespace quillet::odds_program
 struct SittingPlay {
     std::string field;
     std::string heading;
-    odds::OneHand hand;
+    odds::Draws draws;
+};
+
+// What is asked of a session.
+struct Session {
+    std::int64_t hands = 0;
+    std::int64_t lines = 1;
+    std::optional<std::int64_t> bankroll{}; // credits
 };
 
 // How a session turns out for each play. With bars, the text draws the distribution for the first.
-// Reports the progress first of the sitting and then of the bankroll.
-[[nodiscard]] Report sittingReport(const std::vector<SittingPlay>& plays, std::int64_t hands,
-                                   std::optional<std::int64_t> bankroll, bool bars,
+// Reports the progress of the rounds, the sitting and ruin one after another.
+[[nodiscard]] Report sittingReport(const std::vector<SittingPlay>& plays, const odds::Pays& pays,
+                                   const Session& session, bool bars,
                                    const odds::WorkProgress& progress);
 
 // The royal at which perfect play returns 100 %, and those at which perfect play for the royal of

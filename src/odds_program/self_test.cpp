@@ -2,7 +2,7 @@
 #include "engine/play_rules.h"
 #include "odds/hand_text.h"
 #include "odds/sitting.h"
-#include "odds/tail_bounds.h"
+#include "odds/tail_bound.h"
 #include "odds_program/progress_bar.h"
 #include "odds_program/reports.h"
 
@@ -74,7 +74,7 @@ std::string checkReturns()
 }
 
 // Winnings only grow, so the chances of results up to even need no larger ones.
-std::string checkSession(const odds::OneHand& one)
+std::string checkSession(const odds::Round& round)
 {
     constexpr std::int64_t hands = 600;
     std::vector<double> chances(hands + 1); // of each number of wagers won
@@ -82,13 +82,13 @@ std::string checkSession(const odds::OneHand& one)
     for (std::int64_t hand = 0; hand < hands; ++hand)
         for (std::size_t won = chances.size(); won-- > 0;) {
             double chance = 0;
-            for (std::size_t outcome = 0; outcome < odds::outcomeCount; ++outcome) {
-                const auto pays = static_cast<std::size_t>(one.pays[outcome] / wager);
-                chance += pays <= won ? one.chance[outcome] * chances[won - pays] : 0;
+            for (const auto& [credits, share] : round.wins) {
+                const auto pays = static_cast<std::size_t>(credits / wager);
+                chance += pays <= won ? share * chances[won - pays] : 0;
             }
             chances[won] = chance;
         }
-    const odds::Sitting sitting(one, hands);
+    const odds::Sitting sitting(round, hands);
     for (std::int64_t net = -hands * wager; const double chance : chances) {
         const double found = sitting.chanceOf(net, net);
         if (std::abs(found - chance) > odds::sittingBound)
@@ -130,7 +130,7 @@ void selfTest(std::ostream& out)
     print("the return of perfect play at six pay tables: as known, exactly", checkReturns());
     const charts::ChartPrice price = charts::priceChart(heldCards, charts::trainersChart());
     print("the results of 600 hands: by Fourier transform, and hand by hand",
-          checkSession(odds::oneHand(price.perfect.chances, heldCards.pays())));
+          checkSession(odds::roundOf(price.perfect.chances, heldCards.pays())));
     print("the trainer's chart: its row for each deal by rules, and the return",
           checkChart(heldCards, price));
     if (failed > 0)

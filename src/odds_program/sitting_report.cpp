@@ -1,9 +1,9 @@
-#include "odds/bankroll.h"
+#include "engine/pay_table.h"
+#include "odds/ruin.h"
 #include "odds/sitting.h"
 #include "odds_program/reports.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <future>
 #include <limits>
@@ -55,118 +55,119 @@ std::string barsOf(const odds::Sitting& sitting)
            " % below and " + decimals(100 * sitting.chanceOf(from, endless), 1) + " % above.\n";
 }
 
-// Computes the same for each play, in as many threads. Reports the progress of the first.
-template <typename Compute>
-auto forEachPlay(const std::vector<SittingPlay>& plays, const Compute& compute,
-                 const odds::WorkProgress& progress)
+// One play of the session.
+struct Played {
+    const SittingPlay& play;
+    odds::Sitting sitting;
+    std::optional<odds::Ruin> ruin;
+};
+using AllPlayed = std::vector<Played>;
+
+Played playOne(const SittingPlay& play, const odds::Pays& pays, const Session& session,
+               const odds::WorkProgress& progress)
 {
-    using Result = decltype(compute(plays[0].hand, progress));
-    std::vector<std::future<Result>> others;
-    for (const SittingPlay& play : std::span(plays).subspan(1))
-        others.push_back(std::async(std::launch::async, [&compute, &play] {
-            return compute(play.hand, odds::WorkProgress{});
-        }));
-    std::vector<Result> results;
-    results.push_back(compute(plays[0].hand, progress));
-    for (std::future<Result>& other : others)
-        results.push_back(other.get());
-    return results;
+    const odds::Round round = odds::roundOf(play.draws, pays, session.lines, progress);
+    Played played{play, {round, session.hands, progress}, {}};
+    if (session.bankroll)
+        played.ruin.emplace(round, session.hands, progress);
+    return played;
 }
 
-Table tableOf(const char* name, std::string intro, Column first,
-              const std::vector<SittingPlay>& plays)
+// In as many threads. Reports the progress of the first.
+AllPlayed playAll(const std::vector<SittingPlay>& plays, const odds::Pays& pays,
+                  const Session& session, const odds::WorkProgress& progress)
+{
+    std::vector<std::future<Played>> others;
+    for (const SittingPlay& play : std::span(plays).subspan(1))
+        others.push_back(
+            std::async(std::launch::async, [&] { return playOne(play, pays, session, {}); }));
+    AllPlayed all;
+    all.push_back(playOne(plays[0], pays, session, progress));
+    for (std::future<Played>& other : others)
+        all.push_back(other.get());
+    return all;
+}
+
+Table tableOf(const char* name, std::string intro, Column first, const AllPlayed& all)
 {
     Table table{name, std::move(intro), {std::move(first)}};
-    for (const SittingPlay& play : plays)
-        table.columns.push_back({play.field, play.heading});
+    for (const Played& played : all)
+        table.columns.push_back({played.play.field, played.play.heading});
     return table;
 }
 
-// Adds a row with a cell for each play.
-template <typename Of, typename CellOf>
-void addRow(Table& table, const Cell& name, const std::vector<Of>& plays, const CellOf& cellOf)
+template <typename CellOf>
+void addRow(Table& table, const Cell& name, const AllPlayed& all, const CellOf& cellOf)
 {
-    std::vector<Cell> row{name};
-    for (const Of& play : plays)
-        row.push_back(cellOf(play));
-    table.rows.push_back(std::move(row));
+    std::vector<Cell>& row = table.rows.emplace_back(1, name);
+    for (const Played& played : all)
+        row.push_back(cellOf(played));
 }
 
-Table netTable(const std::vector<SittingPlay>& plays, const std::vector<odds::Sitting>& sittings,
-               std::int64_t hands)
+Table netTable(const AllPlayed& all, const Session& session)
 {
-    Table net = tableOf("sitting",
-                        "A session of " + std::to_string(hands) +
-                            " hands, five credits each, from a fairly shuffled deck:\n"
-                            "chances in % and credits won or lost, each chance within 1e-9\n\n",
-                        {"figure", "Figure"}, plays);
+    const std::string lines =
+        session.lines == 1 ? "" : " on " + std::to_string(session.lines) + " lines";
+    Table net = tableOf(
+        "sitting",
+        "A session of " + std::to_string(session.hands) + " hands" + lines +
+            ", five credits each:\n"
+            "chances in % and credits won or lost with a fair shuffle, chances within 1e-9\n\n",
+        {"figure", "Figure"}, all);
     const auto chance = [&](const char* name, std::int64_t least, std::int64_t most) {
-        addRow(net, name, sittings, [&](const odds::Sitting& sitting) {
-            return percent(sitting.chanceOf(least, most));
-        });
+        addRow(net, name, all,
+               [=](const Played& played) { return percent(played.sitting.chanceOf(least, most)); });
     };
     chance("behind", -endless, -1);
     chance("even", 0, 0);
     chance("ahead", 1, endless);
     for (const int hundredth : {5, 25, 50, 75, 95})
-        addRow(net, std::to_string(hundredth) + " % end at or below", sittings,
-               [&](const odds::Sitting& sitting) { return sitting.quantile(hundredth / 100.0); });
+        addRow(net, std::to_string(hundredth) + " % end at or below", all,
+               [=](const Played& played) { return played.sitting.quantile(hundredth / 100.0); });
     return net;
 }
 
-Table onceTable(const std::vector<SittingPlay>& plays, std::int64_t hands)
+Table onceTable(const AllPlayed& all, const Session& session)
 {
     Table once = tableOf("at least once", "\nThe chance in % of each paying hand at least once\n\n",
-                         {"final hand", "Final hand"}, plays);
+                         {"final hand", "Final hand"}, all);
     for (std::size_t outcome = 1; outcome < odds::outcomeCount; ++outcome)
-        addRow(once, odds::outcomeName(outcome), plays, [&](const SittingPlay& play) {
-            return percent(play.hand.chanceOfAtLeastOne(outcome, hands));
+        addRow(once, odds::outcomeName(outcome), all, [&](const Played& played) {
+            return percent(
+                odds::chanceOfAtLeastOne(played.play.draws, outcome, session.lines, session.hands));
         });
     return once;
 }
 
-Table ruinTable(const std::vector<SittingPlay>& plays,
-                const std::vector<std::array<double, 10>>& ruined, std::int64_t hands,
-                std::int64_t bankroll)
+Table ruinTable(const AllPlayed& all, const Session& session)
 {
-    Table ruin = tableOf("bankroll",
-                         "\nThe chance in % that " + std::to_string(bankroll) +
-                             " credits have run out: fewer than five are left,\n"
-                             "too few for another hand\n\n",
-                         {"after hands", "After hands"}, plays);
-    for (std::size_t tenth = 0; tenth < ruined[0].size(); ++tenth) {
+    Table ruin =
+        tableOf("bankroll",
+                "\nThe chance in % that " + std::to_string(*session.bankroll) +
+                    " credits have run out: fewer than " + std::to_string(session.lines * wager) +
+                    " are left,\ntoo few for another hand\n\n",
+                {"after hands", "After hands"}, all);
+    for (std::size_t tenth = 1; tenth <= odds::Ruin::tenths; ++tenth) {
         const std::int64_t after =
-            (hands * static_cast<std::int64_t>(tenth + 1) + 9) / 10; // rounded up
-        addRow(ruin, after, ruined,
-               [tenth](const std::array<double, 10>& chances) { return percent(chances[tenth]); });
+            (session.hands * static_cast<std::int64_t>(tenth) + 9) / 10; // rounded up
+        addRow(ruin, after, all, [&](const Played& played) {
+            return percent(played.ruin->chance(*session.bankroll, tenth));
+        });
     }
     return ruin;
 }
 
 } // namespace
 
-Report sittingReport(const std::vector<SittingPlay>& plays, std::int64_t hands,
-                     std::optional<std::int64_t> bankroll, bool bars,
-                     const odds::WorkProgress& progress)
+Report sittingReport(const std::vector<SittingPlay>& plays, const odds::Pays& pays,
+                     const Session& session, bool bars, const odds::WorkProgress& progress)
 {
-    const auto sittings = forEachPlay(
-        plays,
-        [hands](const odds::OneHand& one, const odds::WorkProgress& report) {
-            return odds::Sitting(one, hands, report);
-        },
-        progress);
-    Report report{netTable(plays, sittings, hands), onceTable(plays, hands)};
+    const AllPlayed all = playAll(plays, pays, session, progress);
+    Report report{netTable(all, session), onceTable(all, session)};
     if (bars)
-        report[0].outro = barsOf(sittings[0]);
-    if (bankroll) {
-        const auto ruined = forEachPlay(
-            plays,
-            [&](const odds::OneHand& one, const odds::WorkProgress& reportWork) {
-                return odds::chancesOfRuin(one, hands, *bankroll, reportWork);
-            },
-            progress);
-        report.push_back(ruinTable(plays, ruined, hands, *bankroll));
-    }
+        report[0].outro = barsOf(all[0].sitting);
+    if (session.bankroll)
+        report.push_back(ruinTable(all, session));
     return report;
 }
 

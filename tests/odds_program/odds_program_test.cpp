@@ -93,10 +93,10 @@ TEST(CommandLine, refusesWhatMakesNoSense)
         "9c Tc Jd Kh As");
     EXPECT_EQ(parsed("9c Tc --all").hand, "9c Tc ");
     EXPECT_EQ(parsed("-- 9c --all").hand, "9c --all ");
-    EXPECT_EQ(parsed("--sitting 10k").hands, 10'000);
+    EXPECT_EQ(parsed("--sitting 10k").session.hands, 10'000);
     EXPECT_EQ(parsed("--simulate=1e6").hands, 1'000'000);
-    EXPECT_EQ(parsed("--sitting=10M --format=json").hands, 10'000'000);
-    EXPECT_EQ(parsed("--sitting 9 --format csv --sitting 10k --format text").hands, 10'000);
+    EXPECT_EQ(parsed("--sitting=10M --format=json").session.hands, 10'000'000);
+    EXPECT_EQ(parsed("--sitting 9 --format csv --sitting 10k --format text").session.hands, 10'000);
     EXPECT_EQ(parsed("--simulate 20 --seed 1e3").seed, 1000U);
     EXPECT_EQ(parsed("--rows --all --help --what").question, Question::help);
     EXPECT_EQ(parsed("--simulate none -h").question, Question::help);
@@ -369,9 +369,10 @@ TEST(BestHoldsReport, namesTheNearestChange)
 
 TEST(SittingReport, drawsBarsOfPossibleResults)
 {
-    const OneHand perfect = oneHand(fairOdds(HeldCards()).chances, trainersPays());
+    const Player perfect = [](const DealtHand& hand) { return hand.bestHold; };
+    const Draws draws = drawsOf(HeldCards(), {perfect})[0];
     const auto bars = [&](std::int64_t hands) {
-        return sittingReport({{"", "", perfect}}, hands, {}, true, {})[0].outro;
+        return sittingReport({{"", "", draws}}, trainersPays(), {hands}, true, {})[0].outro;
     };
     EXPECT_THAT(bars(1), HasSubstr("\n                  -5 |###"));
     EXPECT_THAT(bars(600), HasSubstr("\n        -570 to -515 |##### 1.2 %\n"));

@@ -1,8 +1,8 @@
 #include "literature.h"
 
-#include "odds/bankroll.h"
 #include "odds/break_even.h"
 #include "odds/hand_text.h"
+#include "odds/ruin.h"
 #include "odds/sitting.h"
 #include "odds_program/report.h"
 
@@ -51,7 +51,7 @@ void writeValues(std::ostream& out, const HeldCards& heldCards)
 void writeSessions(std::ostream& out, const FairOdds& perfect)
 {
     constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
-    const OneHand one = oneHand(perfect.chances, trainersPays());
+    const Round one = roundOf(perfect.chances, trainersPays());
     const Sitting sitting(one, 600);
     const auto percent = [](double chance) { return decimals(100 * chance, 2); };
     writeRow(out, "behind; ahead; even after 600 hands, in %", "62; 37; under 1",
@@ -59,7 +59,7 @@ void writeSessions(std::ostream& out, const FairOdds& perfect)
                  percent(sitting.chanceOf(1, endless)) + "; " + percent(sitting.chanceOf(0, 0)),
              unknown);
     writeRow(out, "ruin of 160 bets within 1600 hands, in %", "8",
-             percent(chancesOfRuin(one, 1600, 800).back()), unknown);
+             percent(Ruin(one, 1600).chance(800)), unknown);
 }
 
 // The royals at which the queen and the jack, suited, are worth as much as all four high cards.

@@ -2,10 +2,10 @@
 #include "charts/chart_search.h"
 #include "charts/mistakes.h"
 #include "literature.h"
-#include "odds/bankroll.h"
 #include "odds/break_even.h"
 #include "odds/fair_odds.h"
 #include "odds/hand_text.h"
+#include "odds/ruin.h"
 #include "odds/sitting.h"
 #include "odds_program/report.h"
 
@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 // Writes docs/odds.md to the standard output, in about ten seconds.
 
@@ -48,7 +49,7 @@ void writePayTables(std::ostream& out)
         const odds::HeldCards heldCards(pays);
         const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
         out << "| " << name << " | " << percent(chart.perfect.returned, 6) << " | "
-            << decimals(odds::oneHand(chart.perfect.chances, pays).variance(), 4) << " | "
+            << decimals(odds::roundOf(chart.perfect.chances, pays).variance(), 4) << " | "
             << percent(chart.played[charts::Taken::best].returned, 6) << " | "
             << percent(chart.loss(charts::Taken::best), 6) << " | "
             << odds::perfectBreakEven(heldCards)->royal.decimals(2) << " |\n";
@@ -89,7 +90,16 @@ void writeMistakes(std::ostream& out, const odds::HeldCards& heldCards)
             << " | " << mistake.costliest.decimals(4) << " |\n";
 }
 
-void writeSittings(std::ostream& out, const odds::FairOdds& odds)
+// The chance of each result in percent, and what five shares of sessions end at or below.
+void writeResults(std::ostream& out, const odds::Sitting& sitting)
+{
+    for (const auto& [least, most] : {std::pair{-endless, std::int64_t{-1}}, {0, 0}, {1, endless}})
+        out << " | " << decimals(100 * sitting.chanceOf(least, most), 2);
+    for (const double share : {0.05, 0.25, 0.5, 0.75, 0.95})
+        out << " | " << sitting.quantile(share);
+}
+
+void writeSittings(std::ostream& out, const odds::Draws& perfect)
 {
     out << "\n## Sessions\n\n"
            "Perfect play at the trainer's pay table, from a fairly shuffled deck. The columns 5 % "
@@ -99,17 +109,12 @@ void writeSittings(std::ostream& out, const odds::FairOdds& odds)
            "way.\n\n"
            "| hands | behind | even | ahead | 5 % | 25 % | 50 % | 75 % | 95 % | a royal | ruin |\n"
            "|---|---|---|---|---|---|---|---|---|---|---|\n";
-    const odds::OneHand one = odds::oneHand(odds.chances, odds::trainersPays());
+    const odds::Round one = odds::roundOf(perfect, odds::trainersPays());
     for (const std::int64_t hands : {100, 600, 2400, 10000}) {
-        const odds::Sitting sitting(one, hands);
         out << "| " << hands;
-        for (const auto& [least, most] :
-             {std::pair{-endless, std::int64_t{-1}}, {0, 0}, {1, endless}})
-            out << " | " << decimals(100 * sitting.chanceOf(least, most), 2);
-        for (const double share : {0.05, 0.25, 0.5, 0.75, 0.95})
-            out << " | " << sitting.quantile(share);
-        out << " | " << decimals(100 * one.chanceOfAtLeastOne(royal, hands), 2) << " | "
-            << decimals(100 * odds::chancesOfRuin(one, hands, 500).back(), 2) << " |\n";
+        writeResults(out, odds::Sitting(one, hands));
+        out << " | " << decimals(100 * odds::chanceOfAtLeastOne(perfect, royal, 1, hands), 2)
+            << " | " << decimals(100 * odds::Ruin(one, hands).chance(500), 2) << " |\n";
     }
 }
 
@@ -152,7 +157,9 @@ int main()
     const charts::ChartPrice trainers = charts::priceChart(heldCards, charts::trainersChart());
     writeTrainersTable(std::cout, trainers);
     writeMistakes(std::cout, heldCards);
-    writeSittings(std::cout, trainers.perfect);
+    const std::vector<odds::Draws> plays =
+        odds::drawsOf(heldCards, {[](const odds::DealtHand& hand) { return hand.bestHold; }});
+    writeSittings(std::cout, plays[0]);
     writeCharts(std::cout, heldCards, trainers);
     writeLiterature(std::cout, heldCards, trainers.perfect);
 }
