@@ -26,7 +26,7 @@ namespace quillet::odds_program
 namespace
 {
 
-// What the parser makes of the text in a file.
+// Parses the text of a file. A complaint begins with the name of the file.
 template <typename Parse>
 auto parsedFile(const std::string& path, Parse parse)
 {
@@ -87,7 +87,7 @@ Style styleFor(const Request& request)
     return {request.style.format, request.style.exact, wantsColour()};
 }
 
-// What an answer is computed from.
+// The inputs of an answer.
 struct Inputs {
     [[nodiscard]] charts::ChartPrice price() const { return charts::priceChart(heldCards, chart); }
     [[nodiscard]] odds::DealtHand hand() const

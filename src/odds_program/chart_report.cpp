@@ -66,16 +66,16 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
                 {"costs", ""}}};
     std::string idle;
     for (std::size_t row = 0; row < chart.size(); ++row) {
-        const RowPrice& told = price.rows[row];
-        std::vector<Cell> cells{charts::rowText(chart[row]), told.deals};
-        for (const odds::Fraction& loss : told.loss)
+        const RowPrice& priced = price.rows[row];
+        std::vector<Cell> cells{charts::rowText(chart[row]), priced.deals};
+        for (const odds::Fraction& loss : priced.loss)
             cells.emplace_back(percent(loss, 6));
-        const charts::CostliestDeal& costliest = told.costliest[Taken::worst];
+        const charts::CostliestDeal& costliest = priced.costliest[Taken::worst];
         const bool costs = costliest.cost != odds::Fraction();
         cells.push_back(costs ? cards(costliest.places, odds::holdAll) : "");
         cells.emplace_back(exact(costliest.cost, 4));
         rows.rows.push_back(std::move(cells));
-        if (told.deals == 0)
+        if (priced.deals == 0)
             idle += "  " + wrapped(charts::rowText(chart[row]));
     }
     if (!idle.empty())

@@ -108,8 +108,8 @@ constexpr OptionKind input{"hands on standard input"};
 
 struct Combination {
     Question question;
-    std::array<std::string_view, 2> asks; // the options that ask it
-    std::string_view also;                // the options that may go with it
+    std::array<std::string_view, 2> needs; // the options that it needs
+    std::string_view takes;                // the options that it can have
 };
 
 // The first combination whose options are all given is the question.
@@ -166,17 +166,17 @@ bool isGiven(const std::vector<Given>& given, std::string_view name)
 Question questionOf(const std::vector<Given>& given)
 {
     const Combination& asked = *std::ranges::find_if(combinations, [&given](const auto& one) {
-        return isGiven(given, one.asks[0]) && isGiven(given, one.asks[1]);
+        return isGiven(given, one.needs[0]) && isGiven(given, one.needs[1]);
     });
     for (const auto& [kind, value] : given) {
-        if (std::ranges::find(asked.asks, kind->name) != asked.asks.end() ||
-            asked.also.find(kind->name) != std::string_view::npos)
+        if (std::ranges::find(asked.needs, kind->name) != asked.needs.end() ||
+            asked.takes.find(kind->name) != std::string_view::npos)
             continue;
         const std::string name(kind->name);
         if (!kind->needs.empty())
             throw BadUsage(name + " is only for " + std::string(kind->needs));
-        throw BadUsage(name + " cannot be used with " + std::string(asked.asks[0]) +
-                       (asked.asks[1].empty() ? "" : " and " + std::string(asked.asks[1])));
+        throw BadUsage(name + " cannot be used with " + std::string(asked.needs[0]) +
+                       (asked.needs[1].empty() ? "" : " and " + std::string(asked.needs[1])));
     }
     return asked.question;
 }
