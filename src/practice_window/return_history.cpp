@@ -20,6 +20,12 @@ ReturnHistory::ReturnHistory(QObject* parent) : QObject(parent)
     m_thread.setMaxThreadCount(1);
 }
 
+// Only the estimate that is being made is waited for.
+ReturnHistory::~ReturnHistory()
+{
+    m_thread.clear();
+}
+
 void ReturnHistory::begin(std::shared_ptr<const practice::Course> course,
                           const std::vector<practice::Answer>& answers)
 {

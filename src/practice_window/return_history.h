@@ -25,6 +25,7 @@ class ReturnHistory : public QObject
 
 public:
     explicit ReturnHistory(QObject* parent = nullptr);
+    ~ReturnHistory() override;
 
     // Forgets all and begins with these answers.
     void begin(std::shared_ptr<const practice::Course> course,
