@@ -77,7 +77,7 @@ std::string equalRoyals(const HeldCards& heldCards)
         }
     }
     std::sort(royals.begin(), royals.end());
-    royals.erase(std::ranges::unique(royals).begin(), royals.end());
+    royals.erase(std::unique(royals.begin(), royals.end()), royals.end());
     std::string text;
     for (const Fraction& royal : royals)
         text += (text.empty() ? "" : "; ") + royal.decimals(2);
