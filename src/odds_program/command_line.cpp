@@ -41,6 +41,18 @@ std::int64_t countIn(std::string_view option, std::string_view word)
     return static_cast<std::int64_t>(number);
 }
 
+// "5", "0.1" or "5%", in percent.
+double percentageIn(std::string_view option, std::string_view word)
+{
+    const std::string_view digits = word.substr(0, word.size() - (word.ends_with('%') ? 1 : 0));
+    double number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size() ||
+        !(number >= 0.0001 && number <= 99))
+        needs(option, "a percentage, 0.0001 to 99", word);
+    return number;
+}
+
 std::uint64_t seedIn(std::string_view word)
 {
     std::uint64_t number = 0;
@@ -82,7 +94,7 @@ struct OptionKind {
 };
 
 // If an option is repeated, the last value counts.
-constexpr std::array<OptionKind, 16> optionKinds{{
+constexpr std::array<OptionKind, 17> optionKinds{{
     {"--rows"},
     {"--self-test"},
     {"--mistakes"},
@@ -98,6 +110,8 @@ constexpr std::array<OptionKind, 16> optionKinds{{
     {"--exact"},
     {"--all", nullptr, "hands"},
     {"--bankroll", [](Request& r, Value v) { r.session.bankroll = countIn("--bankroll", v); },
+     "--sitting"},
+    {"--bring", [](Request& r, Value v) { r.session.bring = percentageIn("--bring", v) / 100; },
      "--sitting"},
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
@@ -122,7 +136,7 @@ constexpr std::array<Combination, 15> combinations{{
     {Question::plays, {"--chart", "--plays"}, "--pays"},
     {Question::breakEven, {"--break-even", hand.name}, "--pays --format --exact"},
     {Question::breakEven, {"--break-even"}, "--chart --pays --format --exact"},
-    {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll"},
+    {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll --bring"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
     {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
@@ -274,6 +288,8 @@ Options
   --all                with a hand: all 32 holds
   --chart FILE         with --sitting: play by this chart, too
   --bankroll CREDITS   with --sitting: the chance that these credits run out
+  --bring PERCENT      with --sitting: the smallest bankroll that runs out with
+                       at most this chance
   --seed NUMBER        with --simulate: seed of the random numbers (default 1)
   --plays              with --chart: every deal and the chart's hold
   --mistakes           with --chart: the deals that this chart misplays

@@ -37,6 +37,7 @@ struct Session {
     std::int64_t hands = 0;
     std::int64_t lines = 1;
     std::optional<std::int64_t> bankroll{}; // credits
+    std::optional<double> bring{};          // the max chance of ruin
 };
 
 // How a session turns out for each play. With bars, the text draws the distribution for the first.

@@ -68,7 +68,7 @@ Played playOne(const SittingPlay& play, const odds::Pays& pays, const Session& s
 {
     const odds::Round round = odds::roundOf(play.draws, pays, session.lines, progress);
     Played played{play, {round, session.hands, progress}, {}};
-    if (session.bankroll)
+    if (session.bankroll || session.bring)
         played.ruin.emplace(round, session.hands, progress);
     return played;
 }
@@ -157,6 +157,21 @@ Table ruinTable(const AllPlayed& all, const Session& session)
     return ruin;
 }
 
+Table bringTable(const AllPlayed& all, double maxChance)
+{
+    Table bring = tableOf("bring",
+                          "\nThe smallest bankroll in credits that runs out in such a session with "
+                          "a chance\nof at most " +
+                              decimals(100 * maxChance, 4) + " %, and that chance in %\n\n",
+                          {"figure", "Figure"}, all);
+    addRow(bring, "credits to bring", all,
+           [=](const Played& played) { return played.ruin->bankrollFor(maxChance); });
+    addRow(bring, "their chance of ruin", all, [=](const Played& played) {
+        return percent(played.ruin->chance(played.ruin->bankrollFor(maxChance)));
+    });
+    return bring;
+}
+
 } // namespace
 
 Report sittingReport(const std::vector<SittingPlay>& plays, const odds::Pays& pays,
@@ -168,6 +183,8 @@ Report sittingReport(const std::vector<SittingPlay>& plays, const odds::Pays& pa
         report[0].outro = barsOf(all[0].sitting);
     if (session.bankroll)
         report.push_back(ruinTable(all, session));
+    if (session.bring)
+        report.push_back(bringTable(all, *session.bring));
     return report;
 }
 

@@ -97,11 +97,13 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed("--simulate=1e6").hands, 1'000'000);
     EXPECT_EQ(parsed("--sitting=10M --format=json").session.hands, 10'000'000);
     EXPECT_EQ(parsed("--sitting 9 --format csv --sitting 10k --format text").session.hands, 10'000);
+    EXPECT_EQ(parsed("--sitting 9 --bring 0.5%").session.bring, 0.005);
     EXPECT_EQ(parsed("--simulate 20 --seed 1e3").seed, 1000U);
     EXPECT_EQ(parsed("--rows --all --help --what").question, Question::help);
     EXPECT_EQ(parsed("--simulate none -h").question, Question::help);
     std::istringstream refused(
         "--all|--card|--plays|--what|--seed 3|--bankroll 9|--simulate|--simulate=|--simulate 0|"
+        "--bring 5|--sitting 9 --bring 0|--sitting 9 --bring nan|--sitting 9 --bring 5x|"
         "--simulate=1.5|--simulate -5|--simulate 9 --seed|--simulate 1e12|--sitting 11M|"
         "--exact=yes|--format xml|--format csv - --exact|--best-chart 65|--best-chart 9..3|"
         "--card x --best-chart 1..3|--chart x --card y --mistakes|--chart x --plays --format csv");
@@ -114,7 +116,8 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
     const std::vector<std::string> options{
         "9c",           "-",         "--mistakes", "--break-even", "--sitting 5",    "--simulate 5",
         "--rows",       "--chart x", "--card x",   "--pays 8/5",   "--best-chart 3", "--all",
-        "--bankroll 5", "--seed 3",  "--plays",    "--format csv", "--exact",        "--self-test"};
+        "--bankroll 5", "--bring 5", "--seed 3",   "--plays",      "--format csv",   "--exact",
+        "--self-test"};
     std::string taken;
     for (std::size_t i = 0; i < options.size(); ++i) {
         std::string partners;
@@ -131,7 +134,7 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
                      "-: --pays 8/5, --all, --format csv, --exact\n"
                      "--mistakes: --chart x, --pays 8/5, --format csv, --exact\n"
                      "--break-even: --chart x, --pays 8/5, --format csv, --exact\n"
-                     "--sitting 5: --chart x, --pays 8/5, --bankroll 5, --format csv\n"
+                     "--sitting 5: --chart x, --pays 8/5, --bankroll 5, --bring 5, --format csv\n"
                      "--simulate 5: --pays 8/5, --seed 3, --format csv, --exact\n"
                      "--chart x: --card x, --pays 8/5, --plays, --format csv, --exact\n"
                      "--card x: --pays 8/5, --best-chart 3\n"
@@ -222,6 +225,9 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--sitting 2400 --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
                 testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
+    EXPECT_THAT(run("--sitting 600 --bring 5").first,
+                HasSubstr("bring               485                 490\n"
+                          "  their chance of ruin        4.9344              4.8029\n"));
 }
 
 TEST(Program, testsItself)
@@ -317,7 +323,7 @@ TEST(Program, keepsToEightyColumnsInText)
                                        "--mistakes",
                                        "--break-even",
                                        "--break-even 9cTcJcKcAd",
-                                       perfect + " --sitting 1e4 --bankroll 1000",
+                                       perfect + " --sitting 1e4 --bankroll 1000 --bring 0.5",
                                        "--all 9cTcJcKcAd",
                                        "--simulate 1000",
                                        "--rows",

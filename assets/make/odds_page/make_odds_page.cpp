@@ -118,6 +118,25 @@ void writeSittings(std::ostream& out, const odds::Draws& perfect)
     }
 }
 
+void writeBring(std::ostream& out, const std::vector<odds::Draws>& plays)
+{
+    out << "\n### How much to bring\n\n"
+           "The smallest bankroll in credits that runs out in the session with a chance of at "
+           "most\n"
+           "10, 5 or 1 %.\n\n"
+           "| hands | perfect play: 10 % | 5 % | 1 % | the chart: 10 % | 5 % | 1 % |\n"
+           "|---|---|---|---|---|---|---|\n";
+    for (const std::int64_t hands : {100, 600, 2400, 10000}) {
+        out << "| " << hands;
+        for (const odds::Draws& play : plays) {
+            const odds::Ruin ruin(odds::roundOf(play, odds::trainersPays()), hands);
+            for (const double chance : {0.1, 0.05, 0.01})
+                out << " | " << ruin.bankrollFor(chance);
+        }
+        out << " |\n";
+    }
+}
+
 void writeCharts(std::ostream& out, const odds::HeldCards& heldCards,
                  const charts::ChartPrice& trainers)
 {
@@ -157,9 +176,12 @@ int main()
     const charts::ChartPrice trainers = charts::priceChart(heldCards, charts::trainersChart());
     writeTrainersTable(std::cout, trainers);
     writeMistakes(std::cout, heldCards);
-    const std::vector<odds::Draws> plays =
-        odds::drawsOf(heldCards, {[](const odds::DealtHand& hand) { return hand.bestHold; }});
+    const charts::ChartPlayer chart(charts::trainersChart());
+    const std::vector<odds::Draws> plays = odds::drawsOf(
+        heldCards, {[](const odds::DealtHand& hand) { return hand.bestHold; },
+                    [&](const odds::DealtHand& hand) { return chart.bestHold(hand); }});
     writeSittings(std::cout, plays[0]);
+    writeBring(std::cout, plays);
     writeCharts(std::cout, heldCards, trainers);
     writeLiterature(std::cout, heldCards, trainers.perfect);
 }
