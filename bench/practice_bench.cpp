@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <fstream>
 
-// What Quillet Practice costs, and how often the interval of the return holds the exact value for
-// players whose return is known: practice_bench [SESSIONS].
+// The time that Quillet Practice takes, and how often the interval of the return contains the exact
+// value for players whose return is known: practice_bench [SESSIONS].
 
 namespace quillet::practice::test
 {

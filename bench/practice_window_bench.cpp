@@ -1,5 +1,5 @@
-// What Quillet Practice takes from an answer to its comment, and from there to the next question,
-// with everything painted.
+// The time of Quillet Practice from an answer to the comment, and from there to the next question,
+// including painting.
 #include "platform/browser_opener.h"
 #include "practice_window/practice_window.h"
 #include "settings/text_file_store.h"
@@ -54,7 +54,7 @@ private:
     std::optional<PracticeWindow> m_window;
 };
 
-// After so many answers.
+// After this many answers.
 void nextQuestion(benchmark::State& state)
 {
     OpenWindow window;

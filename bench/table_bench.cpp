@@ -25,7 +25,7 @@ struct Painted : test::PaintedTable {
     SystemClock clock;
 };
 
-// Its milliseconds begin now, as if the program had just started.
+// Counts the milliseconds from its creation, as if the program had just started.
 class ClockFromNow : public SystemClock
 {
 public:

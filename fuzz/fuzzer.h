@@ -15,7 +15,7 @@ inline std::string_view textOf(const std::uint8_t* data, std::size_t size)
     return {reinterpret_cast<const char*>(data), size};
 }
 
-// A broken promise ends the program, which the fuzzer reports.
+// Ends the program if a promise is broken, so that the fuzzer reports it.
 inline void require(bool kept)
 {
     if (!kept)

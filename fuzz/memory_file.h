@@ -10,7 +10,7 @@
 namespace quillet::fuzz
 {
 
-// A file without a place on a disk, for readers that want a path.
+// A file in memory, for readers that take a path.
 class MemoryFile
 {
 public:

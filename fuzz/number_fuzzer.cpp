@@ -14,7 +14,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         fuzz::require(toNumber(std::to_string(rounded)) == rounded);
         (void)toInt16(number);
     } catch (const RunTimeError&) {
-        // No number, or does not fit.
+        // Not a number, or too large.
     }
     return 0;
 }

@@ -3,7 +3,8 @@
 
 #include <string>
 
-// What was read is written as it was, the last line with its end, and what is set is read back.
+// Text is written back unchanged, except that the last line gets an end. New settings are read
+// back.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace quillet;

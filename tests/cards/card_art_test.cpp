@@ -154,7 +154,7 @@ TEST(Hatch, isWhiteWithSparseInkRoundCornersAndAnOutline)
         EXPECT_EQ(qAlpha(std::next(areas.begin())->first), 255);
         EXPECT_EQ(picture.pixel(0, 0), 0U) << "as any other back";
         EXPECT_EQ(picture.pixel(right, bottom), 0U);
-        // With little ink, a face under it stays readable.
+        // The face under it stays readable only with little ink.
         const double share =
             double(std::next(areas.begin())->second) / (picture.width() * picture.height());
         EXPECT_GT(share, 0.10);

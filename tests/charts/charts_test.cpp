@@ -113,7 +113,7 @@ TEST(Chart, ofTheTrainerPlaysAndIsPricedAsTheCoachDoes)
     EXPECT_EQ(deals, 2598960);
 }
 
-// A second program that dealt and drew every hand has given the same figures.
+// A separate program that dealt and drew every hand got the same figures.
 TEST(ChartPrice, comesOutAsKnown)
 {
     // Many rows in no order, each but every third asking something.

@@ -15,7 +15,7 @@ namespace quillet::test
 namespace
 {
 
-// Gives the draws it was told to give, and notes in which order it was asked.
+// Returns the given draws, and records the order of the calls.
 class ScriptedRandom : public RandomSource
 {
 public:

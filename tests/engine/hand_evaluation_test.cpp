@@ -58,7 +58,7 @@ TEST(EvaluatePokerHand, neighbouringRowsAreToldApart)
     }
 }
 
-// Every deal must have a hold that the coach takes, or the player could never draw.
+// Every deal must have a hold that the coach accepts, or the player could never draw.
 TEST(EvaluatePokerHand, everyHandOfTheDeckIsClassedAndCanBePlayed)
 {
     Counts dealt{};
@@ -72,7 +72,7 @@ TEST(EvaluatePokerHand, everyHandOfTheDeckIsClassedAndCanBePlayed)
         count(final, EvaluatePokerHand(five, true));
     });
     EXPECT_TRUE(playable);
-    // The paying hands are as many as the textbooks count.
+    // Textbooks have the numbers of paying hands.
     EXPECT_EQ(final, (Counts{4,     36,     624,    3744,   0,     5108,   10200,
                              54912, 0,      123552, 337920, 29448, 89760,  733392,
                              59040, 177372, 9420,   418668, 33840, 416760, 95160}));

@@ -13,7 +13,7 @@ constexpr auto jacks = "Jc Jd 4h 7s 9c 2c 3d 5h 6s 8c";
 constexpr auto trash = "2h 4s 6c 8d Th 3c 5d 7h 9s Kc";
 constexpr auto royal = "As Ks Qs Js Ts 2c 3d 5h 6s 8c";
 
-// One hand is on the table and waits, whatever came before.
+// One hand is on the table and waits for the draw.
 void expectOneFreshDeal(const Game& game, int hands)
 {
     EXPECT_TRUE(game.state.handDealt && game.state.judgePending && !game.state.handBusy);

@@ -23,7 +23,7 @@ inline Card card(std::string_view text)
     return makeCard(static_cast<std::int16_t>(rank * 4 + suit));
 }
 
-// Five cards with one blank between them, "As Ks Qs Js Ts".
+// Five cards with blanks between them, "As Ks Qs Js Ts".
 inline std::array<Card, 5> hand(std::string_view text)
 {
     if (text.size() != 14)
@@ -34,7 +34,7 @@ inline std::array<Card, 5> hand(std::string_view text)
     return cards;
 }
 
-// Calls visit for every choice of so many cards of the deck, in ascending order.
+// Calls visit for every set of this many cards of the deck, in ascending order.
 template <typename Visit>
 void forEachChoice(std::size_t count, const Visit& visit, std::vector<Card> chosen = {})
 {
@@ -49,7 +49,7 @@ void forEachChoice(std::size_t count, const Visit& visit, std::vector<Card> chos
 
 using HoldFlags = std::array<bool, 5>;
 
-// The lowest of the bits stands for the first slot.
+// The lowest bit is the first slot.
 constexpr HoldFlags holdFlags(unsigned bits)
 {
     HoldFlags flags{};

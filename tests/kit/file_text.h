@@ -7,7 +7,7 @@
 namespace quillet::test
 {
 
-// What is in a file, byte by byte; nothing for one that cannot be read.
+// The bytes of a file; empty if it cannot be read.
 inline std::string fileText(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);

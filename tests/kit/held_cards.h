@@ -5,7 +5,7 @@
 namespace quillet::test
 {
 
-// Of the trainer's pay table.
+// With the trainer's pay table.
 inline const odds::HeldCards& heldCards()
 {
     static const odds::HeldCards theHeldCards;

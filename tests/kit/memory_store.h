@@ -9,7 +9,7 @@
 namespace quillet::test
 {
 
-// Keeps the texts in memory and notes what is saved.
+// Keeps the settings in memory and logs each save.
 class MemoryStore : public SettingsStore
 {
 public:

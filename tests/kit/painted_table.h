@@ -13,7 +13,7 @@
 namespace quillet::test
 {
 
-// A painted table of our cards without a window, its deck in Sleeve backs.
+// A painted table without a window. The deck shows Sleeve backs.
 struct PaintedTable : ErrorBox {
     PaintedTable()
     {

@@ -20,7 +20,7 @@ inline QImage cardAt(int cardNumber, double factor)
                             static_cast<int>(std::floor(cardArtHeight * factor + 0.5))));
 }
 
-// How many pixels differ by more than so many of 255 steps when both cards are looked at in grey.
+// The number of pixels whose grey values differ by more than the tolerance, of 255.
 inline int greyDifference(const QImage& first, const QImage& second, int steps)
 {
     int different = 0;
@@ -31,7 +31,7 @@ inline int greyDifference(const QImage& first, const QImage& second, int steps)
     return different;
 }
 
-// Only the ink of the hatch, on a transparent ground.
+// Only the ink of the hatch, on a transparent background.
 inline QImage inkOf(const QImage& hatch)
 {
     QImage ink = hatch.convertToFormat(QImage::Format_ARGB32);
@@ -42,13 +42,13 @@ inline QImage inkOf(const QImage& hatch)
     return ink;
 }
 
-// Pixels that hang together, side by side.
+// Connected pixels.
 struct Region {
     QRect around;
     int pixels = 0;
 };
 
-// The regions of those that belong.
+// The regions of the pixels that belong.
 inline std::vector<Region> regions(const QImage& image, const std::function<bool(QRgb)>& belongs)
 {
     std::vector<Region> found;

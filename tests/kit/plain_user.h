@@ -7,7 +7,7 @@
 namespace quillet::test
 {
 
-// As long as it lives, a program that runs as root is refused what plain users are refused.
+// During its lifetime, a program that runs as root has only the rights of plain users.
 class PlainUser
 {
 public:

@@ -13,7 +13,7 @@
 namespace quillet::test
 {
 
-// What was seen and heard, in its order.
+// Everything seen and heard, in order.
 class GameLog
 {
 public:
@@ -23,7 +23,7 @@ public:
     {
         return static_cast<int>(std::ranges::count(m_entries, entry));
     }
-    // The entries, one blank between.
+    // The entries, with blanks between them.
     [[nodiscard]] std::string text() const
     {
         std::string all;
@@ -102,7 +102,7 @@ struct Game {
         decks.stack(tenCards);
         click();
     }
-    // Holds the slots whose digits (1..5) are named and clicks the deck.
+    // Holds these slots (digits 1 to 5) and clicks the deck.
     void draw(std::string_view slots)
     {
         for (const char digit : slots)

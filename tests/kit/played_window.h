@@ -30,8 +30,8 @@ struct RecordedSounds : SoundOutput {
 };
 
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,
-// fire the input that falls due meanwhile and let the toolkit's events run. Unless a test stores
-// something else, dealing is by hand, cards do not fly and the delays are known.
+// send the input that falls due and handle Qt's events. Unless a test stores other settings, the
+// player deals, cards do not fly and the delays are known.
 class PlayedWindow : private DeckSource, private Clock
 {
 public:
@@ -40,28 +40,28 @@ public:
 
     // Loads the window, whose first hand has these ten cards (see StackedDeck).
     bool start(std::string_view tenCards = jacks);
-    // Runs the act when the virtual clock has come so many milliseconds further.
+    // Calls the act after this time on the virtual clock.
     void in(int milliseconds, std::function<void()> act) { clock.in(milliseconds, std::move(act)); }
-    // A folder of its own, empty but for what the test puts there, in place of the program's.
+    // An empty folder, which replaces the program's.
     QString useOwnFolder();
-    // There, a plain background of this size; without a size, one that cannot be read.
+    // Puts a plain background of this size there; without a size, one that cannot be read.
     void usePicture(QSize size = {});
 
     void clickDeck() { click(part("picDeal0")); }
     void clickCard(int slot) { click(part("picPoker" + std::to_string(slot))); }
     void choose(const char* menuEntry) { window->findChild<QAction*>(menuEntry)->trigger(); }
-    // Holds the slots whose digits (1..5) are named and clicks the deck.
+    // Holds these slots (digits 1 to 5) and clicks the deck.
     void draw(std::string_view heldSlots);
 
     [[nodiscard]] QWidget& part(const std::string& name) { return control(*window, name.c_str()); }
     // The counters, "total/hands/won".
     [[nodiscard]] std::string counters();
-    // What a screen reader says of the card places, their numbers left out.
+    // The card places as a screen reader says them, without their numbers.
     [[nodiscard]] std::string cards();
     [[nodiscard]] bool waitsForDraw() const { return window->handState().handDealt; }
-    // What the window shows on its display.
+    // The window as its display shows it.
     [[nodiscard]] QImage picture();
-    // Where a part lies in the window.
+    // The place of a part in the window.
     [[nodiscard]] QRect placeOf(const std::string& name);
     // The background of a chart row, "#rrggbb".
     [[nodiscard]] std::string rowColour(int playCode);
@@ -87,19 +87,19 @@ protected:
 
 private:
     std::int64_t milliseconds() const override { return clock.now; }
-    // Moves on with every look.
+    // Moves on with every call.
     double processorSeconds() const override;
     void failAt(const char* port) const;
 
     QTemporaryDir m_ownFolder;
 };
 
-// One whose first hand waits for the draw.
+// A window whose first hand waits for the draw.
 struct StartedWindow : PlayedWindow {
     StartedWindow() { EXPECT_TRUE(start()); }
 };
 
-// Opens a modal window and lets the act work in it. One that the act leaves open is closed.
+// Opens a modal window, runs the act in it, and closes it if it is still open.
 template <typename Dialog>
 void whileOpen(const std::function<void()>& open, const std::function<void(Dialog&)>& act)
 {

@@ -6,7 +6,7 @@
 namespace quillet::practice::test
 {
 
-// What every test of practice needs; made once, as it takes a moment.
+// The game that the tests of practice share, because computing it takes a moment.
 struct Game {
     odds::HeldCards heldCards;
     Decisions decisions{heldCards};

@@ -18,8 +18,8 @@ inline constexpr std::string_view bestOf12 =
     "4 to an outside straight\n3 to a straight flush, high for each gap but one\n2 high, suited\n"
     "2 high, lowest\n1 high\nnothing";
 
-// A player whose return is known exactly: perfect play or the best hold that a chart allows, but
-// sometimes, once in so many hands, any of the 32 holds.
+// A player whose return is known exactly: perfect play, or the best hold that a chart allows. In
+// one hand of `slipsOneIn`, any of the 32 holds.
 class Player
 {
 public:
@@ -54,7 +54,7 @@ private:
     std::optional<charts::ChartPlayer> m_chart;
 };
 
-// One player's session. Always the same for the same seed.
+// One player's session. The same seed gives the same session.
 class Session
 {
 public:

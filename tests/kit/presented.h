@@ -13,9 +13,9 @@
 namespace quillet::test
 {
 
-// What is on the display, in device pixels. Nothing is painted anew for it, as grab() does, so
-// that a picture which was never repainted shows its old state. (Off screen, grabWindow() cuts
-// windows off at scales above 1.)
+// The content of the display, in device pixels. Unlike grab() it repaints nothing, so a picture
+// that was never repainted shows its old state. (Off screen, grabWindow() cuts windows off at
+// scales above 1.)
 inline QImage& display(const QWidget& window)
 {
     return dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
@@ -28,7 +28,7 @@ inline QImage presented(const QWidget& window)
     return pixels;
 }
 
-// The smallest rectangle outside which both pictures are equal; empty for equal ones.
+// The smallest rectangle that contains all differences; empty for equal pictures.
 inline QRect difference(const QImage& first, const QImage& second)
 {
     QRect found;
@@ -44,7 +44,7 @@ inline QRect difference(const QImage& first, const QImage& second)
     return found;
 }
 
-// Whether there is a display of this scale, on which the window now lies.
+// Moves the window to a display of this scale. Returns false if there is none.
 inline bool moveToScale(QWidget& window, double scale)
 {
     for (const QScreen* screen : QGuiApplication::screens())
@@ -54,8 +54,8 @@ inline bool moveToScale(QWidget& window, double scale)
     return window.devicePixelRatioF() == scale;
 }
 
-// Looks at what the window shows whenever a widget in it, such as the table in a flight, is about
-// to be painted again. A picture that is to be kept must be copied.
+// Looks at the window whenever one of its widgets, such as the table in a flight, is about to be
+// painted again. Copy a picture to keep it.
 class FrameWatch : public QObject
 {
 public:

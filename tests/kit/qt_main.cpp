@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-// Needs no display: Qt makes several offscreen ones, each of another scale.
+// Needs no display: Qt makes several offscreen ones, each with another scale.
 int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLET_TEST_DISPLAYS);

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-// Stand-ins for what is around a game.
+// Stand-ins for the surroundings of a game.
 namespace quillet::test
 {
 
@@ -42,20 +42,20 @@ private:
     PokerDeck m_deck = buildDeck();
 };
 
-// A clock on which time passes in pauses only, at once. Whatever falls due meanwhile is done, as a
-// real pause handles events.
+// A clock that moves only in pauses, which take no real time. Actions that fall due in a pause run
+// in it, as a real pause handles events.
 class VirtualClock
 {
 public:
     ~VirtualClock() { EXPECT_TRUE(m_due.empty()) << "input whose moment never came"; }
 
-    // Does this when so many milliseconds have passed from now on.
+    // Calls this after the given time.
     void in(int milliseconds, std::function<void()> act)
     {
         m_due.emplace(now + milliseconds, std::move(act));
     }
 
-    // Passes so many milliseconds, unless the pause is cut short by what is done in it.
+    // Passes the given time, unless an action in the pause cuts it short.
     void pass(
         int milliseconds, const std::function<bool()>& cutShort,
         const std::function<void()>& afterEach = [] {})

@@ -13,7 +13,7 @@
 namespace quillet::test
 {
 
-// Keeps what the windows ask the desktop to open.
+// Records the pages that the windows open.
 struct RecordingShell : PageOpener {
     void open(const std::string& address) override
     {
@@ -35,8 +35,8 @@ Widget& control(QWidget& window, const char* name)
     return *widget;
 }
 
-// Where the middle of a control lies in its window; the mouse is driven through the window, so
-// that the events and their order are the ones that Qt makes of real presses.
+// The centre of a control, in its window. Mouse input goes through the window, so Qt makes the same
+// events of it, in the same order, as of real presses.
 inline QPoint middleOf(QWidget& widget)
 {
     return widget.mapTo(widget.window(), widget.rect().center());

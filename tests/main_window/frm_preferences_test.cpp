@@ -48,7 +48,7 @@ void chooseColour(frmPreferences& dialog, const QColor& colour, bool accepted)
                             });
 }
 
-// The bar and its slider have one edge each, the words lie below its ends, and its focus is seen.
+// The bar and its slider have one edge each, the words are below its ends, and its focus shows.
 void expectClearBar(frmPreferences& dialog)
 {
     auto& bar = control<QScrollBar>(dialog, "HScroll1");
@@ -139,7 +139,7 @@ TEST(PreferencesDialog, boxesThumbAndPreviewAreSeenOnEveryDesktop)
                   qGray(row.pixel(1, 1)));
         inPreferences(game, [&desktop](frmPreferences& dialog) {
             auto& tabs = control<QTabWidget>(dialog, "SSTab1");
-            // On the left of a part of a control, halfway down.
+            // The left edge of a part of a control, halfway down.
             const auto edgeOf = [](QWidget& widget, const QRect& place) {
                 return widget.grab().toImage().pixelColor(place.left(), place.center().y());
             };

@@ -28,7 +28,7 @@ bool outlined(PlayedWindow& game, int slot, const QColor& colour)
     return found == 4;
 }
 
-// Whether the place shows this card, but for its rounded corners.
+// Whether the place shows this card, apart from its rounded corners.
 bool shows(PlayedWindow& game, int slot, int cardNumber)
 {
     const QRect place = game.placeOf("picPoker" + std::to_string(slot));
@@ -204,7 +204,7 @@ TEST(HandInWindow, theKeyboardPlaysAWholeHand)
     EXPECT_FALSE(outlined(game, 0, Qt::green) || outlined(game, 4, Qt::green));
     press(Qt::Key_1);
 
-    // Tab walks from the deck to the cards, where the blank toggles the hold.
+    // Tab goes from the deck to the cards, where Space toggles the hold.
     const QImage before = game.picture();
     for (int step = 0; step < 3; ++step)
         press(Qt::Key_Tab);

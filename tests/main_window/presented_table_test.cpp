@@ -61,7 +61,7 @@ TEST(PresentedTable, railsPostsBarAndPileMeetAtEveryScale)
                                        .adjusted(0, 0, 0, -at(5))),
                   std::set<QRgb>{grey.pixel(0, 0)});
 
-        // The posts are all that lies on the rails.
+        // Only the posts are on the rails.
         table.painter.paintFirstTable(PaintedTable::measures);
         QImage frame = table.canvas.kept().image();
         for (QImage* image : {&shown, &frame})
@@ -84,7 +84,7 @@ TEST(PresentedTable, aHandOnFourDisplaysLooksAsItShould)
         ASSERT_TRUE(moveToScale(*game.window, scale));
         game.draw("2");
         const QImage shown = game.picture();
-        // A table that was painted for this display from the start looks the same.
+        // A table that was first painted on this display looks the same.
         const auto& window = control<PokerTable>(*game.window, "pokerTable");
         PaintedTable fresh;
         fresh.paint(window.background(), scale);

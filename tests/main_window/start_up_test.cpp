@@ -102,7 +102,7 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
         EXPECT_EQ(game.window->width(), innerWidth);
         const QWidget& row = game.part("pkLabel20");
         EXPECT_LE(QFontMetricsF(row.font()).height(), row.height());
-        // The window insists on its size, but only until it has it.
+        // The window takes its size back once.
         game.window->setWindowState(Qt::WindowMaximized);
         QCoreApplication::processEvents();
         EXPECT_FALSE(game.window->isMaximized());
@@ -113,7 +113,7 @@ TEST(StartUp, theWindowFollowsThePictureButKeepsAMinimum)
             EXPECT_EQ(game.window->size(), again ? QSize(1000, 700) : right) << "no fight";
         }
         EXPECT_TRUE(game.errors.texts.empty());
-        // Another picture counts from the next game on.
+        // Another picture is used from the next game on.
         game.usePicture({900, 480});
         game.choose("mnuPoker");
         EXPECT_EQ(game.window->width(), 900);

@@ -152,7 +152,7 @@ TEST(WindowEvents, menusAndStatusBarOpenTheOnePage)
     game.pages.opened.pop_back();
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&game.part("picPoker0"))->state().checkable);
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&game.part("picDeal1"))->state().invisible);
-    // A button let go beside what it was pressed on has not clicked it.
+    // A button released beside the widget does not click it.
     QWindow* const display = game.window->windowHandle();
     for (const char* pressed : {"picStatusBar", "picDeal0"}) {
         const QRect place = game.placeOf(pressed);

@@ -33,7 +33,7 @@ HeldCards withRoyal(std::string_view name, std::int64_t royal)
 
 } // namespace
 
-// These figures have been published again and again.
+// Published figures.
 TEST(FairOdds, perfectPlayComesOutAsPublished)
 {
     for (const auto& [name, returned] : {std::pair{"9/6", "99.543904"},

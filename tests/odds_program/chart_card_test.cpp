@@ -21,7 +21,7 @@ namespace
 
 using charts::Chart;
 
-// The trainer's, the one without loss, and one of all rows, long and with many that never play.
+// The trainer's, the one without loss, and one of all rows, many of which never play.
 std::vector<Chart> someCharts()
 {
     Chart all;

@@ -37,7 +37,7 @@ void expectFigures(const std::string& help, const std::map<std::string, std::str
             << name << ": " << figure;
 }
 
-// A share as credits in a hundred: "0.995439" is 99.5439.
+// A share in percent: "0.995439" is 99.5439.
 std::string inHundred(const Fraction& share)
 {
     const std::string digits = share.decimals(6);
@@ -49,7 +49,7 @@ std::string handsPerRoyal(const OutcomeChances& chances)
     return std::to_string(std::lround(1.0 / std::stod(chances[1].decimals(15))));
 }
 
-// The chance of each card, by its number, to come to each place of the shuffled deck.
+// For each card number, the chance of each place in the shuffled deck.
 std::array<std::array<double, 52>, 52> placesAfterTheShuffle()
 {
     std::array<std::array<double, 52>, 52> chances{};
@@ -60,7 +60,7 @@ std::array<std::array<double, 52>, 52> placesAfterTheShuffle()
             const double here = place[i];
             for (double& chance : place)
                 chance = chance * 51 / 52 + here / 52;
-            // The card that the exchange brings here lay anywhere else, or stays.
+            // The exchange brings a card from anywhere else, or the card stays.
             place[i] = 1.0 / 52;
         }
     }

@@ -42,7 +42,7 @@ Request parsed(const std::string& commandLine)
     return parseArguments(views);
 }
 
-// What the program prints, and its exit status.
+// The output of the program, and its exit status.
 std::pair<std::string, int> run(const std::string& arguments, const std::string& input = {})
 {
     const std::string program =

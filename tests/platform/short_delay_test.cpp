@@ -12,13 +12,13 @@ namespace quillet::test
 
 TEST(ShortDelay, eventsRunInThePauseWithoutEndingIt)
 {
-    // The timers run from here on, so the pause is measured from here on.
+    // The timers start here, so the measurement does, too.
     QElapsedTimer time;
     time.start();
     int handled = 0;
     for (const int at : {0, 10, 20})
         QTimer::singleShot(at, [&handled] { ++handled; });
-    // A pause of its own, longer than the rest of the outer one.
+    // A nested pause, longer than the rest of the outer one.
     QTimer::singleShot(30, [&handled] {
         shortDelay(120);
         handled += 10;

@@ -92,7 +92,7 @@ TEST(Standard, saysWhatIsRightAndWhatTheChartGivesAway)
     EXPECT_EQ(chart.row(hand), "3 to a royal");
     const std::string lossless = quillet::test::fileText(QUILLET_CHARTS_FOLDER "/perfect.chart");
     EXPECT_EQ(Standard(charts::parseChart(lossless)).row(hand), "4 to a straight flush");
-    // Holds that are worth the same are all right.
+    // All holds of the same worth are right.
     const odds::DealtHand four = dealt("2c 9c 9d 9h 9s");
     EXPECT_TRUE(Standard().judge(four, odds::holdAll).right);
     EXPECT_TRUE(Standard().judge(four, 0b11110).right);

@@ -9,8 +9,8 @@ namespace quillet::practice::test
 namespace
 {
 
-// Some sessions of so many answers: how many intervals hold the exact return, and whether they are
-// this narrow on average, in percentage points.
+// The number of intervals that contain the exact return. Fails if their half width, in percentage
+// points, is larger on average.
 int insideOf(const Player& player, std::size_t answers, int sessions, double halfWidth)
 {
     int inside = 0;
@@ -31,7 +31,7 @@ int insideOf(const Player& player, std::size_t answers, int sessions, double hal
 
 } // namespace
 
-// The benchmark has the same for many more sessions.
+// The benchmark does the same for many more sessions.
 TEST(Estimate, holdsTheExactReturnOfPlayersWhoseReturnIsKnown)
 {
     const auto& chart = charts::trainersChart();

@@ -108,7 +108,7 @@ TEST_F(JournalFile, tellsOfAFullDiskAndLosesNoEarlierLine)
 {
     EXPECT_EQ(appendToJournal("/dev/full", {}, {}), std::errc::no_space_on_device);
     ASSERT_EQ(append(), std::error_code());
-    // A file that may grow by half a line is as good as a disk with that much left.
+    // A file that may grow by half a line is like a disk with that much space.
     const auto size = std::filesystem::file_size(path);
     const rlimit before{RLIM_INFINITY, RLIM_INFINITY};
     const rlimit full{size + 40, RLIM_INFINITY};

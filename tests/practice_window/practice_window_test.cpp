@@ -38,7 +38,7 @@ struct Silence : SoundOutput {
     void play(const std::string&) override {}
 };
 
-// A player at the window, who has a journal and settings of their own.
+// A player at the window, with a separate journal and settings.
 struct PracticeTest : testing::Test {
     void open()
     {
@@ -60,7 +60,7 @@ struct PracticeTest : testing::Test {
     QString text(const char* name) { return control<QLabel>(*window, name).text(); }
     QString answerButton() { return control<QPushButton>(*window, "answer").text(); }
 
-    // The deal as screen readers know it.
+    // The deal as screen readers say it.
     practice::HeldDeal deal()
     {
         std::array<odds::DeckPlace, 5> places{};
@@ -127,7 +127,7 @@ TEST_F(PracticeTest, asksTakesAnAnswerByMouseExplainsItAndGoesOn)
         QTest::qWaitFor([this] { return text("return").contains("You return about"); }, 20'000));
 }
 
-// The words are all that a blind player has.
+// A blind player has nothing but these words.
 TEST_F(PracticeTest, tellsAScreenReaderTheCardsTheHoldsAndTheVerdict)
 {
     open();

@@ -61,7 +61,7 @@ TEST(Fault, isToldInTheProceduresOwnWordsAndThePlayGoesOn)
 
 TEST(Fault, anEndingSessionStoresTheSettingsAndShowsNoFarewellUnlessItGoesOn)
 {
-    // Only the toolkit can make a session manager, and nobody looks at this one.
+    // Only Qt can make a session manager. Nothing uses the content of this one.
     alignas(QSessionManager) static std::array<std::byte, sizeof(QSessionManager)> nobody;
     const auto announce = [] {
         emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));

@@ -20,8 +20,8 @@ namespace quillet::test
 namespace
 {
 
-// Plays the real window with random input, at rest and in the middle of every pause, and looks
-// after each event whether anything is as it must never be.
+// Plays the real window with random input, at rest and in the middle of every pause, and checks
+// after each event what must always be true.
 class Monkey : public PlayedWindow
 {
 public:
@@ -64,7 +64,7 @@ private:
     int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_random); }
     bool chanceOf(int percent) { return below(100) < percent; }
 
-    // Several events may come in one turn, before the sequence underneath can look up.
+    // Several events may come at once, before the sequence that waits can react.
     void pause(std::int32_t delay, const std::function<bool()>& cutShort) override
     {
         const bool fading = delay == 20;
@@ -125,7 +125,7 @@ private:
 
     void keyOrMouse()
     {
-        // A dialog that a click in an open menu brings up would wait for somebody to close it.
+        // A dialog opened from a menu would wait until somebody closes it.
         if (QWidget* menu = QApplication::activePopupWidget())
             menu->close();
         ++m_deckClicks;
@@ -200,7 +200,7 @@ private:
         }
     }
 
-    // A hand costs five; only a hand that counts as won brings credits, as many as the table says.
+    // A hand costs five; only a hand that counts as won pays, and by the pay table.
     void checkCredits()
     {
         const Counters& count = window->counters();
@@ -230,7 +230,7 @@ private:
 
 } // namespace
 
-// More of them with QUILLET_MONKEY_SEEDS=2000.
+// QUILLET_MONKEY_SEEDS=2000 runs more of them.
 TEST(Monkey, nothingThatItDoesBreaksTheGame)
 {
     const int seeds = qEnvironmentVariableIntValue("QUILLET_MONKEY_SEEDS");

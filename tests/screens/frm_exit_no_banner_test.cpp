@@ -29,7 +29,7 @@ protected:
         log.push_back(what + (window.isVisible() ? ", shown" : ", gone") + ", opened " +
                       std::to_string(pages.opened.size()));
     }
-    // Shows the window as the program does and lets the player act once it is visible.
+    // Shows the window as the program does, and calls the act when it is visible.
     void runWith(const std::function<void()>& act)
     {
         QTimer::singleShot(0, &window, [&] {

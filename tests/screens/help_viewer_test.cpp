@@ -55,7 +55,7 @@ protected:
     {
         return pageOf(viewer).toPlainText().toStdString();
     }
-    // Runs the command by its key, as a player does.
+    // Presses the key of the command.
     static void press(HelpViewer& viewer, int key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(viewer.windowHandle(), static_cast<Qt::Key>(key), modifiers);

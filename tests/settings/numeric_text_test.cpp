@@ -12,7 +12,7 @@ namespace quillet::test
 namespace
 {
 
-// The converted number as a text, or what the conversion raised.
+// The converted number as a text, or the error of the conversion.
 template <typename Convert>
 std::string outcome(const std::string& text, Convert convert)
 {
@@ -23,7 +23,7 @@ std::string outcome(const std::string& text, Convert convert)
     }
 }
 
-// Rows of a text and its outcome, with Z for four hundred zeros.
+// Each row is a text and its outcome. Z is four hundred zeros.
 template <typename Convert>
 void expectOutcomes(std::string rows, Convert convert)
 {

@@ -12,7 +12,7 @@ namespace quillet::test
 namespace
 {
 
-// What one run of the program makes of this stored text, or what loading it raised.
+// The stored text after one run of the program, or the error of loading it.
 std::string afterOneRun(const std::string& key, const std::string& text)
 {
     MemoryStore store;

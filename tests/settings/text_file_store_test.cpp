@@ -24,7 +24,7 @@ using testing::HasSubstr;
 namespace
 {
 
-// No file may grow beyond this many bytes, as on a disk that is nearly full.
+// Limits the size of files, like a disk that is nearly full.
 class FullDisk
 {
 public:
@@ -71,7 +71,7 @@ protected:
         return readSetting(store.load("Quillet"), "Quillet", "Preferences", key, "default");
     }
 
-    // Saves one setting and returns what the store threw.
+    // Saves one setting and returns the text of the exception.
     std::string write(const std::string& key, const std::string& text)
     {
         try {
@@ -90,7 +90,7 @@ protected:
         return status.st_mode & 0777;
     }
 
-    // Everything in the folder but the settings themselves.
+    // Everything in the folder except the settings.
     [[nodiscard]] QStringList leftovers() const
     {
         QStringList names = QDir(path("")).entryList(QDir::AllEntries | QDir::Hidden |
@@ -167,7 +167,7 @@ TEST_F(TextFileStoreTest, whatTheUserHasMadeOfTheFileStays)
     EXPECT_EQ(write("k", "old"), "");
     for (const char* folder : {"config", "config/Quillet"})
         EXPECT_EQ(mode(m_home.filePath(folder)), 0700U) << folder;
-    // A save that was killed left these behind, the lock on another machine.
+    // Left behind by a save that was killed; the lock is from another machine.
     writeFile("settings.ini.new", "[Preferen");
     writeFile("settings.ini.lock", "1\nquillet\nelsewhere\n");
     using FileTime = std::filesystem::file_time_type;

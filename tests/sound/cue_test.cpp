@@ -89,7 +89,7 @@ TEST(CueMixer, aCueThatIsCutOffFadesOutUnderItsSuccessor)
     mixer.play(cue(300));
     mixer.render(block);
     EXPECT_EQ(block.front(), 32767);
-    // Of this one nothing is heard: it neither fades nor ends the fade.
+    // This one is not heard: it neither fades nor ends the fade.
     mixer.play(cue(500));
     mixer.play(cue(700));
     block.resize(300);

@@ -9,7 +9,7 @@
 namespace quillet::test
 {
 
-// A folder of its own for one test, gone when the test ends.
+// A temporary folder for one test.
 class TemporaryFolder
 {
 public:
@@ -41,7 +41,7 @@ struct WaveFormat {
     std::uint32_t rate = 48000, channels = 2, bytes = 2;
 };
 
-// A wave file that holds this value in every sample.
+// A wave file with this value in every sample.
 inline std::string flatWave(std::uint32_t value, std::uint32_t milliseconds, WaveFormat format = {})
 {
     std::string data;

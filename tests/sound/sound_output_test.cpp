@@ -24,7 +24,7 @@ namespace
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// SDL's disk driver writes what would be heard to a file, at the pace of a real device.
+// SDL's disk driver writes the sound to a file, at the pace of a real device.
 class Recorder
 {
 public:
@@ -34,7 +34,7 @@ public:
         setenv("SDL_DISKAUDIOFILE", m_path.c_str(), 1);
     }
 
-    // How many milliseconds of samples with this value have been heard.
+    // Milliseconds of samples with this value so far.
     [[nodiscard]] int heard(std::int16_t value) const
     {
         const std::string bytes = fileText(m_path);
@@ -43,7 +43,7 @@ public:
         return static_cast<int>(std::count(samples.begin(), samples.end(), value) / 96);
     }
 
-    // Waits until this many have been.
+    // Waits until there are this many.
     [[nodiscard]] bool hears(std::int16_t value, int milliseconds) const
     {
         const auto giveUp = Clock::now() + 20s;
@@ -56,7 +56,7 @@ private:
     std::string m_path;
 };
 
-// A sound server that takes the connection and never says a word.
+// A sound server that accepts the connection and never answers.
 class SilentServer
 {
 public:
@@ -99,7 +99,7 @@ TEST(SdlSoundOutput, everyCueCutsOffTheOneThatSoundsEvenABrokenOne)
     EXPECT_TRUE(recorder.hears(2000, 50));
     output.play(broken);
     EXPECT_TRUE(recorder.hears(0, 200));
-    // Of several at once the last is what sounds.
+    // Of several at once, only the last sounds.
     for (const std::string& path : {first, second, last})
         output.play(path);
     EXPECT_TRUE(recorder.hears(3000, 90));

@@ -47,7 +47,7 @@ protected:
         EXPECT_LE(std::abs(y - to.y()), 1);
     }
 
-    // Where a card lies on the display, which shows nothing else but the table.
+    // The place of a card on the display, which shows only the table.
     std::optional<QPoint> cardOn(const QImage& shown)
     {
         const QRect changed = difference(shown, bare);

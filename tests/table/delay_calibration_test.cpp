@@ -11,7 +11,7 @@ namespace quillet::test
 namespace
 {
 
-// A machine whose rounds take what they cost, but those named take a share more or less.
+// A machine on which the named rounds take a share more or less than their cost.
 struct Machine {
     RoundCost cost;
     std::map<std::int32_t, double> disturbed = {};
@@ -58,7 +58,7 @@ TEST(DelayCalibration, aWrongEstimateCostsARoundAndDoesNotChangeTheResult)
         EXPECT_EQ(flightDelay(machine, error), 300) << error;
         EXPECT_LE(machine.spent, error < 0.5 ? 2.2 : 1.6) << "seconds, at " << error;
     }
-    // Rounds that contradict one another come to an end, too.
+    // Rounds that contradict each other also end.
     Machine nervous{usual, {{300, 0.9}, {310, 0.9}, {320, 0.9}, {330, 1.2}, {340, 1.2}}};
     EXPECT_NEAR(flightDelay(nervous), 330, 10);
     EXPECT_LE(nervous.measured.size(), 6U);
@@ -79,7 +79,7 @@ TEST(DelayCalibration, withoutTimeTheLikeliestDelayIsTaken)
 
 TEST(DelayCalibration, theBannerHasTwoThresholds)
 {
-    // A round of 0.3 to 0.5 s rises once more, but is the last.
+    // After a round of 0.3 to 0.5 s, the delay rises once more.
     for (const auto& [stored, calibrated] :
          {std::pair{0, 310}, {-25, 315}, {400, 410}, {500, 500}, {600, 600}}) {
         Machine machine{{0.0, 0.001}};

@@ -23,7 +23,7 @@ QByteArray saved(const char* format)
     return buffer.data();
 }
 
-// One red pixel after an extension block; the toolkit writes no such files.
+// One red pixel after an extension block; Qt writes no such files.
 QByteArray savedGif()
 {
     return QByteArray::fromHex("47494638396101000100800000ff0000ffffff"
