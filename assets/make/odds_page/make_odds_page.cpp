@@ -81,7 +81,8 @@ void writeMistakes(std::ostream& out, const odds::HeldCards& heldCards)
            "is\n"
            "per 100 credits bet over all deals; the last column is the cost of the costliest deal "
            "in\n"
-           "credits.\n\n"
+           "credits. Quillet Practice asks what a player gets wrong, and these are among its "
+           "questions.\n\n"
            "| the chart's row | perfect play holds | deals | cost | costliest deal | its cost |\n"
            "|---|---|---|---|---|---|\n";
     for (const charts::Mistake& mistake : charts::mistakesOf(heldCards, charts::trainersChart()))
