@@ -13,10 +13,12 @@ _quillet_odds()
     case $option in
     --format) action=(-W "text csv json") ;;
     --pays) action=(-W "9/6 9/5 8/6 8/5 7/5 6/5") ;;
+    --lines) action=(-W "3 5 10 50 100") ;;
     --chart | --card) ;;
     --sitting | --simulate | --best-chart | --bankroll | --bring | --seed) return ;;
     *) action=(-W "--mistakes --break-even --sitting --simulate --chart --best-chart --card --rows
-        --self-test --version --help --pays --all --bankroll --bring --seed --plays --format --exact") ;;
+        --self-test --version --help --pays --all --bankroll --bring --lines --seed --plays --format
+        --exact") ;;
     esac
     COMPREPLY=()
     [[ ${#action[@]} == 0 ]] || mapfile -t COMPREPLY < <(compgen "${action[@]}" -- "$word")

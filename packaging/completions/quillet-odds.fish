@@ -15,6 +15,7 @@ complete -c quillet-odds -l pays -r -F -a '9/6 9/5 8/6 8/5 7/5 6/5' -d 'The pay 
 complete -c quillet-odds -l all -d 'All 32 holds of a hand'
 complete -c quillet-odds -l bankroll -x -d 'The chance that these credits run out'
 complete -c quillet-odds -l bring -x -d 'The smallest bankroll that runs out with at most this chance'
+complete -c quillet-odds -l lines -x -a '3 5 10 50 100' -d 'A draw for each of these lines'
 complete -c quillet-odds -l seed -x -d 'Seed of the random numbers'
 complete -c quillet-odds -l plays -d 'Every deal and the chart\'s hold'
 complete -c quillet-odds -l format -x -a 'text csv json' -d 'Text, csv or json'

@@ -94,7 +94,7 @@ struct OptionKind {
 };
 
 // If an option is repeated, the last value counts.
-constexpr std::array<OptionKind, 17> optionKinds{{
+constexpr std::array<OptionKind, 18> optionKinds{{
     {"--rows"},
     {"--self-test"},
     {"--mistakes"},
@@ -113,6 +113,7 @@ constexpr std::array<OptionKind, 17> optionKinds{{
      "--sitting"},
     {"--bring", [](Request& r, Value v) { r.session.bring = percentageIn("--bring", v) / 100; },
      "--sitting"},
+    {"--lines", [](Request& r, Value v) { r.session.lines = countIn("--lines", v); }, "--sitting"},
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
 
@@ -136,7 +137,7 @@ constexpr std::array<Combination, 15> combinations{{
     {Question::plays, {"--chart", "--plays"}, "--pays"},
     {Question::breakEven, {"--break-even", hand.name}, "--pays --format --exact"},
     {Question::breakEven, {"--break-even"}, "--chart --pays --format --exact"},
-    {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll --bring"},
+    {Question::sitting, {"--sitting"}, "--chart --pays --format --bankroll --bring --lines"},
     {Question::chart, {"--chart"}, "--pays --format --exact"},
     {Question::bestChart, {"--best-chart"}, "--pays --format --exact"},
     {Question::simulation, {"--simulate"}, "--pays --format --exact --seed"},
@@ -219,6 +220,8 @@ void checkValues(const Request& request)
         throw BadUsage("with hands on standard input --exact is only for text");
     if (question == Question::sitting && request.session.hands > odds::maxRounds)
         throw BadUsage("--sitting takes no more than 10M hands");
+    if (request.session.lines > odds::maxLines)
+        throw BadUsage("--lines takes no more than 100 lines");
     if (question == Question::simulation && request.hands > odds::maxSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");
 }
@@ -290,6 +293,8 @@ Options
   --bankroll CREDITS   with --sitting: the chance that these credits run out
   --bring PERCENT      with --sitting: the smallest bankroll that runs out with
                        at most this chance
+  --lines COUNT        with --sitting: one deal and one hold a hand, and a draw
+                       for each of 1 to 100 lines
   --seed NUMBER        with --simulate: seed of the random numbers (default 1)
   --plays              with --chart: every deal and the chart's hold
   --mistakes           with --chart: the deals that this chart misplays

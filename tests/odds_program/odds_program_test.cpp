@@ -103,7 +103,8 @@ TEST(CommandLine, refusesWhatMakesNoSense)
     EXPECT_EQ(parsed("--simulate none -h").question, Question::help);
     std::istringstream refused(
         "--all|--card|--plays|--what|--seed 3|--bankroll 9|--simulate|--simulate=|--simulate 0|"
-        "--bring 5|--sitting 9 --bring 0|--sitting 9 --bring nan|--sitting 9 --bring 5x|"
+        "--bring 5|--sitting 9 --bring 0|--sitting 9 --bring nan|--sitting 9 --bring 5x|--lines "
+        "3|--sitting 9 --lines 101|"
         "--simulate=1.5|--simulate -5|--simulate 9 --seed|--simulate 1e12|--sitting 11M|"
         "--exact=yes|--format xml|--format csv - --exact|--best-chart 65|--best-chart 9..3|"
         "--card x --best-chart 1..3|--chart x --card y --mistakes|--chart x --plays --format csv");
@@ -113,11 +114,26 @@ TEST(CommandLine, refusesWhatMakesNoSense)
 
 TEST(CommandLine, takesOnlyThePairsThatMakeSense)
 {
-    const std::vector<std::string> options{
-        "9c",           "-",         "--mistakes", "--break-even", "--sitting 5",    "--simulate 5",
-        "--rows",       "--chart x", "--card x",   "--pays 8/5",   "--best-chart 3", "--all",
-        "--bankroll 5", "--bring 5", "--seed 3",   "--plays",      "--format csv",   "--exact",
-        "--self-test"};
+    const std::vector<std::string> options{"9c",
+                                           "-",
+                                           "--mistakes",
+                                           "--break-even",
+                                           "--sitting 5",
+                                           "--simulate 5",
+                                           "--rows",
+                                           "--chart x",
+                                           "--card x",
+                                           "--pays 8/5",
+                                           "--best-chart 3",
+                                           "--all",
+                                           "--bankroll 5",
+                                           "--bring 5",
+                                           "--lines 3",
+                                           "--seed 3",
+                                           "--plays",
+                                           "--format csv",
+                                           "--exact",
+                                           "--self-test"};
     std::string taken;
     for (std::size_t i = 0; i < options.size(); ++i) {
         std::string partners;
@@ -134,7 +150,8 @@ TEST(CommandLine, takesOnlyThePairsThatMakeSense)
                      "-: --pays 8/5, --all, --format csv, --exact\n"
                      "--mistakes: --chart x, --pays 8/5, --format csv, --exact\n"
                      "--break-even: --chart x, --pays 8/5, --format csv, --exact\n"
-                     "--sitting 5: --chart x, --pays 8/5, --bankroll 5, --bring 5, --format csv\n"
+                     "--sitting 5: --chart x, --pays 8/5, --bankroll 5, --bring 5, --lines 3, "
+                     "--format csv\n"
                      "--simulate 5: --pays 8/5, --seed 3, --format csv, --exact\n"
                      "--chart x: --card x, --pays 8/5, --plays, --format csv, --exact\n"
                      "--card x: --pays 8/5, --best-chart 3\n"
@@ -149,8 +166,9 @@ TEST(CommandLine, refusesHostileValuesOfEveryOption)
         "k 1e 3- 9..1 \xff 9\x7f \x1b[31m9 " +
         std::string(5000, '9'));
     for (std::string value; words >> value;) {
-        for (const char* option : {"--sitting ", "--simulate ", "--best-chart ", "--format ",
-                                   "--sitting 5 --bankroll ", "--simulate 5 --seed "})
+        for (const char* option :
+             {"--sitting ", "--simulate ", "--best-chart ", "--format ", "--sitting 5 --bankroll ",
+              "--sitting 5 --lines ", "--simulate 5 --seed "})
             expectRefused(option + value, [&] { (void)parsed(option + value); });
     }
 }
@@ -225,6 +243,9 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--sitting 2400 --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
                 testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
+    EXPECT_THAT(run("--sitting 9 --lines 10 --bankroll 99").first,
+                testing::AllOf(HasSubstr("on 10 lines,"), HasSubstr("fewer than 50 are left"),
+                               HasSubstr("\n            1        2.5913")));
     EXPECT_THAT(run("--sitting 600 --bring 5").first,
                 HasSubstr("bring               485                 490\n"
                           "  their chance of ruin        4.9344              4.8029\n"));
@@ -322,6 +343,7 @@ TEST(Program, keepsToEightyColumnsInText)
     const std::vector<std::string> all{"",
                                        "--mistakes",
                                        "--break-even",
+                                       "--sitting 10000 --lines 100",
                                        "--break-even 9cTcJcKcAd",
                                        perfect + " --sitting 1e4 --bankroll 1000 --bring 0.5",
                                        "--all 9cTcJcKcAd",
