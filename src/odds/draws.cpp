@@ -10,8 +10,8 @@ namespace quillet::odds
 namespace
 {
 
-// Draws with the same chances have the same key: a sum over the counts of the draw, and so over the
-// classes of held cards that these are counted from.
+// Draws with the same outcomes have the same key. A key is a sum over classes of held cards, as the
+// outcomes are, so only one draw of each kind has to be counted.
 class DrawKeys
 {
 public:
@@ -33,7 +33,7 @@ public:
                                                            ? m_ofOutcome[hand.dealtOutcome]
                                                            : m_ofClass[hand.classOfHold[larger]]);
         });
-        return sum * static_cast<std::uint64_t>(DealtHand::unitsPerDraw[hold]);
+        return sum;
     }
 
 private:

@@ -96,7 +96,8 @@ Round roundOf(const Draws& draws, const Pays& pays, std::int64_t lines,
         if (progress)
             progress(++done / static_cast<double>(draws.size()));
     }
-    const double sum = std::accumulate(chances.begin(), chances.end(), 0.0); // nearly 1
+    const double sum = std::accumulate(chances.begin(), chances.end(),
+                                       0.0); // millions of rounds magnify its error
     Round round{lines * wager, unit};
     for (std::size_t i = 0; i < chances.size(); ++i)
         if (isNoticeable(chances[i]))
