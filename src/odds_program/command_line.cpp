@@ -290,7 +290,8 @@ Options
                        a file
   --all                with a hand: all 32 holds
   --chart FILE         with --sitting: play by this chart, too
-  --bankroll CREDITS   with --sitting: the chance that these credits run out
+  --bankroll CREDITS   with --sitting: the chance that these credits run out:
+                       fewer are left than a hand costs on all lines
   --bring PERCENT      with --sitting: the smallest bankroll that runs out with
                        at most this chance
   --lines COUNT        with --sitting: one deal and one hold a hand, and a draw
