@@ -9,7 +9,7 @@ namespace quillet::odds
 namespace
 {
 
-// Steers the terminal, breaks the line or turns the direction of writing.
+// Controls the terminal, ends the line or changes the direction of writing.
 bool isControl(std::uint32_t code)
 {
     return code < 0x20 || (code >= 0x7f && code < 0xa0) || code == 0x200e || code == 0x200f ||

@@ -31,7 +31,7 @@ public:
     {
     }
 
-    // The weight is the number of deals, in any unit; below 0 it takes deals out again.
+    // The weight is a number of deals, in any unit; a negative one removes deals.
     void add(const DealtHand& hand, Hold hold, std::int64_t weight);
     void add(const FinalHands& others);
 

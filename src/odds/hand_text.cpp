@@ -20,12 +20,12 @@ bool isBlank(char c)
     return c == ' ' || c == '\t' || c == ',' || c == '\r';
 }
 
-// The suit at the front of the text, a letter or its sign, which is taken off; 4 for none.
+// Takes a suit, a letter or its sign, off the front of the text; 4 if there is none.
 std::size_t takeSuit(std::string_view& text)
 {
     constexpr std::array<std::string_view, 8> signs{"\u2663", "\u2666", "\u2665", "\u2660",
                                                     "\u2667", "\u2662", "\u2661", "\u2664"};
-    // Behind a sign, how it is to look: as text or as a picture.
+    // After a sign, whether it is shown as text or as a picture.
     constexpr std::array<std::string_view, 2> variations{"\ufe0e", "\ufe0f"};
     const auto starts = [&text](std::string_view sign) { return text.starts_with(sign); };
     const auto sign = std::ranges::find_if(signs, starts);

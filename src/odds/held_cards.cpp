@@ -70,14 +70,14 @@ void HeldCards::countHandsOfFours()
                 four[without] = hand[without];
         }
     });
-    // So far each class has the hands of all its members, and these have equally many.
+    // Each class now has the hands of all its members, which have the same number each.
     forEachClass(4, [this](const SuitSets& sets) {
         for (std::int32_t& count : m_counts[classOf(placesOf<4>(sets))])
             count /= classSize(sets);
     });
 }
 
-// From the sets with one card more: each hand is met once for every card that it holds beside the
+// From the sets with one card more, which count each hand once for each of its cards outside the
 // set.
 template <std::size_t Size>
 void HeldCards::countHandsOf()

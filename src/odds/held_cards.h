@@ -30,9 +30,9 @@ constexpr ChooseTable chooseTable()
 
 inline constexpr ChooseTable choose = chooseTable();
 
-// For every set of up to four cards: which hands of five contain it. What a draw brings follows
-// from these counts by inclusion and exclusion, without going through the draws. What they pay is
-// added up for one pay table.
+// For every set of up to four cards, the outcomes of all hands of five that contain it, and the sum
+// of what these pay. The outcomes of a draw follow by inclusion and exclusion, without a loop over
+// all draws.
 class HeldCards
 {
 public:

@@ -28,7 +28,7 @@ constexpr std::array<Payout, outcomeCount> payouts = [] {
 }();
 
 struct Line {
-    std::string place; // for complaints
+    std::string place; // for messages
     std::string_view text;
 };
 
@@ -98,7 +98,7 @@ std::vector<std::int64_t> numbersIn(const Line& line)
     return numbers;
 }
 
-// Those that are more than blanks and comments.
+// The lines with more than blanks and comments.
 std::vector<Line> linesIn(std::string_view text)
 {
     std::vector<Line> lines;

@@ -90,7 +90,7 @@ Simulation simulate(const HeldCards& heldCards, const Player& player, std::uint6
                     std::int64_t hands, unsigned threads,
                     const std::function<void(std::int64_t)>& progress)
 {
-    // Each block of hands has draws of its own, whoever plays it.
+    // Each block of hands has its own random numbers, whichever thread plays it.
     constexpr std::int64_t block = 1 << 14;
     const std::int64_t blocks = (hands + block - 1) / block;
     std::atomic<std::int64_t> nextBlock = 0;

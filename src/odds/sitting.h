@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::int64_t unit() const { return m_unit; }
     // The chance of a result from `least` to `most`, both included.
     [[nodiscard]] double chanceOf(std::int64_t least, std::int64_t most) const;
-    // The least result that this share of the sittings does not exceed.
+    // The smallest result that at least this share of the sittings does not exceed.
     [[nodiscard]] std::int64_t quantile(double share) const;
 
 private:

@@ -18,8 +18,8 @@ std::array<std::vector<unsigned>, 6> setsBySize()
     return sets;
 }
 
-// Of the orders of the suits that make the same class it takes the one in which no suit holds
-// more cards than the suit before it and, of suits with as many, none a set that comes earlier.
+// Visits one order of the suits for each class: no suit has more cards than the suit before it, and
+// if it has as many, its set does not come earlier.
 class ClassVisitor
 {
 public:
@@ -62,8 +62,8 @@ void forEachClass(int size, const std::function<void(SuitSets)>& visit)
 
 int classSize(const SuitSets& sets)
 {
-    // Of the 24 orders of four suits fewer differ when suits hold the same ranks: by pairs of equal
-    // suits none, one, two pairs, three alike, all four.
+    // How many of the 24 orders of the suits differ, by the number of pairs of suits with the same
+    // ranks. Three suits alike are three pairs, four are six.
     constexpr std::array<int, 7> ordersByEqualPairs{24, 12, 6, 4, 0, 0, 1};
     std::size_t equalPairs = 0;
     for (std::size_t i = 0; i < sets.size(); ++i) {

@@ -14,7 +14,7 @@ namespace quillet::odds
 {
 
 // Sets of cards that become the same when suits change names form one class. Every member of a
-// class has the same odds, and the 2,598,960 hands are but 134,459 classes.
+// class has the same odds, and the 2,598,960 hands form 134,459 classes.
 
 // The place of a card when the deck is sorted by suit, then rank: 0..51.
 using DeckPlace = std::uint8_t;
@@ -40,7 +40,7 @@ inline constexpr std::array<Card, 52> deckBySuit = [] {
 
 [[nodiscard]] DeckPlace placeOf(const Card& card);
 
-// The ranks held in each suit; bit 0 stands for the ace.
+// The ranks held in each suit; bit 0 is the ace.
 using SuitSets = std::array<unsigned, 4>;
 
 // The places of the cards, ascending, written to the front of the array.
@@ -62,7 +62,7 @@ std::array<DeckPlace, Size> placesOf(const SuitSets& sets)
 // one member of the class.
 void forEachClass(int size, const std::function<void(SuitSets)>& visit);
 
-// Calls visit for every member of the class; the sets come and go in any order of suits.
+// Calls visit for every member of the class. The order of the suits in `sets` does not matter.
 template <typename Visit>
 void forEachMember(SuitSets sets, const Visit& visit)
 {

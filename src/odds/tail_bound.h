@@ -29,7 +29,7 @@ private:
         double value;
     };
 
-    std::int64_t m_most; // in one round
+    std::int64_t m_max; // in one round
     std::vector<Cumulant> m_cumulants;
 };
 
