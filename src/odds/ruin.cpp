@@ -20,9 +20,9 @@ namespace
 
 constexpr double maxSteps = 3e12; // some minutes
 
-// Turns the chances of ruin in some rounds into those in one round more. They are by bankroll in
-// units; larger bankrolls are safe. Each is the mean over the wins of the first round, as a sum or,
-// if there are many wins, as a product of spectra.
+// Turns the chances of ruin in some rounds, by bankroll in units, into those in one round more.
+// Larger bankrolls are safe. A new chance is the mean of the old ones after each win: a sum or,
+// with many wins, a product of spectra.
 class OneMoreRound
 {
 public:
@@ -33,11 +33,11 @@ public:
             m_wins.push_back({static_cast<std::size_t>(win.credits / unit), win.chance});
     }
 
-    // The additions for this number of chances.
+    // The additions for each chance of this number. The factor of a product is measured.
     [[nodiscard]] double steps(std::size_t size) const
     {
-        return static_cast<double>(size) *
-               std::min(static_cast<double>(m_wins.size()), stepsOfProduct(size));
+        return std::min(static_cast<double>(m_wins.size()),
+                        50 * std::log2(static_cast<double>(size)));
     }
 
     void play(std::vector<double>& chances);
@@ -47,12 +47,6 @@ private:
         std::size_t units;
         double chance;
     };
-
-    // For each chance; measured.
-    static double stepsOfProduct(std::size_t size)
-    {
-        return 50 * std::log2(static_cast<double>(size));
-    }
 
     void sum(std::vector<double>& chances);
     void multiply(std::vector<double>& chances);
@@ -67,10 +61,10 @@ private:
 
 void OneMoreRound::play(std::vector<double>& chances)
 {
-    if (static_cast<double>(m_wins.size()) < stepsOfProduct(chances.size()))
-        sum(chances);
-    else
+    if (steps(chances.size()) < static_cast<double>(m_wins.size()))
         multiply(chances);
+    else
+        sum(chances);
 }
 
 void OneMoreRound::sum(std::vector<double>& chances)
@@ -122,7 +116,9 @@ Ruin::Ruin(const Round& round, std::int64_t rounds, const WorkProgress& progress
         return static_cast<std::size_t>((loss.after(played) + round.cost) / m_unit + 1);
     };
     OneMoreRound oneMoreRound(round, m_unit);
-    if (oneMoreRound.steps(sizeFor(rounds)) * static_cast<double>(rounds) > maxSteps)
+    const std::size_t size = sizeFor(rounds);
+    if (oneMoreRound.steps(size) * static_cast<double>(size) * static_cast<double>(rounds) >
+        maxSteps)
         throw BadInput("a bankroll takes too long for " + std::to_string(rounds) +
                        " hands with these pays; try a tenth of them");
     const std::int64_t block = std::max<std::int64_t>(rounds / 100, 1);
