@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace quillet::charts
 {
@@ -62,25 +63,36 @@ Row rowIn(std::string_view text, std::size_t line)
     return row;
 }
 
+void addLine(Chart& chart, std::string_view line, std::size_t number)
+{
+    if (line.empty())
+        return;
+    bool sharesLine = line.front() == '/' && !chart.empty();
+    std::size_t start = sharesLine ? 1 : 0;
+    do {
+        if (chart.size() == maxRows)
+            failAt(number, "a chart has no more than " + std::to_string(maxRows) + " rows");
+        const std::size_t end = line.find('/', start);
+        chart.push_back(rowIn(line.substr(start, end - start), number));
+        chart.back().sharesLine = std::exchange(sharesLine, true);
+        start = end == std::string_view::npos ? end : end + 1;
+    } while (start != std::string_view::npos);
+}
+
 } // namespace
 
 Chart parseChart(std::string_view text)
 {
     Chart chart;
-    for (std::size_t line = 1; !text.empty(); ++line) {
+    for (std::size_t number = 1; !text.empty(); ++number) {
         const std::size_t end = text.find('\n');
-        std::string_view row = text.substr(0, end);
-        row = withoutBlanks(row.substr(0, row.find('#')));
+        const std::string_view line = text.substr(0, end);
+        addLine(chart, withoutBlanks(line.substr(0, line.find('#'))), number);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        if (row.empty())
-            continue;
-        if (chart.size() == maxRows)
-            failAt(line, "a chart has no more than " + std::to_string(maxRows) + " rows");
-        chart.push_back(rowIn(row, line));
     }
     if (chart.empty())
         throw odds::BadInput("there is no row in it");
-    if (chart.back() != Row{nothingRow()}) {
+    if (chart.back().kind != nothingRow() || chart.back().discards != 0) {
         if (chart.size() == maxRows)
             throw odds::BadInput("there is no room left for the last row, \"nothing\"");
         chart.push_back({nothingRow()});
@@ -113,9 +125,33 @@ std::string rowText(const Row& row)
 
 std::string chartText(const Chart& chart)
 {
+    constexpr std::size_t width = 80;
     std::string text;
-    for (const Row& row : chart)
-        text += rowText(row) + '\n';
+    std::size_t start = 0; // of the last of its lines
+    for (const Row& row : chart) {
+        const std::string name = rowText(row);
+        const std::string_view between = row.sharesLine ? " / " : "";
+        if (!row.sharesLine || text.size() + between.size() + name.size() > start + width) {
+            text += text.empty() ? "" : "\n";
+            start = text.size();
+            text += row.sharesLine ? "   " : "";
+        }
+        text.append(between).append(name);
+    }
+    return text + '\n';
+}
+
+std::size_t lineCount(const Chart& chart)
+{
+    return static_cast<std::size_t>(std::ranges::count(chart, false, &Row::sharesLine));
+}
+
+std::string countText(const Chart& chart)
+{
+    const std::size_t lines = lineCount(chart);
+    std::string text = std::to_string(lines) + (lines == 1 ? " line" : " lines");
+    if (lines < chart.size())
+        text.append(" (").append(std::to_string(chart.size())).append(" rows)");
     return text;
 }
 

@@ -46,9 +46,11 @@ bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
 
 ChartPlayer::ChartPlayer(const Chart& chart) : m_chart(chart)
 {
-    assert(!chart.empty() && chart.size() <= maxRows && chart.back() == Row{nothingRow()});
-    for (std::size_t row = 0; row < chart.size(); ++row)
+    assert(!chart.empty() && chart.size() <= maxRows && chart.back().kind == nothingRow());
+    for (std::size_t row = 0; row < chart.size(); ++row) {
         m_rowsOfFive |= RowSet{rowKinds()[chart[row].kind].cards == 5} << row;
+        m_line[row] = row == 0 ? 0 : m_line[row - 1] + (chart[row].sharesLine ? 0 : 1);
+    }
     m_rowsOfClass.reserve(factsByClass().size());
     for (const HoldFacts& held : factsByClass())
         m_rowsOfClass.push_back(rowsThatFit(held, ~RowSet{0} >> (64 - chart.size())));
@@ -75,17 +77,20 @@ Play ChartPlayer::play(const odds::DealtHand& hand) const
     }
     rows[odds::holdAll] = rowsThatFit(factsOf(hand, odds::holdAll), m_rowsOfFive);
     any |= rows[odds::holdAll];
+    Play play;
     for (; any != 0; any &= any - 1) {
-        Play play{static_cast<std::size_t>(std::countr_zero(any)), 0};
+        const auto row = static_cast<std::size_t>(std::countr_zero(any));
+        if (play.fitting != 0 && m_line[row] != m_line[play.row])
+            break;
+        if (play.fitting == 0)
+            play.row = row;
         for (odds::Hold hold = 0; hold < odds::holds; ++hold) {
-            if ((rows[hold] >> play.row & 1U) != 0 && allows(m_chart[play.row], hand, hold))
+            if ((rows[hold] >> row & 1U) != 0 && allows(m_chart[row], hand, hold))
                 play.fitting |= odds::HoldSet{1} << hold;
         }
-        if (play.fitting != 0)
-            return play;
     }
-    assert(false); // the last row fits every deal
-    return {};
+    assert(play.fitting != 0); // the last row fits every deal
+    return play;
 }
 
 } // namespace quillet::charts

@@ -12,18 +12,18 @@ namespace quillet::charts
 
 // How a chart plays one deal.
 struct Play {
-    std::size_t row = 0; // of the chart
-    odds::HoldSet fitting = 0;
+    std::size_t row = 0;       // of the chart, the first that fits
+    odds::HoldSet fitting = 0; // that or another row of its line
 };
 
-// Finds the row by which a chart plays a deal.
+// Finds the row and its line by which a chart plays a deal.
 class ChartPlayer
 {
 public:
     explicit ChartPlayer(const Chart& chart);
 
     [[nodiscard]] Play play(const odds::DealtHand& hand) const;
-    // Of the holds that fit the row, the one that is worth most.
+    // Of the holds that fit, the one that is worth most.
     [[nodiscard]] odds::Hold bestHold(const odds::DealtHand& hand) const
     {
         return hand.bestOf(play(hand).fitting);
@@ -37,7 +37,8 @@ private:
 
     const Chart m_chart;
     std::vector<RowSet> m_rowsOfClass;
-    RowSet m_rowsOfFive = 0; // that keep five cards
+    RowSet m_rowsOfFive = 0;                   // that keep five cards
+    std::array<std::size_t, maxRows> m_line{}; // by row
 };
 
 // Whether a hold whose cards fit the row may be held after a look at the cards thrown away.

@@ -1,5 +1,7 @@
 #include "charts/chart_price.h"
 
+#include "odds/bad_input.h"
+
 #include <bit>
 
 namespace quillet::charts
@@ -22,6 +24,9 @@ void forEachTaken(const PlayedDeal& deal, Taken taken, const Visit& visit)
     case Taken::worst:
         return visit(deal.worstHold, shares);
     case Taken::any:
+        if (shares % deal.choices != 0)
+            throw odds::BadInput("so many holds of one deal fit one line of the chart that \"any "
+                                 "choice\" cannot be computed; put its rows on several lines");
         odds::forEachHold(deal.play.fitting,
                           [&](odds::Hold hold) { visit(hold, shares / deal.choices); });
     }

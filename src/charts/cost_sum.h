@@ -18,9 +18,9 @@ struct CostliestDeal {
 class CostSum
 {
 public:
-    // Divisible by every number of holds that can fit a row, 1 to 10, so that each gets a whole
+    // Divisible by the numbers of holds that can fit a line, 1 to 16, so that each gets a whole
     // share of a deal.
-    static constexpr std::int64_t shares = 2520;
+    static constexpr std::int64_t shares = 720720;
 
     // Takes the cost of one deal in shares of a worth unit, and how many such deals there are.
     // Returns whether it is the costliest so far.

@@ -47,7 +47,8 @@ constexpr std::array<DiscardKind, 22> kinds{{
     {"no lower high", "Every ace or face is higher than the kept ones; the ace is the highest.",
      [](T t) { return t.highsAbove; }},
 }};
-static_assert(kinds.size() <= 32 && DiscardSet{1} << (kinds.size() - 1) == noLowerHigh);
+static_assert(kinds.size() <= 32);
+static_assert(noPair << 1U == noLowerHigh && DiscardSet{1} << (kinds.size() - 1) == noLowerHigh);
 
 // Aces and faces only, with the ace above the king.
 constexpr RankSet highsInOrder(RankSet ranks)

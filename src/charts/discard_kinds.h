@@ -32,6 +32,9 @@ struct DiscardKind {
 // Bit k stands for the k-th of discardKinds().
 using DiscardSet = std::uint32_t;
 
+// The cards thrown away are of different ranks: "no pair".
+inline constexpr DiscardSet noPair = 1U << 20;
+
 // That of the hand's aces and faces the lowest are kept: "no lower high".
 inline constexpr DiscardSet noLowerHigh = 1U << 21;
 

@@ -75,9 +75,9 @@ std::string scooped(double inset, std::string_view fill, std::string_view stroke
                {path, fill, stroke});
 }
 
-std::string rowsText(const Chart& chart)
+std::string linesText(const Chart& chart)
 {
-    return std::to_string(chart.size()) + (chart.size() == 1 ? " row" : " rows, best first");
+    return charts::countText(chart) + (chart.size() == 1 ? "" : ", best first");
 }
 
 std::string returnText(const ChartPrice& price)
@@ -100,7 +100,7 @@ void writePlate(std::ostream& out, const Chart& chart, const ChartPrice& price)
     out << scooped(0, plate, "none") << scooped(1.4, "none", darkBrass)
         << drawnLine({"Quillet", 8, ivory, 0.08}, left, margin + 14.6, half)
         << drawnLine({"Jacks or better", 2.9, brass, 0.2}, left + 0.6, margin + 20.4, half)
-        << drawnLine({rowsText(chart), 4, ivory, 0.05}, middle, margin + 10, half, atRight)
+        << drawnLine({linesText(chart), 4, ivory, 0.05}, middle, margin + 10, half, atRight)
         << drawnLine({returnText(price), 2.6, brass, 0.05}, middle, margin + 15.8, half, atRight)
         << drawnLine({lossText(price), 2.6, brass, 0.05}, middle, margin + 20.4, half, atRight);
 }
@@ -126,15 +126,18 @@ void writeHand(std::ostream& out, const RowExample& example, double top, double 
     }
 }
 
-void writeRow(std::ostream& out, const std::string& name, std::size_t number,
+// The rows of a line have one colour and one number, on the first of them.
+void writeRow(std::ostream& out, const charts::Row& row, std::size_t line,
               const std::optional<RowExample>& example, double top, double height)
 {
-    const RowColours& colours = rowColours[(number - 1) % rowColours.size()];
+    const RowColours& colours = rowColours[(line - 1) % rowColours.size()];
+    const std::string name = charts::rowText(row);
+    const std::string number = std::to_string(line);
     const double letters = std::min(3.4, 0.42 * height);
     const double baseline = top + (height + letters) / 2;
     out << "<g class=\"row\"><title>" << number << ". " << name << "</title>\n"
         << rectangle(namesLeft, top, namesRight - namesLeft, height, colours.ground)
-        << drawnLine({std::to_string(number), 0.9 * letters, brass}, margin + 1, baseline,
+        << drawnLine({row.sharesLine ? "" : number, 0.9 * letters, brass}, margin + 1, baseline,
                      namesLeft - margin - 3, atRight)
         << drawnLine({name, letters, colours.letters, 0.03}, namesLeft + 2.5, baseline,
                      namesRight - namesLeft - 4.5);
@@ -162,7 +165,7 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
 {
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"210mm\" height=\"297mm\" "
            "viewBox=\"0 0 210 297\">\n<title>"
-        << rowsText(chart) << ". " << returnText(price) << ". " << lossText(price)
+        << linesText(chart) << ". " << returnText(price) << ". " << lossText(price)
         << ".</title>\n<desc>" << payLine(pays) << "</desc>\n<defs>\n"
         << svgDefinitions() << "</defs>\n"
         << rectangle(0, 0, pageWidth, pageHeight, paper);
@@ -172,10 +175,13 @@ void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& pri
     const double bottom = rowsTop + height * static_cast<double>(chart.size());
     out << rectangle(margin, rowsTop, namesLeft - margin, bottom - rowsTop, wood);
     double top = rowsTop;
-    for (std::size_t row = 0; row < chart.size(); ++row, top += height)
-        writeRow(out, charts::rowText(chart[row]), row + 1, examples[row], top, height);
+    std::size_t line = 0;
+    for (std::size_t row = 0; row < chart.size(); ++row, top += height) {
+        line += chart[row].sharesLine ? 0 : 1;
+        writeRow(out, chart[row], line, examples[row], top, height);
+    }
     constexpr std::string_view rules =
-        "Play the first row that fits and throw the pale cards away. "
+        "Play the first line that fits and throw the pale cards away. "
         "If several holds fit it, the return counts the worst.";
     constexpr double width = right - margin;
     out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none", wood)

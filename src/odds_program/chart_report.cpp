@@ -29,7 +29,9 @@ void listKinds(std::ostream& out, const Kinds& kinds)
 void reportRowKinds(std::ostream& out)
 {
     listKinds(out, charts::rowKinds());
-    out << "\nAfter a semicolon a row may list conditions on the discards, with commas between\n"
+    out << "\nRows that the player may choose between share a line, with slashes between\n"
+           "them, such as \"straight flush / 4 of a kind\".\n\nAfter a semicolon a row may list "
+           "conditions on the discards, with commas between\n"
            "them, such as \"4 to a flush; no high, a 10\":\n\n";
     listKinds(out, charts::discardKinds());
 }
@@ -54,10 +56,13 @@ Table returnsTable(const ChartPrice& price)
 
 Report chartReport(const Chart& chart, const ChartPrice& price)
 {
+    std::string intro = "\n" + charts::countText(chart);
+    intro += ". The loss of each row per 100 credits over all deals,\n"
+             "taking the worst hold that fits its line, and its costliest deal\n\n";
     Table rows{"rows",
-               "\nThe loss of each row per 100 credits over all deals, taking the worst hold that\n"
-               "fits, and its costliest deal\n\n",
+               intro,
                {{"row", "Row"},
+                {"line", "Line"},
                 {"deals", "Deals"},
                 {"loss of best", ""},
                 {"loss of any", ""},
@@ -65,9 +70,11 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
                 {"costliest deal", "Costliest deal"},
                 {"costs", ""}}};
     std::string idle;
+    std::int64_t line = 0;
     for (std::size_t row = 0; row < chart.size(); ++row) {
+        line += chart[row].sharesLine ? 0 : 1;
         const RowPrice& priced = price.rows[row];
-        std::vector<Cell> cells{charts::rowText(chart[row]), priced.deals};
+        std::vector<Cell> cells{charts::rowText(chart[row]), line, priced.deals};
         for (const odds::Fraction& loss : priced.loss)
             cells.emplace_back(percent(loss, 6));
         const charts::CostliestDeal& costliest = priced.costliest[Taken::worst];
@@ -86,9 +93,9 @@ Report chartReport(const Chart& chart, const ChartPrice& price)
 void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
     const odds::Fraction& returned = price.played[Taken::worst].returned;
-    out << "# " << chart.size() << (chart.size() == 1 ? " row." : " rows.")
-        << " Of every 100 credits bet it loses " << (price.loss(Taken::worst) * 100).decimals(6)
-        << " against\n# perfect play, taking the worst of the holds that fit a row. It returns\n# "
+    out << "# " << charts::countText(chart) << ". Of every 100 credits bet it loses "
+        << (price.loss(Taken::worst) * 100).decimals(6)
+        << "\n# against perfect play, taking the worst of the holds that fit. It returns\n# "
         << (returned * 100).decimals(8) << " % (" << returned.text() << ").\n"
         << charts::chartText(chart);
 }

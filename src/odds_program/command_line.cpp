@@ -274,8 +274,8 @@ Questions, one at a time
   --sitting HANDS      how a session of that many hands turns out
   --simulate HANDS     play that many hands with the trainer's own shuffle,
                        which is not fair
-  --chart FILE         what a chart of your own costs: one row per line, best
-                       first; # starts a comment
+  --chart FILE         what a chart of your own costs: best line first; # starts
+                       a comment, / is between rows that share a line
   --best-chart ROWS    the best chart found with at most that many rows, as a
                        chart file; 1..30: the loss for each number of rows
   --card FILE          write the trainer's chart, or that of --chart or

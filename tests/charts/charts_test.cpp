@@ -53,6 +53,12 @@ TEST(Chart, isReadAsAPersonWritesIt)
     EXPECT_EQ(complaintAbout("ace; no high, no flsh card"),
               "line 1: there is no condition \"no flsh card\"; the nearest are \"no flush card\", "
               "\"a flush card\", \"no straight card\"");
+    const std::string lines = "4 to a flush; no high, a 10 / 4 to a straight flush / 2 pair\n"
+                              "    / high pair; no straight card, no 8\nace / nothing\n";
+    EXPECT_EQ(chartText(parseChart(lines)), lines);
+    EXPECT_EQ(countText(parseChart(lines)), "2 lines (6 rows)");
+    for (const char* text : {"ace /", "ace // king", "/ ace", "ace\n/", "ace; /"})
+        EXPECT_THAT(complaintAbout(text), testing::HasSubstr("there is no ")) << text;
     EXPECT_EQ(complaintAbout("# only\n"), "there is no row in it");
     std::string longChart;
     for (int i = 0; i < 65; ++i)
@@ -137,6 +143,29 @@ TEST(ChartPrice, comesOutAsKnown)
               "1124368505591/2491653814650 694513553037/1550362373560 740572318141/1661102543100 ");
     EXPECT_EQ(returns(trainersChart(), "8/5"),
               "146713092989/151009322100 176011809163/181211186520 36664479976/37752330525 ");
+}
+
+TEST(Chart, letsThePlayerChooseAmongTheRowsOfALine)
+{
+    const auto player = [](const char* text) { return ChartPlayer(parseChart(text)); };
+    const ChartPlayer line = player("1 high / ace; a king / low pair\nnothing"),
+                      high = player("1 high\nnothing"), low = player("low pair\nnothing");
+    odds::forEachDeal(heldCards(), [&](const odds::DealtHand& hand, int) {
+        odds::HoldSet either = 0;
+        for (const ChartPlayer* alone : {&high, &low}) {
+            const Play play = alone->play(hand);
+            either |= play.row == 0 ? play.fitting : 0;
+        }
+        ASSERT_EQ(line.play(hand).fitting, either == 0 ? 1U : either);
+    });
+    Chart apart = chartIn("perfect.chart");
+    EXPECT_EQ(countText(apart), "26 lines (34 rows)");
+    for (Row& row : apart)
+        row.sharesLine = false;
+    EXPECT_EQ(priceChart(heldCards(), apart).loss(Taken::worst), odds::Fraction());
+    EXPECT_THROW((void)priceChart(heldCards(), parseChart("1 high / 2 high / 3 high / 4 high / "
+                                                          "high pair / 3 of a kind / nothing")),
+                 odds::BadInput);
 }
 
 TEST(Chart, withoutLossPlaysAllDealsPerfectly)

@@ -74,6 +74,7 @@ TEST(ChartCard, hasEveryRowAndTheReturn)
     std::ostringstream file;
     writeChartFile(file, charts::trainersChart(),
                    charts::priceChart(heldCards(), charts::trainersChart()));
+    EXPECT_THAT(file.str(), testing::StartsWith("# 21 lines. Of every 100"));
     EXPECT_THAT(file.str(), HasSubstr("It returns\n# 99.29491793"));
 }
 
