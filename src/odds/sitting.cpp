@@ -39,7 +39,8 @@ Sitting::Sitting(const Round& round, std::int64_t rounds, const WorkProgress& pr
     : m_unit(round.unit), m_paid(rounds * round.cost)
 {
     assert(rounds >= 1 && rounds <= maxRounds);
-    const TailBound win(round, 1, 0), loss(round, -1, round.cost);
+    const TailBound win(round, 1, 0);
+    const TailBound loss(round, -1, round.cost);
     const auto resultsOf = [&](std::int64_t some) {
         const std::int64_t least = some * round.cost - loss.after(some);
         return static_cast<std::size_t>((win.after(some) - least) / m_unit + 2);
@@ -65,7 +66,7 @@ void Sitting::compute(const Round& round, std::int64_t rounds, const WorkProgres
     const Transform transform(size);
     std::vector<Complex> values(size);
     for (const auto& [credits, chance] : round.wins)
-        values[static_cast<std::size_t>(credits / m_unit) % size] += chance;
+        values[static_cast<std::size_t>(credits / m_unit) & (size - 1)] += chance;
     transform.toSpectrum(values);
     for (std::size_t k = 0; k < size; ++k) {
         values[k] = power(values[k], rounds);
@@ -73,10 +74,11 @@ void Sitting::compute(const Round& round, std::int64_t rounds, const WorkProgres
             progress(static_cast<double>(k) / static_cast<double>(size));
     }
     transform.fromSpectrum(values);
-    for (std::size_t i = 0; i < m_chance.size(); ++i)
-        m_chance[i] = std::max(
-            0.0, static_cast<double>(values[(static_cast<std::size_t>(m_first) + i) % size].real() /
-                                     static_cast<long double>(size)));
+    for (std::size_t i = 0; i < m_chance.size(); ++i) {
+        const Complex& sum = values[(static_cast<std::size_t>(m_first) + i) & (size - 1)];
+        m_chance[i] =
+            std::max(0.0, static_cast<double>(sum.real() / static_cast<long double>(size)));
+    }
 }
 
 double Sitting::chanceOf(std::int64_t least, std::int64_t most) const

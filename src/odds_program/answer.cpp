@@ -142,7 +142,8 @@ void answerHandsFromInput(const Inputs& in, std::ostream& out)
 Report answerSitting(const Inputs& in)
 {
     ProgressBar bar;
-    const charts::ChartPlayer trainers(charts::trainersChart()), own(in.chart);
+    const charts::ChartPlayer trainers(charts::trainersChart());
+    const charts::ChartPlayer own(in.chart);
     const auto playerOf = [](const charts::ChartPlayer& chart) {
         return [&chart](const odds::DealtHand& hand) { return chart.bestHold(hand); };
     };
