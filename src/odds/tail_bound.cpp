@@ -13,8 +13,8 @@ TailBound::TailBound(const Round& round, std::int64_t sign, std::int64_t offset)
         double sum = 0;
         for (const auto& [credits, chance] : round.wins)
             sum += chance * std::exp(slope * static_cast<double>(sign * credits + offset - m_max));
-        m_cumulants.push_back(
-            {slope, std::max(slope * static_cast<double>(m_max) + std::log(sum), 0.0)});
+        m_cumulants.emplace_back(slope,
+                                 std::max(slope * static_cast<double>(m_max) + std::log(sum), 0.0));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "odds/round.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace quillet::odds
@@ -23,14 +24,9 @@ public:
     [[nodiscard]] std::int64_t after(std::int64_t rounds) const;
 
 private:
-    // The logarithm of the mean of e^(slope * credits), for one round.
-    struct Cumulant {
-        double slope;
-        double value;
-    };
-
     std::int64_t m_max; // in one round
-    std::vector<Cumulant> m_cumulants;
+    // Slopes, each with the logarithm of the mean of e^(slope * credits) for one round.
+    std::vector<std::pair<double, double>> m_cumulants;
 };
 
 } // namespace quillet::odds

@@ -42,14 +42,14 @@ std::int64_t countIn(std::string_view option, std::string_view word)
 }
 
 // "5", "0.1" or "5%", in percent.
-double percentageIn(std::string_view option, std::string_view word)
+double percentageIn(std::string_view word)
 {
     const std::string_view digits = word.substr(0, word.size() - (word.ends_with('%') ? 1 : 0));
     double number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size() ||
         !(number >= 0.0001 && number <= 99))
-        needs(option, "a percentage, 0.0001 to 99", word);
+        needs("--bring", "a percentage, 0.0001 to 99", word);
     return number;
 }
 
@@ -111,8 +111,7 @@ constexpr std::array<OptionKind, 18> optionKinds{{
     {"--all", nullptr, "hands"},
     {"--bankroll", [](Request& r, Value v) { r.session.bankroll = countIn("--bankroll", v); },
      "--sitting"},
-    {"--bring", [](Request& r, Value v) { r.session.bring = percentageIn("--bring", v) / 100; },
-     "--sitting"},
+    {"--bring", [](Request& r, Value v) { r.session.bring = percentageIn(v) / 100; }, "--sitting"},
     {"--lines", [](Request& r, Value v) { r.session.lines = countIn("--lines", v); }, "--sitting"},
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
