@@ -5,7 +5,7 @@ complete -c quillet-odds -l break-even -d 'The royal at which perfect play retur
 complete -c quillet-odds -l sitting -x -d 'How a session of that many hands turns out'
 complete -c quillet-odds -l simulate -x -d "Play that many hands with the trainer's own shuffle"
 complete -c quillet-odds -l chart -r -F -d 'What a chart of your own costs'
-complete -c quillet-odds -l best-chart -x -d 'The best chart found with at most that many rows'
+complete -c quillet-odds -l best-chart -x -d 'The best chart found with at most that many lines'
 complete -c quillet-odds -l card -r -F -d 'Write a chart as a page to print'
 complete -c quillet-odds -l rows -d 'The rows that a chart can have'
 complete -c quillet-odds -l self-test -d 'Check tables and computations against the rules'

@@ -176,14 +176,14 @@ Report answerSimulation(const Inputs& in)
 void answerBestChart(const Inputs& in, std::ostream& out)
 {
     charts::ChartSearch search(in.heldCards);
-    const std::size_t count = in.request.maxRows - in.request.minRows + 1;
+    const std::size_t count = in.request.maxLines - in.request.minLines + 1;
     std::vector<PricedChart> found;
     ProgressBar bar;
-    for (std::size_t rows = in.request.minRows; rows <= in.request.maxRows; ++rows) {
-        const charts::Chart chart = search.best(rows, [&](double share) {
+    for (std::size_t lines = in.request.minLines; lines <= in.request.maxLines; ++lines) {
+        const charts::Chart chart = search.best(lines, [&](double share) {
             bar.show((static_cast<double>(found.size()) + share) / static_cast<double>(count));
         });
-        found.push_back({rows, chart, charts::priceChart(in.heldCards, chart)});
+        found.push_back({lines, chart, charts::priceChart(in.heldCards, chart)});
     }
     if (count == 1)
         writeChartFile(out, found.front().chart, found.front().price);
@@ -194,9 +194,9 @@ void answerBestChart(const Inputs& in, std::ostream& out)
 void answerCard(const Inputs& in)
 {
     ProgressBar bar;
-    const std::size_t rows = in.request.maxRows;
+    const std::size_t lines = in.request.maxLines;
     const charts::Chart chart =
-        rows == 0 ? in.chart : charts::ChartSearch(in.heldCards).best(rows, [&bar](double share) {
+        lines == 0 ? in.chart : charts::ChartSearch(in.heldCards).best(lines, [&bar](double share) {
             bar.show(share);
         });
     std::ostringstream page;

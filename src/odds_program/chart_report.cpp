@@ -103,11 +103,12 @@ void writeChartFile(std::ostream& out, const Chart& chart, const ChartPrice& pri
 Report bestChartsReport(const std::vector<PricedChart>& found)
 {
     Table table{"best charts",
-                "Loss per 100 credits of the best chart found with each number of rows, taking\n"
-                "the worst of the holds that fit a row\n\n",
-                {{"rows", "Rows"}, {"used", "Used"}, {"loss", "Loss"}}};
+                "Loss per 100 credits of the best chart found with at most that many lines,\n"
+                "taking the worst of the holds that fit a line\n\n",
+                {{"lines", "Lines"}, {"used", "Used"}, {"rows", "Rows"}, {"loss", "Loss"}}};
     for (const PricedChart& priced : found)
-        table.rows.push_back({static_cast<std::int64_t>(priced.rows),
+        table.rows.push_back({static_cast<std::int64_t>(priced.lines),
+                              static_cast<std::int64_t>(charts::lineCount(priced.chart)),
                               static_cast<std::int64_t>(priced.chart.size()),
                               percent(priced.price.loss(Taken::worst), 6)});
     return {table};

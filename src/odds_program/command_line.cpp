@@ -73,16 +73,16 @@ Format formatIn(std::string_view word)
 }
 
 // Reads "24" or "1..30".
-void takeRows(Request& request, std::string_view word)
+void takeLines(Request& request, std::string_view word)
 {
     const auto dots = word.find("..");
     const auto min = countIn("--best-chart", word.substr(0, dots));
     const auto max =
         dots == std::string_view::npos ? min : countIn("--best-chart", word.substr(dots + 2));
     if (max > static_cast<std::int64_t>(charts::maxRows) || min > max)
-        needs("--best-chart", "a number of rows, 1 to 64, or two such as 1..30", word);
-    request.minRows = static_cast<std::size_t>(min);
-    request.maxRows = static_cast<std::size_t>(max);
+        needs("--best-chart", "a number of lines, 1 to 64, or two such as 1..30", word);
+    request.minLines = static_cast<std::size_t>(min);
+    request.maxLines = static_cast<std::size_t>(max);
 }
 
 using Value = std::string_view;
@@ -103,7 +103,7 @@ constexpr std::array<OptionKind, 18> optionKinds{{
     {"--sitting", [](Request& r, Value v) { r.session.hands = countIn("--sitting", v); }},
     {"--simulate", [](Request& r, Value v) { r.hands = countIn("--simulate", v); }},
     {"--chart", [](Request& r, Value v) { r.chartFile = v; }},
-    {"--best-chart", [](Request& r, Value v) { takeRows(r, v); }},
+    {"--best-chart", [](Request& r, Value v) { takeLines(r, v); }},
     {"--card", [](Request& r, Value v) { r.cardFile = v; }},
     {"--pays", [](Request& r, Value v) { r.pays = v; }},
     {"--format", [](Request& r, Value v) { r.style.format = formatIn(v); }},
@@ -207,14 +207,14 @@ void takeValue(Request& request, const Given& given)
 void checkValues(const Request& request)
 {
     const Question question = request.question;
-    const bool oneChart = request.minRows == request.maxRows;
+    const bool oneChart = request.minLines == request.maxLines;
     const bool data = request.style.format != Format::text;
     const bool exact = request.style.exact;
     if (question == Question::card && !oneChart)
-        throw BadUsage("--card needs a single number of rows");
+        throw BadUsage("--card needs a single number of lines");
     if (question == Question::bestChart && oneChart && (data || exact))
         throw BadUsage(
-            "--format and --exact cannot be used with --best-chart for a single number of rows");
+            "--format and --exact cannot be used with --best-chart for a single number of lines");
     if (question == Question::handsFromInput && data && exact)
         throw BadUsage("with hands on standard input --exact is only for text");
     if (question == Question::sitting && request.session.hands > odds::maxRounds)
@@ -275,8 +275,8 @@ Questions, one at a time
                        which is not fair
   --chart FILE         what a chart of your own costs: best line first; # starts
                        a comment, / is between rows that share a line
-  --best-chart ROWS    the best chart found with at most that many rows, as a
-                       chart file; 1..30: the loss for each number of rows
+  --best-chart LINES   the best chart found with at most that many lines, as a
+                       chart file; 1..30: the loss for each number of lines
   --card FILE          write the trainer's chart, or that of --chart or
                        --best-chart, as a page to print (SVG)
   --rows               the rows that a chart can have

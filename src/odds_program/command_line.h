@@ -41,9 +41,9 @@ struct Request {
     Session session;
     std::int64_t hands = 0; // count, for Question::simulation
     std::uint64_t seed = 1;
-    std::string chartFile;   // empty: the trainer's chart
-    std::size_t minRows = 0; // of --best-chart
-    std::size_t maxRows = 0;
+    std::string chartFile;    // empty: the trainer's chart
+    std::size_t minLines = 0; // of --best-chart
+    std::size_t maxLines = 0;
     std::optional<std::string> cardFile; // the output of --card
 };
 

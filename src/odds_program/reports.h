@@ -70,9 +70,9 @@ struct Session {
 // The returns of a chart, and the price of each row.
 [[nodiscard]] Report chartReport(const charts::Chart& chart, const charts::ChartPrice& price);
 
-// The best chart found with at most this number of rows.
+// The best chart found with at most this number of lines.
 struct PricedChart {
-    std::size_t rows;
+    std::size_t lines;
     charts::Chart chart;
     charts::ChartPrice price;
 };

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstring>
 #include <random>
+#include <tuple>
 
 namespace quillet::charts::test
 {
@@ -200,24 +201,42 @@ TEST(Mistakes, addUpToWhatTheChartLoses)
     EXPECT_EQ(mistakes[4].costliest.decimals(4), "5.7724");
 }
 
-TEST(ChartSearch, findsShortChartsThatNeedEveryRow)
+TEST(ChartSearch, findsLongerChartsThatLoseLess)
 {
-    ChartSearch search(heldCards());
-    for (const auto& [rows, most] : {std::pair{12U, 0.49}, {21U, 0.0766}}) {
-        const Chart chart = search.best(rows);
-        EXPECT_LE(chart.size(), rows);
-        EXPECT_LE(priceChart(heldCards(), chart).loss(Taken::worst).value() * 100, most);
+    for (const auto& [pays, max, most] : {std::tuple{"9/6", 12U, 0.2}, {"8/5", 6U, 1.5}}) {
+        const odds::HeldCards held(odds::parsePays(pays));
+        const auto lossOf = [&held](const Chart& chart) {
+            return 100 * priceChart(held, chart).loss(Taken::worst).value();
+        };
+        ChartSearch search(held);
+        double before = 100;
+        for (std::size_t lines = 1; lines <= max; ++lines) {
+            Chart chart = search.best(lines);
+            EXPECT_LE(lineCount(chart), lines);
+            const double loss = lossOf(chart);
+            EXPECT_LE(loss, before) << pays << ", " << lines;
+            before = loss;
+            for (Row& row : chart)
+                row.sharesLine = false;
+            EXPECT_EQ(lossOf(chart), loss) << "sharing lines costs nothing";
+        }
+        EXPECT_LT(before, most) << pays;
+        EXPECT_EQ(search.best(5), ChartSearch(held).best(5)) << "the same every time";
     }
+}
+
+TEST(ChartSearch, findsChartsThatNeedEveryRow)
+{
     const auto lossOf = [](const Chart& chart) {
         return priceChart(heldCards(), chart).loss(Taken::worst).value();
     };
-    const Chart chart = search.best(5);
+    const Chart chart = ChartSearch(heldCards()).best(5);
     for (std::size_t row = 0; row + 1 < chart.size(); ++row) {
         Chart without = chart;
         without.erase(without.begin() + static_cast<std::ptrdiff_t>(row));
+        without.front().sharesLine = false;
         EXPECT_GT(lossOf(without), lossOf(chart)) << rowText(chart[row]);
     }
-    EXPECT_EQ(search.best(5), ChartSearch(heldCards()).best(5)) << "the same every time";
 }
 
 } // namespace quillet::charts::test

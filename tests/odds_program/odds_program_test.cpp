@@ -326,7 +326,7 @@ TEST(Program, writesACardWholeOrNotAtAll)
     EXPECT_EQ(fileText(file), trainers);
     chmod(file.c_str(), 0600);
     EXPECT_EQ(run("--best-chart 3 --card " + file).second, 0);
-    EXPECT_THAT(fileText(file), HasSubstr("3 lines, best first"));
+    EXPECT_THAT(fileText(file), HasSubstr("3 lines (6 rows), best first"));
     EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
     chmod(file.c_str(), 0400);
     EXPECT_THAT(run("--card " + link).first, HasSubstr("link is read-only"));
