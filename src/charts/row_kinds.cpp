@@ -12,6 +12,8 @@ namespace
 
 using H = const HoldFacts&;
 
+constexpr RankSet seven = 1U << 6;
+
 constexpr bool has(H h, RankSet ranks)
 {
     return (h.ranks & ranks) != 0;
@@ -55,7 +57,7 @@ bool straightFlush(H h)
     return h.suited && straight<MinGaps, MaxGaps, MinHigh>(h);
 }
 
-constexpr std::array<RowKind, 95> kinds{{
+constexpr std::array<RowKind, 96> kinds{{
     {"royal", 5, suitedAmong<royalRanks>, "Ten to ace of one suit."},
     {"straight flush", 5, straightFlush<open, open>,
      "Five cards of one suit whose ranks follow each other, a royal too."},
@@ -146,6 +148,11 @@ constexpr std::array<RowKind, 95> kinds{{
     {"3 to a straight flush, double inside, 2 high", 3,
      straightFlush<doubleInside, doubleInside, 2>,
      "Three cards of one suit that lie in only one straight flush, at least two of them high."},
+    {"3 to a straight flush, 7 to jack", 3,
+     [](H h) {
+         return straightFlush<doubleInside, doubleInside, 1>(h) && has(h, seven) && has(h, jack);
+     },
+     "Seven, jack and a card between them, all of one suit."},
     {"3 to a straight flush, open or inside", 3, straightFlush<open, inside>,
      "Three cards of one suit that lie in two or three straight flushes."},
     {"3 to a straight flush, open or inside, 1 high", 3, straightFlush<open, inside, 1>,

@@ -126,8 +126,10 @@ TEST(ChartPrice, comesOutAsKnown)
     // Many rows in no order, each but every third asking something.
     std::mt19937 random(3);
     Chart mixed;
-    for (RowKindId kind = 30; kind < nothingRow(); ++kind)
-        mixed.push_back({kind, kind % 3 == 0 ? 0 : DiscardSet{1} << random() % 21});
+    for (RowKindId kind = 30, other = 30; kind < nothingRow(); ++kind) {
+        if (kind != findRowKind("3 to a straight flush, 7 to jack")) // not known to that program
+            mixed.push_back({kind, other++ % 3 == 0 ? 0 : DiscardSet{1} << random() % 21});
+    }
     std::shuffle(mixed.begin(), mixed.end(), random);
     mixed.resize(45);
     mixed.push_back({nothingRow()});
