@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr double maxSteps = 3e12; // some minutes
+constexpr double certain = 1 - 1e-12;
 
 // Turns the chances of ruin in some rounds, by bankroll in units, into those in one round more.
 // Larger bankrolls are safe. A new chance is the mean of the old ones after each win: a sum or,
@@ -108,7 +109,8 @@ void OneMoreRound::multiply(std::vector<double>& chances)
 
 } // namespace
 
-Ruin::Ruin(const Round& round, std::int64_t rounds, const WorkProgress& progress)
+Ruin::Ruin(const Round& round, std::int64_t rounds, std::optional<std::int64_t> only,
+           const WorkProgress& progress)
     : m_unit(std::gcd(round.unit, round.cost))
 {
     const TailBound loss(round, -1, round.cost);
@@ -117,14 +119,21 @@ Ruin::Ruin(const Round& round, std::int64_t rounds, const WorkProgress& progress
     };
     OneMoreRound oneMoreRound(round, m_unit);
     const std::size_t size = sizeFor(rounds);
+    const auto wanted = static_cast<std::size_t>(only.value_or(0) / m_unit);
+    std::vector<double> chances(static_cast<std::size_t>(round.cost / m_unit), 1.0);
+    m_chances.fill(chances);
+    const auto isCertain = [&] {
+        return only && wanted < chances.size() && chances[wanted] > certain;
+    };
+    if (isCertain() || wanted >= size)
+        return;
     if (oneMoreRound.steps(size) * static_cast<double>(size) * static_cast<double>(rounds) >
         maxSteps)
         throw BadInput("a bankroll takes too long for " + std::to_string(rounds) +
                        " hands with these pays; try a tenth of them");
     const std::int64_t block = std::max<std::int64_t>(rounds / 100, 1);
-    std::vector<double> chances(static_cast<std::size_t>(round.cost / m_unit), 1.0);
     std::size_t tenth = 0;
-    for (std::int64_t played = 0; played < rounds; ++played) {
+    for (std::int64_t played = 0; played < rounds && !isCertain(); ++played) {
         if (played % block == 0) {
             chances.resize(sizeFor(std::min(played + block, rounds)));
             if (progress)
@@ -135,6 +144,7 @@ Ruin::Ruin(const Round& round, std::int64_t rounds, const WorkProgress& progress
              ++tenth)
             m_chances[tenth] = chances;
     }
+    std::fill(m_chances.begin() + static_cast<std::ptrdiff_t>(tenth), m_chances.end(), chances);
 }
 
 double Ruin::chance(std::int64_t bankroll, std::size_t tenth) const

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace quillet::odds
@@ -17,8 +18,10 @@ class Ruin
 public:
     static constexpr std::size_t tenths = 10;
 
+    // If only one bankroll is wanted, it stops as soon as that one is certain to be ruined or safe.
     // Throws BadInput when it would take too long.
-    Ruin(const Round& round, std::int64_t rounds, const WorkProgress& progress = {});
+    Ruin(const Round& round, std::int64_t rounds, std::optional<std::int64_t> only = {},
+         const WorkProgress& progress = {});
 
     // In this number of tenths of the rounds, 1 to 10.
     [[nodiscard]] double chance(std::int64_t bankroll, std::size_t tenth = tenths) const;

@@ -69,7 +69,8 @@ Played playOne(const SittingPlay& play, const odds::Pays& pays, const Session& s
     const odds::Round round = odds::roundOf(play.draws, pays, session.lines, progress);
     Played played{play, {round, session.hands, progress}, {}};
     if (session.bankroll || session.bring)
-        played.ruin.emplace(round, session.hands, progress);
+        played.ruin.emplace(round, session.hands, session.bring ? std::nullopt : session.bankroll,
+                            progress);
     return played;
 }
 

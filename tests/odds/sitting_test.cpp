@@ -144,6 +144,11 @@ TEST(Sitting, comesOutAsKnown)
     EXPECT_NEAR(100 * Ruin(one, 1000).chance(500), 16.29, 5e-3);
     EXPECT_EQ(Ruin(one, 100).chance(500'000), 0);
     EXPECT_THROW(Ruin(one, 10'000'000), BadInput) << "an hour";
+    EXPECT_EQ(Ruin(one, 10'000'000, 4).chance(4, 1), 1) << "ruined before the first hand";
+    EXPECT_EQ(Ruin(one, 10'000'000, 1'000'000'000).chance(1'000'000'000), 0);
+    EXPECT_EQ(Ruin(one, 100, 50).chance(50, 3), Ruin(one, 100).chance(50, 3));
+    const Round lost{.unit = 5, .wins = {{0, 0.9}, {5, 0.1}}};
+    EXPECT_NEAR(Ruin(lost, 100'000, 500).chance(500, 1), 1, 1e-11) << "in a moment";
     const Pays high = parsePays("99999 998 9 9 9 9 9 9 9");
     EXPECT_THROW(Sitting(roundOf(draws, high), 10'000'000), BadInput);
     EXPECT_EQ(Sitting(one, 1).quantile(0.5), -5);
