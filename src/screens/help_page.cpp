@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QTextDocumentFragment>
 
@@ -113,6 +114,16 @@ void HelpPage::changeEvent(QEvent* event)
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         applyPalette();
+}
+
+// A visible match stays so when a message below needs room or lines break in other places.
+void HelpPage::resizeEvent(QResizeEvent* event)
+{
+    const bool showsMatch =
+        textCursor().hasSelection() && QRect(QPoint(), event->oldSize()).intersects(cursorRect());
+    QTextBrowser::resizeEvent(event);
+    if (showsMatch)
+        ensureCursorVisible();
 }
 
 QMimeData* HelpPage::createMimeDataFromSelection() const

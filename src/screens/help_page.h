@@ -33,6 +33,7 @@ signals:
 protected:
     QVariant loadResource(int type, const QUrl& name) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
 private:

@@ -165,6 +165,15 @@ TEST_F(HelpViewerTest, theSearchWrapsInBothDirectionsAndSaysSo)
     viewer.resize(viewer.minimumSizeHint().expandedTo(QSize(300, 300)));
     QApplication::processEvents();
     EXPECT_FALSE(message.visibleRegion().isEmpty()) << "in a narrow window of large letters";
+
+    press(viewer, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(&control(viewer, "helpSearch"), "two");
+    QApplication::processEvents();
+    press(viewer, Qt::Key_F3);
+    QApplication::processEvents();
+    EXPECT_TRUE(message.text().startsWith("Reached the end"));
+    const QRect page = pageOf(viewer).viewport()->rect();
+    EXPECT_TRUE(page.contains(pageOf(viewer).cursorRect())) << "the message covers the match";
 }
 
 TEST(HelpText, everyLinkHasATargetInTheTextAndNothingOutsideIsReferenced)
