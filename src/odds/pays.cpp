@@ -5,6 +5,7 @@
 #include "odds/bad_input.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <string>
 #include <vector>
@@ -26,6 +27,27 @@ constexpr std::array<Payout, outcomeCount> payouts = [] {
     std::ranges::copy(payTable, all.begin() + 1);
     return all;
 }();
+
+// Names that a line may have; a name comes before its parts.
+struct HandName {
+    std::string_view words;
+    std::size_t outcome;
+};
+constexpr std::array<HandName, 15> handNames{{{"royal straight flush", 1},
+                                              {"royal flush", 1},
+                                              {"royal", 1},
+                                              {"straight flush", 2},
+                                              {"4 of a kind", 3},
+                                              {"four of a kind", 3},
+                                              {"full house", 4},
+                                              {"flush", 5},
+                                              {"straight", 6},
+                                              {"3 of a kind", 7},
+                                              {"three of a kind", 7},
+                                              {"2 pair", 8},
+                                              {"two pair", 8},
+                                              {"high pair", 9},
+                                              {"jacks or better", 9}}};
 
 struct Line {
     std::string place; // for messages
@@ -98,6 +120,29 @@ std::vector<std::int64_t> numbersIn(const Line& line)
     return numbers;
 }
 
+// Throws if the line names another hand.
+void checkName(const Line& line, std::size_t expected)
+{
+    std::string words = " ";
+    for (const char each : line.text) {
+        const auto letter = static_cast<unsigned char>(each);
+        if (std::isalnum(letter) != 0)
+            words += static_cast<char>(std::tolower(letter));
+        else if (words.back() != ' ')
+            words += ' ';
+    }
+    for (const auto& [name, outcome] : handNames) {
+        const auto at = words.find(" " + std::string(name));
+        if (at == std::string::npos)
+            continue;
+        if (outcome != expected)
+            throw BadInput(line.place + ": '" + printable(line.text) + "' names " +
+                           std::string(outcomeName(outcome)) + ", but " +
+                           std::string(outcomeName(expected)) + " is expected here");
+        words.erase(at, name.size() + 1);
+    }
+}
+
 // The lines with more than blanks and comments.
 std::vector<Line> linesIn(std::string_view text)
 {
@@ -150,11 +195,12 @@ Pays parsePays(std::string_view text)
     Pays pays{};
     std::size_t found = 0;
     for (const Line& line : lines) {
-        for (const std::int64_t number : numbersIn(line)) {
-            if (++found == outcomeCount)
-                throw BadInput(line.place + ": more than nine hands pay");
-            pays[found] = number;
-        }
+        const std::vector<std::int64_t> numbers = numbersIn(line);
+        if (found + numbers.size() >= outcomeCount)
+            throw BadInput(line.place + ": more than nine hands pay");
+        checkName(line, found + 1);
+        for (const std::int64_t number : numbers)
+            pays[++found] = number;
     }
     if (found + 1 != outcomeCount)
         throw BadInput("pay table: nine numbers are needed, royal first, or two such as 9/6; there "

@@ -32,8 +32,8 @@ inline constexpr std::int64_t maxPay = 100'000; // for any hand
 
 // Reads "9/6", the full house and the flush for one credit with the trainer's other pays, or nine
 // whole numbers for five credits, royal first, between blanks, commas or ends of lines. On a line
-// with a name one number follows it, which may be written as 4,000. What follows # is a comment.
-// Throws BadInput, which says where and why.
+// with a name one number follows it, which may be written as 4,000, and the name of another hand is
+// refused. What follows # is a comment. Throws BadInput, which says where and why.
 [[nodiscard]] Pays parsePays(std::string_view text);
 
 } // namespace quillet::odds

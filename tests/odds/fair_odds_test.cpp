@@ -120,10 +120,19 @@ TEST(Pays, areReadAsAPersonWritesThem)
     EXPECT_EQ(complaint("4000 250\n125 4x5"),
               "pay table, line 2: '4x5' is not a number of credits, 0 to 100000");
     EXPECT_EQ(complaint("1 2 3 4 5 6 7 8 9 10"), "pay table, line 1: more than nine hands pay");
+    EXPECT_EQ(complaint("4000 250 125\nFull house 45\nStraight 20\nFlush 30\n15 10 5"),
+              "pay table, line 3: 'Straight 20' names straight, but flush is expected here");
+    EXPECT_EQ(complaint("ROYAL FLUSH: 4000\nStraight-flush 250\nFour of a kind 125\nBoat 45\n"
+                        "All flushes 30\nStraights 20\nThree  of a kind 15\nTwo pairs 10\n"
+                        "High pair (jacks or better) 5"),
+              "none");
     for (const char* text :
-         {"", "9", "9/", "9/-6", "/", "100001 8 7 6 5 4 3 2 1", "99999/6",
-          "Royal 40,00\n250 125 45 30 20 15 10 5", "4e3 250 125 45 30 20 15 10 5",
-          "4,000 250 125 45 30 20 15 10", "5 10 15 20 30 45 125 250 4000"})
+         {"Straight flush 4000\nRoyal flush 250\n125 45 30 20 15 10 5",
+          "Royal 4000 Straight flush 250\n250 125 45 30 20 15 10 5",
+          "4000 250\nTwo pair 125\n45 30 20 15 10 5", "", "9", "9/", "9/-6", "/",
+          "100001 8 7 6 5 4 3 2 1", "99999/6", "Royal 40,00\n250 125 45 30 20 15 10 5",
+          "4e3 250 125 45 30 20 15 10 5", "4,000 250 125 45 30 20 15 10",
+          "5 10 15 20 30 45 125 250 4000"})
         EXPECT_NE(complaint(text), "none") << text;
 }
 
