@@ -90,20 +90,10 @@ void ChartDraft::set(const Chart& chart)
     }
 }
 
-std::size_t ChartDraft::positionOf(RowKindId kind) const
-{
-    return static_cast<std::size_t>(std::ranges::find(m_chart, kind, &Row::kind) - m_chart.begin());
-}
-
 bool ChartDraft::isAlone(std::size_t position) const
 {
     return !m_chart[position].sharesLine &&
            (position + 1 == m_chart.size() || !m_chart[position + 1].sharesLine);
-}
-
-ChartDraft::Change ChartDraft::removalOf(std::size_t position) const
-{
-    return {position, none, 0, m_removal[position]};
 }
 
 // The last row stays.
@@ -113,20 +103,13 @@ ChartDraft::Change ChartDraft::bestRemoval() const
     return {static_cast<std::size_t>(best - m_removal.begin()), none, 0, *best};
 }
 
-ChartDraft::Change ChartDraft::bestInsertionOf(RowKindId kind) const
-{
-    const Gains gains(m_groups.fits(kind), m_decisions, m_chart.size());
-    Change best{none, kind, 0, std::numeric_limits<Loss>::min()};
-    findBest(gains, {}, {none, kind}, best);
-    return best;
-}
-
 ChartDraft::Change ChartDraft::bestChange(const Limits& limits) const
 {
     Change best;
     for (RowKindId kind = 0; kind < nothingRow(); ++kind) {
         const Gains gains(m_groups.fits(kind), m_decisions, m_chart.size());
-        const std::size_t position = positionOf(kind);
+        const auto position = static_cast<std::size_t>(
+            std::ranges::find(m_chart, kind, &Row::kind) - m_chart.begin());
         if (position < m_chart.size()) { // no kind appears twice
             findBest(gains, limits, {position, kind, 0, m_removal[position]}, best);
             continue;

@@ -3,7 +3,7 @@
 #include "charts/chart.h"
 #include "charts/deal_groups.h"
 
-#include <limits>
+#include <cstdint>
 #include <vector>
 
 namespace quillet::charts
@@ -16,14 +16,6 @@ class ChartDraft
 public:
     using Loss = DealGroups::Loss;
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
-
-    // One row comes in, one goes out, or both. Positions are those before the change.
-    struct Change {
-        std::size_t out = none; // position
-        RowKindId in = none;    // kind
-        std::size_t before = 0; // position that it is inserted before
-        Loss gain = 0;          // by how much the loss falls
-    };
 
     struct Limits {
         std::size_t rows = maxRows;
@@ -38,11 +30,6 @@ public:
     [[nodiscard]] const Chart& chart() const { return m_chart; }
     [[nodiscard]] std::size_t lines() const { return lineCount(m_chart); }
     [[nodiscard]] Loss loss() const { return m_loss; }
-    [[nodiscard]] bool has(RowKindId kind) const { return positionOf(kind) < m_chart.size(); }
-
-    [[nodiscard]] Change removalOf(std::size_t position) const;
-    [[nodiscard]] Change bestInsertionOf(RowKindId kind) const;
-    void apply(const Change& change);
 
     // Makes the change that gains most, again and again, while there is one within the limits.
     void improve(const Limits& limits);
@@ -52,6 +39,14 @@ public:
     void removeIdleRows();
 
 private:
+    // One row comes in, one goes out, or both. Positions are those before the change.
+    struct Change {
+        std::size_t out = none; // position
+        RowKindId in = none;    // kind
+        std::size_t before = 0; // position that it is inserted before
+        Loss gain = 0;          // by how much the loss falls
+    };
+
     // The row that plays a group of deals, and the runner-up that would if that row were removed.
     struct Decision {
         std::uint8_t first = 0;
@@ -61,8 +56,8 @@ private:
     };
     struct Gains;
 
-    [[nodiscard]] std::size_t positionOf(RowKindId kind) const;
     [[nodiscard]] bool isAlone(std::size_t position) const;
+    void apply(const Change& change);
     [[nodiscard]] Change bestRemoval() const;
     [[nodiscard]] Change bestChange(const Limits& limits) const;
     void findBest(const Gains& gains, const Limits& limits, Change change, Change& best) const;

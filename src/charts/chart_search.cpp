@@ -1,7 +1,6 @@
 #include "charts/chart_search.h"
 
 #include <algorithm>
-#include <cassert>
 #include <random>
 
 namespace quillet::charts
@@ -18,14 +17,11 @@ constexpr unsigned attemptsWithRows = 2;
 constexpr unsigned attemptsWithLines = 14;
 // A changed chart may first have this many lines more.
 constexpr std::size_t spareLines = 4;
-// The best chart of some lines is expected to have up to this many rows more.
-constexpr std::size_t sharedLines = 8;
 
 } // namespace
 
-ChartSearch::ChartSearch(const odds::HeldCards& heldCards)
-    : m_groups(heldCards), m_draft(m_groups), m_byRows(maxRows + 2), m_byLines(maxRows + 2),
-      m_best(1)
+ChartSearch::ChartSearch(const odds::HeldCards& heldCards, const Progress& progress)
+    : m_groups(heldCards), m_draft(m_groups), m_byRows(maxRows + 2), m_byLines(maxRows + 2)
 {
     // A chart of all rows plays nearly perfectly. The least useful rows are removed one by one.
     m_draft.set(m_groups.allRows());
@@ -33,25 +29,13 @@ ChartSearch::ChartSearch(const odds::HeldCards& heldCards)
         m_draft.shrinkTo({rows});
         improve({rows});
     }
-}
-
-// Each length is searched once, from the shortest on, so that a result does not depend on what
-// else is asked for.
-Chart ChartSearch::best(std::size_t lines, const Progress& progress)
-{
-    assert(lines >= 1 && lines <= maxRows);
-    const std::size_t start = m_best.size();
-    while (m_best.size() <= lines) {
-        const std::size_t next = m_best.size();
-        while (m_rows < std::min(next + sharedLines, maxRows))
-            searchRows(++m_rows);
-        searchLines(next);
-        m_best.push_back(m_byLines[next].chart);
+    for (std::size_t rows = 2; rows <= maxRows; ++rows)
+        searchRows(rows);
+    for (std::size_t lines = 2; lines <= maxRows; ++lines) {
+        searchLines(lines);
         if (progress)
-            progress(static_cast<double>(m_best.size() - start) /
-                     static_cast<double>(lines + 1 - start));
+            progress(static_cast<double>(lines) / maxRows);
     }
-    return m_best[lines];
 }
 
 // Whether shorter charts have long been as good as the best.
@@ -85,7 +69,7 @@ void ChartSearch::searchLines(std::size_t lines)
         return;
     const ChartDraft::Limits limits{maxRows, lines};
     for (const std::size_t from : {lines - 1, lines, lines + 1})
-        improveFrom(m_byLines[std::max(from, std::size_t{1})].chart, limits);
+        improveFrom(m_byLines[from].chart, limits);
     for (unsigned attempt = 0; attempt < attemptsWithLines; ++attempt) {
         perturb(m_byLines[lines].chart, 100 * static_cast<unsigned>(lines) + attempt);
         improve({maxRows, lines + spareLines});
@@ -109,18 +93,19 @@ void ChartSearch::improve(const ChartDraft::Limits& limits)
     keep();
 }
 
-void ChartSearch::perturb(const Chart& chart, unsigned seed)
+void ChartSearch::perturb(Chart chart, unsigned seed)
 {
-    constexpr unsigned maxInsertions = 4;
+    constexpr unsigned maxChanges = 4;
     std::mt19937 random(seed); // the same changes every time
-    m_draft.set(chart);
-    for (unsigned left = 1 + random() % maxInsertions; left > 0; --left) {
+    for (unsigned left = 1 + random() % maxChanges; left > 0; --left) {
         const RowKindId kind = random() % nothingRow();
-        if (!m_draft.has(kind))
-            m_draft.apply(m_draft.bestInsertionOf(kind));
-        if (random() % 2 == 0 && m_draft.chart().size() > 1)
-            m_draft.apply(m_draft.removalOf(random() % (m_draft.chart().size() - 1)));
+        const auto place = static_cast<std::ptrdiff_t>(random() % chart.size());
+        if (std::ranges::find(chart, kind, &Row::kind) == chart.end() && chart.size() < maxRows)
+            chart.insert(chart.begin() + place, {kind});
+        else if (chart.size() > 1)
+            chart.erase(chart.begin() + static_cast<std::ptrdiff_t>(random() % (chart.size() - 1)));
     }
+    m_draft.set(chart);
 }
 
 void ChartSearch::keep()

@@ -17,10 +17,14 @@ public:
     // Called with the share of the work done, 0 to 1, after each step.
     using Progress = std::function<void(double)>;
 
-    explicit ChartSearch(const odds::HeldCards& heldCards);
+    // Searches for charts of all lengths.
+    explicit ChartSearch(const odds::HeldCards& heldCards, const Progress& progress = {});
+    ChartSearch(const ChartSearch&) = delete;
+    ChartSearch& operator=(const ChartSearch&) = delete;
+    ~ChartSearch() = default;
 
     // The best chart found with at most that many lines, 1..maxRows, "nothing" included.
-    [[nodiscard]] Chart best(std::size_t lines, const Progress& progress = {});
+    [[nodiscard]] const Chart& best(std::size_t lines) const { return m_byLines[lines].chart; }
 
 private:
     struct Found {
@@ -34,15 +38,13 @@ private:
     void improveFrom(const Chart& chart, const ChartDraft::Limits& limits);
     void improve(const ChartDraft::Limits& limits);
     // Inserts and removes rows of a chart at random.
-    void perturb(const Chart& chart, unsigned seed);
+    void perturb(Chart chart, unsigned seed);
     void keep();
 
     DealGroups m_groups;
     ChartDraft m_draft;
     std::vector<Found> m_byRows;  // the best so far with at most that many
     std::vector<Found> m_byLines; // the best so far with at most that many
-    std::vector<Chart> m_best;    // results, by lines
-    std::size_t m_rows = 1;       // how many have been searched
 };
 
 } // namespace quillet::charts

@@ -173,19 +173,21 @@ Report answerSimulation(const Inputs& in)
     return simulationReport(simulation, in.price(), in.heldCards.pays());
 }
 
+charts::ChartSearch searched(const odds::HeldCards& heldCards)
+{
+    ProgressBar bar;
+    return charts::ChartSearch(heldCards, [&bar](double share) { bar.show(share); });
+}
+
 void answerBestChart(const Inputs& in, std::ostream& out)
 {
-    charts::ChartSearch search(in.heldCards);
-    const std::size_t count = in.request.maxLines - in.request.minLines + 1;
+    const charts::ChartSearch search = searched(in.heldCards);
     std::vector<PricedChart> found;
-    ProgressBar bar;
     for (std::size_t lines = in.request.minLines; lines <= in.request.maxLines; ++lines) {
-        const charts::Chart chart = search.best(lines, [&](double share) {
-            bar.show((static_cast<double>(found.size()) + share) / static_cast<double>(count));
-        });
+        const charts::Chart& chart = search.best(lines);
         found.push_back({lines, chart, charts::priceChart(in.heldCards, chart)});
     }
-    if (count == 1)
+    if (found.size() == 1)
         writeChartFile(out, found.front().chart, found.front().price);
     else
         writeReport(out, bestChartsReport(found), styleFor(in.request));
@@ -193,12 +195,8 @@ void answerBestChart(const Inputs& in, std::ostream& out)
 
 void answerCard(const Inputs& in)
 {
-    ProgressBar bar;
     const std::size_t lines = in.request.maxLines;
-    const charts::Chart chart =
-        lines == 0 ? in.chart : charts::ChartSearch(in.heldCards).best(lines, [&bar](double share) {
-            bar.show(share);
-        });
+    const charts::Chart chart = lines == 0 ? in.chart : searched(in.heldCards).best(lines);
     std::ostringstream page;
     writeChartCard(page, chart, charts::priceChart(in.heldCards, chart),
                    charts::rowExamples(in.heldCards, chart), in.heldCards.pays());

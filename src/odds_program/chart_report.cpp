@@ -56,7 +56,8 @@ Table returnsTable(const ChartPrice& price)
 
 Report chartReport(const Chart& chart, const ChartPrice& price)
 {
-    std::string intro = "\n" + charts::countText(chart);
+    std::string intro = "\n";
+    intro += charts::countText(chart);
     intro += ". The loss of each row per 100 credits over all deals,\n"
              "taking the worst hold that fits its line, and its costliest deal\n\n";
     Table rows{"rows",

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <cstring>
 #include <random>
-#include <tuple>
+#include <utility>
 
 namespace quillet::charts::test
 {
@@ -205,39 +205,31 @@ TEST(Mistakes, addUpToWhatTheChartLoses)
 
 TEST(ChartSearch, findsLongerChartsThatLoseLess)
 {
-    for (const auto& [pays, max, most] : {std::tuple{"9/6", 12U, 0.2}, {"8/5", 6U, 1.5}}) {
+    for (const auto& [pays, most] : {std::pair{"9/6", 0.0010}, {"8/5", 0.0017}}) {
         const odds::HeldCards held(odds::parsePays(pays));
         const auto lossOf = [&held](const Chart& chart) {
             return 100 * priceChart(held, chart).loss(Taken::worst).value();
         };
-        ChartSearch search(held);
+        const ChartSearch search(held);
         double before = 100;
-        for (std::size_t lines = 1; lines <= max; ++lines) {
-            Chart chart = search.best(lines);
-            EXPECT_LE(lineCount(chart), lines);
-            const double loss = lossOf(chart);
+        for (std::size_t lines = 1; lines <= 24; ++lines) {
+            EXPECT_LE(lineCount(search.best(lines)), lines);
+            const double loss = lossOf(search.best(lines));
             EXPECT_LE(loss, before) << pays << ", " << lines;
             before = loss;
-            for (Row& row : chart)
-                row.sharesLine = false;
-            EXPECT_EQ(lossOf(chart), loss) << "sharing lines costs nothing";
         }
         EXPECT_LT(before, most) << pays;
-        EXPECT_EQ(search.best(5), ChartSearch(held).best(5)) << "the same every time";
-    }
-}
-
-TEST(ChartSearch, findsChartsThatNeedEveryRow)
-{
-    const auto lossOf = [](const Chart& chart) {
-        return priceChart(heldCards(), chart).loss(Taken::worst).value();
-    };
-    const Chart chart = ChartSearch(heldCards()).best(5);
-    for (std::size_t row = 0; row + 1 < chart.size(); ++row) {
-        Chart without = chart;
-        without.erase(without.begin() + static_cast<std::ptrdiff_t>(row));
-        without.front().sharesLine = false;
-        EXPECT_GT(lossOf(without), lossOf(chart)) << rowText(chart[row]);
+        Chart apart = search.best(18);
+        for (Row& row : apart)
+            row.sharesLine = false;
+        EXPECT_EQ(lossOf(apart), lossOf(search.best(18))) << "sharing lines costs nothing";
+        const Chart& chart = search.best(5);
+        for (std::size_t row = 0; row + 1 < chart.size(); ++row) {
+            Chart without = chart;
+            without.erase(without.begin() + static_cast<std::ptrdiff_t>(row));
+            without.front().sharesLine = false;
+            EXPECT_GT(lossOf(without), lossOf(chart)) << rowText(chart[row]);
+        }
     }
 }
 

@@ -12,7 +12,7 @@
 namespace quillet::practice::test
 {
 
-// The best chart of 12 rows, as quillet-odds --best-chart 12 finds it.
+// The best chart known of 12 rows.
 inline constexpr std::string_view bestOf12 =
     "4 of a kind\nstraight or better, dealt\n3 of a kind\n2 pair\n4 to a flush\npair\n"
     "4 to an outside straight\n3 to a straight flush, high for each gap but one\n2 high, suited\n"
