@@ -146,7 +146,7 @@ Table ruinTable(const AllPlayed& all, const Session& session)
         tableOf("bankroll",
                 "\nThe chance in % that " + std::to_string(*session.bankroll) +
                     " credits have run out: fewer than " + std::to_string(session.lines * wager) +
-                    " are left,\ntoo few for another hand\n\n",
+                    "\nare left, too few for another hand\n\n",
                 {"after hands", "After hands"}, all);
     for (std::size_t tenth = 1; tenth <= odds::Ruin::tenths; ++tenth) {
         const std::int64_t after =

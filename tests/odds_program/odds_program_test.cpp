@@ -244,7 +244,7 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
                 testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
     EXPECT_THAT(run("--sitting 9 --lines 10 --bankroll 99").first,
-                testing::AllOf(HasSubstr("on 10 lines,"), HasSubstr("fewer than 50 are left"),
+                testing::AllOf(HasSubstr("on 10 lines,"), HasSubstr("fewer than 50\nare left"),
                                HasSubstr("\n            1        2.5913")));
     EXPECT_THAT(run("--sitting 600 --bring 5").first,
                 HasSubstr("bring               485                 490\n"
@@ -343,7 +343,7 @@ TEST(Program, keepsToEightyColumnsInText)
     const std::vector<std::string> all{"",
                                        "--mistakes",
                                        "--break-even",
-                                       "--sitting 10000 --lines 100",
+                                       "--sitting 9 --lines 100 --bankroll 1e15",
                                        "--break-even 9cTcJcKcAd",
                                        perfect + " --sitting 1e4 --bankroll 1000 --bring 0.5",
                                        "--all 9cTcJcKcAd",
