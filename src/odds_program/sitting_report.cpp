@@ -148,9 +148,12 @@ Table ruinTable(const AllPlayed& all, const Session& session)
                     " credits have run out: fewer than " + std::to_string(session.lines * wager) +
                     "\nare left, too few for another hand\n\n",
                 {"after hands", "After hands"}, all);
+    std::int64_t before = 0;
     for (std::size_t tenth = 1; tenth <= odds::Ruin::tenths; ++tenth) {
         const std::int64_t after =
             (session.hands * static_cast<std::int64_t>(tenth) + 9) / 10; // rounded up
+        if (after == std::exchange(before, after))
+            continue;
         addRow(ruin, after, all, [&](const Played& played) {
             return percent(played.ruin->chance(*session.bankroll, tenth));
         });

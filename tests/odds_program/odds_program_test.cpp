@@ -243,6 +243,9 @@ TEST(Program, answersWithTheFiguresAndSaysWhenItCannot)
     EXPECT_THAT(run("--sitting 2400 --chart " QUILLET_CHARTS_FOLDER "/perfect.chart").first,
                 testing::ContainsRegex("ahead +30\\.3451 +28\\.2538 +30\\.3451\n"));
     EXPECT_THAT(run("--sitting 15 --bankroll 5").first, HasSubstr("\n            2       66.2477"));
+    EXPECT_THAT(run("--sitting 2 --bankroll 9").first,
+                testing::EndsWith("choice\n            1       54.5435             54.1938\n"
+                                  "            2       66.2477             66.0405\n"));
     EXPECT_THAT(run("--sitting 9 --lines 10 --bankroll 99").first,
                 testing::AllOf(HasSubstr("on 10 lines,"), HasSubstr("fewer than 50\nare left"),
                                HasSubstr("\n            1        2.5913")));
