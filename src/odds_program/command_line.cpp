@@ -22,10 +22,11 @@ namespace
                    "'");
 }
 
-// Reads "20", "1e6", "10k" or "10M".
-std::int64_t countIn(std::string_view option, std::string_view word)
+constexpr std::int64_t maxCount = 1'000'000'000'000'000;
+
+// Reads "20", "1e6", "10k" or "10M". Returns 0 for anything else.
+std::int64_t wholeNumber(std::string_view digits)
 {
-    std::string_view digits = word;
     double factor = 1;
     if (digits.ends_with('k') || digits.ends_with('M')) {
         factor = digits.back() == 'k' ? 1e3 : 1e6;
@@ -34,11 +35,19 @@ std::int64_t countIn(std::string_view option, std::string_view word)
     double number = -1;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     number *= factor;
-    constexpr double max = 1e15;
     if (error != std::errc() || end != digits.data() + digits.size() || number < 1 ||
-        number > max || number != std::floor(number))
-        needs(option, "a whole number such as 20, 1e6 or 10M", word);
+        number > maxCount || number != std::floor(number))
+        return 0;
     return static_cast<std::int64_t>(number);
+}
+
+std::int64_t countIn(std::string_view option, std::string_view word, std::int64_t max = maxCount,
+                     const char* what = "a whole number such as 20, 1e6 or 10M")
+{
+    const std::int64_t count = wholeNumber(word);
+    if (count == 0 || count > max)
+        needs(option, what, word);
+    return count;
 }
 
 // "5", "0.1" or "5%", in percent.
@@ -76,10 +85,9 @@ Format formatIn(std::string_view word)
 void takeLines(Request& request, std::string_view word)
 {
     const auto dots = word.find("..");
-    const auto min = countIn("--best-chart", word.substr(0, dots));
-    const auto max =
-        dots == std::string_view::npos ? min : countIn("--best-chart", word.substr(dots + 2));
-    if (max > static_cast<std::int64_t>(charts::maxRows) || min > max)
+    const auto min = wholeNumber(word.substr(0, dots));
+    const auto max = dots == std::string_view::npos ? min : wholeNumber(word.substr(dots + 2));
+    if (min == 0 || max > static_cast<std::int64_t>(charts::maxRows) || min > max)
         needs("--best-chart", "a number of lines, 1 to 64, or two such as 1..30", word);
     request.minLines = static_cast<std::size_t>(min);
     request.maxLines = static_cast<std::size_t>(max);
@@ -92,6 +100,10 @@ struct OptionKind {
     void (*take)(Request& request, Value value) = nullptr; // of options with a value
     std::string_view needs = {};
 };
+
+// Arguments that are not options.
+constexpr OptionKind hand{"a hand", [](Request& r, Value v) { r.hand.append(v) += ' '; }};
+constexpr OptionKind input{"hands on standard input"};
 
 // If an option is repeated, the last value counts.
 constexpr std::array<OptionKind, 18> optionKinds{{
@@ -108,17 +120,17 @@ constexpr std::array<OptionKind, 18> optionKinds{{
     {"--pays", [](Request& r, Value v) { r.pays = v; }},
     {"--format", [](Request& r, Value v) { r.style.format = formatIn(v); }},
     {"--exact"},
-    {"--all", nullptr, "hands"},
+    {"--all", nullptr, hand.name},
     {"--bankroll", [](Request& r, Value v) { r.session.bankroll = countIn("--bankroll", v); },
      "--sitting"},
     {"--bring", [](Request& r, Value v) { r.session.bring = percentageIn(v) / 100; }, "--sitting"},
-    {"--lines", [](Request& r, Value v) { r.session.lines = countIn("--lines", v); }, "--sitting"},
+    {"--lines",
+     [](Request& r, Value v) {
+         r.session.lines = countIn("--lines", v, odds::maxLines, "a number of lines, 1 to 100");
+     },
+     "--sitting"},
     {"--seed", [](Request& r, Value v) { r.seed = seedIn(v); }, "--simulate"},
 }};
-
-// Arguments that are not options.
-constexpr OptionKind hand{"a hand", [](Request& r, Value v) { r.hand.append(v) += ' '; }};
-constexpr OptionKind input{"hands on standard input"};
 
 struct Combination {
     Question question;
@@ -187,7 +199,7 @@ Question questionOf(const std::vector<Given>& given)
             asked.takes.find(kind->name) != std::string_view::npos)
             continue;
         const std::string name(kind->name);
-        if (!kind->needs.empty())
+        if (!isGiven(given, kind->needs))
             throw BadUsage(name + " is only for " + std::string(kind->needs));
         throw BadUsage(name + " cannot be used with " + std::string(asked.needs[0]) +
                        (asked.needs[1].empty() ? "" : " and " + std::string(asked.needs[1])));
@@ -219,8 +231,6 @@ void checkValues(const Request& request)
         throw BadUsage("with hands on standard input --exact is only for text");
     if (question == Question::sitting && request.session.hands > odds::maxRounds)
         throw BadUsage("--sitting takes no more than 10M hands");
-    if (request.session.lines > odds::maxLines)
-        throw BadUsage("--lines takes no more than 100 lines");
     if (question == Question::simulation && request.hands > odds::maxSimulated)
         throw BadUsage("--simulate takes no more than 100000M hands");
 }
