@@ -256,8 +256,9 @@ int main()
 {
     const odds::HeldCards heldCards;
     std::cout << "# The odds of Jacks or Better\n\n"
-                 "Every figure is exact for a fairly shuffled deck and rounded only for printing.\n"
-                 "CONTRIBUTING.md says how to write this page again.\n\n";
+                 "Figures are exact for a fairly shuffled deck and rounded only for printing; the\n"
+                 "chances of sessions are within 1e-9. CONTRIBUTING.md says how to write this page "
+                 "again.\n\n";
     writePayTables(std::cout);
     const charts::ChartPrice trainers = charts::priceChart(heldCards, charts::trainersChart());
     writeTrainersTable(std::cout, trainers);
