@@ -25,8 +25,8 @@ void forEachTaken(const PlayedDeal& deal, Taken taken, const Visit& visit)
         return visit(deal.worstHold, shares);
     case Taken::any:
         if (shares % deal.choices != 0)
-            throw odds::BadInput("so many holds of one deal fit one line of the chart that \"any "
-                                 "choice\" cannot be computed; put its rows on several lines");
+            throw odds::BadInput("too many holds of one deal fit a line of the chart; put its rows "
+                                 "on several lines");
         odds::forEachHold(deal.play.fitting,
                           [&](odds::Hold hold) { visit(hold, shares / deal.choices); });
     }
