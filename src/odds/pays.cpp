@@ -54,6 +54,13 @@ struct Line {
     std::string_view text;
 };
 
+std::string_view trimmed(std::string_view text, std::string_view ends)
+{
+    text = text.substr(0, text.find_last_not_of(ends) + 1);
+    text.remove_prefix(std::min(text.find_first_not_of(ends), text.size()));
+    return text;
+}
+
 std::string_view lastWord(std::string_view text)
 {
     return text.substr(text.find_last_of(separators) + 1);
@@ -61,6 +68,7 @@ std::string_view lastWord(std::string_view text)
 
 std::int64_t numberIn(std::string_view word, const std::string& place)
 {
+    word = trimmed(word, " \t");
     std::int64_t number = -1;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > maxPay)
@@ -150,9 +158,7 @@ std::vector<Line> linesIn(std::string_view text)
     for (int number = 1; !text.empty(); ++number) {
         std::string_view line = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(line.size() + 1, text.size()));
-        line = line.substr(0, line.find('#'));
-        line = line.substr(0, line.find_last_not_of(separators) + 1);
-        line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
+        line = trimmed(line.substr(0, line.find('#')), separators);
         if (!line.empty())
             lines.push_back({"pay table, line " + std::to_string(number), line});
     }

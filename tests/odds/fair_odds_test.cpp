@@ -103,7 +103,7 @@ TEST(DealtHand, drawsPayWhatAHoldIsWorth)
 
 TEST(Pays, areReadAsAPersonWritesThem)
 {
-    EXPECT_EQ(parsePays("# my 8/5 or rather\r\n 9/6 \r\n"), trainersPays());
+    EXPECT_EQ(parsePays("# my 8/5 or rather\r\n 9 / 6 \r\n"), trainersPays());
     EXPECT_EQ(parsePays("8/5"), (Pays{0, 4000, 250, 125, 40, 25, 20, 15, 10, 5}));
     EXPECT_EQ(
         parsePays(
@@ -129,7 +129,7 @@ TEST(Pays, areReadAsAPersonWritesThem)
     for (const char* text :
          {"Straight flush 4000\nRoyal flush 250\n125 45 30 20 15 10 5",
           "Royal 4000 Straight flush 250\n250 125 45 30 20 15 10 5",
-          "4000 250\nTwo pair 125\n45 30 20 15 10 5", "", "9", "9/", "9/-6", "/",
+          "4000 250\nTwo pair 125\n45 30 20 15 10 5", "", "9", "9/", " / 6", "9 0/6", "9/-6", "/",
           "100001 8 7 6 5 4 3 2 1", "99999/6", "Royal 40,00\n250 125 45 30 20 15 10 5",
           "4e3 250 125 45 30 20 15 10 5", "4,000 250 125 45 30 20 15 10",
           "5 10 15 20 30 45 125 250 4000"})
