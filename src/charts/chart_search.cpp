@@ -9,12 +9,9 @@ namespace quillet::charts
 namespace
 {
 
-using Loss = ChartDraft::Loss;
-
 // How often the best chart of each length is changed at random to see whether it then improves
 // further.
-constexpr unsigned attemptsWithRows = 2;
-constexpr unsigned attemptsWithLines = 14;
+constexpr unsigned attempts = 14;
 // A changed chart may first have this many lines more.
 constexpr std::size_t spareLines = 4;
 
@@ -51,16 +48,6 @@ void ChartSearch::searchRows(std::size_t rows)
         return;
     for (const std::size_t from : {rows - 1, rows + 1})
         improveFrom(m_byRows[from].chart, {rows});
-    for (unsigned attempt = 0; attempt < attemptsWithRows; ++attempt) {
-        perturb(m_byRows[rows].chart, 100 * static_cast<unsigned>(rows) + attempt);
-        improveFrom(m_draft.chart(), {rows});
-    }
-    for (std::size_t fewer = rows - 1; fewer > 0; --fewer) {
-        const Loss was = m_byRows[fewer].loss;
-        improveFrom(m_byRows[fewer + 1].chart, {fewer});
-        if (m_byRows[fewer].loss == was)
-            break;
-    }
 }
 
 void ChartSearch::searchLines(std::size_t lines)
@@ -70,7 +57,7 @@ void ChartSearch::searchLines(std::size_t lines)
     const ChartDraft::Limits limits{maxRows, lines};
     for (const std::size_t from : {lines - 1, lines, lines + 1})
         improveFrom(m_byLines[from].chart, limits);
-    for (unsigned attempt = 0; attempt < attemptsWithLines; ++attempt) {
+    for (unsigned attempt = 0; attempt < attempts; ++attempt) {
         perturb(m_byLines[lines].chart, 100 * static_cast<unsigned>(lines) + attempt);
         improve({maxRows, lines + spareLines});
         improveFrom(m_draft.chart(), limits);
