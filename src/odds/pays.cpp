@@ -140,7 +140,7 @@ void checkName(const Line& line, std::size_t expected)
             words += ' ';
     }
     for (const auto& [name, outcome] : handNames) {
-        const auto at = words.find(" " + std::string(name));
+        const auto at = words.find(std::string(" ").append(name));
         if (at == std::string::npos)
             continue;
         if (outcome != expected)

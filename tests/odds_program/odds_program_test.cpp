@@ -350,7 +350,7 @@ TEST(Program, keepsToEightyColumnsInText)
     const std::vector<std::string> all{"",
                                        "--mistakes",
                                        "--break-even",
-                                       "--sitting 9 --lines 30 --bankroll 1e15",
+                                       "--sitting 9 --lines 3 --bankroll 1e15",
                                        "--break-even 9cTcJcKcAd",
                                        perfect + " --sitting 1e4 --bankroll 1000 --bring 0.5",
                                        "--all 9cTcJcKcAd",
