@@ -18,7 +18,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     }
     try {
         const Request request = parseArguments(arguments);
-        fuzz::require(request.minRows <= request.maxRows && request.hands >= 0);
+        fuzz::require(request.minLines <= request.maxLines && request.hands >= 0);
     } catch (const BadUsage& error) {
         const std::string_view why = error.what();
         const std::string_view line = why.substr(0, why.find('\n'));
