@@ -206,8 +206,8 @@ void writeCharts(std::ostream& out, const odds::HeldCards& heldCards,
     const charts::ChartSearch search(heldCards);
     const charts::ChartSearch searchEightFive(eightFive);
     for (const std::size_t lines : {8U, 10U, 12U, 14U, 16U, 18U, 20U, 21U, 22U, 23U, 24U, 29U}) {
-        const charts::Chart chart = search.best(lines);
-        const charts::Chart chartEightFive = searchEightFive.best(lines);
+        const charts::Chart& chart = search.best(lines);
+        const charts::Chart& chartEightFive = searchEightFive.best(lines);
         out << "| " << lines << " | " << chart.size() << " | " << lossOf(heldCards, chart, 6)
             << " | " << chartEightFive.size() << " | " << lossOf(eightFive, chartEightFive, 6)
             << " |\n";
