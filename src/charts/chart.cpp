@@ -3,6 +3,7 @@
 #include "charts/names.h"
 #include "engine/hand_evaluation.h"
 #include "odds/bad_input.h"
+#include "odds/trimmed.h"
 
 #include <algorithm>
 #include <bit>
@@ -16,12 +17,6 @@ namespace
 
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::size_t suggestions = 3;
-
-std::string_view withoutBlanks(std::string_view text)
-{
-    const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
 
 [[noreturn]] void failAt(std::size_t line, const std::string& why)
 {
@@ -45,7 +40,7 @@ template <typename Kinds>
 Row rowIn(std::string_view text, std::size_t line)
 {
     const std::size_t end = std::min(text.find(';'), text.size());
-    const std::string_view name = withoutBlanks(text.substr(0, end));
+    const std::string_view name = odds::trimmed(text.substr(0, end), blanks);
     const auto kind = findRowKind(name);
     if (!kind)
         failAtName(line, "row", name, rowKinds());
@@ -53,7 +48,7 @@ Row rowIn(std::string_view text, std::size_t line)
     for (text.remove_prefix(end); !text.empty();) {
         text.remove_prefix(1);
         const std::size_t comma = std::min(text.find(','), text.size());
-        const std::string_view asked = withoutBlanks(text.substr(0, comma));
+        const std::string_view asked = odds::trimmed(text.substr(0, comma), blanks);
         text.remove_prefix(comma);
         const auto discards = findDiscardKind(asked);
         if (!discards)
@@ -87,7 +82,7 @@ Chart parseChart(std::string_view text)
     for (std::size_t number = 1; !text.empty(); ++number) {
         const std::size_t end = text.find('\n');
         const std::string_view line = text.substr(0, end);
-        addLine(chart, withoutBlanks(line.substr(0, line.find('#'))), number);
+        addLine(chart, odds::trimmed(line.substr(0, line.find('#')), blanks), number);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }
     if (chart.empty())

@@ -43,8 +43,9 @@ private:
 
     DealGroups m_groups;
     ChartDraft m_draft;
-    std::vector<Found> m_byRows;  // the best so far with at most that many
-    std::vector<Found> m_byLines; // the best so far with at most that many
+    // The best so far with at most that many rows or lines.
+    std::vector<Found> m_byRows;
+    std::vector<Found> m_byLines;
 };
 
 } // namespace quillet::charts

@@ -11,8 +11,6 @@ namespace quillet::odds
 namespace
 {
 
-constexpr std::size_t royal = 1; // outcome
-
 // Pays a credit for a royal and nothing else. With it the worth of a hold is a line: its worth at
 // the pay table's royal, and the chance of a royal for each credit that a royal pays more.
 HeldCards onlyRoyals()
@@ -35,13 +33,13 @@ Hold bestAt(const Fraction& more, const DealtHand& hand, const DealtHand& royals
 
 std::optional<BreakEven> breakEven(const FairOdds& odds, const Pays& pays)
 {
-    const Fraction& chance = odds.chances[royal];
+    const Fraction& chance = odds.chances[royalOutcome];
     if (chance == Fraction())
         return std::nullopt;
     const Fraction missing = (Fraction(1, 1) - odds.returned) * wager;
     const Fraction needed =
-        Fraction(pays[royal], 1) + Fraction(missing.numerator() * chance.denominator(),
-                                            missing.denominator() * chance.numerator());
+        Fraction(pays[royalOutcome], 1) + Fraction(missing.numerator() * chance.denominator(),
+                                                   missing.denominator() * chance.numerator());
     return needed < Fraction() ? std::nullopt : std::optional(BreakEven{needed, chance});
 }
 
@@ -56,7 +54,7 @@ std::optional<BreakEven> perfectBreakEven(const HeldCards& heldCards)
     std::optional next = BreakEven{{std::ranges::max(pays), 1}, {}};
     do {
         pay = next->royal;
-        const Fraction more = pay - Fraction(pays[royal], 1);
+        const Fraction more = pay - Fraction(pays[royalOutcome], 1);
         FinalHands finalHands(heldCards);
         forEachDeal(heldCards, [&](const DealtHand& hand, int members) {
             finalHands.add(hand, bestAt(more, hand, {royals, hand.places}), members);
@@ -68,7 +66,7 @@ std::optional<BreakEven> perfectBreakEven(const HeldCards& heldCards)
 
 std::vector<BestHold> bestHolds(const HeldCards& heldCards, const DealtHand& hand)
 {
-    const Fraction pay(heldCards.pays()[royal], 1);
+    const Fraction pay(heldCards.pays()[royalOutcome], 1);
     const DealtHand royals(onlyRoyals(), hand.places);
     std::vector<BestHold> best{{{}, bestAt(pay * -1, hand, royals)}};
     for (;;) {

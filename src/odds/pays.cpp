@@ -3,6 +3,7 @@
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "odds/bad_input.h"
+#include "odds/trimmed.h"
 
 #include <algorithm>
 #include <cctype>
@@ -53,13 +54,6 @@ struct Line {
     std::string place; // for messages
     std::string_view text;
 };
-
-std::string_view trimmed(std::string_view text, std::string_view ends)
-{
-    text = text.substr(0, text.find_last_not_of(ends) + 1);
-    text.remove_prefix(std::min(text.find_first_not_of(ends), text.size()));
-    return text;
-}
 
 std::string_view lastWord(std::string_view text)
 {
@@ -212,7 +206,7 @@ Pays parsePays(std::string_view text)
         throw BadInput("pay table: nine numbers are needed, royal first, or two such as 9/6; there "
                        "are " +
                        std::to_string(found));
-    if (pays[1] > 0 && pays[1] < pays.back() && std::ranges::is_sorted(pays))
+    if (pays[royalOutcome] > 0 && pays[royalOutcome] < pays.back() && std::ranges::is_sorted(pays))
         throw BadInput("pay table: the royal comes first and the high pair last, not the other way "
                        "round");
     return pays;

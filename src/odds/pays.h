@@ -14,6 +14,7 @@ namespace quillet::odds
 
 // The outcomes of a final hand: 0 pays nothing, the others are the paying hands, best first.
 inline constexpr std::size_t outcomeCount = 10;
+inline constexpr std::size_t royalOutcome = 1;
 
 // Credits for each outcome when five are paid; outcome 0 pays none.
 using Pays = std::array<std::int64_t, outcomeCount>;

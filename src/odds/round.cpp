@@ -14,8 +14,6 @@ namespace quillet::odds
 namespace
 {
 
-constexpr double maxSteps = 3e12; // some minutes
-
 bool isNoticeable(double chance)
 {
     return chance > 1e-20;
@@ -96,8 +94,8 @@ Round roundOf(const Draws& draws, const Pays& pays, std::int64_t lines,
         if (progress)
             progress(++done / static_cast<double>(draws.size()));
     }
-    const double sum = std::accumulate(chances.begin(), chances.end(),
-                                       0.0); // millions of rounds magnify its error
+    // Millions of rounds would magnify a small error of the sum.
+    const double sum = std::accumulate(chances.begin(), chances.end(), 0.0);
     Round round{lines * wager, unit};
     for (std::size_t i = 0; i < chances.size(); ++i)
         if (isNoticeable(chances[i]))

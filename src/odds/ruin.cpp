@@ -18,7 +18,6 @@ namespace quillet::odds
 namespace
 {
 
-constexpr double maxSteps = 3e12; // some minutes
 constexpr double certain = 1 - 1e-12;
 
 // Turns the chances of ruin in some rounds, by bankroll in units, into those in one round more.

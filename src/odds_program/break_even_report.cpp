@@ -26,7 +26,8 @@ Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
                               exact({even->chance.denominator(), even->chance.numerator()}, 2)});
     };
     add("Perfect play", perfect);
-    add("Perfect play at " + std::to_string(pays[1]), odds::breakEven(chart.perfect, pays));
+    add("Perfect play at " + std::to_string(pays[odds::royalOutcome]),
+        odds::breakEven(chart.perfect, pays));
     add(nameOf(charts::Taken::best), odds::breakEven(chart.played[charts::Taken::best], pays));
     if (!perfect)
         table.outro = "\nPerfect play returns more than 100 % even without a royal.\n";
@@ -36,8 +37,8 @@ Report breakEvenReport(const std::optional<odds::BreakEven>& perfect,
 Report bestHoldsReport(const std::array<odds::DeckPlace, 5>& places,
                        const std::vector<odds::BestHold>& best, const odds::Pays& pays)
 {
-    const odds::Fraction now(pays[1], 1);
-    const std::string pay = std::to_string(pays[1]);
+    const odds::Fraction now(pays[odds::royalOutcome], 1);
+    const std::string pay = std::to_string(pays[odds::royalOutcome]);
     Table table{"best holds",
                 odds::holdText(places, odds::holdAll) +
                     ": the best hold by what a royal pays, in credits\n\n",

@@ -32,7 +32,7 @@ struct SittingPlay {
     odds::Draws draws;
 };
 
-// What is asked of a session.
+// The options of a session.
 struct Session {
     std::int64_t hands = 0;
     std::int64_t lines = 1;

@@ -27,7 +27,6 @@ using namespace quillet;
 using odds_program::decimals;
 
 constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6", "8/5", "7/5", "6/5"};
-constexpr std::size_t royal = 1; // outcome
 constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
 std::string percent(const odds::Fraction& share, int places)
@@ -114,7 +113,8 @@ void writeSittings(std::ostream& out, const odds::Draws& perfect)
     for (const std::int64_t hands : {100, 600, 2400, 10000}) {
         out << "| " << hands;
         writeResults(out, odds::Sitting(one, hands));
-        out << " | " << decimals(100 * odds::chanceOfAtLeastOne(perfect, royal, 1, hands), 2)
+        out << " | "
+            << decimals(100 * odds::chanceOfAtLeastOne(perfect, odds::royalOutcome, 1, hands), 2)
             << " | " << decimals(100 * odds::Ruin(one, hands).chance(500), 2) << " |\n";
     }
 }
@@ -155,7 +155,9 @@ void writeSeveralLines(std::ostream& out, const odds::Draws& perfect)
         const odds::Round round = odds::roundOf(perfect, odds::trainersPays(), lines);
         out << "| " << lines << " | " << decimals(round.variance(), 4);
         writeResults(out, odds::Sitting(round, hands));
-        out << " | " << decimals(100 * odds::chanceOfAtLeastOne(perfect, royal, lines, hands), 2)
+        out << " | "
+            << decimals(100 * odds::chanceOfAtLeastOne(perfect, odds::royalOutcome, lines, hands),
+                        2)
             << " | " << odds::Ruin(round, hands).bankrollFor(0.05) << " |\n";
     }
 }
