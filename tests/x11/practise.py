@@ -38,7 +38,7 @@ def a_question_is_answered(frame):
     key("1", "2", "3", "4", "5", "Return")  # five cards at once are seldom right
     wait_to_hear(FOCUSED, r"(Right|Wrong: this costs [\d.]+ credits)\. .*Rule to remember: .*")
     check(find(frame, "filler", r"Best: .* credits(; Yours: .* credits)?(; .*)?"),
-          "the bars are not told")
+          "the bars have no name")
     everything_is_named(frame)
     key("Return")
 

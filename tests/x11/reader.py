@@ -1,5 +1,5 @@
-"""A program as a blind player uses it: by what the accessibility bus tells, through the actions that
-it offers, and by keys."""
+"""A program as a blind player uses it: by what the accessibility bus reports, through the actions
+that it offers, and by keys."""
 
 import os
 import re
