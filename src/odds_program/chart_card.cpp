@@ -1,13 +1,13 @@
 #include "odds_program/chart_card.h"
 
-#include "odds_program/svg.h"
+#include "odds/hand_text.h"
 
 #include <algorithm>
 #include <array>
 #include <functional>
 #include <ostream>
+#include <string>
 #include <string_view>
-#include <utility>
 
 namespace quillet::odds_program
 {
@@ -21,58 +21,79 @@ using charts::RowExample;
 using charts::Taken;
 
 // Lengths are millimetres.
-constexpr double pageWidth = 210;
-constexpr double pageHeight = 297;
 constexpr double margin = 12;
-constexpr double right = pageWidth - margin;
-constexpr double plateHeight = 27;
-constexpr double rowsTop = margin + plateHeight + 4;
-constexpr double rowsBottom = pageHeight - margin - 10;
+constexpr double right = 198;
+constexpr double middle = 105;
+constexpr double rowsTop = 43;
+constexpr double rowsBottom = 275;
 constexpr double maxRowHeight = 11.5;
 constexpr double cardWidth = 10.5;
 constexpr double cardGap = 0.9;
 constexpr double handWidth = 5 * cardWidth + 4 * cardGap;
-constexpr double namesRight = right - handWidth - 3;
 constexpr double namesLeft = margin + 8;
+constexpr double namesRight = right - handWidth - 3;
 
-constexpr std::string_view paper = "#fffdf7";
-constexpr std::string_view plate = "#22130b";
 constexpr std::string_view brass = "#f2d79a";
-constexpr std::string_view darkBrass = "#b98d45";
 constexpr std::string_view ivory = "#f8efdb";
 constexpr std::string_view wood = "#6b3a1c";
 
-// The colours of the chart beside the trainer's table, row by row.
-struct RowColours {
-    std::string_view ground;
-    std::string_view letters;
-};
-constexpr std::array<RowColours, 2> rowColours{{{"#808080", "#ffffff"}, {"#e0e0e0", "#000000"}}};
+// The letters are capHeight high at a size of 1.
+constexpr double capHeight = 0.73;
 
-std::string rectangle(double x, double y, double width, double height, std::string_view fill,
-                      std::string_view stroke = "none")
+// The paper, A4, and the plate of the trainer's table. The suits are centred on the origin.
+constexpr double suitHeight = 18;
+constexpr std::string_view pageStart =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" width="210mm" height="297mm" viewBox="0 0 210 297"
+  font-family="DejaVu Sans, Verdana, sans-serif">
+<defs>
+<path id="c" d="M-4.1 -4.9 a4.1 4.1 0 1 1 8.2 0 a4.1 4.1 0 1 1 -8.2 0 z M-8.7 2 a4.1 4.1 0 1 1 8.2 0
+  a4.1 4.1 0 1 1 -8.2 0 z M0.5 2 a4.1 4.1 0 1 1 8.2 0 a4.1 4.1 0 1 1 -8.2 0 z
+  M-2.2 -0.2 L0 -2.4 L2.2 -0.2 L0.9 2 C0.9 5.2 1.6 8 3.6 9 L-3.6 9 C-1.6 8 -0.9 5.2 -0.9 2 z"/>
+<path id="d" d="M0 -9 Q-2.9 -3.9 -6.9 0 Q-2.9 3.9 0 9 Q2.9 3.9 6.9 0 Q2.9 -3.9 0 -9 z"/>
+<path id="h" d="M0 -5 C-0.9 -7.6 -2.6 -9 -4.5 -9 C-6.9 -9 -8.2 -7.1 -8.2 -4.8 C-8.2 -0.6 -2.6 3 0 9
+  C2.6 3 8.2 -0.6 8.2 -4.8 C8.2 -7.1 6.9 -9 4.5 -9 C2.6 -9 0.9 -7.6 0 -5 z"/>
+<path id="s" d="M0 -9 C-1.4 -5.2 -8.2 -1.8 -8.2 2.7 C-8.2 5 -6.6 6.5 -4.5 6.5 C-2.9 6.3 -1.6 5.4
+  -0.9 3.9 C-0.8 6.3 -1.6 8.2 -3.4 9 L3.4 9 C1.6 8.2 0.8 6.3 0.9 3.9 C1.6 5.4 2.9 6.3 4.5 6.5
+  C6.6 6.5 8.2 5 8.2 2.7 C8.2 -1.8 1.4 -5.2 0 -9 z"/>
+</defs>
+<rect width="210" height="297" fill="#fffdf7"/>
+<path fill="#22130b" d="M16 12 h178 a4 4 0 0 0 4 4 v19 a4 4 0 0 0 -4 4 h-178 a4 4 0 0 0 -4 -4 v-19
+  a4 4 0 0 0 4 -4 z"/>
+<path fill="none" stroke="#b98d45" stroke-width=".35" d="M17.4 13.4 h175.2 a4 4 0 0 0 4 4 v16.2
+  a4 4 0 0 0 -4 4 h-175.2 a4 4 0 0 0 -4 -4 v-16.2 a4 4 0 0 0 4 -4 z"/>
+)";
+
+struct Box {
+    double x;
+    double y;
+    double width;
+    double height;
+};
+
+void writeBox(std::ostream& out, const Box& box, std::string_view fill, std::string_view stroke,
+              double corners = 0)
 {
-    return svg("<rect x=\"@\" y=\"@\" width=\"@\" height=\"@\" fill=\"@\" stroke=\"@\" "
-               "stroke-width=\".5\"/>\n",
-               {x, y, width, height, fill, stroke});
+    out << "<rect x='" << box.x << "' y='" << box.y << "' width='" << box.width << "' height='"
+        << box.height << "' rx='" << corners << "' fill='" << fill << "' stroke='" << stroke
+        << "' stroke-width='.4'/>\n";
 }
 
-// A rectangle whose corners are scooped out, as on the plate of the trainer's table.
-std::string scooped(double inset, std::string_view fill, std::string_view stroke)
+struct Lettering {
+    double size;
+    std::string_view colour;
+    std::string_view anchor = "start"; // start, middle or end: what is at x
+};
+
+// A line with its baseline at y. One that may be wider than the space is drawn smaller.
+void writeLine(std::ostream& out, std::string_view text, const Lettering& lettering, double x,
+               double y, double space)
 {
-    constexpr double r = 4;
-    const double width = right - margin - 2 * inset - 2 * r;
-    const double height = plateHeight - 2 * inset - 2 * r;
-    std::string path = svgCommand('M', std::array{margin + inset + r, margin + inset});
-    double dx = 1; // clockwise from the upper side
-    double dy = 0;
-    for (const double length : {width, height, width, height}) {
-        path += svgCommand('l', std::array{dx * length, dy * length}) +
-                svgCommand('a', std::array{r, r, 0.0, 0.0, 0.0, r * (dx - dy), r * (dx + dy)});
-        dx = -std::exchange(dy, dx);
-    }
-    return svg("<path d=\"@Z\" fill=\"@\" stroke=\"@\" stroke-width=\".35\"/>\n",
-               {path, fill, stroke});
+    // The mean width of the letters of a long line in a wide font, for a size of 1.
+    constexpr double letterWidth = 0.56;
+    const double size =
+        std::min(lettering.size, space / (letterWidth * static_cast<double>(text.size())));
+    out << "<text x='" << x << "' y='" << y << "' font-size='" << size << "' fill='"
+        << lettering.colour << "' text-anchor='" << lettering.anchor << "'>" << text << "</text>\n";
 }
 
 std::string linesText(const Chart& chart)
@@ -94,15 +115,31 @@ std::string lossText(const ChartPrice& price)
 
 void writePlate(std::ostream& out, const Chart& chart, const ChartPrice& price)
 {
-    constexpr double left = margin + 9;
-    constexpr double half = (right - margin) / 2 - 9;
-    constexpr double middle = left + half;
-    out << scooped(0, plate, "none") << scooped(1.4, "none", darkBrass)
-        << drawnLine({"Quillet", 8, ivory, 0.08}, left, margin + 14.6, half)
-        << drawnLine({"Jacks or better", 2.9, brass, 0.2}, left + 0.6, margin + 20.4, half)
-        << drawnLine({linesText(chart), 4, ivory, 0.05}, middle, margin + 10, half, atRight)
-        << drawnLine({returnText(price), 2.6, brass, 0.05}, middle, margin + 15.8, half, atRight)
-        << drawnLine({lossText(price), 2.6, brass, 0.05}, middle, margin + 20.4, half, atRight);
+    constexpr double inset = 9;
+    constexpr double half = middle - margin - inset;
+    writeLine(out, "Quillet", {11, ivory}, margin + inset, 26.6, half);
+    writeLine(out, "Jacks or better", {4, brass}, margin + inset + 0.6, 33, half);
+    writeLine(out, linesText(chart), {5, ivory, "end"}, right - inset, 22, half);
+    writeLine(out, returnText(price), {3.5, brass, "end"}, right - inset, 28, half);
+    writeLine(out, lossText(price), {3.5, brass, "end"}, right - inset, 33, half);
+}
+
+// Rank and suit of a small card. Discards are pale.
+void writeCard(std::ostream& out, odds::DeckPlace place, bool kept, const Box& box)
+{
+    const std::string name = odds::cardText(place); // such as Th
+    const std::string rank = name[0] == 'T' ? "10" : name.substr(0, 1);
+    const bool red = name[1] == 'd' || name[1] == 'h';
+    const std::string_view ink = red ? "#c8102e" : "#17161b";
+    const double size = std::min(0.9 * box.height, 0.36 * box.width);
+    const double centre = box.y + box.height / 2;
+    out << "<g font-weight='bold' opacity='" << (kept ? 1 : 0.35) << "'>";
+    writeBox(out, box, "#ffffff", kept ? wood : "#808080", 0.8);
+    writeLine(out, rank, {size, ink, "middle"}, box.x + 0.32 * box.width,
+              centre + capHeight / 2 * size, box.width);
+    out << "<use href='#" << name[1] << "' fill='" << ink << "' transform='translate("
+        << box.x + 0.78 * box.width << ' ' << centre << ") scale(" << 0.85 * size / suitHeight
+        << ")'/></g>\n";
 }
 
 // The cards to keep first, both parts from high to low, the ace highest.
@@ -116,13 +153,11 @@ std::array<std::size_t, 5> orderOf(const RowExample& example)
     return order;
 }
 
-void writeHand(std::ostream& out, const RowExample& example, double top, double height)
+void writeHand(std::ostream& out, const RowExample& example, Box card)
 {
-    double x = right - handWidth;
     for (const std::size_t i : orderOf(example)) {
-        out << drawnCard(example.places[i], (example.hold >> i & 1U) != 0,
-                         {x, top, cardWidth, height});
-        x += cardWidth + cardGap;
+        writeCard(out, example.places[i], (example.hold >> i & 1U) != 0, card);
+        card.x += cardWidth + cardGap;
     }
 }
 
@@ -130,22 +165,24 @@ void writeHand(std::ostream& out, const RowExample& example, double top, double 
 void writeRow(std::ostream& out, const charts::Row& row, std::size_t line,
               const std::optional<RowExample>& example, double top, double height)
 {
-    const RowColours& colours = rowColours[(line - 1) % rowColours.size()];
+    const bool dark = line % 2 != 0; // as in the chart beside the trainer's table
     const std::string name = charts::rowText(row);
     const std::string number = std::to_string(line);
-    const double letters = std::min(3.4, 0.42 * height);
-    const double baseline = top + (height + letters) / 2;
-    out << "<g class=\"row\"><title>" << number << ". " << name << "</title>\n"
-        << rectangle(namesLeft, top, namesRight - namesLeft, height, colours.ground)
-        << drawnLine({row.sharesLine ? "" : number, 0.9 * letters, brass}, margin + 1, baseline,
-                     namesLeft - margin - 3, atRight)
-        << drawnLine({name, letters, colours.letters, 0.03}, namesLeft + 2.5, baseline,
-                     namesRight - namesLeft - 4.5);
+    const double size = std::min(4.6, 0.6 * height);
+    const double baseline = top + (height + capHeight * size) / 2;
+    constexpr double handLeft = right - handWidth;
     constexpr double air = 0.35;
+    out << "<g><title>" << number << ". " << name << "</title>\n";
+    writeBox(out, {namesLeft, top, namesRight - namesLeft, height}, dark ? "#808080" : "#e0e0e0",
+             "none");
+    if (!row.sharesLine)
+        writeLine(out, number, {0.85 * size, brass, "end"}, namesLeft - 2, baseline, namesLeft);
+    writeLine(out, name, {size, dark ? "#ffffff" : "#000000"}, namesLeft + 2.5, baseline,
+              namesRight - namesLeft - 4.5);
     if (example)
-        writeHand(out, *example, top + air, height - 2 * air);
+        writeHand(out, *example, {handLeft, top + air, cardWidth, height - 2 * air});
     else
-        out << drawnLine({"never applies", letters, wood}, right - handWidth, baseline, handWidth);
+        writeLine(out, "never applies", {size, wood}, handLeft, baseline, handWidth);
     out << "</g>\n";
 }
 
@@ -163,31 +200,26 @@ std::string payLine(const odds::Pays& pays)
 void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& price,
                     const std::vector<std::optional<RowExample>>& examples, const odds::Pays& pays)
 {
-    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"210mm\" height=\"297mm\" "
-           "viewBox=\"0 0 210 297\">\n<title>"
-        << linesText(chart) << ". " << returnText(price) << ". " << lossText(price)
-        << ".</title>\n<desc>" << payLine(pays) << "</desc>\n<defs>\n"
-        << svgDefinitions() << "</defs>\n"
-        << rectangle(0, 0, pageWidth, pageHeight, paper);
+    out << pageStart << "<title>" << linesText(chart) << ". " << returnText(price) << ". "
+        << lossText(price) << ".</title>\n<desc>" << payLine(pays) << "</desc>\n";
     writePlate(out, chart, price);
     const double height =
         std::min(maxRowHeight, (rowsBottom - rowsTop) / static_cast<double>(chart.size()));
-    const double bottom = rowsTop + height * static_cast<double>(chart.size());
-    out << rectangle(margin, rowsTop, namesLeft - margin, bottom - rowsTop, wood);
+    const double allHeight = height * static_cast<double>(chart.size());
+    writeBox(out, {margin, rowsTop, namesLeft - margin, allHeight}, wood, "none");
     double top = rowsTop;
     std::size_t line = 0;
     for (std::size_t row = 0; row < chart.size(); ++row, top += height) {
         line += chart[row].sharesLine ? 0 : 1;
         writeRow(out, chart[row], line, examples[row], top, height);
     }
+    writeBox(out, {margin, rowsTop, namesRight - margin, allHeight}, "none", wood);
     constexpr std::string_view rules =
         "Play the first line that fits and throw the pale cards away. "
         "If several holds fit it, the return counts the worst.";
-    constexpr double width = right - margin;
-    out << rectangle(margin, rowsTop, namesRight - margin, bottom - rowsTop, "none", wood)
-        << drawnLine({rules, 2, wood}, margin, rowsBottom + 5.4, width, inMiddle)
-        << drawnLine({payLine(pays), 2, wood}, margin, rowsBottom + 10, width, inMiddle)
-        << "</svg>\n";
+    writeLine(out, rules, {2.6, wood, "middle"}, middle, rowsBottom + 5.4, right - margin);
+    writeLine(out, payLine(pays), {2.6, wood, "middle"}, middle, rowsBottom + 10, right - margin);
+    out << "</svg>\n";
 }
 
 } // namespace quillet::odds_program

@@ -14,6 +14,7 @@ namespace quillet::test
 using namespace odds;
 using namespace odds_program;
 
+using testing::ContainsRegex;
 using testing::HasSubstr;
 
 namespace
@@ -68,9 +69,11 @@ TEST(ChartCard, hasEveryRowAndTheReturn)
     }
     const std::string trainers = cardOf(charts::trainersChart());
     EXPECT_THAT(trainers, HasSubstr("Returns 99.294918 of 100. Loses 0.248986 against perfect"));
-    EXPECT_THAT(trainers, HasSubstr("\"thrown\" opacity=")) << "pale";
+    EXPECT_THAT(trainers, HasSubstr("opacity='0.35'")) << "pale";
+    EXPECT_THAT(trainers, ContainsRegex("font-size='2\\.2[^>]*>Pays")) << "fits the page";
     const auto royal = trainers.find("1. royal<");
-    EXPECT_LT(trainers.find("#r1\"", royal), trainers.find("#r13\"", royal)) << "aces first";
+    EXPECT_LT(trainers.find(">A</text>", royal), trainers.find(">10</text>", royal))
+        << "aces first";
     std::ostringstream file;
     writeChartFile(file, charts::trainersChart(),
                    charts::priceChart(heldCards(), charts::trainersChart()));
