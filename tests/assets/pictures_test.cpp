@@ -1,4 +1,3 @@
-#include "assets/make/pictures/alphabet.h"
 #include "assets/make/pictures/pictures.h"
 #include "tests/kit/file_text.h"
 
@@ -8,7 +7,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <cstdlib>
 
 namespace quillet::test
@@ -58,17 +56,6 @@ TEST(Pictures, areWrittenAsTheyAreCommitted)
     for (const QString& name : written)
         EXPECT_LT(difference(folder.filePath(name), assets.filePath(name)), 1)
             << name.toStdString();
-}
-
-TEST(Letters, haveTheMeasuredSpaceInPrint)
-{
-    for (const Letter& letter : letters()) {
-        if (std::isalnum(static_cast<unsigned char>(letter.sign)) == 0)
-            continue; // punctuation is spaced by eye
-        const Letter measured = artwork::measuredLetter(letter);
-        EXPECT_NEAR(letter.left, measured.left, 0.001) << letter.sign;
-        EXPECT_NEAR(letter.advance, measured.advance, 0.001) << letter.sign;
-    }
 }
 
 } // namespace quillet::test

@@ -1,11 +1,13 @@
 #include "assets/make/pictures/alphabet.h"
 
 #include "assets/make/pictures/canvas.h"
-#include "shapes/letters.h"
+#include "assets/make/pictures/letters.h"
+#include "shapes/path_text.h"
 
 #include <QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillet::artwork
 {
@@ -23,10 +25,10 @@ public:
     QPainterPath write(const char* text);
 
 private:
+    // Where the middle of the pen goes for a point of the box, so that its ink stays inside.
     [[nodiscard]] QPointF inside(double x, double y) const
     {
-        const LetterPoint at = penAt(x, y, m_weight);
-        return {at.x, at.y};
+        return {x + m_weight / 2, m_weight / 2 + y * (1 - m_weight)};
     }
     // Around the ellipse of an E or A.
     [[nodiscard]] QRectF boxOf(const PathCommand& ellipse) const
@@ -85,10 +87,12 @@ void Pen::addEllipse(const PathCommand& ellipse)
 void Pen::addSlant(const PathCommand& slant)
 {
     finishStroke();
-    QPolygonF corners;
-    for (const LetterPoint& corner : slantCorners(slant, m_weight))
-        corners << QPointF(corner.x, corner.y);
-    m_outline.addPolygon(corners);
+    const auto& [x1, y1, x2, y2, unused, unusedToo] = slant.numbers;
+    const double half = m_weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
+    const double left1 = x1 + m_weight / 2 - half;
+    const double left2 = x2 + m_weight / 2 - half;
+    m_outline.addPolygon(QPolygonF({QPointF(left1, y1), QPointF(left1 + 2 * half, y1),
+                                    QPointF(left2 + 2 * half, y2), QPointF(left2, y2)}));
     m_outline.closeSubpath();
 }
 
@@ -139,7 +143,7 @@ Glyph spaced(const QPainterPath& outline, double tracking)
 
 Glyph cut(char letter, const Lettering& lettering)
 {
-    const QPainterPath outline = Pen(lettering.weight).write(letterOf(letter).strokes);
+    const QPainterPath outline = Pen(lettering.weight).write(letterStrokes(letter));
     if (letter < '0' || letter > '9')
         return spaced(outline, lettering.tracking);
     // Figures form columns.
@@ -150,14 +154,9 @@ Glyph cut(char letter, const Lettering& lettering)
 
 } // namespace
 
-Letter measuredLetter(const Letter& letter)
-{
-    const Glyph glyph = spaced(Pen(printWeight).write(letter.strokes), printTracking);
-    return {letter.sign, glyph.left, glyph.advance, letter.strokes};
-}
-
 QPainterPath letteringPath(std::string_view text, const Lettering& lettering)
 {
+    constexpr double blankBetweenWords = 0.42;
     QPainterPath line;
     line.setFillRule(Qt::WindingFill);
     double x = 0;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shapes/letters.h"
-
 #include <QPainterPath>
 
 #include <string_view>
@@ -20,9 +18,6 @@ struct Lettering {
 // The outline of a line of capitals and figures; its baseline starts at the origin. Throws
 // std::out_of_range for letters that the alphabet lacks.
 [[nodiscard]] QPainterPath letteringPath(std::string_view text, const Lettering& lettering);
-
-// The letter with the space that it needs in print.
-[[nodiscard]] Letter measuredLetter(const Letter& letter);
 
 [[nodiscard]] QPainterPath centredLettering(std::string_view text, const Lettering& lettering,
                                             QPointF middleOfBaseline);
