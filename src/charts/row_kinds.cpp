@@ -3,6 +3,7 @@
 #include "charts/names.h"
 
 #include <array>
+#include <vector>
 
 namespace quillet::charts
 {
@@ -32,10 +33,9 @@ bool suitedAmong(H h)
     return h.suited && among<Ranks, With>(h);
 }
 
-template <int MinHigh = 0>
 bool suited(H h)
 {
-    return h.suited && h.high >= MinHigh;
+    return h.suited;
 }
 
 // Straights lost to gaps: three cards in a row lie in three straights, four in two, five in one.
@@ -45,19 +45,29 @@ constexpr int gaps(H h)
 }
 constexpr int open = 0, inside = 1, doubleInside = 2;
 
-template <int MinGaps, int MaxGaps, int MinHigh = 0>
+template <int MinGaps, int MaxGaps>
 bool straight(H h)
 {
-    return h.straights > 0 && gaps(h) >= MinGaps && gaps(h) <= MaxGaps && h.high >= MinHigh;
+    return h.straights > 0 && gaps(h) >= MinGaps && gaps(h) <= MaxGaps;
 }
 
-template <int MinGaps, int MaxGaps, int MinHigh = 0>
+template <int MinGaps, int MaxGaps>
 bool straightFlush(H h)
 {
-    return h.suited && straight<MinGaps, MaxGaps, MinHigh>(h);
+    return h.suited && straight<MinGaps, MaxGaps>(h);
 }
 
-constexpr std::array<RowKind, 96> kinds{{
+// A row, and the same with 1 to maxHigh high cards: "4 to a flush, 1 high" and so on.
+struct Family {
+    std::string_view name;
+    int cards;
+    bool (*matches)(H);
+    std::string_view meaning;
+    int maxHigh = 0;
+    DiscardSet discards = 0;
+};
+
+constexpr std::array<Family, 73> families{{
     {"royal", 5, suitedAmong<royalRanks>, "Ten to ace of one suit."},
     {"straight flush", 5, straightFlush<open, open>,
      "Five cards of one suit whose ranks follow each other, a royal too."},
@@ -65,7 +75,7 @@ constexpr std::array<RowKind, 96> kinds{{
      "Four cards of one rank, without the fifth card."},
     {"full house", 5, [](H h) { return h.alike == 3 && h.pairs == 1; },
      "Three cards of one rank and two of another."},
-    {"flush", 5, suited<>, "Five cards of one suit."},
+    {"flush", 5, suited, "Five cards of one suit."},
     {"straight", 5, straight<open, open>,
      "Five cards whose ranks follow each other, the ace low or high."},
     {"straight or better, dealt", 5,
@@ -81,7 +91,7 @@ constexpr std::array<RowKind, 96> kinds{{
     {"4 to a straight flush, inside", 4, straightFlush<inside, inside>,
      "Four cards of one suit that only one card makes a straight flush."},
     {"3 of a kind", 3, [](H h) { return h.alike == 3; },
-     "Three cards of one rank, no pair beside them.", noPair},
+     "Three cards of one rank, no pair beside them.", 0, noPair},
     {"2 pair", 4, [](H h) { return h.pairs == 2; }, "Two pairs."},
     {"pair", 2, [](H h) { return h.pairs == 1; }, "Two cards of one rank."},
     {"high pair", 2, [](H h) { return h.highPair; }, "A pair of aces, kings, queens or jacks."},
@@ -98,79 +108,35 @@ constexpr std::array<RowKind, 96> kinds{{
     {"3 to a royal, no ace and no 10", 3, suitedAmong<faces>, "Jack, queen and king of one suit."},
     {"3 to a royal, with an ace, no 10", 3, suitedAmong<highRanks, ace>,
      "Three cards of a royal, the ace among them and not the ten."},
-    {"4 to a flush", 4, suited<>, "Four cards of one suit."},
-    {"4 to a flush, 1 high", 4, suited<1>, "Four cards of one suit, at least one of them high."},
-    {"4 to a flush, 2 high", 4, suited<2>, "Four cards of one suit, at least two of them high."},
-    {"4 to a flush, 3 high", 4, suited<3>, "Four cards of one suit, at least three of them high."},
+    {"4 to a flush", 4, suited, "Four cards of one suit.", 3},
     {"4 to an outside straight", 4, straight<open, open>,
-     "Four cards in a row with room at both ends."},
-    {"4 to an outside straight, 1 high", 4, straight<open, open, 1>,
-     "Four cards in a row with room at both ends, at least one of them high."},
-    {"4 to an outside straight, 2 high", 4, straight<open, open, 2>,
-     "Four cards in a row with room at both ends, at least two of them high."},
-    {"4 to an outside straight, 3 high", 4, straight<open, open, 3>,
-     "Four cards in a row with room at both ends, at least three of them high."},
+     "Four cards in a row with room at both ends.", 3},
     {"4 to an inside straight", 4, straight<inside, inside>,
-     "Four cards that only one rank makes a straight."},
-    {"4 to an inside straight, 1 high", 4, straight<inside, inside, 1>,
-     "Four cards that only one rank makes a straight, at least one of them high."},
-    {"4 to an inside straight, 2 high", 4, straight<inside, inside, 2>,
-     "Four cards that only one rank makes a straight, at least two of them high."},
-    {"4 to an inside straight, 3 high", 4, straight<inside, inside, 3>,
-     "Four cards that only one rank makes a straight, at least three of them high."},
-    {"4 to an inside straight, 4 high", 4, straight<inside, inside, 4>,
-     "Four cards that only one rank makes a straight, all of them high."},
+     "Four cards that only one rank makes a straight.", 4},
     {"3 to a straight flush", 3, straightFlush<open, doubleInside>,
-     "Three cards of one suit that lie in a straight flush."},
-    {"3 to a straight flush, 1 high", 3, straightFlush<open, doubleInside, 1>,
-     "Three cards of one suit that lie in a straight flush, at least one of them high."},
-    {"3 to a straight flush, 2 high", 3, straightFlush<open, doubleInside, 2>,
-     "Three cards of one suit that lie in a straight flush, at least two of them high."},
+     "Three cards of one suit that lie in a straight flush.", 2},
     {"3 to a straight flush, no gap", 3, [](H h) { return h.suited && h.consecutive; },
      "Three cards of one suit whose ranks follow each other, the ace low."},
     {"3 to a straight flush, open", 3, straightFlush<open, open>,
-     "Three cards of one suit that lie in three straight flushes."},
-    {"3 to a straight flush, open, 1 high", 3, straightFlush<open, open, 1>,
-     "Three cards of one suit that lie in three straight flushes, at least one of them high."},
-    {"3 to a straight flush, open, 2 high", 3, straightFlush<open, open, 2>,
-     "Three cards of one suit that lie in three straight flushes, at least two of them high."},
+     "Three cards of one suit that lie in three straight flushes.", 2},
     {"3 to a straight flush, inside", 3, straightFlush<inside, inside>,
-     "Three cards of one suit that lie in two straight flushes."},
-    {"3 to a straight flush, inside, 1 high", 3, straightFlush<inside, inside, 1>,
-     "Three cards of one suit that lie in two straight flushes, at least one of them high."},
-    {"3 to a straight flush, inside, 2 high", 3, straightFlush<inside, inside, 2>,
-     "Three cards of one suit that lie in two straight flushes, at least two of them high."},
+     "Three cards of one suit that lie in two straight flushes.", 2},
     {"3 to a straight flush, double inside", 3, straightFlush<doubleInside, doubleInside>,
-     "Three cards of one suit that lie in only one straight flush."},
-    {"3 to a straight flush, double inside, 1 high", 3,
-     straightFlush<doubleInside, doubleInside, 1>,
-     "Three cards of one suit that lie in only one straight flush, at least one of them high."},
-    {"3 to a straight flush, double inside, 2 high", 3,
-     straightFlush<doubleInside, doubleInside, 2>,
-     "Three cards of one suit that lie in only one straight flush, at least two of them high."},
+     "Three cards of one suit that lie in only one straight flush.", 2},
     {"3 to a straight flush, 7 to jack", 3,
      [](H h) {
-         return straightFlush<doubleInside, doubleInside, 1>(h) && has(h, seven) && has(h, jack);
+         return straightFlush<doubleInside, doubleInside>(h) && has(h, seven) && has(h, jack);
      },
      "Seven, jack and a card between them, all of one suit."},
     {"3 to a straight flush, open or inside", 3, straightFlush<open, inside>,
-     "Three cards of one suit that lie in two or three straight flushes."},
-    {"3 to a straight flush, open or inside, 1 high", 3, straightFlush<open, inside, 1>,
-     "Three cards of one suit that lie in two or three straight flushes, at least one of them "
-     "high."},
-    {"3 to a straight flush, open or inside, 2 high", 3, straightFlush<open, inside, 2>,
-     "Three cards of one suit that lie in two or three straight flushes, at least two of them "
-     "high."},
+     "Three cards of one suit that lie in two or three straight flushes.", 2},
     {"3 to a straight flush, high for each gap", 3,
      [](H h) { return straightFlush<open, doubleInside>(h) && gaps(h) <= h.high; },
      "Three cards of one suit: open, inside with a high card, or double inside with two."},
     {"3 to a straight flush, high for each gap but one", 3,
      [](H h) { return straightFlush<open, doubleInside>(h) && gaps(h) <= h.high + 1; },
      "Three cards of one suit: open, inside, or double inside with a high card."},
-    {"3 to a flush", 3, suited<>, "Three cards of one suit."},
-    {"3 to a flush, 1 high", 3, suited<1>, "Three cards of one suit, at least one of them high."},
-    {"3 to a flush, 2 high", 3, suited<2>, "Three cards of one suit, at least two of them high."},
-    {"3 to a flush, 3 high", 3, suited<3>, "Three cards of one suit, all of them high."},
+    {"3 to a flush", 3, suited, "Three cards of one suit.", 3},
     {"4 high", 4, among<highRanks>, "Ace, king, queen and jack."},
     {"3 high", 3, among<highRanks>, "Three high cards of different ranks."},
     {"3 high, no ace", 3, among<faces>, "King, queen and jack."},
@@ -196,7 +162,7 @@ constexpr std::array<RowKind, 96> kinds{{
     {"2 high, no ace", 2, among<faces>, "Two faces of different ranks."},
     {"2 high, with an ace", 2, among<highRanks, ace>, "An ace and a face."},
     {"2 high, lowest", 2, among<highRanks>,
-     "Of the hand's high cards the two lowest; the ace is the highest.", noLowerHigh},
+     "Of the hand's high cards the two lowest; the ace is the highest.", 0, noLowerHigh},
     {"jack and queen", 2, among<jack | queen>, "Jack and queen."},
     {"jack and king", 2, among<jack | king>, "Jack and king."},
     {"queen and king", 2, among<queen | king>, "Queen and king."},
@@ -212,21 +178,42 @@ constexpr std::array<RowKind, 96> kinds{{
     {"nothing", 0, [](H) { return true; }, "No card."},
 }};
 
+RowKind memberOf(const Family& family, int high)
+{
+    std::string name(family.name);
+    std::string meaning(family.meaning);
+    if (high > 0) {
+        constexpr std::array<std::string_view, 4> numbers{"", "one", "two", "three"};
+        name += ", " + std::to_string(high) + " high";
+        meaning.pop_back(); // the full stop
+        meaning += high == family.cards ? ", all" : ", at least " + std::string(numbers[high]);
+        meaning += " of them high.";
+    }
+    return {name, family.cards, high, family.matches, meaning, family.discards};
+}
+
 } // namespace
 
 std::span<const RowKind> rowKinds()
 {
+    static const std::vector<RowKind> kinds = [] {
+        std::vector<RowKind> all;
+        for (const Family& family : families)
+            for (int high = 0; high <= family.maxHigh; ++high)
+                all.push_back(memberOf(family, high));
+        return all;
+    }();
     return kinds;
 }
 
 RowKindId nothingRow()
 {
-    return kinds.size() - 1;
+    return rowKinds().size() - 1;
 }
 
 std::optional<RowKindId> findRowKind(std::string_view name)
 {
-    return findNamed(kinds, name);
+    return findNamed(rowKinds(), name);
 }
 
 } // namespace quillet::charts

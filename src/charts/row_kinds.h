@@ -5,22 +5,24 @@
 #include <cstddef>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace quillet::charts
 {
 
-// One row that a chart can have: which cards it tells the player to keep.
+// One row that a chart can have: which cards to keep.
 struct RowKind {
-    std::string_view name; // in charts
-    int cards;             // that it keeps
+    std::string name; // in charts
+    int cards;        // that it keeps
+    int minHigh;      // high cards among them
     bool (*matches)(const HoldFacts& held);
-    std::string_view meaning; // one sentence
-    DiscardSet discards = 0;  // conditions on the discards that the row always has
+    std::string meaning; // one sentence
+    DiscardSet discards; // conditions on the discards that the row always has
 
     [[nodiscard]] bool fits(const HoldFacts& held) const
     {
-        return held.cards == cards && matches(held);
+        return held.cards == cards && held.high >= minHigh && matches(held);
     }
 };
 
