@@ -17,7 +17,7 @@ constexpr std::size_t spareLines = 4;
 
 } // namespace
 
-ChartSearch::ChartSearch(const odds::HeldCards& heldCards, const Progress& progress)
+ChartSearch::ChartSearch(const odds::HeldCards& heldCards, const odds::WorkProgress& progress)
     : m_groups(heldCards), m_draft(m_groups), m_byRows(maxRows + 2), m_byLines(maxRows + 2)
 {
     // A chart of all rows plays nearly perfectly. The least useful rows are removed one by one.

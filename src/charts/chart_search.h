@@ -1,8 +1,8 @@
 #pragma once
 
 #include "charts/chart_draft.h"
+#include "odds/work_progress.h"
 
-#include <functional>
 #include <vector>
 
 namespace quillet::charts
@@ -14,11 +14,8 @@ namespace quillet::charts
 class ChartSearch
 {
 public:
-    // Called with the share of the work done, 0 to 1, after each step.
-    using Progress = std::function<void(double)>;
-
     // Searches for charts of all lengths.
-    explicit ChartSearch(const odds::HeldCards& heldCards, const Progress& progress = {});
+    explicit ChartSearch(const odds::HeldCards& heldCards, const odds::WorkProgress& progress = {});
     ChartSearch(const ChartSearch&) = delete;
     ChartSearch& operator=(const ChartSearch&) = delete;
     ~ChartSearch() = default;

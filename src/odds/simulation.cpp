@@ -87,8 +87,7 @@ Simulation playHands(const HeldCards& heldCards, const Player& player, RandomSou
 }
 
 Simulation simulate(const HeldCards& heldCards, const Player& player, std::uint64_t seed,
-                    std::int64_t hands, unsigned threads,
-                    const std::function<void(std::int64_t)>& progress)
+                    std::int64_t hands, unsigned threads, const WorkProgress& progress)
 {
     // Each block of hands has its own random numbers, whichever thread plays it.
     constexpr std::int64_t block = 1 << 14;
@@ -97,7 +96,7 @@ Simulation simulate(const HeldCards& heldCards, const Player& player, std::uint6
     std::mutex mutex;
     Simulation result;
     std::int64_t done = 0;
-    const auto work = [&](const std::function<void(std::int64_t)>& report) {
+    const auto work = [&](const WorkProgress& report) {
         for (std::int64_t mine = nextBlock++; mine < blocks; mine = nextBlock++) {
             const auto number = static_cast<std::uint64_t>(mine);
             BlendingRandom random([number] { return number; }, seed);
@@ -106,15 +105,16 @@ Simulation simulate(const HeldCards& heldCards, const Player& player, std::uint6
             const std::lock_guard lock(mutex);
             result.perfect.add(played.perfect);
             result.player.add(played.player);
-            report(done += count);
+            done += count;
+            if (report)
+                report(static_cast<double>(done) / static_cast<double>(hands));
         }
     };
     std::vector<std::jthread> helpers;
     for (unsigned thread = 1; thread < threads; ++thread)
-        helpers.emplace_back([&work] { work([](std::int64_t) {}); });
+        helpers.emplace_back([&work] { work({}); });
     work(progress);
     helpers.clear();
-    progress(hands);
     return result;
 }
 

@@ -2,10 +2,10 @@
 
 #include "engine/deck.h"
 #include "odds/draws.h"
+#include "odds/work_progress.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
 
 namespace quillet::odds
 {
@@ -34,10 +34,10 @@ struct Simulation {
 };
 
 // Plays hands from decks shuffled as the trainer shuffles them. The same seed gives the same hands
-// on any number of threads. Calls progress now and then with the number of hands done.
+// on any number of threads.
 [[nodiscard]] Simulation simulate(const HeldCards& heldCards, const Player& player,
                                   std::uint64_t seed, std::int64_t hands, unsigned threads,
-                                  const std::function<void(std::int64_t)>& progress);
+                                  const WorkProgress& progress = {});
 
 // Plays this number of hands with the random source.
 [[nodiscard]] Simulation playHands(const HeldCards& heldCards, const Player& player,

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -139,44 +140,44 @@ void answerHandsFromInput(const Inputs& in, std::ostream& out)
     answerHands(std::cin, out, in.heldCards, in.request.allHolds, styleFor(in.request));
 }
 
+odds::Player playerOf(const charts::Chart& chart)
+{
+    return [player = charts::ChartPlayer(chart)](const odds::DealtHand& hand) {
+        return player.bestHold(hand);
+    };
+}
+
 Report answerSitting(const Inputs& in)
 {
     ProgressBar bar;
-    const charts::ChartPlayer trainers(charts::trainersChart());
-    const charts::ChartPlayer own(in.chart);
-    const auto playerOf = [](const charts::ChartPlayer& chart) {
-        return [&chart](const odds::DealtHand& hand) { return chart.bestHold(hand); };
-    };
-    std::vector<odds::Player> players{[](const odds::DealtHand& hand) { return hand.bestHold; },
-                                      playerOf(trainers)};
-    if (!in.request.chartFile.empty())
-        players.emplace_back(playerOf(own));
+    std::vector<SittingPlay> plays{{"perfect play", "Perfect play"},
+                                   {"chart best choice", "Chart, best choice"}};
+    std::vector<odds::Player> players{&odds::DealtHand::bestHold,
+                                      playerOf(charts::trainersChart())};
+    if (!in.request.chartFile.empty()) {
+        plays.push_back({"own chart best choice", "Own chart, best choice"});
+        players.push_back(playerOf(in.chart));
+    }
     const std::vector<odds::Draws> draws = odds::drawsOf(in.heldCards, players);
-    std::vector<SittingPlay> plays{{"perfect play", "Perfect play", draws[0]},
-                                   {"chart best choice", "Chart, best choice", draws[1]}};
-    if (players.size() > plays.size())
-        plays.push_back({"own chart best choice", "Own chart, best choice", draws[2]});
+    for (std::size_t i = 0; i < plays.size(); ++i)
+        plays[i].draws = draws[i];
     return sittingReport(plays, in.heldCards.pays(), in.request.session, isatty(STDOUT_FILENO) == 1,
-                         [&bar](double share) { bar.show(share); });
+                         std::ref(bar));
 }
 
 Report answerSimulation(const Inputs& in)
 {
     ProgressBar bar;
-    const charts::ChartPlayer player(in.chart);
-    const odds::Simulation simulation = odds::simulate(
-        in.heldCards, [&player](const odds::DealtHand& hand) { return player.bestHold(hand); },
-        in.request.seed, in.request.hands, std::max(1U, std::thread::hardware_concurrency()),
-        [&](std::int64_t done) {
-            bar.show(static_cast<double>(done) / static_cast<double>(in.request.hands));
-        });
+    const odds::Simulation simulation =
+        odds::simulate(in.heldCards, playerOf(in.chart), in.request.seed, in.request.hands,
+                       std::max(1U, std::thread::hardware_concurrency()), std::ref(bar));
     return simulationReport(simulation, in.price(), in.heldCards.pays());
 }
 
 charts::ChartSearch searched(const odds::HeldCards& heldCards)
 {
     ProgressBar bar;
-    return charts::ChartSearch(heldCards, [&bar](double share) { bar.show(share); });
+    return charts::ChartSearch(heldCards, std::ref(bar));
 }
 
 void answerBestChart(const Inputs& in, std::ostream& out)

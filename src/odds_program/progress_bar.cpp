@@ -20,7 +20,7 @@ ProgressBar::~ProgressBar()
         std::cerr << '\r' << std::string(width + 8, ' ') << '\r' << std::flush;
 }
 
-void ProgressBar::show(double share)
+void ProgressBar::operator()(double share)
 {
     const int percent = static_cast<int>(100 * share);
     if (percent == m_percent || isatty(STDERR_FILENO) == 0 ||

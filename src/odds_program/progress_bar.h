@@ -15,7 +15,7 @@ public:
     ProgressBar& operator=(const ProgressBar&) = delete;
     ~ProgressBar();
 
-    void show(double share); // of the work done, 0 to 1
+    void operator()(double share); // see odds::WorkProgress
 
 private:
     const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();

@@ -29,7 +29,7 @@ namespace quillet::odds_program
 struct SittingPlay {
     std::string field;
     std::string heading;
-    odds::Draws draws;
+    odds::Draws draws{};
 };
 
 // The options of a session.

@@ -47,7 +47,7 @@ std::array<std::string, 2> checkHands(const odds::DealtHand& deal)
     ProgressBar bar;
     odds::forEachClass(5, [&](const odds::SuitSets& sets) {
         odds::forEachMember(sets, visit);
-        bar.show(static_cast<double>(hands) / static_cast<double>(odds::FairOdds::deals));
+        bar(static_cast<double>(hands) / static_cast<double>(odds::FairOdds::deals));
     });
     std::string draws;
     for (odds::Hold hold = 0; hold < odds::holds && draws.empty(); ++hold)

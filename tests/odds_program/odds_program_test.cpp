@@ -382,7 +382,7 @@ TEST(Simulation, playsTheEnginesOwnDecks)
     EXPECT_EQ(aces.player.margin(trainersPays()), 0.0);
 
     const auto played = [&](std::uint64_t seed, unsigned threads) {
-        return simulate(heldCards, holdNothing, seed, 40000, threads, [](std::int64_t) {}).perfect;
+        return simulate(heldCards, holdNothing, seed, 40000, threads).perfect;
     };
     EXPECT_EQ(played(1, 1).count, played(1, 3).count);
     EXPECT_NE(played(1, 1).count, played(2, 1).count);
