@@ -3,7 +3,7 @@
 #include "charts/names.h"
 #include "engine/hand_evaluation.h"
 #include "odds/bad_input.h"
-#include "odds/trimmed.h"
+#include "odds/text.h"
 
 #include <algorithm>
 #include <bit>
@@ -39,17 +39,16 @@ template <typename Kinds>
 
 Row rowIn(std::string_view text, std::size_t line)
 {
-    const std::size_t end = std::min(text.find(';'), text.size());
+    const std::size_t end = text.find(';');
     const std::string_view name = odds::trimmed(text.substr(0, end), blanks);
     const auto kind = findRowKind(name);
     if (!kind)
         failAtName(line, "row", name, rowKinds());
     Row row{*kind, 0};
-    for (text.remove_prefix(end); !text.empty();) {
-        text.remove_prefix(1);
-        const std::size_t comma = std::min(text.find(','), text.size());
-        const std::string_view asked = odds::trimmed(text.substr(0, comma), blanks);
-        text.remove_prefix(comma);
+    if (end == std::string_view::npos)
+        return row;
+    for (std::string_view asked : odds::split(text.substr(end + 1), ',')) {
+        asked = odds::trimmed(asked, blanks);
         const auto discards = findDiscardKind(asked);
         if (!discards)
             failAtName(line, "condition", asked, discardKinds());
@@ -63,15 +62,12 @@ void addLine(Chart& chart, std::string_view line, std::size_t number)
     if (line.empty())
         return;
     bool sharesLine = line.front() == '/' && !chart.empty();
-    std::size_t start = sharesLine ? 1 : 0;
-    do {
+    for (const std::string_view row : odds::split(line.substr(sharesLine ? 1 : 0), '/')) {
         if (chart.size() == maxRows)
             failAt(number, "a chart has no more than " + std::to_string(maxRows) + " rows");
-        const std::size_t end = line.find('/', start);
-        chart.push_back(rowIn(line.substr(start, end - start), number));
+        chart.push_back(rowIn(row, number));
         chart.back().sharesLine = std::exchange(sharesLine, true);
-        start = end == std::string_view::npos ? end : end + 1;
-    } while (start != std::string_view::npos);
+    }
 }
 
 } // namespace
@@ -79,12 +75,9 @@ void addLine(Chart& chart, std::string_view line, std::size_t number)
 Chart parseChart(std::string_view text)
 {
     Chart chart;
-    for (std::size_t number = 1; !text.empty(); ++number) {
-        const std::size_t end = text.find('\n');
-        const std::string_view line = text.substr(0, end);
-        addLine(chart, odds::trimmed(line.substr(0, line.find('#')), blanks), number);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
+    std::size_t number = 0;
+    for (const std::string_view line : odds::split(text, '\n'))
+        addLine(chart, odds::trimmed(line.substr(0, line.find('#')), blanks), ++number);
     if (chart.empty())
         throw odds::BadInput("there is no row in it");
     if (chart.back().kind != nothingRow() || chart.back().discards != 0) {

@@ -3,11 +3,10 @@
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "odds/bad_input.h"
-#include "odds/trimmed.h"
+#include "odds/text.h"
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <string>
 #include <vector>
 
@@ -60,18 +59,17 @@ std::string_view lastWord(std::string_view text)
     return text.substr(text.find_last_of(separators) + 1);
 }
 
-std::int64_t numberIn(std::string_view word, const std::string& place)
+std::int64_t creditsIn(std::string_view word, const std::string& place)
 {
     word = trimmed(word, " \t");
-    std::int64_t number = -1;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > maxPay)
+    const auto credits = numberIn<std::int64_t>(word).value_or(-1);
+    if (credits < 0 || credits > maxPay)
         throw BadInput(place + ": '" + printable(word) + "' is not a number of credits, 0 to " +
                        std::to_string(maxPay));
     if (word.size() > 1 && word.front() == '0')
         throw BadInput(place + ": '" + printable(word) +
                        "' begins with 0; a comma stands between two numbers, so write 4000");
-    return number;
+    return credits;
 }
 
 // "9/6" and the like.
@@ -79,8 +77,8 @@ Pays shortTable(const Line& line)
 {
     const auto slash = line.text.find('/');
     Pays pays = trainersPays();
-    pays[fullHouse] = wager * numberIn(line.text.substr(0, slash), line.place);
-    pays[flush] = wager * numberIn(line.text.substr(slash + 1), line.place);
+    pays[fullHouse] = wager * creditsIn(line.text.substr(0, slash), line.place);
+    pays[flush] = wager * creditsIn(line.text.substr(slash + 1), line.place);
     if (std::max(pays[fullHouse], pays[flush]) > maxPay)
         throw BadInput(line.place + ": '" + printable(line.text) + "' pays too much");
     return pays;
@@ -95,7 +93,7 @@ std::int64_t numberBehindName(const Line& line)
     number.remove_prefix(std::min(number.find_first_of(digits), number.size()));
     std::string_view name = line.text.substr(0, line.text.size() - number.size());
     if (number.empty() || separators.find(name.back()) == std::string_view::npos)
-        return numberIn(lastWord(line.text), line.place);
+        return creditsIn(lastWord(line.text), line.place);
     name = name.substr(0, name.find_last_not_of(separators) + 1);
     if (lastWord(name).find_first_not_of(digits) == std::string_view::npos)
         throw BadInput(line.place + ": '" + printable(line.text) +
@@ -106,7 +104,7 @@ std::int64_t numberBehindName(const Line& line)
         if (number[i] != ',' || !betweenThousands)
             plain += number[i];
     }
-    return numberIn(plain, line.place);
+    return creditsIn(plain, line.place);
 }
 
 std::vector<std::int64_t> numbersIn(const Line& line)
@@ -116,7 +114,7 @@ std::vector<std::int64_t> numbersIn(const Line& line)
     std::vector<std::int64_t> numbers;
     for (std::string_view left = line.text; !left.empty();) {
         const std::size_t end = std::min(left.find_first_of(separators), left.size());
-        numbers.push_back(numberIn(left.substr(0, end), line.place));
+        numbers.push_back(creditsIn(left.substr(0, end), line.place));
         left.remove_prefix(std::min(left.find_first_not_of(separators, end), left.size()));
     }
     return numbers;
@@ -149,9 +147,9 @@ void checkName(const Line& line, std::size_t expected)
 std::vector<Line> linesIn(std::string_view text)
 {
     std::vector<Line> lines;
-    for (int number = 1; !text.empty(); ++number) {
-        std::string_view line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
+    int number = 0;
+    for (std::string_view line : split(text, '\n')) {
+        ++number;
         line = trimmed(line.substr(0, line.find('#')), separators);
         if (!line.empty())
             lines.push_back({"pay table, line " + std::to_string(number), line});

@@ -3,10 +3,10 @@
 #include "charts/chart.h"
 #include "odds/simulation.h"
 #include "odds/sitting.h"
+#include "odds/text.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <vector>
 
@@ -32,13 +32,9 @@ std::int64_t wholeNumber(std::string_view digits)
         factor = digits.back() == 'k' ? 1e3 : 1e6;
         digits.remove_suffix(1);
     }
-    double number = -1;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    number *= factor;
-    if (error != std::errc() || end != digits.data() + digits.size() || number < 1 ||
-        number > maxCount || number != std::floor(number))
-        return 0;
-    return static_cast<std::int64_t>(number);
+    const double number = factor * odds::numberIn<double>(digits).value_or(0);
+    const bool isCount = number >= 1 && number <= maxCount && number == std::floor(number);
+    return isCount ? static_cast<std::int64_t>(number) : 0;
 }
 
 std::int64_t countIn(std::string_view option, std::string_view word, std::int64_t max = maxCount,
@@ -54,20 +50,16 @@ std::int64_t countIn(std::string_view option, std::string_view word, std::int64_
 double percentageIn(std::string_view word)
 {
     const std::string_view digits = word.substr(0, word.size() - (word.ends_with('%') ? 1 : 0));
-    double number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc() || end != digits.data() + digits.size() ||
-        !(number >= 0.0001 && number <= 99))
+    const double number = odds::numberIn<double>(digits).value_or(0);
+    if (!(number >= 0.0001 && number <= 99)) // nor NaN
         needs("--bring", "a percentage, 0.0001 to 99", word);
     return number;
 }
 
 std::uint64_t seedIn(std::string_view word)
 {
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    const bool isWhole = error == std::errc() && end == word.data() + word.size();
-    return isWhole ? number : static_cast<std::uint64_t>(countIn("--seed", word));
+    const auto number = odds::numberIn<std::uint64_t>(word);
+    return number ? *number : static_cast<std::uint64_t>(countIn("--seed", word));
 }
 
 Format formatIn(std::string_view word)

@@ -1,10 +1,10 @@
 #include "practice/journal.h"
 
 #include "odds/hand_text.h"
+#include "odds/text.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <charconv>
 #include <cstdio>
 #include <fcntl.h>
 #include <numeric>
@@ -68,14 +68,6 @@ std::string timeText(sys_seconds time)
     return text.data();
 }
 
-std::optional<unsigned> numberIn(std::string_view digits)
-{
-    unsigned number = 0;
-    const char* const last = digits.data() + digits.size();
-    const auto [end, error] = std::from_chars(digits.data(), last, number);
-    return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
-}
-
 std::optional<sys_seconds> timeIn(std::string_view text)
 {
     constexpr std::string_view pattern = "0000-00-00T00:00:00Z";
@@ -86,7 +78,7 @@ std::optional<sys_seconds> timeIn(std::string_view text)
             return std::nullopt;
     }
     const auto part = [text](std::size_t from, std::size_t size) {
-        return numberIn(text.substr(from, size)).value_or(9999);
+        return odds::numberIn<unsigned>(text.substr(from, size)).value_or(9999);
     };
     const year_month_day date(year(static_cast<int>(part(0, 4))), month(part(5, 2)),
                               day(part(8, 2)));
