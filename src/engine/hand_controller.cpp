@@ -18,16 +18,12 @@ namespace
 constexpr std::int16_t programsOwnCall = 3;
 
 // Counts a sequence while it runs, even if an exception ends it.
-class RunningSequence
-{
-public:
-    explicit RunningSequence(int& count) : m_count(count) { ++m_count; }
-    ~RunningSequence() { --m_count; }
+struct RunningSequence {
+    explicit RunningSequence(int& running) : count(running) { ++count; }
+    ~RunningSequence() { --count; }
     RunningSequence(const RunningSequence&) = delete;
-    RunningSequence& operator=(const RunningSequence&) = delete;
 
-private:
-    int& m_count;
+    int& count;
 };
 
 } // namespace
@@ -52,10 +48,19 @@ void HandController::runSequence(Body body)
     }
 }
 
+template <typename Body>
+void HandController::recovering(const char* procedure, Body body)
+{
+    if (!guarded(m_ports.errorBox, procedure, body))
+        recover();
+}
+
 void HandController::initPokerScreen()
 {
     runSequence([this] {
-        abandonHand();
+        if (m_payTarget)
+            finishPaying();
+        clearHand();
         m_next = Next::newGame;
     });
 }
@@ -64,7 +69,7 @@ void HandController::runNewGame()
 {
     const std::uint32_t epoch = m_state.epoch;
     m_firstDealComing = true;
-    const bool done = guarded(m_ports.errorBox, "initPokerScreen", [&] {
+    recovering("initPokerScreen", [&] {
         m_ports.screen.layOutGame();
         m_state.handDealt = false;
         m_state.judgePending = false;
@@ -77,17 +82,12 @@ void HandController::runNewGame()
         if (pause(epoch, pace::beforeFirstDeal))
             picDeal_Click(programsOwnCall);
     });
-    if (!done)
-        recover();
     m_firstDealComing = false;
 }
 
 void HandController::picDeal_Click(std::int16_t Index)
 {
-    runSequence([&] {
-        if (!guarded(m_ports.errorBox, "picDeal_Click", [&] { clickDeck(Index); }))
-            recover();
-    });
+    runSequence([&] { recovering("picDeal_Click", [&] { clickDeck(Index); }); });
 }
 
 void HandController::clickDeck(std::int16_t index)
@@ -119,21 +119,17 @@ void HandController::toggleHold(std::int16_t index)
 
 void HandController::showPokerHand()
 {
-    if (!guarded(m_ports.errorBox, "showPokerHand", [&] { dealOrDraw(); }))
-        recover();
+    recovering("showPokerHand", [this] {
+        if (m_state.handDealt)
+            draw();
+        else
+            deal();
+    });
 }
 
-void HandController::dealOrDraw()
+void HandController::deal()
 {
     const bool cardsWereShowing = m_ports.table.isCardShowing(0);
-    if (m_state.handDealt)
-        draw(cardsWereShowing);
-    else
-        deal(cardsWereShowing);
-}
-
-void HandController::deal(bool cardsWereShowing)
-{
     m_state.pokerDeck = m_ports.decks.nextDeck();
     const std::array<Slot, 5> order = dealOrder(m_state.dealReversed);
     m_state.handBusy = true;
@@ -170,8 +166,9 @@ void HandController::dealCardTo(Slot slot)
     m_ports.cues.play(Cue::deal);
 }
 
-void HandController::draw(bool cardsWereShowing)
+void HandController::draw()
 {
+    const bool cardsWereShowing = m_ports.table.isCardShowing(0);
     const std::uint32_t epoch = m_state.epoch;
     m_state.handBusy = true;
     m_state.handDealt = false;
@@ -181,22 +178,19 @@ void HandController::draw(bool cardsWereShowing)
         refuseHold();
         return;
     }
-    std::array<bool, 5> replaced{};
-    for (const Slot slot : allSlots) {
-        replaced[slot] = !m_state.holdFlags[slot];
-        if (replaced[slot])
+    for (const Slot slot : allSlots)
+        if (!m_state.holdFlags[slot])
             m_ports.table.takeAway(slot);
-    }
     drawReplacements(m_state.hand, m_state.pokerDeck, m_state.holdFlags);
     m_state.handCode = EvaluatePokerHand(m_state.hand, true);
 
     for (const Slot slot : allSlots)
-        if (!replaced[slot])
+        if (m_state.holdFlags[slot])
             m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
     if (cardsWereShowing && !pause(epoch, pace::beforeFlights))
         return;
 
-    if (flyReplacements(epoch, replaced) && pay(epoch))
+    if (flyReplacements(epoch) && pay(epoch))
         dealNextHandByItself(epoch);
 }
 
@@ -210,16 +204,16 @@ void HandController::refuseHold()
     m_state.handBusy = false;
 }
 
-bool HandController::flyReplacements(std::uint32_t epoch, const std::array<bool, 5>& replaced)
+bool HandController::flyReplacements(std::uint32_t epoch)
 {
     for (const Slot slot : allSlots)
-        if (replaced[slot])
+        if (!m_state.holdFlags[slot])
             dealCardTo(slot);
     if (!pause(epoch, pace::beforeDrawnFaces))
         return false;
 
     for (const Slot slot : allSlots)
-        if (replaced[slot])
+        if (!m_state.holdFlags[slot])
             m_ports.table.showFace(slot, m_state.hand[slot].cardId, true);
     return pause(epoch, pace::beforePay);
 }
@@ -284,13 +278,6 @@ void HandController::addCredits(std::int16_t credits)
 {
     m_counters.total = saturatingAdd(m_counters.total, credits);
     m_ports.screen.showCounters(m_counters);
-}
-
-void HandController::abandonHand()
-{
-    if (m_payTarget)
-        finishPaying();
-    clearHand();
 }
 
 void HandController::recover()

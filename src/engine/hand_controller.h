@@ -9,7 +9,6 @@
 #include "engine/hand_state.h"
 #include "faults/error_box.h"
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -67,12 +66,11 @@ private:
     void runNewGame();
     void clickDeck(std::int16_t index);
     void toggleHold(std::int16_t index);
-    void dealOrDraw();
-    void deal(bool cardsWereShowing);
-    void draw(bool cardsWereShowing);
+    void deal();
+    void draw();
     void refuseHold();
     void dealCardTo(Slot slot);
-    [[nodiscard]] bool flyReplacements(std::uint32_t epoch, const std::array<bool, 5>& replaced);
+    [[nodiscard]] bool flyReplacements(std::uint32_t epoch);
     [[nodiscard]] bool pay(std::uint32_t epoch);
     void finishPaying();
     void dealNextHandByItself(std::uint32_t epoch);
@@ -80,7 +78,9 @@ private:
     void endFade();
     void charge();
     void addCredits(std::int16_t credits);
-    void abandonHand();
+    // Runs the body of a procedure. An error is shown, and the table recovers from it.
+    template <typename Body>
+    void recovering(const char* procedure, Body body);
     void recover();
     // No hand is on the table, and running sequences end after their pauses.
     void clearHand();
