@@ -66,7 +66,7 @@ unsigned codeOf(SuitLanes lanes, bool finalHand)
     const tables::CodeOfRankSet& oneSuit = finalHand ? tables::oneSuitFinal : tables::oneSuitDealt;
     return std::min<unsigned>({oneSuit[clubs], oneSuit[diamonds], oneSuit[hearts], oneSuit[spades],
                                tables::ranksOnce[black | red],
-                               tables::repeatedRanks[repeats.shapeOf()]});
+                               tables::repeatedRanks[repeats.shape()]});
 }
 
 } // namespace

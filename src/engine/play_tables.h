@@ -76,17 +76,6 @@ constexpr CodeOfRankSet codesOfOneSuit(bool finalHand)
     });
 }
 
-// Properties of repeated ranks, one bit each.
-namespace shape
-{
-inline constexpr unsigned pair = 1;
-inline constexpr unsigned highPair = 2;
-inline constexpr unsigned twoPairs = 4;
-inline constexpr unsigned threeAlike = 8;
-inline constexpr unsigned fourAlike = 16;
-inline constexpr std::size_t count = 32;
-} // namespace shape
-
 // The aces, jacks, queens and kings of a set of ranks.
 inline constexpr unsigned highRanks = [] {
     unsigned set = 0;
@@ -95,69 +84,70 @@ inline constexpr unsigned highRanks = [] {
     return set;
 }();
 
+inline constexpr std::size_t shapes = 32;
+
 // The ranks that occur at least twice, three times, four times.
 struct Repeats {
     unsigned twice = 0;
     unsigned thrice = 0;
     unsigned fourTimes = 0;
 
-    // The `shape` bits. Three of a kind also counts as a pair; in a full house both ranks do.
-    [[nodiscard]] constexpr std::size_t shapeOf() const
+    // All that the chart needs to know about them. Three of a kind also counts as a pair; in a full
+    // house both ranks do.
+    [[nodiscard]] constexpr std::size_t shape() const
     {
-        const bool twoRanks = (twice & (twice - 1)) != 0;
+        const bool pair = twice != 0;
+        const bool highPair = (twice & highRanks) != 0;
+        const bool twoPairs = (twice & (twice - 1)) != 0;
+        const bool threeAlike = thrice != 0;
+        const bool fourAlike = fourTimes != 0;
         // A sum, because compilers turn conditions into branches, which random hands mispredict.
-        return unsigned{twice != 0} * shape::pair +
-               unsigned{(twice & highRanks) != 0} * shape::highPair +
-               unsigned{twoRanks} * shape::twoPairs + unsigned{thrice != 0} * shape::threeAlike +
-               unsigned{fourTimes != 0} * shape::fourAlike;
+        return pair + 2U * highPair + 4U * twoPairs + 8U * threeAlike + 16U * fourAlike;
     }
 };
 
-// One rank two to four times, another one twice or not at all, and fillers.
-struct RepeatedRanks {
-    int rank;
-    int times; // 2..4
-    int otherRank;
-    int otherTimes; // 0 or 2
+// The repeated ranks of a hand, in ascending order; 0 for each other card.
+using RepeatedRanks = std::array<int, 5>;
 
-    [[nodiscard]] constexpr std::size_t shapeOf() const
-    {
-        const unsigned bit = 1U << (rank - 1);
-        const unsigned otherBit = otherTimes == 2 ? 1U << (otherRank - 1) : 0U;
-        return Repeats{bit | otherBit, times >= 3 ? bit : 0U, times == 4 ? bit : 0U}.shapeOf();
-    }
+// One hand of each shape: with and without high cards.
+inline constexpr std::array<RepeatedRanks, 10> handsByShape{{{1, 1},
+                                                             {2, 2},
+                                                             {1, 1, 2, 2},
+                                                             {2, 2, 3, 3},
+                                                             {1, 1, 1},
+                                                             {2, 2, 2},
+                                                             {1, 1, 1, 2, 2},
+                                                             {2, 2, 2, 3, 3},
+                                                             {1, 1, 1, 1},
+                                                             {2, 2, 2, 2}}};
 
-    [[nodiscard]] constexpr std::uint8_t code() const
-    {
-        rules::SortedCards cards = cardsOfRankSet(0);
-        auto card = cards.begin();
-        for (int i = 0; i < times; ++i)
-            (card++)->rank = rank;
-        for (int i = 0; i < otherTimes; ++i)
-            (card++)->rank = otherRank;
-        return static_cast<std::uint8_t>(codeOfRanks(cards));
-    }
-};
-
-template <typename Visit>
-constexpr void forEachRepetition(const Visit& visit)
+constexpr Repeats repeatsIn(const RepeatedRanks& hand)
 {
-    for (int rank = 1; rank <= 13; ++rank)
-        for (int otherRank = 1; otherRank <= 13; ++otherRank)
-            for (int times = 2; rank != otherRank && times <= 4; ++times)
-                for (int otherTimes = 0; otherTimes <= std::min(2, 5 - times); otherTimes += 2)
-                    visit(RepeatedRanks{rank, times, otherRank, otherTimes});
+    unsigned once = 0;
+    Repeats repeats;
+    for (const int rank : hand) {
+        const unsigned bit = rank == 0 ? 0U : 1U << (rank - 1);
+        repeats.fourTimes |= repeats.thrice & bit;
+        repeats.thrice |= repeats.twice & bit;
+        repeats.twice |= once & bit;
+        once |= bit;
+    }
+    return repeats;
 }
 
-using CodeOfShape = std::array<std::uint8_t, shape::count>;
+using CodeOfShape = std::array<std::uint8_t, shapes>;
 
 // Impossible shapes, and the shape of no repeats, have the code of the last row.
 constexpr CodeOfShape codesOfShapes()
 {
     CodeOfShape codes{};
     codes.fill(static_cast<std::uint8_t>(rules::chart.size()));
-    forEachRepetition(
-        [&codes](const RepeatedRanks& ranks) { codes[ranks.shapeOf()] = ranks.code(); });
+    for (const RepeatedRanks& hand : handsByShape) {
+        rules::SortedCards cards = cardsOfRankSet(0);
+        for (std::size_t card = 0; card < hand.size() && hand[card] != 0; ++card)
+            cards[card].rank = hand[card];
+        codes[repeatsIn(hand).shape()] = static_cast<std::uint8_t>(codeOfRanks(cards));
+    }
     return codes;
 }
 
@@ -165,14 +155,5 @@ inline constexpr CodeOfRankSet ranksOnce = codesOfRankSets(codeOfRanks);
 inline constexpr CodeOfRankSet oneSuitDealt = codesOfOneSuit(false);
 inline constexpr CodeOfRankSet oneSuitFinal = codesOfOneSuit(true);
 inline constexpr CodeOfShape repeatedRanks = codesOfShapes();
-
-// The shape is all that the chart needs to know about repeated ranks.
-static_assert([] {
-    bool same = true;
-    forEachRepetition([&same](const RepeatedRanks& ranks) {
-        same = same && repeatedRanks[ranks.shapeOf()] == ranks.code();
-    });
-    return same;
-}());
 
 } // namespace quillet::tables
