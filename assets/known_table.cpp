@@ -33,13 +33,12 @@ int main(int argc, char** argv)
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
     SystemClock clock;
-    KnownHand decks;
     Surroundings surroundings{.store = store,
                               .pages = pages,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,
-                              .decks = decks,
+                              .nextDeck = known_hand::deck,
                               .programFolder = QUILLET_PROGRAM_FOLDER,
                               .shortDelay = shortDelay,
                               .endProcess = [](int code) { std::_Exit(code); }};

@@ -37,7 +37,7 @@ public:
     {
         if (!m_window.Form_Load())
             return false;
-        m_window.picPoker_MouseDown(KnownHand::ace);
+        m_window.picPoker_MouseDown(known_hand::ace);
         holdTheJacksAndDraw();
         takePicture("refused");
         holdTheJacksAndDraw();
@@ -48,7 +48,7 @@ public:
 private:
     void holdTheJacksAndDraw()
     {
-        for (const std::int16_t slot : KnownHand::jacks)
+        for (const std::int16_t slot : known_hand::jacks)
             m_window.picPoker_MouseDown(slot);
         m_window.picDeal_Click(0);
     }
@@ -67,14 +67,13 @@ private:
     SdlSoundOutput m_sound;
     MessageErrorBox m_errorBox;
     SystemClock m_clock;
-    KnownHand m_decks;
     Surroundings m_surroundings{
         .store = m_store,
         .pages = m_pages,
         .sound = m_sound,
         .errorBox = m_errorBox,
         .clock = m_clock,
-        .decks = m_decks,
+        .nextDeck = known_hand::deck,
         .programFolder = QUILLET_PROGRAM_FOLDER,
         // The pictures need no pauses.
         .shortDelay = [](std::int32_t, const auto&) { QCoreApplication::processEvents(); },

@@ -52,13 +52,12 @@ void hand(benchmark::State& state)
     MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
-    ShuffledDecks decks(random);
     Surroundings surroundings{.store = store,
                               .pages = pages,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,
-                              .decks = decks,
+                              .nextDeck = [&random] { return shuffledDeck(random); },
                               .programFolder = QUILLET_PROGRAM_FOLDER,
                               .shortDelay = shortDelay,
                               .endProcess = [](int code) { std::_Exit(code); }};

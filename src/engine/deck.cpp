@@ -14,9 +14,9 @@ PokerDeck buildDeck()
     return deck;
 }
 
-void shuffleDeck(PokerDeck& deck, RandomSource& random)
+PokerDeck shuffledDeck(RandomSource& random)
 {
-    deck = buildDeck();
+    PokerDeck deck = buildDeck();
     // The partner is drawn from all 52 places, not only from the rest, so the shuffle is not
     // uniform. That is how this game shuffles; do not correct it.
     for (std::int16_t& card : deck) {
@@ -24,12 +24,6 @@ void shuffleDeck(PokerDeck& deck, RandomSource& random)
         const auto partner = static_cast<std::size_t>(random.next() * 52);
         std::swap(card, deck[partner]);
     }
-}
-
-PokerDeck ShuffledDecks::nextDeck()
-{
-    PokerDeck deck{};
-    shuffleDeck(deck, m_random);
     return deck;
 }
 

@@ -30,27 +30,7 @@ public:
 // The cards in the order of their numbers.
 [[nodiscard]] PokerDeck buildDeck();
 
-// Shuffles a new deck.
-void shuffleDeck(PokerDeck& deck, RandomSource& random);
-
-// Where the deck of each hand comes from.
-class DeckSource
-{
-public:
-    virtual ~DeckSource() = default;
-    [[nodiscard]] virtual PokerDeck nextDeck() = 0;
-};
-
-// The decks of the game. The random source must outlive this.
-class ShuffledDecks : public DeckSource
-{
-public:
-    explicit ShuffledDecks(RandomSource& random) : m_random(random) {}
-    [[nodiscard]] PokerDeck nextDeck() override;
-
-private:
-    RandomSource& m_random;
-};
+[[nodiscard]] PokerDeck shuffledDeck(RandomSource& random);
 
 // The slots in the order in which their cards arrive: left to right and right to left in turn,
 // so it flips dealReversed.

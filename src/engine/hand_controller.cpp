@@ -31,7 +31,7 @@ struct RunningSequence {
 HandController::HandController(HandState& state, Counters& counters,
                                std::function<bool()> dealsByItself, GamePorts ports)
     : m_state(state), m_counters(counters), m_dealsByItself(std::move(dealsByItself)),
-      m_ports(ports)
+      m_ports(std::move(ports))
 {
 }
 
@@ -130,7 +130,7 @@ void HandController::showPokerHand()
 void HandController::deal()
 {
     const bool cardsWereShowing = m_ports.table.isCardShowing(0);
-    m_state.pokerDeck = m_ports.decks.nextDeck();
+    m_state.pokerDeck = m_ports.nextDeck();
     const std::array<Slot, 5> order = dealOrder(m_state.dealReversed);
     m_state.handBusy = true;
     const std::uint32_t epoch = ++m_state.epoch;

@@ -22,7 +22,7 @@ struct GamePorts {
     GameScreen& screen;
     HandCoach& coach;
     CueOutput& cues;
-    DeckSource& decks;
+    std::function<PokerDeck()> nextDeck;
     ErrorBox& errorBox;
 };
 

@@ -66,7 +66,7 @@ frmMain::frmMain(Surroundings& surroundings)
       m_coach(m_chart, [this] { return prfShowPokerPlay; }),
       m_cues([this] { return prfSound; }, surroundings.programFolder, surroundings.sound),
       m_controller(m_state, m_counters, [this] { return prfPokerAutoDeal; },
-                   {m_table, *this, m_coach, m_cues, surroundings.decks, surroundings.errorBox}),
+                   {m_table, *this, m_coach, m_cues, surroundings.nextDeck, surroundings.errorBox}),
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
       picStatusBar(new StatusBar(&m_table.canvas())),
       m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)

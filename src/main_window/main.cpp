@@ -29,23 +29,23 @@ int Main()
     MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random(timeOfDay);
-    ShuffledDecks decks(random);
     const std::string folder = QCoreApplication::applicationDirPath().toStdString();
     Surroundings surroundings{.store = store,
                               .pages = pages,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,
-                              .decks = decks,
+                              .nextDeck = [&random] { return shuffledDeck(random); },
                               .programFolder = folder,
                               .helpFile = folder + "/quillet.hlp",
                               .shortDelay = shortDelay,
                               // Nested event loops may be waiting, so nothing is unwound.
-                              .endProcess = [&sound](int code) {
-                                  sound.stop();
-                                  std::fflush(nullptr);
-                                  std::_Exit(code);
-                              }};
+                              .endProcess =
+                                  [&sound](int code) {
+                                      sound.stop();
+                                      std::fflush(nullptr);
+                                      std::_Exit(code);
+                                  }};
     frmMain window(surroundings);
     const WindowLoss loss;
     const int code = window.Form_Load() ? QApplication::exec() : EXIT_FAILURE;

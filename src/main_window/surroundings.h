@@ -22,7 +22,7 @@ struct Surroundings {
     SoundOutput& sound;
     ErrorBox& errorBox;
     const Clock& clock;
-    DeckSource& decks;
+    std::function<PokerDeck()> nextDeck;
     ScreenMetrics metrics = {};
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
     std::string helpFile = {};

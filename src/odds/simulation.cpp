@@ -68,9 +68,8 @@ Simulation playHands(const HeldCards& heldCards, const Player& player, RandomSou
                      std::int64_t hands)
 {
     Simulation result;
-    PokerDeck deck{};
     for (std::int64_t done = 0; done < hands; ++done) {
-        shuffleDeck(deck, random);
+        const PokerDeck deck = shuffledDeck(random);
         const std::array<Card, 5> hand = dealHand(deck);
         std::array<DealtCard, 5> slots;
         for (std::size_t i = 0; i < slots.size(); ++i)

@@ -51,9 +51,7 @@ TEST(Deck, theShuffleIsFiftyTwoExchangesWithAnyPlace)
         std::swap(expected[i], expected[partner]);
     }
     ScriptedRandom random(draws);
-    PokerDeck deck{};
-    shuffleDeck(deck, random);
-    EXPECT_EQ(deck, expected);
+    EXPECT_EQ(shuffledDeck(random), expected);
     EXPECT_EQ(random.asked, reseedBeforeEveryDraw);
 }
 

@@ -125,7 +125,7 @@ struct Game {
     HandController controller{state,
                               counters,
                               [this] { return prfPokerAutoDeal; },
-                              {table, table, coach, table, decks, errors}};
+                              {table, table, coach, table, [this] { return decks(); }, errors}};
 };
 
 } // namespace quillet::test

@@ -15,7 +15,7 @@ PlayedWindow::PlayedWindow()
                    .sound = sounds,
                    .errorBox = errors,
                    .clock = *this,
-                   .decks = *this,
+                   .nextDeck = [this] { return nextDeck(); },
                    .programFolder = QUILLET_PROGRAM_FOLDER,
                    .shortDelay = std::bind_front(&PlayedWindow::pause, this),
                    .endProcess = [this](int code) { ended.push_back(code); }}
@@ -43,7 +43,7 @@ void PlayedWindow::pause(std::int32_t delayTime, const std::function<bool()>& cu
 PokerDeck PlayedWindow::nextDeck()
 {
     failAt("decks");
-    return decks.nextDeck();
+    return decks();
 }
 
 QString PlayedWindow::useOwnFolder()

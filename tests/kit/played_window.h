@@ -32,7 +32,7 @@ struct RecordedSounds : SoundOutput {
 // The real main window on a desktop of stand-ins. Pauses take no time: they move a virtual clock,
 // send the input that falls due and handle Qt's events. Unless a test stores other settings, the
 // player deals, cards do not fly and the delays are known.
-class PlayedWindow : private DeckSource, private Clock
+class PlayedWindow : private Clock
 {
 public:
     PlayedWindow();
@@ -83,7 +83,7 @@ public:
 
 protected:
     virtual void pause(std::int32_t delayTime, const std::function<bool()>& cutShort);
-    PokerDeck nextDeck() override;
+    virtual PokerDeck nextDeck();
 
 private:
     std::int64_t milliseconds() const override { return clock.now; }

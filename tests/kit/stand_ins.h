@@ -25,7 +25,7 @@ struct RecordedErrors : ErrorBox {
 
 // Decks with these ten cards on top, as text, "As Ks ...": five to be dealt, then the replacements
 // of slots 0..4.
-class StackedDeck : public DeckSource
+class StackedDeck
 {
 public:
     void stack(std::string_view tenCards)
@@ -36,7 +36,7 @@ public:
                       *std::ranges::find(m_deck, card(tenCards.substr(3 * at, 2)).cardId));
     }
 
-    PokerDeck nextDeck() override { return m_deck; }
+    [[nodiscard]] PokerDeck operator()() const { return m_deck; }
 
 private:
     PokerDeck m_deck = buildDeck();
