@@ -29,12 +29,11 @@ int main(int argc, char** argv)
                 {"Quillet", "Preferences", "prfSound", "False"},
                 {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
                 {"Quillet", "Preferences", "prfShowPokerPlay", "False"}});
-    BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
     SystemClock clock;
     Surroundings surroundings{.store = store,
-                              .pages = pages,
+                              .openPage = openInBrowser,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,

@@ -63,7 +63,7 @@ private:
         if (!rules.open(QIODevice::ReadOnly))
             std::exit(EXIT_FAILURE);
         return {.store = m_store,
-                .pages = m_pages,
+                .openPage = openInBrowser,
                 .sound = m_sound,
                 .rules = charts::parseChart(rules.readAll().toStdString()),
                 .journal = m_place.filePath("practice.csv").toStdString(),
@@ -154,7 +154,6 @@ private:
     QString m_folder;
     QTemporaryDir m_place;
     TextFileStore m_store{m_place.path()};
-    BrowserOpener m_pages;
     SdlSoundOutput m_sound;
 };
 

@@ -63,13 +63,12 @@ private:
     QDir m_folder;
     QTemporaryDir m_config;
     TextFileStore m_store{m_config.path()};
-    BrowserOpener m_pages;
     SdlSoundOutput m_sound;
     MessageErrorBox m_errorBox;
     SystemClock m_clock;
     Surroundings m_surroundings{
         .store = m_store,
-        .pages = m_pages,
+        .openPage = openInBrowser,
         .sound = m_sound,
         .errorBox = m_errorBox,
         .clock = m_clock,

@@ -47,13 +47,12 @@ void hand(benchmark::State& state)
     store.save({{"Quillet", "Preferences", "prfAnimationDelay", std::to_string(state.range(0))},
                 {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
                 {"Quillet", "Preferences", "prfSound", "False"}});
-    BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     Surroundings surroundings{.store = store,
-                              .pages = pages,
+                              .openPage = openInBrowser,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,

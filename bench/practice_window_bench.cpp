@@ -28,7 +28,7 @@ public:
         if (!rules.open(QIODevice::ReadOnly))
             std::exit(EXIT_FAILURE);
         m_window.emplace(Surroundings{.store = m_store,
-                                      .pages = m_pages,
+                                      .openPage = openInBrowser,
                                       .sound = m_sound,
                                       .rules = charts::parseChart(rules.readAll().toStdString()),
                                       .journal = m_folder.filePath("practice.csv").toStdString(),
@@ -49,7 +49,6 @@ public:
 private:
     QTemporaryDir m_folder;
     TextFileStore m_store{m_folder.path()};
-    BrowserOpener m_pages;
     SdlSoundOutput m_sound;
     std::optional<PracticeWindow> m_window;
 };

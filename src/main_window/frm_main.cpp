@@ -41,7 +41,7 @@ QString backgroundPath(const Surroundings& surroundings, const std::string& file
 // Centred over the game window.
 void showExitScreen(frmMain& window, const Surroundings& surroundings)
 {
-    frmExitNoBanner screen(surroundings.pages);
+    frmExitNoBanner screen(surroundings.openPage);
     screen.adjustSize();
     screen.move(window.geometry().center() - screen.rect().center());
     QObject::connect(&screen, &frmExitNoBanner::unloadMainWindow, &window, &QWidget::close);
@@ -179,7 +179,7 @@ void frmMain::picPoker_MouseDown(std::int16_t Index)
 void frmMain::picStatusBar_Click()
 {
     guardedWithText(m_surroundings.errorBox, "statusclick", "",
-                    [this] { openWebPage(m_surroundings.pages, onlinePokerPage()); });
+                    [this] { openWebPage(m_surroundings.openPage, onlinePokerPage()); });
 }
 
 void frmMain::mnuPref_Click()
@@ -194,18 +194,18 @@ void frmMain::mnuPref_Click()
 
 void frmMain::mnuSites_Click(int)
 {
-    openWebPage(m_surroundings.pages, onlinePokerPage());
+    openWebPage(m_surroundings.openPage, onlinePokerPage());
 }
 
 void frmMain::mnuContents_Click()
 {
-    HelpViewer::present(this, m_surroundings.pages,
+    HelpViewer::present(this, m_surroundings.openPage,
                         QString::fromStdString(m_surroundings.helpFile));
 }
 
 void frmMain::mnuAbout_Click()
 {
-    frmAbout::present(this, m_surroundings.pages);
+    frmAbout::present(this, m_surroundings.openPage);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

@@ -24,14 +24,13 @@ int Main()
     using namespace quillet;
 
     TextFileStore store;
-    BrowserOpener pages;
     SdlSoundOutput sound;
     MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random(timeOfDay);
     const std::string folder = QCoreApplication::applicationDirPath().toStdString();
     Surroundings surroundings{.store = store,
-                              .pages = pages,
+                              .openPage = openInBrowser,
                               .sound = sound,
                               .errorBox = errorBox,
                               .clock = clock,

@@ -2,8 +2,8 @@
 
 #include "engine/deck.h"
 #include "faults/error_box.h"
+#include "platform/browser_opener.h"
 #include "platform/clock.h"
-#include "platform/page_opener.h"
 #include "platform/screen_metrics.h"
 #include "settings/settings_store.h"
 #include "sound/sound_output.h"
@@ -18,7 +18,7 @@ namespace quillet
 // their own.
 struct Surroundings {
     SettingsStore& store;
-    PageOpener& pages;
+    PageOpener openPage;
     SoundOutput& sound;
     ErrorBox& errorBox;
     const Clock& clock;

@@ -17,7 +17,7 @@ bool isWebAddress(const QUrl& address)
 
 } // namespace
 
-void BrowserOpener::open(const std::string& address)
+void openInBrowser(const std::string& address)
 {
     const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
     if (!isWebAddress(url))

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "platform/page_opener.h"
+#include <functional>
+#include <string>
 
 namespace quillet
 {
 
-// Opens web addresses in the player's browser with xdg-open, which runs detached. Its output is
-// discarded and its failures are ignored.
-class BrowserOpener : public PageOpener
-{
-public:
-    // Ignores everything but http and https addresses, so that no text can start a program.
-    void open(const std::string& address) override;
-};
+// Opens a web page. Returns at once and reports nothing.
+using PageOpener = std::function<void(const std::string& address)>;
+
+// Opens a page in the player's browser with xdg-open, which runs detached. Its output is discarded
+// and its failures are ignored. Ignores everything but http and https addresses, so that no text
+// can start a program.
+void openInBrowser(const std::string& address);
 
 } // namespace quillet

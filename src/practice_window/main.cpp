@@ -47,12 +47,11 @@ int main(int argc, char* argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("quillet-practice"));
     useWindowIcon("quillet-practice");
     TextFileStore store;
-    BrowserOpener pages;
     SdlSoundOutput sound;
     std::random_device seed;
     practice_window::PracticeWindow window(
         {.store = store,
-         .pages = pages,
+         .openPage = openInBrowser,
          .sound = sound,
          .rules = losslessChart(),
          .journal = journalPath(),

@@ -258,7 +258,7 @@ void PracticeWindow::savePreferences()
 
 void PracticeWindow::showHelp()
 {
-    HelpViewer::present(this, m_surroundings.pages,
+    HelpViewer::present(this, m_surroundings.openPage,
                         QString::fromStdString(m_surroundings.programFolder + "/practice.hlp"));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/chart.h"
-#include "platform/page_opener.h"
+#include "platform/browser_opener.h"
 #include "settings/settings_store.h"
 #include "sound/sound_output.h"
 
@@ -18,7 +18,7 @@ namespace quillet::practice_window
 // their own.
 struct Surroundings {
     SettingsStore& store;
-    PageOpener& pages;
+    PageOpener openPage;
     SoundOutput& sound;
     charts::Chart rules; // plays every deal perfectly with the trainer's pay table
     std::filesystem::path journal;

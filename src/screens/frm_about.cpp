@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace quillet
 {
 
@@ -28,17 +30,18 @@ QIcon programIcon()
 
 } // namespace
 
-void frmAbout::present(QWidget* parent, PageOpener& pages)
+void frmAbout::present(QWidget* parent, const PageOpener& openPage)
 {
     auto* box = openWindow<frmAbout>();
     if (box == nullptr) {
-        box = new frmAbout(pages, parent);
+        box = new frmAbout(openPage, parent);
         box->setAttribute(Qt::WA_DeleteOnClose);
     }
     bringToFront(*box);
 }
 
-frmAbout::frmAbout(PageOpener& pages, QWidget* parent) : QDialog(parent), m_pages(pages)
+frmAbout::frmAbout(PageOpener openPage, QWidget* parent)
+    : QDialog(parent), m_openPage(std::move(openPage))
 {
     setObjectName("frmAbout");
     setWindowTitle("About Quillet");
@@ -106,7 +109,7 @@ QLayout* frmAbout::layOutAuthors()
 
 void frmAbout::lblLink_Click()
 {
-    openWebPage(m_pages, m_lblLink->text().toStdString());
+    openWebPage(m_openPage, m_lblLink->text().toStdString());
 }
 
 void frmAbout::cmdOK_Click()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_opener.h"
+#include "platform/browser_opener.h"
 
 #include <QDialog>
 
@@ -15,10 +15,10 @@ class frmAbout : public QDialog
     Q_OBJECT
 
 public:
-    // Shows the box, or brings the open one to the front. The opener must outlive the box.
-    static void present(QWidget* parent, PageOpener& pages);
+    // Shows the box, or brings the open one to the front.
+    static void present(QWidget* parent, const PageOpener& openPage);
 
-    frmAbout(PageOpener& pages, QWidget* parent);
+    frmAbout(PageOpener openPage, QWidget* parent);
 
 private:
     void lblLink_Click();
@@ -26,7 +26,7 @@ private:
     QLayout* layOutHeading();
     QLayout* layOutAuthors();
 
-    PageOpener& m_pages;
+    PageOpener m_openPage;
     LinkLabel* m_lblLink = nullptr;
 };
 

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace quillet
 {
@@ -47,8 +48,8 @@ QPushButton* namedButton(const char* name, const QString& text)
 
 } // namespace
 
-frmExitNoBanner::frmExitNoBanner(PageOpener& pages, QWidget* parent)
-    : QDialog(parent), m_pages(pages)
+frmExitNoBanner::frmExitNoBanner(PageOpener openPage, QWidget* parent)
+    : QDialog(parent), m_openPage(std::move(openPage))
 {
     setObjectName("frmExitNoBanner");
     setWindowTitle("More Texas Hold'em Resources..");
@@ -122,7 +123,7 @@ void frmExitNoBanner::addFooter(QVBoxLayout& layout)
 
 void frmExitNoBanner::openHomePage()
 {
-    openWebPage(m_pages, homePage());
+    openWebPage(m_openPage, homePage());
 }
 
 void frmExitNoBanner::cmdOK_Click()

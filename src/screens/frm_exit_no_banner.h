@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_opener.h"
+#include "platform/browser_opener.h"
 
 #include <QDialog>
 
@@ -16,8 +16,7 @@ class frmExitNoBanner : public QDialog
     Q_OBJECT
 
 public:
-    // The opener must outlive the window.
-    explicit frmExitNoBanner(PageOpener& pages, QWidget* parent = nullptr);
+    explicit frmExitNoBanner(PageOpener openPage, QWidget* parent = nullptr);
 
     // The close box, the system menu and Esc come here; exec() returns after it.
     void reject() override;
@@ -38,7 +37,7 @@ private:
     void addFooter(QVBoxLayout& layout);
     void addButtons(QVBoxLayout& layout);
 
-    PageOpener& m_pages;
+    PageOpener m_openPage;
 };
 
 } // namespace quillet

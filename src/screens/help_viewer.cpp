@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillet
 {
@@ -73,11 +74,11 @@ QString notFound(const QString& text)
 
 } // namespace
 
-void HelpViewer::present(QWidget* parent, PageOpener& pages, const QString& path)
+void HelpViewer::present(QWidget* parent, const PageOpener& openPage, const QString& path)
 {
     auto* viewer = openWindow<HelpViewer>();
     if (viewer == nullptr) {
-        viewer = new HelpViewer(pages, parent);
+        viewer = new HelpViewer(openPage, parent);
         viewer->setAttribute(Qt::WA_DeleteOnClose);
         viewer->move(placeBeside(*parent, viewer->size()));
     }
@@ -85,8 +86,8 @@ void HelpViewer::present(QWidget* parent, PageOpener& pages, const QString& path
     viewer->openAtContents(path);
 }
 
-HelpViewer::HelpViewer(PageOpener& pages, QWidget* parent)
-    : QMainWindow(parent, Qt::Window), m_pages(pages), m_page(new HelpPage),
+HelpViewer::HelpViewer(PageOpener openPage, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), m_openPage(std::move(openPage)), m_page(new HelpPage),
       m_searchText(new SearchField), m_message(new QLabel)
 {
     setObjectName("HelpViewer");
@@ -115,7 +116,7 @@ QWidget* HelpViewer::layOutPage()
     m_page->setAccessibleName("Help text");
     m_page->setFrameShape(QFrame::NoFrame);
     connect(m_page, &HelpPage::webLinkClicked, this, [this](const QUrl& address) {
-        openWebPage(m_pages, address.toEncoded().toStdString());
+        openWebPage(m_openPage, address.toEncoded().toStdString());
     });
     // Messages of the search get their own line, which wraps. In the tool bar they would be cut
     // off.

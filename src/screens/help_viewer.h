@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_opener.h"
+#include "platform/browser_opener.h"
 #include "screens/help_page.h"
 
 #include <QMainWindow>
@@ -18,11 +18,10 @@ class HelpViewer : public QMainWindow
     Q_OBJECT
 
 public:
-    // Opens the help at its contents, in the open window if there is one. The opener must outlive
-    // the window.
-    static void present(QWidget* parent, PageOpener& pages, const QString& path);
+    // Opens the help at its contents, in the open window if there is one.
+    static void present(QWidget* parent, const PageOpener& openPage, const QString& path);
 
-    HelpViewer(PageOpener& pages, QWidget* parent);
+    HelpViewer(PageOpener openPage, QWidget* parent);
 
     void openAtContents(const QString& path);
 
@@ -35,7 +34,7 @@ private:
     void searchTyped(const QString& text);
     void showMessage(const QString& message);
 
-    PageOpener& m_pages;
+    PageOpener m_openPage;
     HelpPage* m_page;
     QLineEdit* m_searchText;
     QLabel* m_message;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/page_opener.h"
+#include "platform/browser_opener.h"
 
 #include <cstdint>
 #include <string>
@@ -9,11 +9,11 @@ namespace quillet
 {
 
 // Asks the desktop to open an address and returns at once. A failure is not reported.
-void RunShellExecute(PageOpener& pages, const std::string& sTopic, const std::string& sFile,
-                     const std::string& sParams, const std::string& sDirectory,
-                     std::int32_t nShowCmd);
+void RunShellExecute(const PageOpener& openPage, const std::string& sTopic,
+                     const std::string& sFile, const std::string& sParams,
+                     const std::string& sDirectory, std::int32_t nShowCmd);
 
 // How the program's links call it.
-void openWebPage(PageOpener& pages, const std::string& address);
+void openWebPage(const PageOpener& openPage, const std::string& address);
 
 } // namespace quillet

@@ -11,7 +11,7 @@ namespace quillet::test
 
 PlayedWindow::PlayedWindow()
     : surroundings{.store = store,
-                   .pages = pages,
+                   .openPage = std::ref(pages),
                    .sound = sounds,
                    .errorBox = errors,
                    .clock = *this,

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "faults/run_time_error.h"
-#include "platform/page_opener.h"
 
 #include <QTest>
 #include <QWidget>
@@ -14,8 +13,8 @@ namespace quillet::test
 {
 
 // Records the pages that the windows open.
-struct RecordingShell : PageOpener {
-    void open(const std::string& address) override
+struct RecordingShell {
+    void operator()(const std::string& address)
     {
         if (fails)
             throw RunTimeError("the wind");

@@ -45,7 +45,7 @@ struct PracticeTest : testing::Test {
         store.section = "Practice";
         window = std::make_unique<PracticeWindow>(Surroundings{
             .store = store,
-            .pages = shell,
+            .openPage = std::ref(shell),
             .sound = sound,
             .rules = charts::parseChart(fileText(QUILLET_CHARTS_FOLDER "/perfect.chart")),
             .journal = journal,

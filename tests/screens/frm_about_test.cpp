@@ -16,12 +16,12 @@ TEST(AboutBox, theLinkOpensTheAddressThatItShows)
     owner.show();
     ASSERT_TRUE(moveToScale(owner, 2));
     RecordingShell pages;
-    frmAbout::present(&owner, pages);
+    frmAbout::present(&owner, std::ref(pages));
     auto* const box = openWindow<frmAbout>();
     ASSERT_TRUE(box != nullptr && QTest::qWaitForWindowExposed(box));
     EXPECT_EQ(control<QLabel>(*box, "picIcon").pixmap().devicePixelRatio(), 2);
     box->showMinimized();
-    frmAbout::present(&owner, pages);
+    frmAbout::present(&owner, std::ref(pages));
     EXPECT_FALSE(box->isMinimized());
     auto& link = control<QLabel>(*box, "lblLink");
     EXPECT_EQ(link.x() + link.contentsRect().x(), control(*box, "Label4").x()) << "in line";

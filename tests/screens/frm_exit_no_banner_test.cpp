@@ -40,7 +40,7 @@ protected:
     }
 
     RecordingShell pages;
-    frmExitNoBanner window{pages};
+    frmExitNoBanner window{std::ref(pages)};
     std::vector<std::string> log;
 };
 

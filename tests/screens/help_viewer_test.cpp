@@ -45,7 +45,7 @@ protected:
     }
     HelpViewer& present(const QString& path)
     {
-        HelpViewer::present(&owner, pages, path);
+        HelpViewer::present(&owner, std::ref(pages), path);
         auto* viewer = openWindow<HelpViewer>();
         EXPECT_TRUE(viewer != nullptr && QTest::qWaitForWindowExposed(viewer));
         return *viewer;
