@@ -4,7 +4,7 @@
 #include "assets/known_hand.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 #include "platform/short_delay.h"
 #include "platform/system_clock.h"
 #include "settings/text_file_store.h"
@@ -30,12 +30,11 @@ int main(int argc, char** argv)
                 {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
                 {"Quillet", "Preferences", "prfShowPokerPlay", "False"}});
     SdlSoundOutput sound;
-    MessageErrorBox errorBox;
     SystemClock clock;
     Surroundings surroundings{.store = store,
                               .openPage = openInBrowser,
                               .sound = sound,
-                              .errorBox = errorBox,
+                              .errorBox = showErrorBox,
                               .clock = clock,
                               .nextDeck = known_hand::deck,
                               .programFolder = QUILLET_PROGRAM_FOLDER,

@@ -4,7 +4,7 @@
 #include "assets/known_hand.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 #include "platform/system_clock.h"
 #include "settings/text_file_store.h"
 #include "sound/sdl_sound_output.h"
@@ -64,13 +64,12 @@ private:
     QTemporaryDir m_config;
     TextFileStore m_store{m_config.path()};
     SdlSoundOutput m_sound;
-    MessageErrorBox m_errorBox;
     SystemClock m_clock;
     Surroundings m_surroundings{
         .store = m_store,
         .openPage = openInBrowser,
         .sound = m_sound,
-        .errorBox = m_errorBox,
+        .errorBox = showErrorBox,
         .clock = m_clock,
         .nextDeck = known_hand::deck,
         .programFolder = QUILLET_PROGRAM_FOLDER,

@@ -5,7 +5,7 @@
 #include "engine/random.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 #include "platform/short_delay.h"
 #include "platform/system_clock.h"
 #include "settings/text_file_store.h"
@@ -48,13 +48,12 @@ void hand(benchmark::State& state)
                 {"Quillet", "Preferences", "prfPokerAutoDeal", "False"},
                 {"Quillet", "Preferences", "prfSound", "False"}});
     SdlSoundOutput sound;
-    MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random([] { return std::uint64_t{0}; }, 1);
     Surroundings surroundings{.store = store,
                               .openPage = openInBrowser,
                               .sound = sound,
-                              .errorBox = errorBox,
+                              .errorBox = showErrorBox,
                               .clock = clock,
                               .nextDeck = [&random] { return shuffledDeck(random); },
                               .programFolder = QUILLET_PROGRAM_FOLDER,

@@ -3,7 +3,6 @@
 #include "engine/hand_evaluation.h"
 #include "engine/pace.h"
 #include "engine/pay_table.h"
-#include "faults/guarded.h"
 
 #include <algorithm>
 #include <cassert>

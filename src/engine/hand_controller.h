@@ -7,7 +7,7 @@
 #include "engine/game_screen.h"
 #include "engine/hand_coach.h"
 #include "engine/hand_state.h"
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,7 +23,7 @@ struct GamePorts {
     HandCoach& coach;
     CueOutput& cues;
     std::function<PokerDeck()> nextDeck;
-    ErrorBox& errorBox;
+    ErrorBox errorBox;
 };
 
 // Runs the game: what happens in which order, from a new table to the paid hand. It alone writes

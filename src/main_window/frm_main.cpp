@@ -28,11 +28,6 @@ namespace quillet
 namespace
 {
 
-// Error boxes must not delay logout. If the window is closed after all, that reports the error.
-struct NoErrorBox : ErrorBox {
-    void showError(const std::string&) override {}
-};
-
 QString backgroundPath(const Surroundings& surroundings, const std::string& fileName)
 {
     return QString::fromStdString(surroundings.programFolder + "/pics/" + fileName);
@@ -56,10 +51,12 @@ frmMain::frmMain(Surroundings& surroundings)
     : m_surroundings(surroundings),
       m_sessionEnd(surroundings.clock,
                    [this] {
-                       NoErrorBox nobody;
+                       // An error box must not delay logout. If the window is closed after all,
+                       // that reports the error.
+                       const ErrorBox noBox = [](const std::string&) {};
                        // Until the first game, the measurement of the delays may be unfinished.
                        if (m_firstHandStarted && !m_unloading)
-                           guarded(nobody, "Form_Unload",
+                           guarded(noBox, "Form_Unload",
                                    [this] { savePreferences(*this, m_surroundings.store); });
                    }),
       m_table(*this, surroundings.errorBox, this),

@@ -1,7 +1,6 @@
 #include "main_window/frm_preferences.h"
 
 #include "cards/card_numbers.h"
-#include "faults/guarded.h"
 #include "faults/run_time_error.h"
 #include "main_window/back_preview.h"
 #include "main_window/designed_look.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "main_window/indicator_style.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
@@ -29,7 +29,7 @@ class BackPreview;
 struct PreferencesHost {
     Preferences& preferences;
     CardLibrary& library;
-    ErrorBox& errorBox;
+    ErrorBox errorBox;
     QSize cardSize; // cWidth, cHeight
     double twipsPerPixel;
     std::function<void()> DrawDealDeck;

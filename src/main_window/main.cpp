@@ -1,7 +1,7 @@
 #include "engine/random.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 #include "platform/short_delay.h"
 #include "platform/system_clock.h"
 #include "platform/window_icon.h"
@@ -25,14 +25,13 @@ int Main()
 
     TextFileStore store;
     SdlSoundOutput sound;
-    MessageErrorBox errorBox;
     SystemClock clock;
     BlendingRandom random(timeOfDay);
     const std::string folder = QCoreApplication::applicationDirPath().toStdString();
     Surroundings surroundings{.store = store,
                               .openPage = openInBrowser,
                               .sound = sound,
-                              .errorBox = errorBox,
+                              .errorBox = showErrorBox,
                               .clock = clock,
                               .nextDeck = [&random] { return shuffledDeck(random); },
                               .programFolder = folder,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "platform/browser_opener.h"
 #include "platform/clock.h"
 #include "platform/screen_metrics.h"
@@ -20,7 +20,7 @@ struct Surroundings {
     SettingsStore& store;
     PageOpener openPage;
     SoundOutput& sound;
-    ErrorBox& errorBox;
+    ErrorBox errorBox;
     const Clock& clock;
     std::function<PokerDeck()> nextDeck;
     ScreenMetrics metrics = {};

@@ -1,17 +1,18 @@
 #include "main_window/window_sizer.h"
 
-#include "faults/guarded.h"
 #include "main_window/status_bar.h"
 #include "platform/window_exposure.h"
 #include "table/poker_table.h"
 #include "table/table_canvas.h"
 
+#include <utility>
+
 namespace quillet
 {
 
 WindowSizer::WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar,
-                         ErrorBox& errorBox, const ScreenMetrics& metrics)
-    : m_window(window), m_table(table), m_statusBar(statusBar), m_errorBox(errorBox),
+                         ErrorBox errorBox, const ScreenMetrics& metrics)
+    : m_window(window), m_table(table), m_statusBar(statusBar), m_errorBox(std::move(errorBox)),
       m_layout(metrics)
 {
 }

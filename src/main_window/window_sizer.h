@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "main_window/window_layout.h"
 #include "table/picture_file.h"
 
@@ -18,7 +18,7 @@ class WindowSizer
 {
 public:
     // All must outlive the sizer.
-    WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar, ErrorBox& errorBox,
+    WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar, ErrorBox errorBox,
                 const ScreenMetrics& metrics);
 
     void AutoSizeToPicture(const LoadedPicture& picture);
@@ -41,7 +41,7 @@ private:
     QMainWindow& m_window;
     PokerTable& m_table;
     StatusBar& m_statusBar;
-    ErrorBox& m_errorBox;
+    ErrorBox m_errorBox;
     WindowLayout m_layout;
 
     QSizeF m_outerSize;    // twips

@@ -1,6 +1,5 @@
 #include "table/card_flight.h"
 
-#include "faults/guarded.h"
 #include "faults/run_time_error.h"
 #include "table/animation_speed.h"
 #include "table/counting_loop.h"

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
 #include "table/deck_pile.h"
 #include "table/table_canvas.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace quillet
 {
@@ -17,9 +18,9 @@ class CardFlight
 {
 public:
     CardFlight(TableCanvas& canvas, DeckPile& pile, CardLibrary& library,
-               const Preferences& preferences, ErrorBox& errorBox)
+               const Preferences& preferences, ErrorBox errorBox)
         : m_canvas(canvas), m_pile(pile), m_library(library), m_preferences(preferences),
-          m_errorBox(errorBox)
+          m_errorBox(std::move(errorBox))
     {
     }
 
@@ -43,7 +44,7 @@ private:
     DeckPile& m_pile;
     CardLibrary& m_library;
     const Preferences& m_preferences;
-    ErrorBox& m_errorBox;
+    ErrorBox m_errorBox;
     Surface BoardBuffer; // the table with the flying card
     Surface picBuffer;   // the table under the card
     Surface picAnimate;  // the card where it lands

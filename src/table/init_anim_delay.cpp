@@ -1,7 +1,6 @@
 #include "table/init_anim_delay.h"
 
 #include "cards/card_numbers.h"
-#include "faults/guarded.h"
 #include "table/animation_speed.h"
 #include "table/counting_loop.h"
 #include "table/delay_calibration.h"
@@ -41,9 +40,9 @@ QImage bannerPicture(QSize size)
 } // namespace
 
 DelayMeter::DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences,
-                       const Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound)
+                       const Clock& clock, ErrorBox errorBox, std::function<void()> afterRound)
     : m_canvas(canvas), m_library(library), m_preferences(preferences), m_clock(clock),
-      m_errorBox(errorBox), m_afterRound(std::move(afterRound))
+      m_errorBox(std::move(errorBox)), m_afterRound(std::move(afterRound))
 {
 }
 

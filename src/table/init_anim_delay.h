@@ -1,6 +1,6 @@
 #pragma once
 
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "platform/clock.h"
 #include "settings/preferences.h"
 #include "table/card_library.h"
@@ -21,7 +21,7 @@ class DelayMeter
 public:
     // afterRound is called after every measured round, to let events run and show progress.
     DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences,
-               const Clock& clock, ErrorBox& errorBox, std::function<void()> afterRound);
+               const Clock& clock, ErrorBox errorBox, std::function<void()> afterRound);
 
     // Sets prfAnimationDelay, prfScrollVal and prfBannerDelay (that of a banner sliding into a
     // strip as large as the status bar). An error is shown in a box; the delays keep the values
@@ -41,7 +41,7 @@ private:
     CardLibrary& m_library;
     Preferences& m_preferences;
     const Clock& m_clock;
-    ErrorBox& m_errorBox;
+    ErrorBox m_errorBox;
     std::function<void()> m_afterRound;
     Surface m_board; // of the table's size
     Surface m_under; // of a card's size

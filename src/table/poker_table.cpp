@@ -3,7 +3,6 @@
 #include "cards/card_marks.h"
 #include "cards/card_names.h"
 #include "cards/card_numbers.h"
-#include "faults/guarded.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
 #include "table/init_anim_delay.h"
@@ -38,11 +37,11 @@ QString shownBy(const CardOnTable& card)
 
 } // namespace
 
-PokerTable::PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent)
-    : QObject(parent), m_preferences(preferences), m_errorBox(errorBox),
+PokerTable::PokerTable(const Preferences& preferences, ErrorBox errorBox, QWidget* parent)
+    : QObject(parent), m_preferences(preferences), m_errorBox(std::move(errorBox)),
       m_canvas(*new TableCanvas(parent)), m_pile(m_canvas, m_library),
       m_painter(m_canvas, m_background.picture(), picPoker, m_pile, m_library),
-      m_flight(m_canvas, m_pile, m_library, preferences, errorBox)
+      m_flight(m_canvas, m_pile, m_library, preferences, m_errorBox)
 {
     setObjectName("pokerTable");
     m_canvas.setObjectName("table");

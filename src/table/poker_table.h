@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/card_table.h"
-#include "faults/error_box.h"
+#include "faults/guarded.h"
 #include "platform/clock.h"
 #include "settings/preferences.h"
 #include "table/card_flight.h"
@@ -32,7 +32,7 @@ class PokerTable : public QObject, public CardTable
 public:
     // The canvas is a child of the parent. The preferences may change at any time; they and the
     // error box must outlive the table.
-    PokerTable(const Preferences& preferences, ErrorBox& errorBox, QWidget* parent);
+    PokerTable(const Preferences& preferences, ErrorBox errorBox, QWidget* parent);
 
     // The table's widget; parent of chart and status bar.
     [[nodiscard]] TableCanvas& canvas() { return m_canvas; }
@@ -91,7 +91,7 @@ private:
     void followScale();
 
     const Preferences& m_preferences;
-    ErrorBox& m_errorBox;
+    ErrorBox m_errorBox;
 
     TableMeasures m_measures;
     std::array<CardOnTable, 5> m_cards; // what the places show

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cards/card_numbers.h"
-#include "faults/error_box.h"
 #include "table/card_flight.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"
@@ -14,7 +13,7 @@ namespace quillet::test
 {
 
 // A painted table without a window. The deck shows Sleeve backs.
-struct PaintedTable : ErrorBox {
+struct PaintedTable {
     PaintedTable()
     {
         std::int32_t width = 0;
@@ -33,8 +32,6 @@ struct PaintedTable : ErrorBox {
         painter.repaint(measures, sleeve);
     }
 
-    void showError(const std::string& text) override { errors.push_back(text); }
-
     static constexpr TableMeasures measures = designedTable;
     static constexpr std::int32_t sleeve = sleeveBack;
 
@@ -46,7 +43,8 @@ struct PaintedTable : ErrorBox {
     DeckPile pile{canvas, library};
     CardBoxes picPoker{};
     TablePainter painter{canvas, thePic, picPoker, pile, library};
-    CardFlight flight{canvas, pile, library, preferences, *this};
+    CardFlight flight{canvas, pile, library, preferences,
+                      [this](const std::string& text) { errors.push_back(text); }};
 };
 
 } // namespace quillet::test

@@ -122,10 +122,11 @@ struct Game {
     LoggedTable table{log, clock, state};
     RecordedErrors errors;
     HoldCoach coach{chart, [this] { return prfShowPokerPlay; }};
-    HandController controller{state,
-                              counters,
-                              [this] { return prfPokerAutoDeal; },
-                              {table, table, coach, table, [this] { return decks(); }, errors}};
+    HandController controller{
+        state,
+        counters,
+        [this] { return prfPokerAutoDeal; },
+        {table, table, coach, table, [this] { return decks(); }, std::ref(errors)}};
 };
 
 } // namespace quillet::test

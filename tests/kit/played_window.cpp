@@ -13,7 +13,7 @@ PlayedWindow::PlayedWindow()
     : surroundings{.store = store,
                    .openPage = std::ref(pages),
                    .sound = sounds,
-                   .errorBox = errors,
+                   .errorBox = std::ref(errors),
                    .clock = *this,
                    .nextDeck = [this] { return nextDeck(); },
                    .programFolder = QUILLET_PROGRAM_FOLDER,

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "engine/deck.h"
-#include "faults/error_box.h"
 #include "tests/kit/cards.h"
 
 #include <gtest/gtest.h>
@@ -18,8 +17,8 @@
 namespace quillet::test
 {
 
-struct RecordedErrors : ErrorBox {
-    void showError(const std::string& text) override { texts.push_back(text); }
+struct RecordedErrors {
+    void operator()(const std::string& text) { texts.push_back(text); }
     std::vector<std::string> texts;
 };
 

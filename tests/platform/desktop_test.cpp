@@ -1,4 +1,4 @@
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 #include "platform/system_clock.h"
 #include "platform/window_exposure.h"
 #include "tests/kit/played_window.h"
@@ -10,9 +10,9 @@
 namespace quillet::test
 {
 
-TEST(MessageErrorBox, showsItsTextLetterByLetter)
+TEST(ErrorBox, showsItsTextLetterByLetter)
 {
-    whileOpen<QMessageBox>([] { MessageErrorBox().showError("<b>\n&"); },
+    whileOpen<QMessageBox>([] { showErrorBox("<b>\n&"); },
                            [](QMessageBox& box) {
                                EXPECT_EQ(box.text(), "<b>\n&");
                                EXPECT_EQ(box.textFormat(), Qt::PlainText);

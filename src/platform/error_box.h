@@ -1,15 +1,11 @@
 #pragma once
 
-#include "faults/error_box.h"
+#include <string>
 
 namespace quillet
 {
 
 // The error box on the screen: modal, an OK button only, titled with the application's name.
-class MessageErrorBox : public ErrorBox
-{
-public:
-    void showError(const std::string& text) override;
-};
+void showErrorBox(const std::string& text);
 
 } // namespace quillet

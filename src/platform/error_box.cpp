@@ -1,4 +1,4 @@
-#include "platform/message_error_box.h"
+#include "platform/error_box.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -6,7 +6,7 @@
 namespace quillet
 {
 
-void MessageErrorBox::showError(const std::string& text)
+void showErrorBox(const std::string& text)
 {
     QMessageBox box(QApplication::activeWindow());
     box.setIcon(QMessageBox::Warning);
