@@ -10,7 +10,7 @@ namespace quillet
 {
 
 // Judges the player's hold against the best play of the dealt hand and shows the result on the
-// chart. Both references must outlive the coach.
+// chart.
 class HoldCoach : public HandCoach
 {
 public:

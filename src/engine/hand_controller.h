@@ -16,7 +16,7 @@
 namespace quillet
 {
 
-// The ports of a game. All must outlive it.
+// The ports of a game.
 struct GamePorts {
     CardTable& table;
     GameScreen& screen;
@@ -32,7 +32,7 @@ class HandController
 {
 public:
     // dealsByItself returns whether the player wants automatic dealing, which may change at any
-    // time. State and counters must outlive the controller.
+    // time.
     HandController(HandState& state, Counters& counters, std::function<bool()> dealsByItself,
                    GamePorts ports);
 

@@ -20,7 +20,6 @@ class ChartPanel : public QWidget
     Q_OBJECT
 
 public:
-    // The chart must outlive the panel.
     ChartPanel(StrategyChart& chart, QWidget* parent);
 
     // Lays the rows out for the panel's current height.

@@ -31,7 +31,6 @@ class frmMain : public QMainWindow, public Preferences, private GameScreen
     Q_OBJECT
 
 public:
-    // Everything in the surroundings must outlive the window.
     explicit frmMain(Surroundings& surroundings);
 
     // Builds the running state, shows the window and deals the first hand. Returns false if the

@@ -43,7 +43,6 @@ class frmPreferences : public QDialog
     Q_OBJECT
 
 public:
-    // Everything in the host must outlive the dialog.
     frmPreferences(PreferencesHost host, QWidget* parent);
 
     void cmdSave_Click();

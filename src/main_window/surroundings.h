@@ -14,8 +14,7 @@
 namespace quillet
 {
 
-// The dependencies of the window, which must outlive it. main.cpp fills in the real ones, tests
-// their own.
+// The dependencies of the window. main.cpp fills in the real ones, tests their own.
 struct Surroundings {
     SettingsStore& store;
     PageOpener openPage;

@@ -17,7 +17,6 @@ class StatusBar;
 class WindowSizer
 {
 public:
-    // All must outlive the sizer.
     WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar, ErrorBox errorBox,
                 const ScreenMetrics& metrics);
 

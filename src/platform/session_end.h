@@ -18,7 +18,7 @@ class SessionEnd : public QObject
     Q_OBJECT
 
 public:
-    // Calls save when the end of the session is announced. The clock must outlive this.
+    // Calls save when the end of the session is announced.
     SessionEnd(const Clock& clock, std::function<void()> save);
 
     // False again if the session has not ended a minute after the announcement.

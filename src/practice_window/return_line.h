@@ -14,7 +14,6 @@ class ReturnLine : public QWidget
     Q_OBJECT
 
 public:
-    // The history must outlive this.
     explicit ReturnLine(const ReturnHistory& history, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override { return {240, 120}; }

@@ -15,7 +15,6 @@ class ReturnPanel : public QWidget
     Q_OBJECT
 
 public:
-    // The history must outlive this.
     explicit ReturnPanel(const ReturnHistory& history, QWidget* parent = nullptr);
 
 private:

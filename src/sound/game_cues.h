@@ -14,7 +14,6 @@ namespace quillet
 class GameCues : public CueOutput
 {
 public:
-    // The output must outlive the cues.
     GameCues(std::function<bool()> wantsSound, std::string programFolder, SoundOutput& output);
 
     void play(Cue cue) override;

@@ -16,7 +16,7 @@ struct Sdl;
 class SdlAudioDevice : public AudioDevice
 {
 public:
-    // Plays what the mixer renders; the mixer must outlive the device. Null if there is none.
+    // Plays what the mixer renders. Null if there is none.
     [[nodiscard]] static std::unique_ptr<AudioDevice> open(CueMixer& mixer);
 
     ~SdlAudioDevice() override;

@@ -13,7 +13,7 @@ namespace quillet
 {
 
 // Flies one card over the painted table. No event is handled during a flight. Its speed depends on
-// prfAnimationDelay. The referenced objects must outlive the flight.
+// prfAnimationDelay.
 class CardFlight
 {
 public:

@@ -17,7 +17,6 @@ class TableCanvas;
 class DeckPile
 {
 public:
-    // The library must outlive the pile.
     DeckPile(TableCanvas& canvas, CardLibrary& library);
 
     // The picture on top, picDeal(0).

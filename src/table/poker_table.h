@@ -30,8 +30,7 @@ class PokerTable : public QObject, public CardTable
     Q_OBJECT
 
 public:
-    // The canvas is a child of the parent. The preferences may change at any time; they and the
-    // error box must outlive the table.
+    // The canvas is a child of the parent. The preferences may change at any time.
     PokerTable(const Preferences& preferences, ErrorBox errorBox, QWidget* parent);
 
     // The table's widget; parent of chart and status bar.

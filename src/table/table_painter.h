@@ -24,7 +24,6 @@ struct OffScreenBox {
 class TablePainter
 {
 public:
-    // All must outlive the painter.
     TablePainter(TableCanvas& canvas, const LoadedPicture& background, const CardBoxes& cards,
                  DeckPile& pile, CardLibrary& library);
 
