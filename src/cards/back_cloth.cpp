@@ -1,4 +1,5 @@
 #include "cards/back_field.h"
+#include "cards/card_art.h"
 
 #include <QImage>
 
@@ -88,7 +89,7 @@ void paintRibbon(QPainter& painter, QRgb colour, QRgb shade)
 void paintPlaid(CardCanvas& canvas)
 {
     const QImage cloth = tartan(canvas, canvas.image().size());
-    paintField(canvas, 0xff1f6a48, 0xff10202c, [&](QPainter& painter) {
+    paintField(canvas, 0xff10202c, [&](QPainter& painter) {
         painter.resetTransform();
         painter.drawImage(0, 0, cloth);
     });
@@ -96,7 +97,8 @@ void paintPlaid(CardCanvas& canvas)
 
 void paintWeave(CardCanvas& canvas)
 {
-    paintField(canvas, 0xff3a1420, 0xff6e1a2e, [](QPainter& painter) {
+    paintField(canvas, 0xff6e1a2e, [](QPainter& painter) {
+        painter.fillRect(0, 0, cardArtWidth, cardArtHeight, QColor(0x3a, 0x14, 0x20));
         painter.translate(48, 65);
         painter.rotate(45);
         constexpr int reach = 8;

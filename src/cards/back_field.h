@@ -13,20 +13,10 @@ namespace quillet
 inline constexpr double fieldLeft = 6;
 inline constexpr double fieldTop = 6;
 
-// Fills the printed area with `ground`, lets `paint` draw on the grid, clipped to the area, and
-// draws a thin frame around it.
-void paintField(CardCanvas& canvas, QRgb ground, QRgb frame,
-                const std::function<void(QPainter&)>& paint);
+// Lets `paint` draw on the grid, clipped to the printed area, and draws a thin frame around it.
+void paintField(CardCanvas& canvas, QRgb frame, const std::function<void(QPainter&)>& paint);
 
 void paintPlaid(CardCanvas& canvas);
 void paintWeave(CardCanvas& canvas);
-void paintRobot(CardCanvas& canvas);
-void paintRoses(CardCanvas& canvas);
-void paintIvy(CardCanvas& canvas, bool onBlue);
-void paintFish(CardCanvas& canvas, bool onBlue);
-void paintShell(CardCanvas& canvas);
-void paintCastle(CardCanvas& canvas);
-void paintBeach(CardCanvas& canvas);
-void paintSleeve(CardCanvas& canvas);
 
 } // namespace quillet
