@@ -96,7 +96,7 @@ private:
     static odds::Hold chartsHold(const practice::Course& course, const practice::Question& question)
     {
         static const practice::Standard chart(charts::trainersChart());
-        const practice::HeldDeal deal = practice::heldDeal(question.cards, 0);
+        const odds::HeldDeal deal = odds::heldDeal(question.cards, 0);
         const odds::DealtHand hand(course.heldCards, deal.places);
         const odds::Hold hold = chart.judge(hand, 0).bestAllowed;
         odds::Hold shown = 0;
@@ -116,7 +116,7 @@ private:
             for (std::size_t slot = 0; slot < 5; ++slot)
                 cards.buttons()[slot]->setChecked((hold >> slot & 1U) != 0);
             const practice::Verdict verdict = practice::verdictOn(
-                window.teacher().course(), {}, practice::heldDeal(window.question().cards, hold));
+                window.teacher().course(), {}, odds::heldDeal(window.question().cards, hold));
             window.answerOrGoOn();
             if (wanted(verdict)) {
                 shortDelay(700);

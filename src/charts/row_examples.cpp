@@ -3,7 +3,6 @@
 #include "charts/chart_price.h"
 
 #include <algorithm>
-#include <bit>
 #include <random>
 
 namespace quillet::charts
@@ -16,44 +15,32 @@ namespace
 struct Choice {
     int merit = -1;
     unsigned among = 0; // deals of that merit
-    RowExample example;
+    odds::HeldDeal example;
 };
 
 int meritOf(const PlayedDeal& deal)
 {
     const std::int64_t best = deal.hand.worth[deal.hand.bestHold];
-    return (std::popcount(deal.play.fitting) == 1 ? 2 : 0) +
-           (deal.hand.worth[deal.worstHold] == best ? 1 : 0);
+    return (deal.choices == 1 ? 2 : 0) + (deal.hand.worth[deal.worstHold] == best ? 1 : 0);
 }
 
 // Exchanges the suits, as forEachClass always orders them in the same way.
-RowExample withMixedSuits(const RowExample& example, std::mt19937& random)
+odds::HeldDeal withMixedSuits(const odds::HeldDeal& example, std::mt19937& random)
 {
     constexpr unsigned orders = 24;
     std::array<unsigned, 4> suits{0, 1, 2, 3};
     for (auto left = static_cast<unsigned>(random() % orders); left > 0; --left)
         std::ranges::next_permutation(suits);
-    struct Dealt {
-        unsigned place;
-        odds::Hold kept;
-    };
-    std::array<Dealt, 5> cards{};
-    for (std::size_t i = 0; i < cards.size(); ++i)
-        cards[i] = {suits[example.places[i] / 13U] * 13 + example.places[i] % 13U,
-                    example.hold >> i & 1U};
-    std::ranges::sort(cards, {}, &Dealt::place);
-    RowExample mixed;
-    for (std::size_t i = 0; i < cards.size(); ++i) {
-        mixed.places[i] = static_cast<odds::DeckPlace>(cards[i].place);
-        mixed.hold |= cards[i].kept << i;
-    }
-    return mixed;
+    std::array<odds::DeckPlace, 5> cards{};
+    std::ranges::transform(example.places, cards.begin(), [&suits](odds::DeckPlace place) {
+        return static_cast<odds::DeckPlace>(suits[place / 13U] * 13 + place % 13U);
+    });
+    return odds::heldDeal(cards, example.held);
 }
 
 } // namespace
 
-std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCards,
-                                                   const Chart& chart)
+RowExamples rowExamples(const odds::HeldCards& heldCards, const Chart& chart)
 {
     std::vector<Choice> choices(chart.size());
     std::mt19937 random; // default seed: the same examples every time
@@ -65,9 +52,9 @@ std::vector<std::optional<RowExample>> rowExamples(const odds::HeldCards& heldCa
         choice.among = merit == choice.merit ? choice.among + 1 : 1;
         choice.merit = merit;
         if (random() % choice.among == 0)
-            choice.example = {deal.hand.places, deal.bestHold};
+            choice.example = {deal.hand.places, static_cast<std::uint8_t>(deal.bestHold)};
     });
-    std::vector<std::optional<RowExample>> examples(chart.size());
+    RowExamples examples(chart.size());
     for (std::size_t row = 0; row < chart.size(); ++row) {
         if (choices[row].among > 0)
             examples[row] = withMixedSuits(choices[row].example, random);

@@ -29,6 +29,17 @@ void subtractLarger(std::array<std::int64_t, holds>& pay)
 
 } // namespace
 
+HeldDeal heldDeal(const std::array<DeckPlace, 5>& cards, Hold held)
+{
+    HeldDeal deal{cards};
+    std::ranges::sort(deal.places);
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        const auto place = std::ranges::find(deal.places, cards[i]) - deal.places.begin();
+        deal.held = static_cast<std::uint8_t>(deal.held | (held >> i & 1U) << place);
+    }
+    return deal;
+}
+
 DealtHand::DealtHand(const HeldCards& heldCards, const std::array<DeckPlace, 5>& ascending)
     : places(ascending)
 {

@@ -39,6 +39,15 @@ inline constexpr std::array<std::size_t, holds> cardsIn = [] {
     return count;
 }();
 
+// Five cards in ascending order, and which of them are held.
+struct HeldDeal {
+    std::array<DeckPlace, 5> places{};
+    std::uint8_t held = 0; // a Hold
+};
+
+// Of cards in any order.
+[[nodiscard]] HeldDeal heldDeal(const std::array<DeckPlace, 5>& cards, Hold held);
+
 // One deal and the worth of its 32 holds when the other cards come from a fairly shuffled deck.
 struct DealtHand {
     // Least common multiple of the numbers of possible draws: 0 to 5 of 47 cards.

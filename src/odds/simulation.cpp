@@ -18,17 +18,16 @@ namespace quillet::odds
 namespace
 {
 
-struct DealtCard {
-    DeckPlace place = 0;
-    std::size_t number = 0;
-};
-
-std::size_t playedOutcome(std::array<Card, 5> hand, const PokerDeck& deck,
-                          const std::array<DealtCard, 5>& slots, Hold hold)
+// The cards of the hand are in the order of the deal.
+std::size_t playedOutcome(std::array<Card, 5> hand, const PokerDeck& deck, const DealtHand& dealt,
+                          Hold hold)
 {
+    std::uint64_t held = 0; // bit p for the card at place p
+    for (std::size_t i = 0; i < dealt.places.size(); ++i)
+        held |= std::uint64_t{hold >> i & 1U} << dealt.places[i];
     std::array<bool, 5> holdFlags{};
-    for (std::size_t i = 0; i < slots.size(); ++i)
-        holdFlags[slots[i].number] = (hold >> i & 1U) != 0;
+    for (std::size_t i = 0; i < hand.size(); ++i)
+        holdFlags[i] = (held >> placeOf(hand[i]) & 1U) != 0;
     drawReplacements(hand, deck, holdFlags);
     return outcomeOf(hand);
 }
@@ -71,16 +70,12 @@ Simulation playHands(const HeldCards& heldCards, const Player& player, RandomSou
     for (std::int64_t done = 0; done < hands; ++done) {
         const PokerDeck deck = shuffledDeck(random);
         const std::array<Card, 5> hand = dealHand(deck);
-        std::array<DealtCard, 5> slots;
-        for (std::size_t i = 0; i < slots.size(); ++i)
-            slots[i] = {placeOf(hand[i]), i};
-        std::ranges::sort(slots, {}, &DealtCard::place);
         std::array<DeckPlace, 5> places{};
-        std::ranges::transform(slots, places.begin(), &DealtCard::place);
-
+        std::ranges::transform(hand, places.begin(), placeOf);
+        std::ranges::sort(places);
         const DealtHand dealt(heldCards, places);
-        ++result.perfect.count[playedOutcome(hand, deck, slots, dealt.bestHold)];
-        ++result.player.count[playedOutcome(hand, deck, slots, player(dealt))];
+        ++result.perfect.count[playedOutcome(hand, deck, dealt, dealt.bestHold)];
+        ++result.player.count[playedOutcome(hand, deck, dealt, player(dealt))];
     }
     return result;
 }

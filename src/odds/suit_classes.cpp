@@ -49,11 +49,6 @@ private:
 
 } // namespace
 
-DeckPlace placeOf(const Card& card)
-{
-    return static_cast<DeckPlace>(card.suit * 13 + card.rank - 1);
-}
-
 void forEachClass(int size, const std::function<void(SuitSets)>& visit)
 {
     const auto cards = static_cast<std::size_t>(size);

@@ -38,7 +38,10 @@ inline constexpr std::array<Card, 52> deckBySuit = [] {
     return cards;
 }
 
-[[nodiscard]] DeckPlace placeOf(const Card& card);
+[[nodiscard]] constexpr DeckPlace placeOf(const Card& card)
+{
+    return static_cast<DeckPlace>(card.suit * 13 + card.rank - 1);
+}
 
 // The ranks held in each suit; bit 0 is the ace.
 using SuitSets = std::array<unsigned, 4>;

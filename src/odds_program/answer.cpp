@@ -93,9 +93,7 @@ struct Inputs {
     [[nodiscard]] charts::ChartPrice price() const { return charts::priceChart(heldCards, chart); }
     [[nodiscard]] odds::DealtHand hand() const
     {
-        auto places = odds::parseHand(request.hand);
-        std::ranges::sort(places);
-        return {heldCards, places};
+        return {heldCards, odds::heldDeal(odds::parseHand(request.hand), 0).places};
     }
 
     const Request& request;

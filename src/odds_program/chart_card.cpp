@@ -17,7 +17,6 @@ namespace
 
 using charts::Chart;
 using charts::ChartPrice;
-using charts::RowExample;
 using charts::Taken;
 
 // Lengths are millimetres.
@@ -143,27 +142,27 @@ void writeCard(std::ostream& out, odds::DeckPlace place, bool kept, const Box& b
 }
 
 // The cards to keep first, both parts from high to low, the ace highest.
-std::array<std::size_t, 5> orderOf(const RowExample& example)
+std::array<std::size_t, 5> orderOf(const odds::HeldDeal& example)
 {
     std::array<std::size_t, 5> order{0, 1, 2, 3, 4};
     std::ranges::stable_sort(order, std::greater(), [&example](std::size_t i) {
         const int rank = odds::cardAt(example.places[i]).rank;
-        return ((example.hold >> i & 1U) != 0 ? 100 : 0) + (rank == 1 ? 14 : rank);
+        return ((example.held >> i & 1U) != 0 ? 100 : 0) + (rank == 1 ? 14 : rank);
     });
     return order;
 }
 
-void writeHand(std::ostream& out, const RowExample& example, Box card)
+void writeHand(std::ostream& out, const odds::HeldDeal& example, Box card)
 {
     for (const std::size_t i : orderOf(example)) {
-        writeCard(out, example.places[i], (example.hold >> i & 1U) != 0, card);
+        writeCard(out, example.places[i], (example.held >> i & 1U) != 0, card);
         card.x += cardWidth + cardGap;
     }
 }
 
 // The rows of a line have one colour and one number, on the first of them.
 void writeRow(std::ostream& out, const charts::Row& row, std::size_t line,
-              const std::optional<RowExample>& example, double top, double height)
+              const std::optional<odds::HeldDeal>& example, double top, double height)
 {
     const bool dark = line % 2 != 0; // as in the chart beside the trainer's table
     const std::string name = charts::rowText(row);
@@ -198,7 +197,7 @@ std::string payLine(const odds::Pays& pays)
 } // namespace
 
 void writeChartCard(std::ostream& out, const Chart& chart, const ChartPrice& price,
-                    const std::vector<std::optional<RowExample>>& examples, const odds::Pays& pays)
+                    const charts::RowExamples& examples, const odds::Pays& pays)
 {
     out << pageStart << "<title>" << linesText(chart) << ". " << returnText(price) << ". "
         << lossText(price) << ".</title>\n<desc>" << payLine(pays) << "</desc>\n";

@@ -4,8 +4,6 @@
 #include "charts/row_examples.h"
 
 #include <iosfwd>
-#include <optional>
-#include <vector>
 
 namespace quillet::odds_program
 {
@@ -13,7 +11,6 @@ namespace quillet::odds_program
 // Writes a chart as a page to print, A4 in SVG. Each row has an example hand, the cards to keep
 // first.
 void writeChartCard(std::ostream& out, const charts::Chart& chart, const charts::ChartPrice& price,
-                    const std::vector<std::optional<charts::RowExample>>& examples,
-                    const odds::Pays& pays);
+                    const charts::RowExamples& examples, const odds::Pays& pays);
 
 } // namespace quillet::odds_program

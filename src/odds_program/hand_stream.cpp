@@ -53,8 +53,7 @@ std::optional<std::array<odds::DeckPlace, 5>> nextHand(std::istream& in, int& nu
         for (std::string line; takeLine(in, line); ++number) {
             if (line.find_first_not_of(" \t\r") == line.find('#'))
                 continue;
-            auto places = odds::parseHand(line);
-            std::ranges::sort(places);
+            const auto places = odds::heldDeal(odds::parseHand(line), 0).places;
             ++number;
             return places;
         }

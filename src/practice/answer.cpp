@@ -1,20 +1,7 @@
 #include "practice/answer.h"
 
-#include <algorithm>
-
 namespace quillet::practice
 {
-
-HeldDeal heldDeal(const std::array<odds::DeckPlace, 5>& cards, odds::Hold held)
-{
-    HeldDeal deal{cards};
-    std::ranges::sort(deal.places);
-    for (std::size_t i = 0; i < cards.size(); ++i) {
-        const auto place = std::ranges::find(deal.places, cards[i]) - deal.places.begin();
-        deal.held = static_cast<std::uint8_t>(deal.held | (held >> i & 1U) << place);
-    }
-    return deal;
-}
 
 Answer answerTo(const Decisions& decisions, const odds::DealtHand& hand, odds::Hold held)
 {

@@ -2,20 +2,8 @@
 
 #include "practice/decisions.h"
 
-#include <array>
-#include <cstdint>
-
 namespace quillet::practice
 {
-
-// Cards that a player sees, in ascending order, and which of them are held.
-struct HeldDeal {
-    std::array<odds::DeckPlace, 5> places{};
-    std::uint8_t held = 0; // a Hold
-};
-
-// The deal as DealtHand takes it, whatever the order in which the cards lie.
-[[nodiscard]] HeldDeal heldDeal(const std::array<odds::DeckPlace, 5>& cards, odds::Hold held);
 
 // What one answer shows about the player, by the standard of perfect play.
 struct Answer {

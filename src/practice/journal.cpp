@@ -165,7 +165,7 @@ std::optional<JournalEntry> entryIn(std::string_view line)
     const auto standard = namedIn<JudgedBy>((*field)[7], standardNames);
     if (!time || !held || !chosen || !standard)
         return std::nullopt;
-    return JournalEntry{*time, heldDeal(*deal, *held), *chosen, *standard};
+    return JournalEntry{*time, odds::heldDeal(*deal, *held), *chosen, *standard};
 }
 
 void takeLine(Journal& journal, std::string_view line)

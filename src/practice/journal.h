@@ -21,7 +21,7 @@ enum class JudgedBy : std::uint8_t { perfect, trainer, chart };
 // One answer as the journal keeps it. All else follows from the deal.
 struct JournalEntry {
     std::chrono::sys_seconds time;
-    HeldDeal deal;
+    odds::HeldDeal deal;
     Chosen chosen = Chosen::weighted;
     JudgedBy standard = JudgedBy::perfect;
 };

@@ -21,7 +21,7 @@ Teacher::Teacher(std::shared_ptr<const Course> course, Standard standard, Judged
 
 Verdict Teacher::answer(const Question& question, odds::Hold held, std::chrono::sys_seconds time)
 {
-    const HeldDeal deal = heldDeal(question.cards, held);
+    const odds::HeldDeal deal = odds::heldDeal(question.cards, held);
     Verdict verdict = verdictOn(*m_course, m_standard, deal);
     m_questions.hasBeenAsked({question.cards, verdict.answer.decision, question.chosen});
     m_record.add(verdict.answer.decision, verdict.judgement.right);

@@ -47,7 +47,7 @@ odds::Hold comparedHold(const Course& course, const Verdict& verdict)
 
 } // namespace
 
-Verdict verdictOn(const Course& course, const Standard& standard, const HeldDeal& deal)
+Verdict verdictOn(const Course& course, const Standard& standard, const odds::HeldDeal& deal)
 {
     const odds::DealtHand hand(course.heldCards, deal.places);
     Verdict verdict{hand, deal.held, answerTo(course.decisions, hand, deal.held),

@@ -29,6 +29,6 @@ struct Verdict {
 };
 
 [[nodiscard]] Verdict verdictOn(const Course& course, const Standard& standard,
-                                const HeldDeal& deal);
+                                const odds::HeldDeal& deal);
 
 } // namespace quillet::practice

@@ -67,7 +67,8 @@ public:
     {
         while (answers.size() < count) {
             asked.push_back(m_questions.next(record));
-            const odds::DealtHand hand(game().heldCards, heldDeal(asked.back().cards, 0).places);
+            const odds::DealtHand hand(game().heldCards,
+                                       odds::heldDeal(asked.back().cards, 0).places);
             answers.push_back(answerTo(decisions(), hand, m_player.hold(hand, m_chance)));
             record.add(answers.back().decision, answers.back().isRight());
         }

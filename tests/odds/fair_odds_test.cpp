@@ -71,8 +71,7 @@ TEST(BreakEven, bestHoldsAreThoseOfEachRoyal)
     for (const std::int64_t royal : {0, 250, 3600, 4000, 5000, 20000, 100000}) {
         const HeldCards paying = withRoyal("9/6", royal);
         for (const char* text : {"AcKdQhJh2s", "9cTcJcKcAd", "TcJcQcJdTh", "2c2d2h2s3d"}) {
-            std::array<DeckPlace, 5> deal = parseHand(text);
-            std::ranges::sort(deal);
+            const auto deal = heldDeal(parseHand(text), 0).places;
             const DealtHand dealt(paying, deal);
             const auto best = bestHolds(heldCards(), DealtHand(heldCards(), deal));
             std::size_t i = best.size() - 1;
@@ -88,8 +87,7 @@ TEST(DealtHand, drawsPayWhatAHoldIsWorth)
 {
     const Pays pays = trainersPays();
     for (const char* text : {"2d3d4d5d6d", "9cTcJcKcAd", "7c7d7s8h9s", "3c3h5d8sKh"}) {
-        std::array<DeckPlace, 5> deal = parseHand(text);
-        std::ranges::sort(deal);
+        const auto deal = heldDeal(parseHand(text), 0).places;
         const DealtHand dealt(heldCards(), deal);
         for (Hold hold = 0; hold < holds; ++hold) {
             const OutcomeCounts counts = dealt.drawOutcomes(heldCards(), hold);

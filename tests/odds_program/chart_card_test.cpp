@@ -55,7 +55,7 @@ TEST(RowExamples, arePlayedByTheirRows)
                 continue;
             const charts::Play play = player.play(DealtHand(heldCards(), examples[row]->places));
             EXPECT_EQ(play.row, row);
-            EXPECT_NE(play.fitting >> examples[row]->hold & 1U, 0U);
+            EXPECT_NE(play.fitting >> examples[row]->held & 1U, 0U);
         }
     }
 }

@@ -19,7 +19,7 @@ namespace
 
 odds::DealtHand dealt(std::string_view cards)
 {
-    return {game().heldCards, heldDeal(odds::parseHand(cards), 0).places};
+    return {game().heldCards, odds::heldDeal(odds::parseHand(cards), 0).places};
 }
 
 } // namespace

@@ -37,7 +37,7 @@ protected:
     }
     [[nodiscard]] std::error_code append() const
     {
-        const auto deal = heldDeal(odds::parseHand("Kh 2d Tc Jd 2c"), 0b10011);
+        const auto deal = odds::heldDeal(odds::parseHand("Kh 2d Tc Jd 2c"), 0b10011);
         return appendToJournal(path,
                                {std::chrono::sys_days(2026y / 3 / 1) + 23h + 4min + 5s, deal,
                                 Chosen::random, JudgedBy::trainer},

@@ -23,7 +23,7 @@ TEST(Questions, areTheSameForTheSameSeedAndAnswersAndNeverRepeatADeal)
         const Question& question = session.asked[i];
         EXPECT_EQ(question.cards, again.asked[i].cards);
         EXPECT_EQ(question.decision, session.answers[i].decision);
-        EXPECT_TRUE(deals.insert(heldDeal(question.cards, 0).places).second);
+        EXPECT_TRUE(deals.insert(odds::heldDeal(question.cards, 0).places).second);
         random += question.chosen == Chosen::random ? 1 : 0;
         ascending += std::ranges::is_sorted(question.cards) ? 1 : 0;
     }
@@ -95,7 +95,7 @@ TEST(Questions, keepToTheTickedDecisionsAndBeginAgainWhenTheseAreUsedUp)
     for (std::size_t i = 1; i <= 8; ++i) {
         const Question question = questions.next(Record(decisions()));
         EXPECT_EQ(question.decision, royal);
-        deals.insert(heldDeal(question.cards, 0).places);
+        deals.insert(odds::heldDeal(question.cards, 0).places);
         EXPECT_EQ(deals.size(), std::min<std::size_t>(i, 4));
     }
 }

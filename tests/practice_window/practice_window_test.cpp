@@ -61,12 +61,12 @@ struct PracticeTest : testing::Test {
     QString answerButton() { return control<QPushButton>(*window, "answer").text(); }
 
     // The deal as screen readers say it.
-    practice::HeldDeal deal()
+    odds::HeldDeal deal()
     {
         std::array<odds::DeckPlace, 5> places{};
         for (int slot = 0; slot < 5; ++slot)
             places[static_cast<std::size_t>(slot)] = place(slot);
-        return practice::heldDeal(places, 0);
+        return odds::heldDeal(places, 0);
     }
 
     odds::DeckPlace place(int slot)
@@ -84,7 +84,7 @@ struct PracticeTest : testing::Test {
     // Presses the keys of the cards that perfect play holds, or of all others.
     void holdByKeys(bool right = true)
     {
-        const practice::HeldDeal dealt = deal();
+        const odds::HeldDeal dealt = deal();
         const odds::DealtHand hand(practice::test::game().heldCards, dealt.places);
         for (int slot = 0; slot < 5; ++slot) {
             const auto at = std::ranges::find(dealt.places, place(slot)) - dealt.places.begin();
@@ -116,7 +116,7 @@ TEST_F(PracticeTest, asksTakesAnAnswerByMouseExplainsItAndGoesOn)
     EXPECT_THAT(text("headline").toStdString(), HasSubstr("Wrong: this costs"));
     EXPECT_THAT(text("reason").toStdString(), HasSubstr(" is worth "));
     EXPECT_THAT(text("rule").toStdString(), HasSubstr("Rule to remember: "));
-    const practice::HeldDeal before = deal();
+    const odds::HeldDeal before = deal();
     press(Qt::Key_1);
     EXPECT_EQ(window->teacher().entries().size(), 1U) << "the cards stay while it is explained";
     press(Qt::Key_Return);

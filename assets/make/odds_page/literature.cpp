@@ -68,8 +68,8 @@ std::string equalRoyals(const HeldCards& heldCards)
     std::vector<Fraction> royals;
     for (const char suit : {'c', 's'}) {
         for (char rank = '2'; rank <= '9'; ++rank) {
-            auto places = parseHand(std::string("AdKhQcJc") + rank + suit);
-            std::ranges::sort(places);
+            const auto places =
+                heldDeal(parseHand(std::string("AdKhQcJc") + rank + suit), 0).places;
             const auto best = bestHolds(heldCards, {heldCards, places});
             for (std::size_t i = 1; i < best.size(); ++i)
                 if (holdText(places, best[i].hold) == "Jc Qc" && cardsIn[best[i - 1].hold] == 4)
