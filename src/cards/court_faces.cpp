@@ -1,5 +1,5 @@
 #include "cards/card_art.h"
-#include "cards/court.h"
+#include "cards/card_drawing.h"
 #include "cards/faces.h"
 #include "cards/pips.h"
 
@@ -11,55 +11,77 @@ namespace quillet
 namespace
 {
 
-constexpr QRgb white = 0xffffffff;
-constexpr QRgb black = cardBlack;
-constexpr QRgb red = cardRed;
-constexpr QRgb gold = 0xfff0b93a;
-constexpr QRgb blue = 0xff23509c;
-constexpr QRgb skin = 0xfffadfc4;
+constexpr const char* white = "#ffffff";
+constexpr const char* black = "#17161b";
+constexpr const char* red = "#c8102e";
+constexpr const char* gold = "#f0b93a";
+constexpr const char* blue = "#23509c";
 
 // The line between the two half figures falls to the right, to leave room for the hand.
 constexpr double slope = 0.25;
 
-struct Roles {
-    QRgb robe;
-    QRgb lining;
-    QRgb pattern;
-    QRgb hair;
-    QRgb cap;
+constexpr std::array figures{"jack", "queen", "king"};
+constexpr std::array suits{"clubs", "diamonds", "hearts", "spades"};
+
+struct Colours {
+    const char* robe;
+    const char* lining;
+    const char* pattern;
+    const char* hair;
+    const char* cap;
+    const char* sash; // between golden borders
 };
 
-// Jacks, queens, kings; clubs, diamonds, hearts, spades.
-constexpr std::array<std::array<Roles, 4>, 3> rolesOf = {{
-    {{{blue, red, gold, gold, red},
-      {red, blue, gold, black, red},
-      {red, gold, white, gold, red},
-      {blue, black, gold, black, black}}},
-    {{{blue, gold, gold, black, blue},
-      {red, blue, gold, gold, blue},
-      {red, gold, white, gold, red},
-      {black, red, gold, gold, black}}},
-    {{{blue, red, gold, black, red},
-      {red, blue, gold, gold, blue},
-      {red, gold, white, gold, red},
-      {black, blue, gold, white, blue}}},
+// In the order of the figures and suits.
+constexpr std::array<std::array<Colours, 4>, 3> colours = {{
+    {{{blue, red, gold, gold, red, red},
+      {red, blue, gold, black, red, blue},
+      {red, gold, white, gold, red, red},
+      {blue, black, gold, black, black, black}}},
+    {{{blue, gold, gold, black, blue, blue},
+      {red, blue, gold, gold, blue, blue},
+      {red, gold, white, gold, red, red},
+      {black, red, gold, gold, black, red}}},
+    {{{blue, red, gold, black, red, red},
+      {red, blue, gold, gold, blue, blue},
+      {red, gold, white, gold, red, red},
+      {black, blue, gold, white, blue, blue}}},
 }};
 
-void paintSash(QPainter& painter, const Palette& palette)
+QByteArray asRules(const Colours& court)
 {
-    painter.save();
-    painter.translate(48, 65);
-    painter.shear(0, slope);
-    paintPicture(painter,
-                 "k- R-28 -4.2 56 8.4; g- R-28 -3.2 56 6.4; k- R-28 -2 56 4; S- R-28 -1.4 56 2.8;",
-                 palette);
-    for (double x = -24; x <= 24; x += 6) {
-        painter.save();
-        painter.translate(x, 0);
-        paintPicture(painter, "w- M0 -1.4 L2 0 L0 1.4 L-2 0 Z;", palette);
-        painter.restore();
+    return QString(".robe { fill: %1 } .lining { fill: %2 } .pattern { fill: %3 }"
+                   ".pattern-line { stroke: %3 } .hair { fill: %4 } .cap { fill: %5 }"
+                   ".sash { fill: %6 }")
+        .arg(court.robe, court.lining, court.pattern, court.hair, court.cap, court.sash)
+        .toLatin1();
+}
+
+// The robe with the pattern of its suit, on a picture of its own, because the SVG renderer cannot
+// clip.
+QImage clothOf(CardCanvas& canvas, CardDrawing& figure, CardDrawing& details, int suit)
+{
+    constexpr double pitch = 7;
+    const bool staggered = suit == clubs || suit == hearts;
+    const double rowHeight = suit == diamonds ? pitch : pitch * 0.72;
+    const QString pattern = QString("pattern-") + suits[static_cast<std::size_t>(suit)];
+
+    QImage cloth(canvas.image().size(), canvas.image().format());
+    cloth.fill(Qt::transparent);
+    QPainter painter(&cloth);
+    painter.scale(canvas.scaleX(), canvas.scaleY());
+    figure.paint(painter, "robe");
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    for (int row = 0; row * rowHeight < 40; ++row) {
+        const double shift = staggered && row % 2 == 1 ? pitch / 2 : 0;
+        for (double x = 15.5 + shift; x < 80; x += pitch) {
+            painter.save();
+            painter.translate(x, 40 + row * rowHeight);
+            details.paint(painter, pattern);
+            painter.restore();
+        }
     }
-    painter.restore();
+    return cloth;
 }
 
 void paintFrame(CardCanvas& canvas)
@@ -70,7 +92,7 @@ void paintFrame(CardCanvas& canvas)
     const QSize size(canvas.image().width() - 2 * left, canvas.image().height() - 2 * top);
     QPainter painter;
     canvas.beginInPixels(painter);
-    const QColor colour = QColor::fromRgba(blue);
+    const QColor colour(blue);
     painter.fillRect(left, top, size.width(), line, colour);
     painter.fillRect(left, top + size.height() - line, size.width(), line, colour);
     painter.fillRect(left, top, line, size.height(), colour);
@@ -79,35 +101,36 @@ void paintFrame(CardCanvas& canvas)
 
 void paintFigure(CardCanvas& canvas, int rank, int suit)
 {
-    const Palette palette = courtPalette(rank, suit);
+    const auto figureIndex = static_cast<std::size_t>(rank - 11);
+    const auto suitIndex = static_cast<std::size_t>(suit);
+    const QString name = suits[suitIndex];
+    const QByteArray rules = asRules(colours[figureIndex][suitIndex]);
+    CardDrawing figure(figures[figureIndex], rules);
+    CardDrawing details("court", rules);
+
     QPainter painter;
     canvas.begin(painter);
     painter.setClipRect(QRectF(QPointF(canvas.snappedX(courtLeft), canvas.snappedY(courtTop)),
                                QPointF(cardArtWidth - canvas.snappedX(courtLeft),
                                        cardArtHeight - canvas.snappedY(courtTop))));
-    constexpr std::array painters = {&paintJack, &paintQueen, &paintKing};
-    painters[static_cast<std::size_t>(rank - 11)](painter, suit, palette);
-    paintSash(painter, palette);
+    if (rank == 12)
+        figure.paint(painter, "behind-" + name);
+    painter.save();
+    painter.resetTransform();
+    painter.drawImage(0, 0, clothOf(canvas, figure, details, suit));
+    painter.restore();
+    figure.paint(painter, "hem");
+    figure.paint(painter, name);
+    details.paint(painter, "hand");
+    details.paint(painter, "sash");
 
     // A white rim separates the mark from the hat or veil.
     const QPointF mark(canvas.snappedX(31), canvas.snappedY(18.5));
-    paintPip(painter, suit, mark, 17.5, white);
+    paintPip(painter, suit, mark, 17.5, qRgb(255, 255, 255));
     paintPip(painter, suit, mark, 15, suitColour(suit));
 }
 
 } // namespace
-
-Palette courtPalette(int rank, int suit)
-{
-    const Roles& roles =
-        rolesOf[static_cast<std::size_t>(rank - 11)][static_cast<std::size_t>(suit)];
-    return {{'w', white},         {'k', black},
-            {'r', red},           {'g', gold},
-            {'b', blue},          {'s', skin},
-            {'R', roles.robe},    {'L', roles.lining},
-            {'P', roles.pattern}, {'H', roles.hair},
-            {'C', roles.cap},     {'S', roles.lining == gold ? roles.robe : roles.lining}};
-}
 
 void paintCourtFace(CardCanvas& canvas, int rank, int suit)
 {

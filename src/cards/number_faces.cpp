@@ -1,6 +1,6 @@
+#include "cards/card_drawing.h"
 #include "cards/faces.h"
 #include "cards/index_glyphs.h"
-#include "cards/picture_text.h"
 #include "cards/pips.h"
 #include "shapes/rank_marks.h"
 
@@ -81,15 +81,7 @@ void paintAce(CardCanvas& canvas, int suit)
     paintPip(painter, suit, {middle, centre}, 62, cardBlack);
     paintPip(painter, suit, {middle, centre - 0.5}, 54, 0xffffffff);
     paintPip(painter, suit, {middle, centre - 0.5}, 51, cardBlack);
-    const Palette palette{{'w', 0xffffffff}};
-    paintPicture(painter, R"(
-        |w- M48 47 C47 52.5 43.5 54.5 43.5 58.5 C43.5 62 46.5 64 48 68;
-        :w- M46.4 68.4 C42 67.5 38.6 64 38 58.6 C34.6 61.5 33.2 65.5 34.6 69
-            C36.2 72.8 42 72.6 46.4 68.4 Z;
-        |w- M48 69.6 C46.6 70.4 44.4 70.2 43 71.6 C44.4 73 46.6 72.8 48 73.6;
-        |w- M48 75 C47.4 78 46.6 79.6 45.4 81 L48 81;
-    )",
-                 palette, 48);
+    CardDrawing("ace-of-spades").paint(painter);
 }
 
 } // namespace
