@@ -34,8 +34,6 @@ public:
         return true;
     }
 
-    [[nodiscard]] odds::Int128 sum() const { return m_sum; }
-
     // In credits per credit bet over all deals of the game.
     [[nodiscard]] odds::Fraction perCreditBet() const
     {

@@ -3,6 +3,7 @@
 #include "charts/chart_price.h"
 #include "charts/plain_kinds.h"
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <utility>
@@ -29,19 +30,17 @@ std::vector<Mistake> mistakesOf(const odds::HeldCards& heldCards, const Chart& c
             group.mistake.best = hand.bestHold;
         }
     });
-    std::multimap<odds::Int128, Mistake, std::greater<>> byCost;
-    for (auto& [key, group] : groups) {
-        Mistake& mistake = group.mistake;
+    std::vector<Mistake> mistakes;
+    for (const auto& [key, group] : groups) {
+        Mistake& mistake = mistakes.emplace_back(group.mistake);
         mistake.row = rowText(chart[key.first]);
         mistake.instead = plainKindName(key.second);
         mistake.cost = group.costs.perCreditBet();
         mistake.costliest = group.costs.costliest().cost;
         mistake.example = group.costs.costliest().places;
-        byCost.emplace(group.costs.sum(), mistake);
     }
-    std::vector<Mistake> mistakes;
-    for (const auto& [cost, mistake] : byCost)
-        mistakes.push_back(mistake);
+    std::ranges::stable_sort(mistakes, std::greater(),
+                             [](const Mistake& mistake) { return mistake.cost.value(); });
     return mistakes;
 }
 

@@ -14,21 +14,16 @@ namespace quillet::odds
 
 using OutcomeCounts = std::array<std::int32_t, outcomeCount>;
 
-// Row n, column m: the ways to choose n of m cards.
-using ChooseTable = std::array<std::array<std::uint32_t, 53>, 6>;
-
-constexpr ChooseTable chooseTable()
-{
-    ChooseTable table{};
+// choose[n][m]: the ways to choose n of m cards.
+inline constexpr auto choose = [] {
+    std::array<std::array<std::uint32_t, 53>, 6> table{};
     table[0].fill(1);
     for (std::size_t n = 1; n < table.size(); ++n) {
         for (std::size_t m = 1; m < table[n].size(); ++m)
             table[n][m] = table[n][m - 1] + table[n - 1][m - 1];
     }
     return table;
-}
-
-inline constexpr ChooseTable choose = chooseTable();
+}();
 
 // For every set of up to four cards, the outcomes of all hands of five that contain it, and the sum
 // of what these pay. The outcomes of a draw follow by inclusion and exclusion, without a loop over
