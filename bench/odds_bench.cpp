@@ -51,8 +51,7 @@ BENCHMARK(theBestCharts)->Unit(benchmark::kMillisecond);
 // None of the best charts of 1 to 64 lines may lose more than a shorter one.
 void longerCharts(benchmark::State& state)
 {
-    constexpr std::array<std::string_view, 6> tables{"9/6", "9/5", "8/6", "8/5", "7/5", "6/5"};
-    const std::string_view table = tables[static_cast<std::size_t>(state.range(0))];
+    const std::string_view table = commonPays[static_cast<std::size_t>(state.range(0))];
     const HeldCards heldCards(parsePays(table));
     state.SetLabel(std::string(table));
     for ([[maybe_unused]] auto step : state) {

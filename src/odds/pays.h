@@ -23,6 +23,10 @@ inline constexpr std::int64_t maxPay = 100'000; // for any hand
 
 [[nodiscard]] Pays trainersPays();
 
+// Pay tables that are common, as parsePays reads them; the first is the trainer's.
+inline constexpr std::array<std::string_view, 6> commonPays{"9/6", "9/5", "8/6",
+                                                            "8/5", "7/5", "6/5"};
+
 [[nodiscard]] std::size_t outcomeOf(std::span<const Card, 5> finalHand);
 
 // "royal" ... "high pair", or "nothing".

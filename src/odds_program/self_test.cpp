@@ -59,17 +59,15 @@ std::array<std::string, 2> checkHands(const odds::DealtHand& deal)
 
 std::string checkReturns()
 {
+    constexpr std::array<const char*, odds::commonPays.size()> known{
+        "1653526326983/1661102543100", "408838064311/415275635775", "38009381393/38630291700",
+        "1616226757427/1661102543100", "24570826799/25555423740",   "1577983249081/1661102543100"};
     std::string fault;
-    for (const auto& [pays, known] : {std::pair{"9/6", "1653526326983/1661102543100"},
-                                      {"9/5", "408838064311/415275635775"},
-                                      {"8/6", "38009381393/38630291700"},
-                                      {"8/5", "1616226757427/1661102543100"},
-                                      {"7/5", "24570826799/25555423740"},
-                                      {"6/5", "1577983249081/1661102543100"}})
-        if (fault.empty())
-            fault = differs(pays,
-                            odds::fairOdds(odds::HeldCards(odds::parsePays(pays))).returned.text(),
-                            known);
+    for (std::size_t i = 0; i < known.size() && fault.empty(); ++i) {
+        const odds::HeldCards heldCards(odds::parsePays(odds::commonPays[i]));
+        fault = differs(std::string(odds::commonPays[i]), odds::fairOdds(heldCards).returned.text(),
+                        known[i]);
+    }
     return fault;
 }
 

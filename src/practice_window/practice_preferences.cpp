@@ -3,6 +3,8 @@
 #include "platform/file_exists.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace quillet::practice_window
 {
@@ -89,7 +91,7 @@ LoadedPreferences loadPracticePreferences(const SettingsStore& store)
     PracticePreferences& preferences = loaded.preferences;
     preferences.standard = static_cast<practice::JudgedBy>(reader.oneOf("standard", standards, 0));
     preferences.chartFile = reader.text("chartFile");
-    preferences.pays = payTables.at(reader.oneOf("pays", payTables, 0));
+    preferences.pays = odds::commonPays.at(reader.oneOf("pays", odds::commonPays, 0));
     preferences.passMark = reader.number("passMark", 1, 100, preferences.passMark);
     preferences.sound = reader.oneOf("sound", truths, 1) == 1;
     preferences.ticked = namesIn(reader.text("ticked"));

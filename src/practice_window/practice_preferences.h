@@ -1,25 +1,21 @@
 #pragma once
 
+#include "odds/pays.h"
 #include "practice/journal.h"
 #include "settings/settings_store.h"
 
 #include <QStringList>
 
-#include <array>
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace quillet::practice_window
 {
 
-inline constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6",
-                                                           "8/5", "7/5", "6/5"};
-
 struct PracticePreferences {
     practice::JudgedBy standard = practice::JudgedBy::perfect;
     std::string chartFile;
-    std::string pays = "9/6";
+    std::string pays{odds::commonPays[0]};
     int passMark = 95; // right answers of 100
     bool sound = true;
     std::set<std::string> ticked; // names of decisions

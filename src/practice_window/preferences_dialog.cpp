@@ -25,7 +25,7 @@ PreferencesDialog::PreferencesDialog(const PracticePreferences& preferences, QWi
     m_standard->setCurrentIndex(static_cast<int>(preferences.standard));
     m_chartFile->setObjectName("chartFile");
     m_pays->setObjectName("pays");
-    for (const std::string_view each : payTables)
+    for (const std::string_view each : odds::commonPays)
         m_pays->addItem(QString::fromUtf8(each.data(), static_cast<qsizetype>(each.size())));
     m_pays->setCurrentText(QString::fromStdString(preferences.pays));
     m_passMark->setObjectName("passMark");

@@ -26,7 +26,6 @@ namespace
 using namespace quillet;
 using odds_program::decimals;
 
-constexpr std::array<std::string_view, 6> payTables{"9/6", "9/5", "8/6", "8/5", "7/5", "6/5"};
 constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
 
 std::string percent(const odds::Fraction& share, int places)
@@ -43,7 +42,7 @@ void writePayTables(std::ostream& out)
            "for 9/6. With the royal in the last column perfect play returns 100 %.\n\n"
            "| full house/flush | perfect play | variance | the chart | loss | royal for 100 % |\n"
            "|---|---|---|---|---|---|\n";
-    for (const std::string_view name : payTables) {
+    for (const std::string_view name : odds::commonPays) {
         const odds::Pays pays = odds::parsePays(name);
         const odds::HeldCards heldCards(pays);
         const charts::ChartPrice chart = charts::priceChart(heldCards, charts::trainersChart());
