@@ -133,7 +133,7 @@ void ChartDraft::findBest(const Gains& gains, const Limits& limits, Change chang
     }
 }
 
-// Whether the change leaves no more lines than that. Says no in some cases that are hard to see.
+// Whether the change leaves at most that many lines. False in some cases that are hard to decide.
 bool ChartDraft::keepsLines(const Gains& gains, const Change& change, std::size_t maxLines) const
 {
     if (maxLines == none)
@@ -142,7 +142,7 @@ bool ChartDraft::keepsLines(const Gains& gains, const Change& change, std::size_
         return false;
     if (lines() - (change.out != none && isAlone(change.out) ? 1 : 0) < maxLines)
         return true;
-    // On the line above it must lose in no group that this line plays.
+    // The row joins the line above if it loses in no group that this line plays.
     for (std::size_t row = change.before; row-- > 0;) {
         if (row != change.out && gains.from(row, change.out).loses)
             return false;

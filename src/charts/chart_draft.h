@@ -10,7 +10,7 @@ namespace quillet::charts
 {
 
 // A chart that is being improved: what it loses if the player takes the worst of the holds that
-// fit, and what changes of it would gain. Neighbouring rows share a line when that loses nothing.
+// fit, and what changes would gain. Neighbouring rows share a line when that loses nothing.
 class ChartDraft
 {
 public:
@@ -31,11 +31,11 @@ public:
     [[nodiscard]] std::size_t lines() const { return lineCount(m_chart); }
     [[nodiscard]] Loss loss() const { return m_loss; }
 
-    // Makes the change that gains most, again and again, while there is one within the limits.
+    // Makes the change that gains most, within the limits, until none gains.
     void improve(const Limits& limits);
     // Removes the least useful rows until the limits are met.
     void shrinkTo(const Limits& limits);
-    // Removes rows without which the chart loses no more.
+    // Removes rows as long as the chart loses no more without them.
     void removeIdleRows();
 
 private:

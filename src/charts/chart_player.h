@@ -41,10 +41,10 @@ private:
     std::array<std::size_t, maxRows> m_line{}; // by row
 };
 
-// Whether a hold whose cards fit the row may be held after a look at the cards thrown away.
+// Whether the discards meet the conditions of the row, for a hold whose cards fit it.
 [[nodiscard]] bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold);
 
-// The facts of those cards of a deal that a hold keeps.
+// The facts of the cards that a hold keeps.
 [[nodiscard]] HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold);
 
 } // namespace quillet::charts

@@ -30,7 +30,7 @@ struct RowPrice {
     PerTaken<CostliestDeal> costliest;
 };
 
-// What a chart returns over all deals, beside perfect play.
+// What a chart returns over all deals, and what perfect play does.
 struct ChartPrice {
     odds::FairOdds perfect;
     PerTaken<odds::FairOdds> played;

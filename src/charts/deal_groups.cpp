@@ -25,7 +25,7 @@ std::vector<RowKindId> kindsThatFit(const HoldFacts& held)
     return fitting;
 }
 
-// The rows that fit one deal after the other.
+// Finds the rows that fit, for one deal after the other.
 class DealFits
 {
 public:

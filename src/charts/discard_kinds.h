@@ -11,7 +11,7 @@
 namespace quillet::charts
 {
 
-// The facts of the discards beside the kept cards.
+// What a row can ask of the discards, given the kept cards.
 struct DiscardFacts {
     DiscardFacts(std::span<const Card> kept, std::span<const Card> thrown);
 
@@ -29,13 +29,13 @@ struct DiscardKind {
     bool (*fits)(const DiscardFacts& thrown);
 };
 
-// Bit k stands for the k-th of discardKinds().
+// Bit k is the k-th of discardKinds().
 using DiscardSet = std::uint32_t;
 
 // The cards thrown away are of different ranks: "no pair".
 inline constexpr DiscardSet noPair = 1U << 20;
 
-// That of the hand's aces and faces the lowest are kept: "no lower high".
+// The kept aces and faces are the lowest of the hand: "no lower high".
 inline constexpr DiscardSet noLowerHigh = 1U << 21;
 
 // All conditions, in the order of --rows.

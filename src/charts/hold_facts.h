@@ -20,7 +20,7 @@ inline constexpr RankSet faces = jack | queen | king;
 inline constexpr RankSet highRanks = faces | ace;
 inline constexpr RankSet royalRanks = highRanks | ten;
 
-// The facts of a set of held cards that the rows of a chart look at.
+// What the rows of a chart look at in a set of held cards.
 struct HoldFacts {
     explicit HoldFacts(std::span<const Card> held);
 
@@ -38,7 +38,7 @@ struct HoldFacts {
 // The facts of every class of held cards, by HeldCards::ClassId; computed once.
 [[nodiscard]] const std::vector<HoldFacts>& factsByClass();
 
-// The ranks that lie in a straight with all of these, themselves not among them.
+// The other ranks that lie in a straight with all of these.
 [[nodiscard]] RankSet straightPartners(RankSet ranks);
 
 } // namespace quillet::charts

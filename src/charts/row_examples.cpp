@@ -24,7 +24,7 @@ int meritOf(const PlayedDeal& deal)
     return (deal.choices == 1 ? 2 : 0) + (deal.hand.worth[deal.worstHold] == best ? 1 : 0);
 }
 
-// Exchanges the suits, as forEachClass always orders them in the same way.
+// Exchanges suits, since forEachClass orders them in the same way for all deals.
 odds::HeldDeal withMixedSuits(const odds::HeldDeal& example, std::mt19937& random)
 {
     constexpr unsigned orders = 24;

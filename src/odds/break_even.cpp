@@ -11,8 +11,8 @@ namespace quillet::odds
 namespace
 {
 
-// Pays a credit for a royal and nothing else. With it the worth of a hold is a line: its worth at
-// the pay table's royal, and the chance of a royal for each credit that a royal pays more.
+// Pays a credit for a royal and nothing else. So the worth of a hold here is its chance of a royal,
+// by which its real worth grows with each credit that a royal pays more.
 HeldCards onlyRoyals()
 {
     return HeldCards({0, 1});

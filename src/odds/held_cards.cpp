@@ -70,7 +70,7 @@ void HeldCards::countHandsOfFours()
                 four[without] = hand[without];
         }
     });
-    // Each class now has the hands of all its members, which have the same number each.
+    // Each class now counts the hands of all its members, which have equally many.
     forEachClass(4, [this](const SuitSets& sets) {
         for (std::int32_t& count : m_counts[classOf(placesOf<4>(sets))])
             count /= classSize(sets);

@@ -35,10 +35,10 @@ inline constexpr std::array<std::string_view, 6> commonPays{"9/6", "9/5", "8/6",
 // Whether the text is meant as a pay table, right or wrong, and not as the name of a file.
 [[nodiscard]] bool looksLikePays(std::string_view text);
 
-// Reads "9/6", the full house and the flush for one credit with the trainer's other pays, or nine
-// whole numbers for five credits, royal first, between blanks, commas or ends of lines. On a line
-// with a name one number follows it, which may be written as 4,000, and the name of another hand is
-// refused. What follows # is a comment. Throws BadInput, which says where and why.
+// Reads "9/6", the full house and the flush for one credit; the other pays are the trainer's. Or
+// reads nine whole numbers for five credits, royal first, between blanks, commas or ends of lines.
+// A line that names its hand has one number, which may be written as 4,000; the name of another
+// hand is refused. # starts a comment. Throws BadInput, which says where and why.
 [[nodiscard]] Pays parsePays(std::string_view text);
 
 } // namespace quillet::odds

@@ -20,7 +20,7 @@ namespace
 
 constexpr double certain = 1 - 1e-12;
 
-// Turns the chances of ruin in some rounds, by bankroll in units, into those in one round more.
+// Turns the chances of ruin in some rounds, by bankroll in units, into those in one more round.
 // Larger bankrolls are safe. A new chance is the mean of the old ones after each win: a sum or,
 // with many wins, a product of spectra.
 class OneMoreRound

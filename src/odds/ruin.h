@@ -18,7 +18,7 @@ class Ruin
 public:
     static constexpr std::size_t tenths = 10;
 
-    // If only one bankroll is wanted, it stops as soon as that one is certain to be ruined or safe.
+    // For `only` one bankroll it stops as soon as that one is certain to be ruined or safe.
     // Throws BadInput when it would take too long.
     Ruin(const Round& round, std::int64_t rounds, std::optional<std::int64_t> only = {},
          const WorkProgress& progress = {});

@@ -16,7 +16,7 @@ namespace quillet::odds_program
 namespace
 {
 
-[[noreturn]] void needs(std::string_view option, const std::string& what, std::string_view word)
+[[noreturn]] void failValue(std::string_view option, const std::string& what, std::string_view word)
 {
     throw BadUsage(std::string(option) + " needs " + what + ", not '" + odds::printable(word) +
                    "'");
@@ -42,7 +42,7 @@ std::int64_t countIn(std::string_view option, std::string_view word, std::int64_
 {
     const std::int64_t count = wholeNumber(word);
     if (count == 0 || count > max)
-        needs(option, what, word);
+        failValue(option, what, word);
     return count;
 }
 
@@ -52,7 +52,7 @@ double percentageIn(std::string_view word)
     const std::string_view digits = word.substr(0, word.size() - (word.ends_with('%') ? 1 : 0));
     const double number = odds::numberIn<double>(digits).value_or(0);
     if (!(number >= 0.0001 && number <= 99)) // nor NaN
-        needs("--bring", "a percentage, 0.0001 to 99", word);
+        failValue("--bring", "a percentage, 0.0001 to 99", word);
     return number;
 }
 
@@ -70,7 +70,7 @@ Format formatIn(std::string_view word)
         return Format::csv;
     if (word == "json")
         return Format::json;
-    needs("--format", "text, csv or json", word);
+    failValue("--format", "text, csv or json", word);
 }
 
 // Reads "24" or "1..30".
@@ -80,7 +80,7 @@ void takeLines(Request& request, std::string_view word)
     const auto min = wholeNumber(word.substr(0, dots));
     const auto max = dots == std::string_view::npos ? min : wholeNumber(word.substr(dots + 2));
     if (min == 0 || max > static_cast<std::int64_t>(charts::maxRows) || min > max)
-        needs("--best-chart", "a number of lines, 1 to 64, or two such as 1..30", word);
+        failValue("--best-chart", "a number of lines, 1 to 64, or two such as 1..30", word);
     request.minLines = static_cast<std::size_t>(min);
     request.maxLines = static_cast<std::size_t>(max);
 }

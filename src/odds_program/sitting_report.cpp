@@ -74,7 +74,7 @@ Played playOne(const SittingPlay& play, const odds::Pays& pays, const Session& s
     return played;
 }
 
-// In as many threads. Reports the progress of the first.
+// Each play in a thread of its own. Reports the progress of the first.
 AllPlayed playAll(const std::vector<SittingPlay>& plays, const odds::Pays& pays,
                   const Session& session, const odds::WorkProgress& progress)
 {
