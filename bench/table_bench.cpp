@@ -73,8 +73,9 @@ void firstStartCalibration(benchmark::State& state)
     for ([[maybe_unused]] auto step : state) {
         const ClockFromNow clock;
         painted.preferences.prfBannerDelay = 0;
-        DelayMeter(painted.canvas, painted.library, painted.preferences, clock, painted, [] {
-        }).InitAnimDelay(Painted::measures);
+        InitAnimDelay(
+            painted.canvas, painted.library, Painted::measures, painted.preferences, clock,
+            [&painted](const std::string& text) { painted.errors.push_back(text); }, [] {});
     }
     state.counters["flight delay"] = painted.preferences.prfAnimationDelay;
     state.counters["banner delay"] = painted.preferences.prfBannerDelay;

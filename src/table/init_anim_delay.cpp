@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 namespace quillet
 {
@@ -37,98 +39,123 @@ QImage bannerPicture(QSize size)
     return banner;
 }
 
-} // namespace
-
-DelayMeter::DelayMeter(TableCanvas& canvas, CardLibrary& library, Preferences& preferences,
-                       const Clock& clock, ErrorBox errorBox, std::function<void()> afterRound)
-    : m_canvas(canvas), m_library(library), m_preferences(preferences), m_clock(clock),
-      m_errorBox(std::move(errorBox)), m_afterRound(std::move(afterRound))
+// Runs the rounds. It measures the processor time of this thread, which the work of other programs
+// does not change.
+class DelayMeter
 {
-}
-
-void DelayMeter::InitAnimDelay(const TableMeasures& table)
-{
-    guardedWithText(m_errorBox, "Error in InitAnimDelay ", "", [&] {
-        const double scale = m_canvas.scale();
-        const QSizeF strip(statusBarWidth, table.statusBarHeight);
-        m_board = Surface(m_canvas.innerSize(), scale);
-        m_under = Surface(m_library.cardSize(), scale);
+public:
+    DelayMeter(TableCanvas& canvas, CardLibrary& library, const TableMeasures& table,
+               const Clock& clock, const std::function<void()>& afterRound)
+        : m_canvas(canvas), m_library(library), m_clock(clock), m_afterRound(afterRound),
+          m_board(canvas.innerSize(), canvas.scale()), m_under(library.cardSize(), canvas.scale()),
+          m_bannerStrip({statusBarWidth, table.statusBarHeight}, canvas.scale()),
+          picBanner3(bannerPicture((m_bannerStrip.size() * canvas.scale()).toSize()))
+    {
         const QSizeF pile = rejectPileSize(table);
         m_frame = {std::nearbyint(pile.width()), std::nearbyint(pile.height())};
-        m_bannerStrip = Surface(strip, scale);
-        picBanner3 = bannerPicture((strip * scale).toSize());
-        m_preferences.prfAnimationDelay = 0;
-        m_started = m_clock.milliseconds();
-        m_startedProcessor = m_clock.processorSeconds();
+    }
+
+    void setDelays(Preferences& preferences)
+    {
         const double unit = secondsPerDelayUnit();
-        calibrateFlight(m_preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
+        calibrateFlight(preferences.prfAnimationDelay, {flightRound(0), unit * flightFrames},
                         [this](std::int32_t delay) {
                             return whileTimeIsLeft([&] { return flightRound(delay); });
                         });
-        m_preferences.prfScrollVal = scrollValueFor(m_preferences.prfAnimationDelay);
-        calibrateBanner(m_preferences.prfBannerDelay, {bannerRound(0), unit * bannerFrames},
+        preferences.prfScrollVal = scrollValueFor(preferences.prfAnimationDelay);
+        calibrateBanner(preferences.prfBannerDelay, {bannerRound(0), unit * bannerFrames},
                         [this](std::int32_t delay) {
                             return whileTimeIsLeft([&] { return bannerRound(delay); });
                         });
-    });
-}
-
-// Assumes that other programs slow the next round down as much as the rounds so far.
-std::optional<double> DelayMeter::whileTimeIsLeft(const std::function<double()>& round)
-{
-    const std::int64_t now = m_clock.milliseconds();
-    const auto waited = static_cast<double>(now - m_started);
-    const double slowness = waited / (m_clock.processorSeconds() - m_startedProcessor);
-    if (static_cast<double>(now) + m_longestRound * slowness > timeLimit)
-        return std::nullopt;
-    return round();
-}
-
-double DelayMeter::secondsTaken(const std::function<void()>& frames)
-{
-    const double start = m_clock.processorSeconds();
-    frames();
-    const double elapsed = m_clock.processorSeconds() - start;
-    m_longestRound = std::max(m_longestRound, elapsed);
-    m_afterRound();
-    return elapsed;
-}
-
-double DelayMeter::flightRound(std::int32_t delay)
-{
-    return secondsTaken([&] {
-        for (int frame = 0; frame < flightFrames; ++frame) {
-            m_under.copyFrom(m_board, {0, 0}, m_frame, {0, 0});
-            m_library.cdtDraw(m_board, 0, 0, beachBack, drawBack, whiteColour);
-            m_canvas.copyPixels(m_board, deviceRect({{0, -trail}, m_frame + QSizeF(trail, trail)},
-                                                    m_board.scale()));
-            m_board.copyFrom(m_under, {0, 0}, m_frame, {0, 0});
-            countingLoop(delay);
-        }
-    });
-}
-
-double DelayMeter::bannerRound(std::int32_t delay)
-{
-    return secondsTaken([&] {
-        for (std::int32_t k = bannerTop; k <= 0; ++k) {
-            m_bannerStrip.drawPixels(picBanner3, QPointF(0, k));
-            countingLoop(delay);
-        }
-    });
-}
-
-double DelayMeter::secondsPerDelayUnit()
-{
-    constexpr std::int32_t sample = 500;
-    double best = 0.0;
-    for (int i = 0; i < 3; ++i) {
-        const double start = m_clock.processorSeconds();
-        countingLoop(sample);
-        const double elapsed = m_clock.processorSeconds() - start;
-        best = i == 0 ? elapsed : std::min(best, elapsed);
     }
-    return best / sample;
+
+private:
+    // Runs a round, or returns nothing if the round would probably end too late. Assumes that other
+    // programs slow it down as much as the rounds so far.
+    template <typename Round>
+    [[nodiscard]] std::optional<double> whileTimeIsLeft(const Round& round)
+    {
+        const std::int64_t now = m_clock.milliseconds();
+        const auto waited = static_cast<double>(now - m_started);
+        const double slowness = waited / (m_clock.processorSeconds() - m_startedProcessor);
+        if (static_cast<double>(now) + m_longestRound * slowness > timeLimit)
+            return std::nullopt;
+        return round();
+    }
+
+    // Seconds taken by a round of frames.
+    template <typename Frames>
+    [[nodiscard]] double secondsTaken(const Frames& frames)
+    {
+        const double start = m_clock.processorSeconds();
+        frames();
+        const double elapsed = m_clock.processorSeconds() - start;
+        m_longestRound = std::max(m_longestRound, elapsed);
+        m_afterRound();
+        return elapsed;
+    }
+
+    [[nodiscard]] double flightRound(std::int32_t delay)
+    {
+        return secondsTaken([&] {
+            for (int frame = 0; frame < flightFrames; ++frame) {
+                m_under.copyFrom(m_board, {0, 0}, m_frame, {0, 0});
+                m_library.cdtDraw(m_board, 0, 0, beachBack, drawBack, whiteColour);
+                const QRectF copied({0, -trail}, m_frame + QSizeF(trail, trail));
+                m_canvas.copyPixels(m_board, deviceRect(copied, m_board.scale()));
+                m_board.copyFrom(m_under, {0, 0}, m_frame, {0, 0});
+                countingLoop(delay);
+            }
+        });
+    }
+
+    [[nodiscard]] double bannerRound(std::int32_t delay)
+    {
+        return secondsTaken([&] {
+            for (std::int32_t k = bannerTop; k <= 0; ++k) {
+                m_bannerStrip.drawPixels(picBanner3, QPointF(0, k));
+                countingLoop(delay);
+            }
+        });
+    }
+
+    [[nodiscard]] double secondsPerDelayUnit() const
+    {
+        constexpr std::int32_t sample = 500;
+        double best = 0.0;
+        for (int i = 0; i < 3; ++i) {
+            const double start = m_clock.processorSeconds();
+            countingLoop(sample);
+            const double elapsed = m_clock.processorSeconds() - start;
+            best = i == 0 ? elapsed : std::min(best, elapsed);
+        }
+        return best / sample;
+    }
+
+    TableCanvas& m_canvas;
+    CardLibrary& m_library;
+    const Clock& m_clock;
+    const std::function<void()>& m_afterRound;
+    Surface m_board; // of the table's size
+    Surface m_under; // of a card's size
+    QSizeF m_frame;  // logical pixels that a frame copies
+    Surface m_bannerStrip;
+    QImage picBanner3; // what slides into it
+    const std::int64_t m_started = m_clock.milliseconds();
+    const double m_startedProcessor = m_clock.processorSeconds();
+    double m_longestRound = 0.4; // seconds of the processor's; what the rounds aim at, or more
+};
+
+} // namespace
+
+void InitAnimDelay(TableCanvas& canvas, CardLibrary& library, const TableMeasures& table,
+                   Preferences& preferences, const Clock& clock, const ErrorBox& errorBox,
+                   const std::function<void()>& afterRound)
+{
+    guardedWithText(errorBox, "Error in InitAnimDelay ", "", [&] {
+        preferences.prfAnimationDelay = 0;
+        DelayMeter(canvas, library, table, clock, afterRound).setDelays(preferences);
+    });
 }
 
 } // namespace quillet

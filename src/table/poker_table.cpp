@@ -139,10 +139,9 @@ void PokerTable::resetGraphics()
 }
 
 void PokerTable::measureDelays(Preferences& preferences, const Clock& clock,
-                               std::function<void()> afterRound)
+                               const std::function<void()>& afterRound)
 {
-    DelayMeter(m_canvas, m_library, preferences, clock, m_errorBox, std::move(afterRound))
-        .InitAnimDelay(m_measures);
+    InitAnimDelay(m_canvas, m_library, m_measures, preferences, clock, m_errorBox, afterRound);
 }
 
 void PokerTable::close()

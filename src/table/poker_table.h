@@ -60,9 +60,9 @@ public:
     void DrawDealDeck() { m_pile.DrawDealDeck(m_preferences.prfPKBackFace); }
     void shuffleCards() { m_pile.shuffleCards(m_preferences.prfPKBackFace); }
 
-    // Measures the speed of flights and of a banner; see DelayMeter.
+    // Measures the speed of flights and of a banner; see InitAnimDelay.
     void measureDelays(Preferences& preferences, const Clock& clock,
-                       std::function<void()> afterRound);
+                       const std::function<void()>& afterRound);
 
     // The program is about to end; nothing is painted from now on.
     void close();
