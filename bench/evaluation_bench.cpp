@@ -1,4 +1,4 @@
-#include "coach/hold_judgement.h"
+#include "coach/hold_coach.h"
 #include "engine/deck.h"
 #include "engine/hand_evaluation.h"
 #include "engine/random.h"

@@ -1,7 +1,7 @@
 // Processor time of a hand in the real window with its real pauses, at the named flight delay. The
 // difference from delay 0 is the cost of the counting loops. Only a real display shows the real
 // cost; without one the hand is played off screen.
-#include "coach/hold_judgement.h"
+#include "coach/hold_coach.h"
 #include "engine/random.h"
 #include "main_window/frm_main.h"
 #include "platform/browser_opener.h"

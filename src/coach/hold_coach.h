@@ -3,11 +3,18 @@
 #include "coach/strategy_chart.h"
 #include "engine/hand_coach.h"
 
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <utility>
 
 namespace quillet
 {
+
+// Whether the held cards alone have the play code bestPlay, and are as many as that play keeps.
+// They need not be the cards that gave the hand this code.
+[[nodiscard]] bool isCorrectHold(const std::array<Card, 5>& hand,
+                                 const std::array<bool, 5>& holdFlags, std::int16_t bestPlay);
 
 // Judges the player's hold against the best play of the dealt hand and shows the result on the
 // chart.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "coach/hold_judgement.h"
+#include "coach/hold_coach.h"
 
 #include <array>
 #include <cstdint>

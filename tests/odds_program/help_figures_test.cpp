@@ -1,6 +1,6 @@
 #include "charts/chart_price.h"
 #include "charts/mistakes.h"
-#include "coach/hold_judgement.h"
+#include "coach/hold_coach.h"
 #include "engine/hand_evaluation.h"
 #include "engine/pay_table.h"
 #include "odds/fair_odds.h"
