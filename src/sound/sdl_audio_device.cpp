@@ -11,6 +11,28 @@ namespace quillet
 namespace
 {
 
+class SdlAudioDevice : public AudioDevice
+{
+public:
+    SdlAudioDevice(const Sdl& sdl, SDL_AudioDeviceID id) : m_sdl(sdl), m_id(id) {}
+    ~SdlAudioDevice() override
+    {
+        m_sdl.closeAudioDevice(m_id);
+        m_sdl.quitSubSystem(SDL_INIT_AUDIO);
+    }
+    SdlAudioDevice(const SdlAudioDevice&) = delete;
+    SdlAudioDevice& operator=(const SdlAudioDevice&) = delete;
+
+    [[nodiscard]] bool isLost() const override
+    {
+        return m_sdl.getAudioDeviceStatus(m_id) == SDL_AUDIO_STOPPED;
+    }
+
+private:
+    const Sdl& m_sdl;
+    const SDL_AudioDeviceID m_id;
+};
+
 void ignoreAlsaMessage(const char*, int, const char*, int, const char*, ...) {}
 
 // ALSA reports every failed look-up on stderr, eight lines on a machine without a sound card. SDL
@@ -41,7 +63,7 @@ void renderBlock(void* mixer, Uint8* block, int bytes)
 
 } // namespace
 
-std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
+std::unique_ptr<AudioDevice> openSdlDevice(CueMixer& mixer)
 {
     const Sdl* sdl = Sdl::load();
     if (!sdl)
@@ -65,18 +87,7 @@ std::unique_ptr<AudioDevice> SdlAudioDevice::open(CueMixer& mixer)
         return nullptr;
     }
     sdl->pauseAudioDevice(id, 0);
-    return std::unique_ptr<SdlAudioDevice>(new SdlAudioDevice(*sdl, id));
-}
-
-SdlAudioDevice::~SdlAudioDevice()
-{
-    m_sdl.closeAudioDevice(m_id);
-    m_sdl.quitSubSystem(SDL_INIT_AUDIO);
-}
-
-bool SdlAudioDevice::isLost() const
-{
-    return m_sdl.getAudioDeviceStatus(m_id) == SDL_AUDIO_STOPPED;
+    return std::make_unique<SdlAudioDevice>(*sdl, id);
 }
 
 } // namespace quillet

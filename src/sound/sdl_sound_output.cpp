@@ -116,7 +116,7 @@ void SdlSoundOutput::stop()
 
 void SdlSoundOutput::work(const std::shared_ptr<Mailbox>& mailbox)
 {
-    CuePlayer player(&steady_clock::now, &SdlAudioDevice::open);
+    CuePlayer player(&steady_clock::now, &openSdlDevice);
     while (!mailbox->isClosed()) {
         const auto request = mailbox->take(player.restAt());
         if (!request)

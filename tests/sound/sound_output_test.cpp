@@ -126,12 +126,12 @@ TEST(SdlAudioDevice, machineWithoutSoundIsNoDeviceAndNoMessage)
         setenv("SDL_AUDIODRIVER", driver, 1);
         CueMixer mixer;
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(SdlAudioDevice::open(mixer)) << driver;
+        EXPECT_FALSE(openSdlDevice(mixer)) << driver;
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << driver;
     }
     CueMixer mixer;
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    EXPECT_TRUE(SdlAudioDevice::open(mixer)) << "a sound server that starts later is found";
+    EXPECT_TRUE(openSdlDevice(mixer)) << "a sound server that starts later is found";
 }
 
 TEST(SdlSoundOutput, nobodyWaitsForAServerThatNeverAnswers)
