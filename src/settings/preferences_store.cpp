@@ -17,39 +17,6 @@ constexpr const char* section = "Preferences";
 
 constexpr std::int32_t outlineGreen = 0x0000FF00;
 
-// Reads the stored settings, which it loads once.
-class Reader
-{
-public:
-    explicit Reader(const SettingsStore& store)
-        : m_store(store), m_settings(store.load(application))
-    {
-    }
-
-    [[nodiscard]] std::string text(const std::string& key, const std::string& defaultText) const
-    {
-        return readSetting(m_settings, application, section, key, defaultText);
-    }
-
-    [[nodiscard]] bool truth(const std::string& key) const { return text(key, "True") != "False"; }
-
-    // The converted text. Errors of the rule name the key and the file.
-    template <typename Rule>
-    [[nodiscard]] auto converted(const std::string& key, const std::string& defaultText,
-                                 Rule rule) const
-    {
-        try {
-            return rule(text(key, defaultText));
-        } catch (const RunTimeError& error) {
-            throw RunTimeError(key + ": " + error.what() + " in " + m_store.location(application));
-        }
-    }
-
-private:
-    const SettingsStore& m_store;
-    Settings m_settings;
-};
-
 std::int32_t wholeNumber(const std::string& text)
 {
     return toInt32(toNumber(text));
@@ -79,22 +46,33 @@ std::int16_t scrollPosition(const std::string& text)
 
 void loadPreferences(const SettingsStore& store, Preferences& preferences)
 {
-    const Reader reader(store);
-    preferences.prfCardOutlineColor =
-        outlineColour(reader.text("prfCardOutlineColor", "&H0000FF00&"));
-    preferences.prfPKBackFace =
-        reader.converted("prfPKBackFace", std::to_string(defaultBack), backFace);
-    preferences.prfShowPokerPlay = reader.truth("prfShowPokerPlay");
-    preferences.prfPokerAutoDeal = reader.truth("prfPokerAutoDeal");
+    const Settings settings = store.load(application);
+    const auto text = [&settings](const char* key, const std::string& defaultText) {
+        return readSetting(settings, application, section, key, defaultText);
+    };
+    const auto truth = [&text](const char* key) { return text(key, "True") != "False"; };
+    const auto number = [&](const char* key, const std::string& defaultText, const auto& rule) {
+        try {
+            return rule(text(key, defaultText));
+        } catch (const RunTimeError& error) {
+            throw RunTimeError(std::string(key) + ": " + error.what() + " in " +
+                               store.location(application));
+        }
+    };
+
+    preferences.prfCardOutlineColor = outlineColour(text("prfCardOutlineColor", "&H0000FF00&"));
+    preferences.prfPKBackFace = number("prfPKBackFace", std::to_string(defaultBack), backFace);
+    preferences.prfShowPokerPlay = truth("prfShowPokerPlay");
+    preferences.prfPokerAutoDeal = truth("prfPokerAutoDeal");
     preferences.isPoker = true; // there is one game, whatever was stored
-    preferences.prfShowHide = reader.truth("prfShowHide");
-    preferences.prfAnimation = reader.truth("prfAnimation");
-    preferences.prfSound = reader.truth("prfSound");
-    preferences.prfAnimationDelay = reader.converted("prfAnimationDelay", "-1", wholeNumber);
-    preferences.prfBannerDelay = reader.converted("prfBannerDelay", "0", wholeNumber);
-    const std::string background = reader.text("prfPKBackground", defaultBackground);
+    preferences.prfShowHide = truth("prfShowHide");
+    preferences.prfAnimation = truth("prfAnimation");
+    preferences.prfSound = truth("prfSound");
+    preferences.prfAnimationDelay = number("prfAnimationDelay", "-1", wholeNumber);
+    preferences.prfBannerDelay = number("prfBannerDelay", "0", wholeNumber);
+    const std::string background = text("prfPKBackground", defaultBackground);
     preferences.prfPKBackground = background.empty() ? defaultBackground : background;
-    preferences.prfScrollVal = reader.converted("prfScrollVal", "0", scrollPosition);
+    preferences.prfScrollVal = number("prfScrollVal", "0", scrollPosition);
 }
 
 void savePreferences(const Preferences& preferences, SettingsStore& store)
