@@ -12,14 +12,14 @@ namespace
 
 constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
 
-HelpFile unreadable(const QString& reason)
+QString unreadable(const QString& reason)
 {
-    return {{}, "The help file " + reason};
+    return "<h1>No help to show</h1><p>The help file " + reason.toHtmlEscaped() + "</p>";
 }
 
 } // namespace
 
-HelpFile readHelpFile(const QString& path)
+QString readHelpFile(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -41,7 +41,7 @@ HelpFile readHelpFile(const QString& path)
     const QString html = utf8(bytes);
     if (utf8.hasError())
         return unreadable("is not UTF-8 text: " + path);
-    return {html, {}};
+    return html;
 }
 
 } // namespace quillet

@@ -190,10 +190,7 @@ void HelpViewer::addSearch(QToolBar& bar)
 
 void HelpViewer::openAtContents(const QString& path)
 {
-    const HelpFile file = readHelpFile(path);
-    m_page->showText(file.problem.isEmpty()
-                         ? file.html
-                         : "<h1>No help to show</h1><p>" + file.problem.toHtmlEscaped() + "</p>");
+    m_page->showText(readHelpFile(path));
     showMessage({});
 }
 
