@@ -78,9 +78,9 @@ ChartRowState StrategyChart::state(int row) const
     return m_states[indexOf(row)];
 }
 
-ChartRowColours StrategyChart::colours(int row) const
+ChartRowColours StrategyChart::coloursOf(int row, ChartRowState state)
 {
-    switch (state(row)) {
+    switch (state) {
     case ChartRowState::bestPlay:
         return bestPlay;
     case ChartRowState::missedPlay:

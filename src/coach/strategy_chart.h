@@ -55,7 +55,8 @@ public:
     void highlightWinner(std::int16_t playCode) { highlight(playCode, ChartRowState::winner); }
 
     [[nodiscard]] ChartRowState state(int row) const;
-    [[nodiscard]] ChartRowColours colours(int row) const;
+    [[nodiscard]] static ChartRowColours coloursOf(int row, ChartRowState state);
+    [[nodiscard]] ChartRowColours colours(int row) const { return coloursOf(row, state(row)); }
 
 private:
     void setState(int row, ChartRowState state);

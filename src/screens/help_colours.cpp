@@ -22,12 +22,9 @@ QColor mixed(const QColor& ground, const QColor& ink, double share)
 }
 
 // The background that the help gives to words about a colour of the chart.
-QString chartColourRule(const QString& name, void (StrategyChart::*light)(std::int16_t),
-                        std::int16_t playCode)
+QString chartColourRule(const QString& name, int row, ChartRowState state)
 {
-    StrategyChart chart;
-    (chart.*light)(playCode);
-    const ChartRowColours colours = chart.colours(playCode - 1);
+    const ChartRowColours colours = StrategyChart::coloursOf(row, state);
     return '.' + name + " { background-color: " + colourOf(colours.background).name() +
            "; color: " + colourOf(colours.text).name() + "; }";
 }
@@ -61,10 +58,10 @@ QString helpStyleSheet(const QPalette& palette)
                    ".hand, .hold, code { font-family: monospace; }")
                .arg(readableLinkColour(palette).name(), mixed(ground, ink, 0.35).name(),
                     mixed(ground, ink, 0.08).name()) +
-           chartColourRule("best-play", &StrategyChart::highlightBestPlay, 1) +
-           chartColourRule("missed-play", &StrategyChart::highlightMissedPlay, 1) +
-           chartColourRule("winner", &StrategyChart::highlightWinner, 1) +
-           chartColourRule("straight-flush", &StrategyChart::highlightWinner, 2);
+           chartColourRule("best-play", 0, ChartRowState::bestPlay) +
+           chartColourRule("missed-play", 0, ChartRowState::missedPlay) +
+           chartColourRule("winner", 0, ChartRowState::winner) +
+           chartColourRule("straight-flush", 1, ChartRowState::winner);
 }
 
 } // namespace quillet
