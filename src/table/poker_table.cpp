@@ -18,25 +18,6 @@
 namespace quillet
 {
 
-namespace
-{
-
-// What screen readers call it.
-QString shownBy(const CardOnTable& card)
-{
-    switch (card.side) {
-    case CardOnTable::Side::none:
-        return "empty";
-    case CardOnTable::Side::back:
-        return "face down";
-    case CardOnTable::Side::face:
-        return cardName(card.number);
-    }
-    return {};
-}
-
-} // namespace
-
 PokerTable::PokerTable(const Preferences& preferences, ErrorBox errorBox, QWidget* parent)
     : QObject(parent), m_preferences(preferences), m_errorBox(std::move(errorBox)),
       m_canvas(*new TableCanvas(parent)), m_pile(m_canvas, m_library),
@@ -188,11 +169,11 @@ void PokerTable::showFace(Slot slot, std::int16_t cardId, bool finished)
 
 void PokerTable::showHold(Slot slot, bool held)
 {
-    if (m_held[slot] == held)
+    PictureBox& place = *picPoker[slot];
+    if (place.isChecked() == held)
         return;
-    m_held[slot] = held;
-    const QRectF place = picPoker[slot]->place();
-    m_canvas.presentWithNextFrame(place.adjusted(-4, -4, 4, 4));
+    place.setChecked(held);
+    m_canvas.presentWithNextFrame(place.place().adjusted(-4, -4, 4, 4));
     describe(slot);
 }
 
@@ -218,7 +199,7 @@ void PokerTable::paintOutlines(QPainter& painter, double scale) const
 {
     const QColor colour = colourOf(static_cast<std::uint32_t>(m_preferences.prfCardOutlineColor));
     for (const Slot slot : allSlots) {
-        if (m_held[slot])
+        if (picPoker[slot]->isChecked())
             paintHoldMarker(painter, picPoker[slot]->devicePlace(), scale, colour);
     }
 }
@@ -244,11 +225,23 @@ void PokerTable::paintCard(Slot slot)
                    0, 0, whiteColour);
 }
 
+QString PokerTable::nameOf(const CardOnTable& card)
+{
+    switch (card.side) {
+    case CardOnTable::Side::none:
+        return "empty";
+    case CardOnTable::Side::back:
+        return "face down";
+    case CardOnTable::Side::face:
+        return cardName(card.number);
+    }
+    return {};
+}
+
 void PokerTable::describe(Slot slot)
 {
     PictureBox& place = *picPoker[slot];
-    place.setChecked(m_held[slot]);
-    place.setAccessibleName(spokenCard(slot, shownBy(m_cards[slot]), m_held[slot]));
+    place.setAccessibleName(spokenCard(slot, nameOf(m_cards[slot]), place.isChecked()));
 }
 
 // Paints everything again at the scale of the display that the table is on now.

@@ -6,7 +6,6 @@
 #include "settings/preferences.h"
 #include "table/card_flight.h"
 #include "table/card_library.h"
-#include "table/card_on_table.h"
 #include "table/deck_pile.h"
 #include "table/table_background.h"
 #include "table/table_painter.h"
@@ -81,6 +80,17 @@ signals:
     void cardDoubleClicked(Slot slot);
 
 private:
+    // What a card place shows, so that it can be painted again for a display of another scale.
+    struct CardOnTable {
+        enum class Side { none, back, face };
+
+        Side side = Side::none;
+        std::int32_t number = 0; // card number of the back or face
+        bool hatched = false;    // with the crosshatch of a finished hand
+    };
+
+    // What screen readers call it.
+    [[nodiscard]] static QString nameOf(const CardOnTable& card);
     void connectDeck();
     void makePlaces();
     void paintOutlines(QPainter& painter, double scale) const;
@@ -94,7 +104,6 @@ private:
 
     TableMeasures m_measures;
     std::array<CardOnTable, 5> m_cards; // what the places show
-    std::array<bool, 5> m_held{};       // whose hold marker shows
     bool m_closed = false;
 
     TableCanvas& m_canvas; // a child of the parent
