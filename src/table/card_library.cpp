@@ -32,12 +32,7 @@ void CardLibrary::cdtInit(std::int32_t& width, std::int32_t& height)
 
 void CardLibrary::expectBack(std::int32_t backNumber, double scale)
 {
-    useScale(scale);
-    backNumber = existingBack(backNumber);
-    if (m_cards.contains(backNumber) || m_expected.contains(backNumber))
-        return;
-    m_expected[backNumber] =
-        std::async(std::launch::async, renderCard, backNumber, deviceCardSize(scale));
+    prepare(existingBack(backNumber), scale, std::launch::async);
 }
 
 void CardLibrary::cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int32_t cardNumber,
@@ -48,38 +43,27 @@ void CardLibrary::cdtDraw(Surface& dc, std::int32_t x, std::int32_t y, std::int3
     if (drawMode == drawBack)
         cardNumber = existingBack(cardNumber);
     if (drawMode == drawBack || (drawMode == drawFace && isFace(cardNumber)))
-        dc.drawPixels(card(cardNumber, dc.scale()), QPointF(x, y));
+        dc.drawPixels(prepare(cardNumber, dc.scale(), std::launch::deferred).get(), QPointF(x, y));
 }
 
 void CardLibrary::cdtTerm()
 {
     m_ready = false;
     m_cards.clear();
-    m_expected.clear();
 }
 
-QSize CardLibrary::deviceCardSize(double scale) const
+const CardLibrary::Picture& CardLibrary::prepare(std::int32_t cardNumber, double scale,
+                                                 std::launch when)
 {
-    return {deviceSize(m_cardSize.width(), scale), deviceSize(m_cardSize.height(), scale)};
-}
-
-void CardLibrary::useScale(double scale)
-{
-    if (scale == m_cachedScale)
-        return;
-    m_cards.clear();
-    m_expected.clear();
+    if (scale != m_cachedScale)
+        m_cards.clear();
     m_cachedScale = scale;
-}
-
-const QImage& CardLibrary::card(std::int32_t cardNumber, double scale)
-{
-    useScale(scale);
-    QImage& picture = m_cards[cardNumber];
-    if (!picture.isNull())
-        return picture;
-    auto expected = m_expected.extract(cardNumber);
-    picture = expected ? expected.mapped().get() : renderCard(cardNumber, deviceCardSize(scale));
+    Picture& picture = m_cards[cardNumber];
+    if (!picture.valid()) {
+        const QSize size(deviceSize(m_cardSize.width(), scale),
+                         deviceSize(m_cardSize.height(), scale));
+        picture = std::async(when, renderCard, cardNumber, size);
+    }
     return picture;
 }
 

@@ -44,16 +44,15 @@ public:
     [[nodiscard]] QSize cardSize() const { return m_cardSize; }
 
 private:
-    [[nodiscard]] QSize deviceCardSize(double scale) const;
-    void useScale(double scale);
-    const QImage& card(std::int32_t cardNumber, double scale);
+    using Picture = std::shared_future<QImage>;
+
+    // The card's picture at this scale; draws it, now on a thread or when it is needed.
+    const Picture& prepare(std::int32_t cardNumber, double scale, std::launch when);
 
     QSize m_cardSize;
     bool m_ready = false;
     double m_cachedScale = 0.0;
-    // By card number, for the cached scale.
-    std::map<std::int32_t, QImage> m_cards;
-    std::map<std::int32_t, std::future<QImage>> m_expected;
+    std::map<std::int32_t, Picture> m_cards; // by card number, for the cached scale
 };
 
 } // namespace quillet
