@@ -3,7 +3,6 @@
 #include "faults/run_time_error.h"
 #include "platform/desktop_colours.h"
 
-#include <cmath>
 #include <limits>
 
 namespace quillet
@@ -21,12 +20,6 @@ int sixteenBits(std::int64_t size)
 }
 
 } // namespace
-
-PixelRect wholeOf(const Surface& picture)
-{
-    return {0, 0, static_cast<std::int32_t>(std::nearbyint(picture.size().width())),
-            static_cast<std::int32_t>(std::nearbyint(picture.size().height()))};
-}
 
 void MaskedBlit(Surface& hdcDest, const Surface& hdcBack, const Surface& hdcSrc,
                 const PixelRect& srcRect, double xDest, double yDest, std::uint32_t transColor)

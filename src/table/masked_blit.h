@@ -15,9 +15,6 @@ struct PixelRect {
     std::int32_t bottom = 0;
 };
 
-// The whole picture, rounded to whole pixels.
-[[nodiscard]] PixelRect wholeOf(const Surface& picture);
-
 // Copies the source rectangle to the destination. Pixels of exactly the transparent colour
 // (0x00BBGGRR) are taken from the background picture instead, which may be the destination itself.
 // Clipped to all three pictures; inverted rectangles are empty. Throws RunTimeError for a width or

@@ -6,7 +6,6 @@
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
 #include "table/init_anim_delay.h"
-#include "table/masked_blit.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"
 
@@ -221,8 +220,7 @@ void PokerTable::paintCard(Slot slot)
         m_library.cdtDraw(place.picture(), 0, 0, card.number,
                           card.side == CardOnTable::Side::face ? drawFace : drawBack, whiteColour);
     if (card.hatched)
-        MaskedBlit(place.picture(), place.picture(), m_painter.hatch(), wholeOf(m_painter.hatch()),
-                   0, 0, whiteColour);
+        m_painter.layHatch(place.picture(), {0, 0});
 }
 
 QString PokerTable::nameOf(const CardOnTable& card)

@@ -170,10 +170,16 @@ void TablePainter::layHatches()
 {
     Surface& table = m_canvas.keptForDrawing();
     for (const PictureBox* box : m_cards)
-        MaskedBlit(table, table, m_hatch, wholeOf(m_hatch), box->place().x(), box->place().y(),
-                   whiteColour);
+        layHatch(table, box->place().topLeft());
     for (OffScreenBox* back : {&picDealBack, &picRejectBack})
-        MaskedBlit(back->picture, back->picture, m_hatch, wholeOf(m_hatch), 0, 0, whiteColour);
+        layHatch(back->picture, {0, 0});
+}
+
+void TablePainter::layHatch(Surface& picture, QPointF at) const
+{
+    const QSize card = m_library.cardSize();
+    MaskedBlit(picture, picture, m_hatch, {0, 0, card.width(), card.height()}, at.x(), at.y(),
+               whiteColour);
 }
 
 void TablePainter::copyTableBehind(OffScreenBox& box, const QRectF& place)

@@ -36,8 +36,8 @@ public:
     // Before each game: everything but the cards.
     void repaint(const TableMeasures& table, std::int32_t backNumber);
 
-    // The crosshatch on white, the colour that an overlay lets through.
-    [[nodiscard]] const Surface& hatch() const { return m_hatch; }
+    // Lays the crosshatch over a card's place in the picture.
+    void layHatch(Surface& picture, QPointF at) const;
 
 private:
     void placeCards(const TableMeasures& table);
@@ -57,7 +57,7 @@ private:
     CardLibrary& m_library;
     std::future<std::array<QImage, 4>> m_decodedPieces; // until they are first needed
     std::array<QImage, 4> m_framePieces;                // by FramePiece
-    Surface m_hatch;
+    Surface m_hatch; // on white, the colour that an overlay lets through
     OffScreenBox picReject;
     OffScreenBox picRejectBack;
     OffScreenBox picDealBack; // the table behind the deck
