@@ -181,11 +181,8 @@ void frmMain::picStatusBar_Click()
 
 void frmMain::mnuPref_Click()
 {
-    frmPreferences dialog({*this, m_table.library(), m_surroundings.errorBox,
-                           QSize(cWidth, cHeight), m_surroundings.metrics.twipsPerPixelX,
-                           [this] { m_table.DrawDealDeck(); },
-                           [this] { m_table.canvas().update(); }},
-                          this);
+    frmPreferences dialog(*this, m_table, m_surroundings.errorBox,
+                          m_surroundings.metrics.twipsPerPixelX, this);
     dialog.exec();
 }
 

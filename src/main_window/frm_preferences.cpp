@@ -6,6 +6,8 @@
 #include "main_window/designed_look.h"
 #include "platform/desktop_colours.h"
 #include "table/animation_speed.h"
+#include "table/poker_table.h"
+#include "table/table_canvas.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -25,6 +27,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillet
 {
@@ -79,8 +82,10 @@ void fitTo(QComboBox& list, int width)
 
 } // namespace
 
-frmPreferences::frmPreferences(PreferencesHost host, QWidget* parent)
-    : QDialog(parent), m_host(std::move(host))
+frmPreferences::frmPreferences(Preferences& preferences, PokerTable& table, ErrorBox errorBox,
+                               double twipsPerPixel, QWidget* parent)
+    : QDialog(parent), m_preferences(preferences), m_table(table), m_errorBox(std::move(errorBox)),
+      m_twipsPerPixel(twipsPerPixel)
 {
     setObjectName("frmPreferences");
     setWindowTitle("Preferences");
@@ -197,40 +202,39 @@ bool frmPreferences::event(QEvent* event)
 
 void frmPreferences::Form_Activate()
 {
-    guarded(m_host.errorBox, "Form_Activate", [this] {
-        const Preferences& now = m_host.preferences;
-        const int margin = static_cast<int>(30 / m_host.twipsPerPixel);
-        picBacks->setFixedSize(m_host.cardSize + QSize(margin, margin));
+    guarded(m_errorBox, "Form_Activate", [this] {
+        const int margin = static_cast<int>(30 / m_twipsPerPixel);
+        picBacks->setFixedSize(m_table.library().cardSize() + QSize(margin, margin));
         fitTo(*Combo1, picBacks->width());
         Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));
         {
             // Showing the stored position changes no delay.
             const QSignalBlocker quiet(HScroll1);
-            HScroll1->setValue(now.prfScrollVal);
+            HScroll1->setValue(m_preferences.prfScrollVal);
         }
-        Label4->setText(QString::number(now.prfAnimationDelay));
-        ckprfAutoDeal->setChecked(now.prfPokerAutoDeal);
+        Label4->setText(QString::number(m_preferences.prfAnimationDelay));
+        ckprfAutoDeal->setChecked(m_preferences.prfPokerAutoDeal);
         showOutlineColour();
-        QRadioButton& chosen = *(now.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
+        QRadioButton& chosen = *(m_preferences.prfShowPokerPlay ? opAlwaysShow : opShowOnError);
         chosen.setChecked(true);
         // Tab must reach the chosen button; Qt ensures this only after the first focus.
         for (QRadioButton* option : {opAlwaysShow, opShowOnError})
             option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
-        ckAnimation->setChecked(now.prfAnimation);
-        ckSounds->setChecked(now.prfSound);
-        if (!isBack(now.prfPKBackFace))
+        ckAnimation->setChecked(m_preferences.prfAnimation);
+        ckSounds->setChecked(m_preferences.prfSound);
+        if (!isBack(m_preferences.prfPKBackFace))
             throw RunTimeError("Invalid property value");
-        Combo1->setCurrentIndex(now.prfPKBackFace - firstBack);
+        Combo1->setCurrentIndex(m_preferences.prfPKBackFace - firstBack);
     });
 }
 
 void frmPreferences::Combo1_Click()
 {
-    guarded(m_host.errorBox, "Combo1_Click", [this] {
+    guarded(m_errorBox, "Combo1_Click", [this] {
         if (Combo1->currentIndex() < 0)
             return;
-        m_host.library.cdtDraw(picBacks->freshPicture(m_host.cardSize), 0, 0,
-                               firstBack + Combo1->currentIndex(), drawBack, whiteColour);
+        m_table.library().cdtDraw(picBacks->freshPicture(m_table.library().cardSize()), 0, 0,
+                                  firstBack + Combo1->currentIndex(), drawBack, whiteColour);
         picBacks->setAccessibleName(QString("Card back %1").arg(Combo1->currentText()));
         picBacks->update();
     });
@@ -238,46 +242,43 @@ void frmPreferences::Combo1_Click()
 
 void frmPreferences::cmdChangeColor_Click()
 {
-    QColorDialog chooser(
-        colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor)), this);
+    QColorDialog chooser(colourOf(static_cast<std::uint32_t>(m_preferences.prfCardOutlineColor)),
+                         this);
     chooser.setObjectName("CommonDialog1");
     chooser.setWindowTitle("Colour of the hold outline");
     if (chooser.exec() != QDialog::Accepted)
         return;
-    m_host.preferences.prfCardOutlineColor =
-        static_cast<std::int32_t>(bgrOf(chooser.selectedColor()));
+    m_preferences.prfCardOutlineColor = static_cast<std::int32_t>(bgrOf(chooser.selectedColor()));
     showOutlineColour();
-    m_host.outlineColourChanged();
+    m_table.canvas().update();
 }
 
 void frmPreferences::showOutlineColour()
 {
-    const QColor colour =
-        colourOf(static_cast<std::uint32_t>(m_host.preferences.prfCardOutlineColor));
+    const QColor colour = colourOf(static_cast<std::uint32_t>(m_preferences.prfCardOutlineColor));
     setColour(*lblColor, QPalette::Window, colour);
     lblColor->setAccessibleName(QString("Hold outline colour %1").arg(colour.name()));
 }
 
 void frmPreferences::HScroll1_Change()
 {
-    m_host.preferences.prfAnimationDelay = animationDelayFor(HScroll1->value());
-    Label4->setText(QString::number(m_host.preferences.prfAnimationDelay));
+    m_preferences.prfAnimationDelay = animationDelayFor(HScroll1->value());
+    Label4->setText(QString::number(m_preferences.prfAnimationDelay));
 }
 
 void frmPreferences::cmdSave_Click()
 {
-    guarded(m_host.errorBox, "cmdSave_Click", [this] {
-        Preferences& fields = m_host.preferences;
-        fields.prfPokerAutoDeal = ckprfAutoDeal->isChecked();
-        fields.prfShowPokerPlay = opAlwaysShow->isChecked();
-        fields.prfAnimation = ckAnimation->isChecked();
-        fields.prfSound = ckSounds->isChecked();
+    guarded(m_errorBox, "cmdSave_Click", [this] {
+        m_preferences.prfPokerAutoDeal = ckprfAutoDeal->isChecked();
+        m_preferences.prfShowPokerPlay = opAlwaysShow->isChecked();
+        m_preferences.prfAnimation = ckAnimation->isChecked();
+        m_preferences.prfSound = ckSounds->isChecked();
         const std::int32_t chosen = firstBack + Combo1->currentIndex();
-        if (isBack(chosen) && chosen != fields.prfPKBackFace) {
-            fields.prfPKBackFace = chosen;
-            m_host.DrawDealDeck();
+        if (isBack(chosen) && chosen != m_preferences.prfPKBackFace) {
+            m_preferences.prfPKBackFace = chosen;
+            m_table.DrawDealDeck();
         }
-        fields.prfScrollVal = static_cast<std::int16_t>(HScroll1->value());
+        m_preferences.prfScrollVal = static_cast<std::int16_t>(HScroll1->value());
         accept();
     });
 }

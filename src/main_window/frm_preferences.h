@@ -3,12 +3,8 @@
 #include "faults/guarded.h"
 #include "main_window/indicator_style.h"
 #include "settings/preferences.h"
-#include "table/card_library.h"
-#include "table/surface.h"
 
 #include <QDialog>
-
-#include <functional>
 
 class QCheckBox;
 class QComboBox;
@@ -24,17 +20,7 @@ namespace quillet
 {
 
 class BackPreview;
-
-// What the dialog changes on the main window.
-struct PreferencesHost {
-    Preferences& preferences;
-    CardLibrary& library;
-    ErrorBox errorBox;
-    QSize cardSize; // cWidth, cHeight
-    double twipsPerPixel;
-    std::function<void()> DrawDealDeck;
-    std::function<void()> outlineColourChanged;
-};
+class PokerTable;
 
 // The modal dialog for the preference fields. The outline colour and the animation delay take
 // effect at once, the rest at "Save". It does not write the settings file.
@@ -43,7 +29,8 @@ class frmPreferences : public QDialog
     Q_OBJECT
 
 public:
-    frmPreferences(PreferencesHost host, QWidget* parent);
+    frmPreferences(Preferences& preferences, PokerTable& table, ErrorBox errorBox,
+                   double twipsPerPixel, QWidget* parent);
 
     void cmdSave_Click();
     void cmdCancel_Click();
@@ -62,7 +49,10 @@ private:
     void makeButtons(QVBoxLayout& layout);
     void showOutlineColour();
 
-    PreferencesHost m_host;
+    Preferences& m_preferences;
+    PokerTable& m_table;
+    ErrorBox m_errorBox;
+    double m_twipsPerPixel;
     bool m_activated = false;
     IndicatorStyle m_indicatorStyle;
 

@@ -30,8 +30,6 @@ public:
 
     // Paints the pile with this back.
     void DrawDealDeck(std::int32_t backNumber);
-    // Makes the pile ready for a game. The name is fixed; each deal shuffles its own deck.
-    void shuffleCards(std::int32_t backNumber) { DrawDealDeck(backNumber); }
 
 private:
     std::array<PictureBox*, 4> picDeal{};

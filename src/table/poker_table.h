@@ -57,7 +57,8 @@ public:
     void resetGraphics();
     // Paints the pile in the chosen back.
     void DrawDealDeck() { m_pile.DrawDealDeck(m_preferences.prfPKBackFace); }
-    void shuffleCards() { m_pile.shuffleCards(m_preferences.prfPKBackFace); }
+    // Makes the pile ready for a game. The name is fixed; each deal shuffles its own deck.
+    void shuffleCards() { DrawDealDeck(); }
 
     // Measures the speed of flights and of a banner; see InitAnimDelay.
     void measureDelays(Preferences& preferences, const Clock& clock,
