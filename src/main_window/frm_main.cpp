@@ -194,7 +194,7 @@ void frmMain::mnuSites_Click(int)
 void frmMain::mnuContents_Click()
 {
     HelpViewer::present(this, m_surroundings.openPage,
-                        QString::fromStdString(m_surroundings.helpFile));
+                        QString::fromStdString(m_surroundings.programFolder + "/quillet.hlp"));
 }
 
 void frmMain::mnuAbout_Click()

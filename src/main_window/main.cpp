@@ -35,7 +35,6 @@ int Main()
                               .clock = clock,
                               .nextDeck = [&random] { return shuffledDeck(random); },
                               .programFolder = folder,
-                              .helpFile = folder + "/quillet.hlp",
                               .shortDelay = shortDelay,
                               // Nested event loops may be waiting, so nothing is unwound.
                               .endProcess =

@@ -24,7 +24,6 @@ struct Surroundings {
     std::function<PokerDeck()> nextDeck;
     ScreenMetrics metrics = {};
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
-    std::string helpFile = {};
     // Waits this many milliseconds while events run, or until the predicate is true.
     std::function<void(std::int32_t, const std::function<bool()>&)> shortDelay;
     std::function<void(int code)> endProcess; // ends at once; returns in tests only
