@@ -66,7 +66,7 @@ frmMain::frmMain(Surroundings& surroundings)
                    {m_table, *this, m_coach, m_cues, surroundings.nextDeck, surroundings.errorBox}),
       picPokerLabels(new ChartPanel(m_chart, &m_table.canvas())),
       picStatusBar(new StatusBar(&m_table.canvas())),
-      m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox, surroundings.metrics)
+      m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox)
 {
     // Most players have the default. It is decoded while Qt looks up the fonts.
     m_table.expectBackground(backgroundPath(m_surroundings, defaultBackground));
@@ -181,8 +181,7 @@ void frmMain::picStatusBar_Click()
 
 void frmMain::mnuPref_Click()
 {
-    frmPreferences dialog(*this, m_table, m_surroundings.errorBox,
-                          m_surroundings.metrics.twipsPerPixelX, this);
+    frmPreferences dialog(*this, m_table, m_surroundings.errorBox, this);
     dialog.exec();
 }
 

@@ -4,6 +4,7 @@
 #include "faults/run_time_error.h"
 #include "main_window/back_preview.h"
 #include "main_window/designed_look.h"
+#include "main_window/window_layout.h"
 #include "platform/desktop_colours.h"
 #include "table/animation_speed.h"
 #include "table/poker_table.h"
@@ -83,9 +84,8 @@ void fitTo(QComboBox& list, int width)
 } // namespace
 
 frmPreferences::frmPreferences(Preferences& preferences, PokerTable& table, ErrorBox errorBox,
-                               double twipsPerPixel, QWidget* parent)
-    : QDialog(parent), m_preferences(preferences), m_table(table), m_errorBox(std::move(errorBox)),
-      m_twipsPerPixel(twipsPerPixel)
+                               QWidget* parent)
+    : QDialog(parent), m_preferences(preferences), m_table(table), m_errorBox(std::move(errorBox))
 {
     setObjectName("frmPreferences");
     setWindowTitle("Preferences");
@@ -203,7 +203,7 @@ bool frmPreferences::event(QEvent* event)
 void frmPreferences::Form_Activate()
 {
     guarded(m_errorBox, "Form_Activate", [this] {
-        const int margin = static_cast<int>(30 / m_twipsPerPixel);
+        constexpr int margin = static_cast<int>(30 / designTwips);
         picBacks->setFixedSize(m_table.library().cardSize() + QSize(margin, margin));
         fitTo(*Combo1, picBacks->width());
         Combo1->view()->setMinimumWidth(Combo1->view()->sizeHintForColumn(0));

@@ -29,8 +29,7 @@ class frmPreferences : public QDialog
     Q_OBJECT
 
 public:
-    frmPreferences(Preferences& preferences, PokerTable& table, ErrorBox errorBox,
-                   double twipsPerPixel, QWidget* parent);
+    frmPreferences(Preferences& preferences, PokerTable& table, ErrorBox errorBox, QWidget* parent);
 
     void cmdSave_Click();
     void cmdCancel_Click();
@@ -52,7 +51,6 @@ private:
     Preferences& m_preferences;
     PokerTable& m_table;
     ErrorBox m_errorBox;
-    double m_twipsPerPixel;
     bool m_activated = false;
     IndicatorStyle m_indicatorStyle;
 

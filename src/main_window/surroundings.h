@@ -4,7 +4,6 @@
 #include "faults/guarded.h"
 #include "platform/browser_opener.h"
 #include "platform/clock.h"
-#include "platform/screen_metrics.h"
 #include "settings/settings_store.h"
 #include "sound/sound_output.h"
 
@@ -22,7 +21,6 @@ struct Surroundings {
     ErrorBox errorBox;
     const Clock& clock;
     std::function<PokerDeck()> nextDeck;
-    ScreenMetrics metrics = {};
     std::string programFolder; // pics/, wavs/ and quillet.hlp lie in it
     // Waits this many milliseconds while events run, or until the predicate is true.
     std::function<void(std::int32_t, const std::function<bool()>&)> shortDelay;

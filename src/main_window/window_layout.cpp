@@ -19,9 +19,10 @@ constexpr double largeFontWidening = 1.055;
 
 QSizeF WindowLayout::frameAllowance() const
 {
-    return toTwips({4 * m_metrics.borderWidth,
-                    4 * m_metrics.borderHeight + m_metrics.captionHeight + m_metrics.menuHeight}) +
-           QSizeF(frameSlack, frameSlack);
+    const QSizeF pixels(4 * m_metrics.borderWidth, 4 * m_metrics.borderHeight +
+                                                       m_metrics.captionHeight +
+                                                       m_metrics.menuHeight);
+    return pixels * m_metrics.twipsPerPixel + QSizeF(frameSlack, frameSlack);
 }
 
 double WindowLayout::statusBarHeight() const
@@ -31,7 +32,7 @@ double WindowLayout::statusBarHeight() const
 
 int WindowLayout::statusBarPixels() const
 {
-    return static_cast<int>(statusBarHeight() / m_metrics.twipsPerPixelY);
+    return static_cast<int>(statusBarHeight() / m_metrics.twipsPerPixel);
 }
 
 QSizeF WindowLayout::sizeForPicture(QSizeF picture) const
@@ -40,20 +41,19 @@ QSizeF WindowLayout::sizeForPicture(QSizeF picture) const
     if (m_metrics.largeFonts())
         size.rwidth() *= largeFontWidening;
     else
-        size.rheight() += frameEdgeHeight * m_metrics.twipsPerPixelY;
+        size.rheight() += frameEdgeHeight * m_metrics.twipsPerPixel;
     return size;
 }
 
 QSizeF WindowLayout::innerPixels(QSizeF outer) const
 {
-    const QSizeF inner = outer - frameAllowance();
-    return {std::floor(inner.width() / m_metrics.twipsPerPixelX),
-            std::floor(inner.height() / m_metrics.twipsPerPixelY)};
+    const QSizeF inner = (outer - frameAllowance()) / m_metrics.twipsPerPixel;
+    return {std::floor(inner.width()), std::floor(inner.height())};
 }
 
 QSizeF WindowLayout::outerTwips(QSizeF innerPixels) const
 {
-    return toTwips(innerPixels) + frameAllowance();
+    return innerPixels * m_metrics.twipsPerPixel + frameAllowance();
 }
 
 bool WindowLayout::isTooNarrow(QSizeF outer) const
@@ -63,12 +63,7 @@ bool WindowLayout::isTooNarrow(QSizeF outer) const
 
 QSizeF WindowLayout::widened(QSizeF outer) const
 {
-    return {windowMinimumWidth * m_metrics.twipsPerPixelX, outer.height()};
-}
-
-QSizeF WindowLayout::toTwips(QSizeF pixels) const
-{
-    return {pixels.width() * m_metrics.twipsPerPixelX, pixels.height() * m_metrics.twipsPerPixelY};
+    return {windowMinimumWidth * m_metrics.twipsPerPixel, outer.height()};
 }
 
 } // namespace quillet

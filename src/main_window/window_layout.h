@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/screen_metrics.h"
-
 #include <QSizeF>
 
 namespace quillet
@@ -10,12 +8,25 @@ namespace quillet
 inline constexpr double designTwips = 15; // per pixel, in which the controls were designed
 inline constexpr double statusBarDesignedHeight = 720; // twips
 
+// The metrics for computing the size of the window. Sizes are in pixels. A pixel has 15 twips on a
+// normal screen and 12 on a large-font screen. Qt scales by itself, so a real screen always counts
+// as a normal one.
+struct ScreenMetrics {
+    double twipsPerPixel = designTwips;
+    double borderWidth = 1;
+    double borderHeight = 1;
+    double captionHeight = 19;
+    double menuHeight = 19;
+
+    [[nodiscard]] bool largeFonts() const { return twipsPerPixel == 12; }
+};
+
 // Computes the main window's size from its picture. Sizes are in twips and include the frame and
 // the menu bar, unless stated otherwise.
 class WindowLayout
 {
 public:
-    explicit WindowLayout(const ScreenMetrics& metrics) : m_metrics(metrics) {}
+    explicit WindowLayout(const ScreenMetrics& metrics = {}) : m_metrics(metrics) {}
 
     [[nodiscard]] const ScreenMetrics& metrics() const { return m_metrics; }
     [[nodiscard]] int statusBarPixels() const;
@@ -34,7 +45,6 @@ private:
     // The frame, the caption and the menu bar.
     [[nodiscard]] QSizeF frameAllowance() const;
     [[nodiscard]] double statusBarHeight() const;
-    [[nodiscard]] QSizeF toTwips(QSizeF pixels) const;
 
     ScreenMetrics m_metrics;
 };

@@ -11,9 +11,8 @@ namespace quillet
 {
 
 WindowSizer::WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar,
-                         ErrorBox errorBox, const ScreenMetrics& metrics)
-    : m_window(window), m_table(table), m_statusBar(statusBar), m_errorBox(std::move(errorBox)),
-      m_layout(metrics)
+                         ErrorBox errorBox)
+    : m_window(window), m_table(table), m_statusBar(statusBar), m_errorBox(std::move(errorBox))
 {
 }
 

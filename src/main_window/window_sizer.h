@@ -17,8 +17,7 @@ class StatusBar;
 class WindowSizer
 {
 public:
-    WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar, ErrorBox errorBox,
-                const ScreenMetrics& metrics);
+    WindowSizer(QMainWindow& window, PokerTable& table, StatusBar& statusBar, ErrorBox errorBox);
 
     void AutoSizeToPicture(const LoadedPicture& picture);
     void sizeWithoutPicture();

@@ -8,7 +8,7 @@ namespace quillet::test
 TEST(WindowLayout, aLargeFontWindowIsWiderAndHasTheLowBar)
 {
     ScreenMetrics large;
-    large.twipsPerPixelX = large.twipsPerPixelY = 12;
+    large.twipsPerPixel = 12;
     const WindowLayout layout(large);
     EXPECT_EQ(layout.statusBarPixels(), 60);
     const QSizeF outer = layout.sizeForPicture({800, 440});
