@@ -1,6 +1,5 @@
 #include "table/card_library.h"
 
-#include "cards/card_art.h"
 #include "cards/card_numbers.h"
 #include "faults/run_time_error.h"
 #include "settings/preferences.h"
@@ -19,14 +18,10 @@ std::int32_t existingBack(std::int32_t cardNumber)
 
 } // namespace
 
-CardLibrary::CardLibrary() : CardLibrary(QSize(cardArtWidth, cardArtHeight)) {}
-
-CardLibrary::CardLibrary(QSize cardSize) : m_cardSize(cardSize) {}
-
 void CardLibrary::cdtInit(std::int32_t& width, std::int32_t& height)
 {
-    width = m_cardSize.width();
-    height = m_cardSize.height();
+    width = cardArtWidth;
+    height = cardArtHeight;
     m_ready = true;
 }
 
@@ -60,8 +55,7 @@ const CardLibrary::Picture& CardLibrary::prepare(std::int32_t cardNumber, double
     m_cachedScale = scale;
     Picture& picture = m_cards[cardNumber];
     if (!picture.valid()) {
-        const QSize size(deviceSize(m_cardSize.width(), scale),
-                         deviceSize(m_cardSize.height(), scale));
+        const QSize size(deviceSize(cardArtWidth, scale), deviceSize(cardArtHeight, scale));
         picture = std::async(when, renderCard, cardNumber, size);
     }
     return picture;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cards/card_art.h"
 #include "table/surface.h"
 
 #include <QImage>
@@ -22,10 +23,6 @@ inline constexpr std::uint32_t whiteColour = 0xFFFFFF;
 class CardLibrary
 {
 public:
-    CardLibrary();
-    // With cards of another size, in logical pixels.
-    explicit CardLibrary(QSize cardSize);
-
     // Makes the library ready and returns the card size in logical pixels.
     void cdtInit(std::int32_t& width, std::int32_t& height);
 
@@ -41,7 +38,7 @@ public:
     void cdtTerm();
 
     // In logical pixels.
-    [[nodiscard]] QSize cardSize() const { return m_cardSize; }
+    [[nodiscard]] QSize cardSize() const { return {cardArtWidth, cardArtHeight}; }
 
 private:
     using Picture = std::shared_future<QImage>;
@@ -49,7 +46,6 @@ private:
     // The card's picture at this scale; draws it, now on a thread or when it is needed.
     const Picture& prepare(std::int32_t cardNumber, double scale, std::launch when);
 
-    QSize m_cardSize;
     bool m_ready = false;
     double m_cachedScale = 0.0;
     std::map<std::int32_t, Picture> m_cards; // by card number, for the cached scale
