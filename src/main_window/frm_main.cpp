@@ -14,6 +14,7 @@
 #include "screens/run_shell_execute.h"
 #include "screens/web_pages.h"
 #include "settings/preferences_store.h"
+#include "table/init_anim_delay.h"
 #include "table/table_canvas.h"
 
 #include <QCloseEvent>
@@ -120,7 +121,9 @@ bool frmMain::Form_Load()
             CalibrationSplash splash;
             splash.show();
             splash.advance();
-            m_table.measureDelays(*this, m_surroundings.clock, [&splash] { splash.advance(); });
+            InitAnimDelay(m_table.canvas(), m_table.library(), m_table.measures(), *this,
+                          m_surroundings.clock, m_surroundings.errorBox,
+                          [&splash] { splash.advance(); });
         }
         FirstInit();
     });

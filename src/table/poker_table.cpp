@@ -5,7 +5,6 @@
 #include "cards/card_numbers.h"
 #include "platform/accessible_widgets.h"
 #include "platform/desktop_colours.h"
-#include "table/init_anim_delay.h"
 #include "table/picture_box.h"
 #include "table/table_canvas.h"
 
@@ -116,12 +115,6 @@ void PokerTable::resetGraphics()
         }
         m_painter.repaint(m_measures, m_preferences.prfPKBackFace);
     });
-}
-
-void PokerTable::measureDelays(Preferences& preferences, const Clock& clock,
-                               const std::function<void()>& afterRound)
-{
-    InitAnimDelay(m_canvas, m_library, m_measures, preferences, clock, m_errorBox, afterRound);
 }
 
 void PokerTable::close()

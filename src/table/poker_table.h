@@ -2,7 +2,6 @@
 
 #include "engine/card_table.h"
 #include "faults/guarded.h"
-#include "platform/clock.h"
 #include "settings/preferences.h"
 #include "table/card_flight.h"
 #include "table/card_library.h"
@@ -14,7 +13,6 @@
 #include <QString>
 
 #include <array>
-#include <functional>
 #include <optional>
 
 class QPainter;
@@ -59,10 +57,6 @@ public:
     void DrawDealDeck() { m_pile.DrawDealDeck(m_preferences.prfPKBackFace); }
     // Makes the pile ready for a game. The name is fixed; each deal shuffles its own deck.
     void shuffleCards() { DrawDealDeck(); }
-
-    // Measures the speed of flights and of a banner; see InitAnimDelay.
-    void measureDelays(Preferences& preferences, const Clock& clock,
-                       const std::function<void()>& afterRound);
 
     // The program is about to end; nothing is painted from now on.
     void close();
