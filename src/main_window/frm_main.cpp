@@ -70,7 +70,7 @@ frmMain::frmMain(Surroundings& surroundings)
       m_sizer(*this, m_table, *picStatusBar, surroundings.errorBox)
 {
     // Most players have the default. It is decoded while Qt looks up the fonts.
-    m_table.expectBackground(backgroundPath(m_surroundings, defaultBackground));
+    m_table.background().expect(backgroundPath(m_surroundings, defaultBackground));
     setObjectName("frmMain");
     setWindowTitle("Jacks or Better Quillet");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -249,9 +249,10 @@ void frmMain::Form_Resize()
 
 bool frmMain::loadBackground()
 {
-    const bool found = m_table.loadBackground(backgroundPath(m_surroundings, prfPKBackground));
+    TableBackground& background = m_table.background();
+    const bool found = background.load(backgroundPath(m_surroundings, prfPKBackground));
     if (found)
-        m_sizer.AutoSizeToPicture(m_table.background());
+        m_sizer.AutoSizeToPicture(background.picture());
     return found;
 }
 

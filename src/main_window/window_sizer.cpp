@@ -45,8 +45,8 @@ void WindowSizer::windowResized(bool isPoker)
     if (size == m_window.sizeHint() || size == m_forcedSize)
         return;
     m_forcedSize = size;
-    if (!inLayout && !m_table.background().isNull())
-        AutoSizeToPicture(m_table.background());
+    if (!inLayout && !m_table.background().picture().isNull())
+        AutoSizeToPicture(m_table.background().picture());
     if (isPoker && isTooNarrow()) {
         // Stays set until the next AutoSizeToPicture. Otherwise the resize events that follow
         // would bring back the width of the picture.

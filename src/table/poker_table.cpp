@@ -18,7 +18,7 @@ namespace quillet
 
 PokerTable::PokerTable(const Preferences& preferences, ErrorBox errorBox, QWidget* parent)
     : QObject(parent), m_preferences(preferences), m_errorBox(std::move(errorBox)),
-      m_canvas(*new TableCanvas(parent)), m_pile(m_canvas, m_library),
+      m_canvas(*new TableCanvas(parent)), m_background(m_canvas), m_pile(m_canvas, m_library),
       m_painter(m_canvas, m_background.picture(), picPoker, m_pile, m_library),
       m_flight(m_canvas, m_pile, m_library, preferences, m_errorBox)
 {
@@ -69,20 +69,10 @@ std::optional<Slot> PokerTable::focusedSlot() const
     return static_cast<Slot>(focused - picPoker.begin());
 }
 
-void PokerTable::expectBackground(const QString& path)
-{
-    m_background.expect(path, m_canvas.devicePixelRatioF());
-}
-
 void PokerTable::expectBacks()
 {
     for (const std::int32_t back : {m_preferences.prfPKBackFace, std::int32_t{hatchBack}})
         m_library.expectBack(back, canvas().devicePixelRatioF());
-}
-
-bool PokerTable::loadBackground(const QString& path)
-{
-    return m_background.load(path, m_canvas.devicePixelRatioF());
 }
 
 void PokerTable::setMeasures(const TableMeasures& measures)
@@ -245,8 +235,7 @@ void PokerTable::followScale()
     if (m_canvas.scale() == m_canvas.devicePixelRatioF())
         return;
     // If the file has become unreadable, the loaded picture stays.
-    guarded(m_errorBox, "followScale",
-            [this] { m_background.reload(m_canvas.devicePixelRatioF()); });
+    guarded(m_errorBox, "followScale", [this] { m_background.reload(); });
     makePictures();
     std::array<bool, 5> showing{};
     for (const Slot slot : allSlots)

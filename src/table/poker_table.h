@@ -37,13 +37,9 @@ public:
     // The slot of the card that has the keyboard focus.
     [[nodiscard]] std::optional<Slot> focusedSlot() const;
 
-    [[nodiscard]] const LoadedPicture& background() const { return m_background.picture(); }
-    // Begins to decode the picture that will likely be the background, on a thread.
-    void expectBackground(const QString& path);
+    [[nodiscard]] TableBackground& background() { return m_background; }
     // Begins to draw the backs that the first frame shows, on threads.
     void expectBacks();
-    // See TableBackground.
-    [[nodiscard]] bool loadBackground(const QString& path);
 
     // Sizes the canvas. The places are computed from the measures at the next painting.
     void setMeasures(const TableMeasures& measures);

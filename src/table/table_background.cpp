@@ -8,39 +8,34 @@
 namespace quillet
 {
 
-namespace
-{
-
-QString versionOf(const QString& path, double scale)
+QString TableBackground::versionOf(const QString& path) const
 {
     const QFileInfo file(path);
     return QString("%1 %2 %3 %4")
         .arg(path)
         .arg(file.size())
         .arg(file.lastModified().toMSecsSinceEpoch())
-        .arg(scale);
+        .arg(m_table.devicePixelRatioF());
 }
 
-} // namespace
-
-void TableBackground::expect(const QString& path, double scale)
+void TableBackground::expect(const QString& path)
 {
     if (!FileExists(path.toStdString()))
         return;
-    m_expectedVersion = versionOf(path, scale);
-    m_expected = std::async(std::launch::async, loadPictureFile, path, scale);
+    m_expectedVersion = versionOf(path);
+    m_expected = std::async(std::launch::async, loadPictureFile, path, m_table.devicePixelRatioF());
 }
 
-bool TableBackground::load(const QString& path, double scale)
+bool TableBackground::load(const QString& path)
 {
     m_path = path;
     if (!FileExists(path.toStdString()))
         return false;
-    const QString version = versionOf(path, scale);
+    const QString version = versionOf(path);
     if (version == m_version)
         return true;
     const bool expected = m_expected.valid() && version == m_expectedVersion;
-    thePic = expected ? m_expected.get() : loadPictureFile(path, scale);
+    thePic = expected ? m_expected.get() : loadPictureFile(path, m_table.devicePixelRatioF());
     m_version = version;
     return true;
 }

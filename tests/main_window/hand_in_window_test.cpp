@@ -128,7 +128,7 @@ TEST(HandInWindow, lastsOnDisplaysOfOtherScales)
     ASSERT_TRUE(moveToScale(*game.window, 1.25));
     EXPECT_NE(game.picture().size(), before.size());
     auto& table = control<PokerTable>(*game.window, "pokerTable");
-    EXPECT_EQ(table.background().image.width(), 1000) << "as sharp as the display";
+    EXPECT_EQ(table.background().picture().image.width(), 1000) << "as sharp as the display";
     const QImage held = game.picture();
     game.clickCard(1);
     const QImage free = game.picture();

@@ -85,9 +85,9 @@ TEST(PresentedTable, aHandOnFourDisplaysLooksAsItShould)
         game.draw("2");
         const QImage shown = game.picture();
         // A table that was first painted on this display looks the same.
-        const auto& window = control<PokerTable>(*game.window, "pokerTable");
+        auto& window = control<PokerTable>(*game.window, "pokerTable");
         PaintedTable fresh;
-        fresh.paint(window.background(), scale);
+        fresh.paint(window.background().picture(), scale);
         QImage now = shown.copy(deviceRect(game.placeOf("table"), scale));
         QImage still = fresh.canvas.kept().image();
         std::vector<std::string> covered{"picPokerLabels", "lblstatus", "picDeal0"};
