@@ -2,7 +2,6 @@
 
 #include "sound/cue_player.h"
 #include "sound/sdl.h"
-#include "sound/sdl_audio_device.h"
 
 #include <chrono>
 #include <condition_variable>

@@ -1,4 +1,4 @@
-#include "sound/sdl_audio_device.h"
+#include "sound/audio_device.h"
 #include "sound/sdl_sound_output.h"
 #include "tests/kit/file_text.h"
 #include "tests/sound/sound_files.h"

@@ -1,4 +1,4 @@
-#include "sound/sdl_audio_device.h"
+#include "sound/audio_device.h"
 
 #include "sound/sdl.h"
 
