@@ -1,4 +1,4 @@
-#include "main_window/chart_row.h"
+#include "main_window/chart_panel.h"
 #include "main_window/frm_preferences.h"
 #include "platform/colour_contrast.h"
 #include "screens/frm_about.h"
