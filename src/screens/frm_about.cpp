@@ -49,7 +49,7 @@ frmAbout::frmAbout(PageOpener openPage, QWidget* parent)
     auto* cmdOK = new QPushButton("OK");
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
+    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 16);
@@ -110,11 +110,6 @@ QLayout* frmAbout::layOutAuthors()
 void frmAbout::lblLink_Click()
 {
     openWebPage(m_openPage, m_lblLink->text().toStdString());
-}
-
-void frmAbout::cmdOK_Click()
-{
-    close();
 }
 
 } // namespace quillet

@@ -22,7 +22,6 @@ public:
 
 private:
     void lblLink_Click();
-    void cmdOK_Click();
     QLayout* layOutHeading();
     QLayout* layOutAuthors();
 

@@ -96,7 +96,7 @@ void frmExitNoBanner::addButtons(QVBoxLayout& layout)
     auto* cmdOK = namedButton("cmdOK", "Go To Home Page");
     auto* command1 = namedButton("Command1", "Exit");
     connect(cmdOK, &QPushButton::clicked, this, &frmExitNoBanner::cmdOK_Click);
-    connect(command1, &QPushButton::clicked, this, &frmExitNoBanner::Command1_Click);
+    connect(command1, &QPushButton::clicked, this, &frmExitNoBanner::finish);
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
@@ -129,11 +129,6 @@ void frmExitNoBanner::openHomePage()
 void frmExitNoBanner::cmdOK_Click()
 {
     openHomePage();
-    finish();
-}
-
-void frmExitNoBanner::Command1_Click()
-{
     finish();
 }
 

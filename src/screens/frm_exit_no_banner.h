@@ -29,7 +29,6 @@ signals:
 
 private:
     void cmdOK_Click();
-    void Command1_Click();
     void openHomePage();
     void finish();
     void applyPalette();
