@@ -81,7 +81,9 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
     picReject.place = picRejectBack.place = rejectPlace(table);
     m_pile.place(deckPlace(table));
     copyTableBehind(picDealBack, deckPlace(table));
-    placeCards(table);
+    const auto places = cardPlaces(table);
+    for (std::size_t slot = 0; slot < places.size(); ++slot)
+        m_cards[slot]->place(places[slot], m_canvas.scale());
     paintAroundStatusBar(table);
     paintFrame(tableFrame(table));
     for (PictureBox* box : m_cards)
@@ -93,13 +95,6 @@ void TablePainter::repaint(const TableMeasures& table, std::int32_t backNumber)
     picReject.picture.copyFrom(picRejectBack.picture, {0, 0}, picReject.place.size(), {0, 0});
     m_pile.setShowing(true);
     m_canvas.refresh();
-}
-
-void TablePainter::placeCards(const TableMeasures& table)
-{
-    const auto places = cardPlaces(table);
-    for (std::size_t slot = 0; slot < places.size(); ++slot)
-        m_cards[slot]->place(places[slot], m_canvas.scale());
 }
 
 // The bar is black. From its end to the chart there is the wood of the lower right corner, which

@@ -40,7 +40,6 @@ public:
     void layHatch(Surface& picture, QPointF at) const;
 
 private:
-    void placeCards(const TableMeasures& table);
     void paintAroundStatusBar(const TableMeasures& table);
     void paintFrame(const std::vector<FramePlace>& frame);
     void paintPosts(const TableMeasures& table);
