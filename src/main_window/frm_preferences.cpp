@@ -50,21 +50,20 @@ protected:
     }
 };
 
-QFrame* makePage(const QString& name, QTabWidget& tabs, const QString& caption)
+QVBoxLayout& addPage(QTabWidget& tabs, const QString& name, const QString& caption)
 {
     auto* page = new QFrame(&tabs);
     page->setObjectName(name);
-    new QVBoxLayout(page);
     tabs.addTab(page, caption);
-    return page;
+    return *new QVBoxLayout(page);
 }
 
-template <typename Control>
-Control* add(QFrame& page, const QString& name, const QString& caption)
+template <typename Control, typename Content>
+Control* add(QBoxLayout& layout, const QString& name, const Content& content)
 {
-    auto* control = new Control(caption, &page);
+    auto* control = new Control(content);
     control->setObjectName(name);
-    page.layout()->addWidget(control);
+    layout.addWidget(control);
     return control;
 }
 
@@ -93,9 +92,9 @@ frmPreferences::frmPreferences(Preferences& preferences, PokerTable& table, Erro
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName("SSTab1");
     layout->addWidget(SSTab1);
-    makeGeneralPage(*makePage("frameGeneral", *SSTab1, "General"));
-    makeVideoPokerPage(*makePage("frameVideoPoker", *SSTab1, "Video Poker"));
-    makeCardBacksPage(*makePage("frameCardBacks", *SSTab1, "Card Backs"));
+    makeGeneralPage(addPage(*SSTab1, "frameGeneral", "General"));
+    makeVideoPokerPage(addPage(*SSTab1, "frameVideoPoker", "Video Poker"));
+    makeCardBacksPage(addPage(*SSTab1, "frameCardBacks", "Card Backs"));
     for (QAbstractButton* indicator : findChildren<QAbstractButton*>())
         indicator->setStyle(&m_indicatorStyle);
     HScroll1->setStyle(&m_indicatorStyle);
@@ -103,13 +102,12 @@ frmPreferences::frmPreferences(Preferences& preferences, PokerTable& table, Erro
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void frmPreferences::makeGeneralPage(QFrame& page)
+void frmPreferences::makeGeneralPage(QVBoxLayout& page)
 {
     ckSounds = add<QCheckBox>(page, "ckSounds", "Enable sounds");
     ckAnimation = add<QCheckBox>(page, "ckAnimation", "Enable animation");
     auto* caption = add<QLabel>(page, "Label1", "Animation Delay");
-    HScroll1 = new QScrollBar(Qt::Horizontal, &page);
-    HScroll1->setObjectName("HScroll1");
+    HScroll1 = add<QScrollBar>(page, "HScroll1", Qt::Horizontal);
     HScroll1->setRange(slowest, fastest);
     HScroll1->setSingleStep(1);
     HScroll1->setPageStep(50);
@@ -118,52 +116,44 @@ void frmPreferences::makeGeneralPage(QFrame& page)
     HScroll1->setInvertedControls(false);
     HScroll1->setAccessibleName("Animation Delay");
     caption->setBuddy(HScroll1);
-    page.layout()->addWidget(HScroll1);
     add<EndsLabel>(page, "Label7", "Slower                      Faster");
     Label4 = add<QLabel>(page, "Label4", "100");
     Label4->setAlignment(Qt::AlignHCenter);
-    static_cast<QVBoxLayout*>(page.layout())->addStretch();
+    page.addStretch();
     connect(HScroll1, &QScrollBar::valueChanged, this, &frmPreferences::HScroll1_Change);
 }
 
-void frmPreferences::makeVideoPokerPage(QFrame& page)
+void frmPreferences::makeVideoPokerPage(QVBoxLayout& page)
 {
     ckprfAutoDeal = add<QCheckBox>(page, "ckprfAutoDeal", "Auto Deal");
     opAlwaysShow = add<QRadioButton>(page, "opAlwaysShow", "Always Show Best Play ");
     opShowOnError = add<QRadioButton>(page, "opShowOnError", "Show Best Play after Error");
-    static_cast<QVBoxLayout*>(page.layout())->addStretch();
+    page.addStretch();
 }
 
-void frmPreferences::makeCardBacksPage(QFrame& page)
+void frmPreferences::makeCardBacksPage(QVBoxLayout& page)
 {
     auto* caption = add<QLabel>(page, "Label2", "Select Card Image");
-    Combo1 = new QComboBox(&page);
+    Combo1 = new QComboBox;
     Combo1->setObjectName("Combo1");
     for (const std::string_view name : backNames)
         Combo1->addItem(QString::fromLatin1(name.data(), qsizetype(name.size())));
     Combo1->setCurrentIndex(-1);
     caption->setBuddy(Combo1);
-    picBacks = new BackPreview(&page);
-    auto* column = static_cast<QVBoxLayout*>(page.layout());
-    column->addWidget(Combo1, 0, Qt::AlignLeft);
-    column->addWidget(picBacks, 0, Qt::AlignLeft);
+    page.addWidget(Combo1, 0, Qt::AlignLeft);
+    picBacks = new BackPreview(page.parentWidget());
+    page.addWidget(picBacks, 0, Qt::AlignLeft);
 
     auto* row = new QHBoxLayout;
-    auto* colourCaption = new QLabel("Hold  Card Outline color", &page);
-    colourCaption->setObjectName("Label5");
-    lblColor = new QLabel(&page);
-    lblColor->setObjectName("lblColor");
+    add<QLabel>(*row, "Label5", "Hold  Card Outline color");
+    lblColor = add<QLabel>(*row, "lblColor", "");
     lblColor->setFixedSize(40, 20);
     lblColor->setAutoFillBackground(true);
     lblColor->setFrameStyle(QFrame::Box | QFrame::Plain);
-    cmdChangeColor = new QPushButton("change", &page);
-    cmdChangeColor->setObjectName("cmdChangeColor");
+    cmdChangeColor = add<QPushButton>(*row, "cmdChangeColor", "change");
     cmdChangeColor->setAccessibleName("Change the colour of the hold outline");
-    row->addWidget(colourCaption);
-    row->addWidget(lblColor);
-    row->addWidget(cmdChangeColor);
     row->addStretch();
-    column->addLayout(row);
+    page.addLayout(row);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &frmPreferences::Combo1_Click);
     connect(picBacks, &BackPreview::scaleChanged, this, &frmPreferences::Combo1_Click);
     connect(cmdChangeColor, &QPushButton::clicked, this, &frmPreferences::cmdChangeColor_Click);
@@ -172,15 +162,11 @@ void frmPreferences::makeCardBacksPage(QFrame& page)
 void frmPreferences::makeButtons(QVBoxLayout& layout)
 {
     auto* row = new QHBoxLayout;
-    auto* cmdSave = new QPushButton("Save", this);
-    cmdSave->setObjectName("cmdSave");
-    cmdSave->setDefault(true);
-    auto* cmdCancel = new QPushButton("Cancel", this);
-    cmdCancel->setObjectName("cmdCancel");
     row->addStretch();
-    row->addWidget(cmdSave);
-    row->addWidget(cmdCancel);
+    auto* cmdSave = add<QPushButton>(*row, "cmdSave", "Save");
+    auto* cmdCancel = add<QPushButton>(*row, "cmdCancel", "Cancel");
     layout.addLayout(row);
+    cmdSave->setDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, &frmPreferences::cmdSave_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmPreferences::cmdCancel_Click);
 }

@@ -8,7 +8,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QFrame;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -42,9 +41,9 @@ protected:
 
 private:
     void Form_Activate();
-    void makeGeneralPage(QFrame& page);
-    void makeVideoPokerPage(QFrame& page);
-    void makeCardBacksPage(QFrame& page);
+    void makeGeneralPage(QVBoxLayout& page);
+    void makeVideoPokerPage(QVBoxLayout& page);
+    void makeCardBacksPage(QVBoxLayout& page);
     void makeButtons(QVBoxLayout& layout);
     void showOutlineColour();
 
