@@ -5,6 +5,8 @@
 namespace quillet
 {
 
+inline constexpr double rankMarkHeight = 22;
+
 // The outline of a rank (1..13) for the corner index, in device pixels: rankMarkHeight high on the
 // grid, centred on x = `centre`, its top at `top`. Stems and bars are moved onto whole device
 // pixels, so they are sharp at every scale.

@@ -2,7 +2,6 @@
 #include "cards/faces.h"
 #include "cards/index_glyphs.h"
 #include "cards/pips.h"
-#include "shapes/rank_marks.h"
 
 #include <array>
 #include <cstddef>

@@ -10,6 +10,7 @@
 namespace quillet
 {
 
+inline constexpr double suitMarkHeight = 18;
 inline constexpr QRgb cardRed = 0xffc8102e;
 inline constexpr QRgb cardBlack = 0xff17161b;
 

@@ -4,7 +4,6 @@
 #include "cards/index_glyphs.h"
 #include "cards/pips.h"
 #include "engine/card.h"
-#include "shapes/rank_marks.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "main_window/chart_panel.h"
 
-#include "cards/picture_text.h"
+#include "cards/path_text.h"
 #include "main_window/designed_look.h"
 #include "main_window/window_layout.h"
 #include "platform/accessible_widgets.h"

@@ -2,12 +2,15 @@
 
 #include "assets/make/pictures/canvas.h"
 #include "assets/make/pictures/letters.h"
-#include "shapes/path_text.h"
 
 #include <QTransform>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <span>
+#include <sstream>
 
 namespace quillet::artwork
 {
@@ -22,7 +25,7 @@ class Pen
 public:
     explicit Pen(double weight) : m_weight(weight) { m_outline.setFillRule(Qt::WindingFill); }
 
-    QPainterPath write(const char* text);
+    QPainterPath write(const char* strokes);
 
 private:
     // Where the middle of the pen goes for a point of the box, so that its ink stays inside.
@@ -30,15 +33,7 @@ private:
     {
         return {x + m_weight / 2, m_weight / 2 + y * (1 - m_weight)};
     }
-    // Around the ellipse of an E or A.
-    [[nodiscard]] QRectF boxOf(const PathCommand& ellipse) const
-    {
-        const auto& [cx, cy, rx, ry, from, sweep] = ellipse.numbers;
-        return {inside(cx - rx, cy - ry), inside(cx + rx, cy + ry)};
-    }
-    void addArc(const PathCommand& arc);
-    void addEllipse(const PathCommand& ellipse);
-    void addSlant(const PathCommand& slant);
+    void addSlant(double x1, double y1, double x2, double y2);
     void finishStroke();
 
     double m_weight;
@@ -46,48 +41,44 @@ private:
     QPainterPath m_outline;
 };
 
-QPainterPath Pen::write(const char* text)
+QPainterPath Pen::write(const char* strokes)
 {
-    for (const PathCommand& command : pathCommands(text)) {
-        const auto& [x1, y1, x2, y2, x3, y3] = command.numbers;
-        if (command.letter == 'M') {
+    std::istringstream text(strokes);
+    for (char letter = 0; text >> letter;) {
+        std::array<double, 6> numbers{};
+        const auto& [x1, y1, x2, y2, x3, y3] = numbers;
+        const std::size_t count = letter == 'A' || letter == 'C'   ? 6
+                                  : letter == 'E' || letter == 'D' ? 4
+                                                                   : 2;
+        for (double& number : std::span(numbers).first(count))
+            text >> number;
+        const QRectF ellipse(inside(x1 - x2, y1 - y2), inside(x1 + x2, y1 + y2));
+        if (letter == 'M') {
             finishStroke();
             m_stroke.moveTo(inside(x1, y1));
-        } else if (command.letter == 'L') {
+        } else if (letter == 'L') {
             m_stroke.lineTo(inside(x1, y1));
-        } else if (command.letter == 'C') {
+        } else if (letter == 'C') {
             m_stroke.cubicTo(inside(x1, y1), inside(x2, y2), inside(x3, y3));
-        } else if (command.letter == 'A') {
-            addArc(command);
-        } else if (command.letter == 'E') {
-            addEllipse(command);
-        } else if (command.letter == 'D') {
-            addSlant(command);
+        } else if (letter == 'A') {
+            if (m_stroke.elementCount() == 0)
+                m_stroke.arcMoveTo(ellipse, x3);
+            m_stroke.arcTo(ellipse, x3, y3);
+        } else if (letter == 'E') {
+            finishStroke();
+            m_stroke.addEllipse(ellipse);
+            finishStroke();
+        } else if (letter == 'D') {
+            addSlant(x1, y1, x2, y2);
         }
     }
     finishStroke();
     return m_outline;
 }
 
-void Pen::addArc(const PathCommand& arc)
-{
-    const double from = arc.numbers[4];
-    if (m_stroke.elementCount() == 0)
-        m_stroke.arcMoveTo(boxOf(arc), from);
-    m_stroke.arcTo(boxOf(arc), from, arc.numbers[5]);
-}
-
-void Pen::addEllipse(const PathCommand& ellipse)
+void Pen::addSlant(double x1, double y1, double x2, double y2)
 {
     finishStroke();
-    m_stroke.addEllipse(boxOf(ellipse));
-    finishStroke();
-}
-
-void Pen::addSlant(const PathCommand& slant)
-{
-    finishStroke();
-    const auto& [x1, y1, x2, y2, unused, unusedToo] = slant.numbers;
     const double half = m_weight / 2 * std::hypot(x2 - x1, y2 - y1) / std::abs(y2 - y1);
     const double left1 = x1 + m_weight / 2 - half;
     const double left2 = x2 + m_weight / 2 - half;

@@ -1,7 +1,6 @@
 #include "assets/make/pictures/suits.h"
 
 #include "cards/pips.h"
-#include "shapes/suit_marks.h"
 
 #include <QTransform>
 
