@@ -183,10 +183,11 @@ RowKind memberOf(const Family& family, int high)
     std::string name(family.name);
     std::string meaning(family.meaning);
     if (high > 0) {
-        constexpr std::array<std::string_view, 4> numbers{"", "one", "two", "three"};
+        constexpr std::array<const char*, 4> atLeast{"", ", at least one", ", at least two",
+                                                     ", at least three"};
         name += ", " + std::to_string(high) + " high";
         meaning.pop_back(); // the full stop
-        meaning += high == family.cards ? ", all" : ", at least " + std::string(numbers[high]);
+        meaning += high == family.cards ? ", all" : atLeast.at(static_cast<std::size_t>(high));
         meaning += " of them high.";
     }
     return {name, family.cards, high, family.matches, meaning, family.discards};
