@@ -8,7 +8,11 @@ Answer answerTo(const Decisions& decisions, const odds::DealtHand& hand, odds::H
     const odds::Fraction cost(hand.worth[hand.bestHold] - hand.worth[held],
                               odds::DealtHand::worthUnit);
     const DealtDecision met = decisions.of(hand);
-    return {decisions.idOf(met), cost.value(), (met.wild >> held & 1U) != 0};
+    const bool wild = (met.wild >> held & 1U) != 0;
+    return {decisions.idOf(met), cost.value(),
+            held == met.rivalHold ? Mistake::rival
+            : wild                ? Mistake::wild
+                                  : Mistake::other};
 }
 
 } // namespace quillet::practice

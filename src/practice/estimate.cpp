@@ -16,11 +16,12 @@ namespace
 {
 
 // The model. In each decision the player either knows what to do or errs in some share of its
-// deals, any share being as likely as any other, and then always with wild holds or never. At any
-// deal a slip may come instead: a hold picked blindly. The draws below are those of a Gibbs sampler
+// deals, any share being as likely as any other. Who errs has one of two habits: wild holds only,
+// or none, and then the rival is as likely as all other holds together. At any deal a slip may come
+// instead: a hold picked blindly, so seldom the rival. The draws below are those of a Gibbs sampler
 // from what the answers leave possible.
 
-constexpr int draws = 1000;
+constexpr int draws = 2000;
 constexpr int drawsBefore = 50;
 constexpr double inside = 0.96; // a little more than is claimed, for the roughness of the draws
 
@@ -33,11 +34,15 @@ constexpr double carefulShare = 0.1;
 constexpr double slipsExpected = 0.7; // in so many answers and this one
 constexpr double slipAnswers = 10;
 
-constexpr double wildMistakes = 0.1; // the share of mistakes that are wild holds
-constexpr std::size_t steps = 16;    // of the error rate
-constexpr double costSpread = 4;     // one over the variance of a mistake's cost relative to it
+enum Habit : std::size_t { tame, wild, habits };
+constexpr std::array<double, habits> habitShares{0.9, 0.1};
+constexpr std::array<std::array<double, mistakes>, habits> mistakeShares{
+    {{0.5, 0.5, 0}, {0, 0, 1}}};
 
-// Answers with wrong holds of one sort, wild or not.
+constexpr std::size_t steps = 16; // of the error rate
+constexpr double costSpread = 4;  // one over the variance of a mistake's cost relative to it
+
+// Answers with one sort of mistake.
 struct WrongHolds {
     double blindShare = 0; // of the 32 holds
     int count = 0;
@@ -50,29 +55,34 @@ struct Evidence {
         : probability(decision.probability()), lead(decision.lead()),
           anyHoldCost(decision.anyHoldCost()), mistaken(chanceOfMistakes(decision))
     {
-        sort[1].blindShare = decision.wildShare();
-        sort[0].blindShare = 1 - 1.0 / odds::holds - decision.wildShare();
+        constexpr double oneHold = 1.0 / odds::holds;
+        wrong[0].blindShare = oneHold;
+        wrong[1].blindShare = std::max(1 - 2 * oneHold - decision.wildShare(), 0.0);
+        wrong[2].blindShare = decision.wildShare();
     }
 
-    [[nodiscard]] bool hasErrors() const { return sort[0].count + sort[1].count > 0; }
+    [[nodiscard]] bool hasErrors() const
+    {
+        return std::ranges::any_of(wrong, [](const WrongHolds& each) { return each.count > 0; });
+    }
 
     double probability;
     double lead;
     double anyHoldCost;
     double mistaken; // the chance of it before any answer
     int right = 0;
-    std::array<WrongHolds, 2> sort; // by whether they are wild
+    std::array<WrongHolds, mistakes> wrong; // by Mistake
 
     // How well the answers fit a player who knows the decision, and one who does not.
     double fitKnown = 1;
     double fitMistaken = 1;
-    std::array<double, 2 * steps> fitOfRate{}; // the steps without and with wild holds
+    std::array<double, habits * steps> fitOfRate{}; // the steps of each habit
 };
 
 // A way to err in a decision; the rate is 0 where the player knows it.
-struct Mistakes {
+struct WayToErr {
     double rate = 0;
-    std::size_t sort = 0;
+    std::size_t habit = tame;
 };
 
 struct Losses {
@@ -90,8 +100,8 @@ public:
 private:
     void fit(Evidence& evidence) const;
     void drawLevel();
-    [[nodiscard]] Mistakes drawMistakes(const Evidence& evidence);
-    [[nodiscard]] double drawCost(const Evidence& evidence, const Mistakes& mistakes, int& slips);
+    [[nodiscard]] WayToErr drawWayToErr(const Evidence& evidence);
+    [[nodiscard]] double drawCost(const Evidence& evidence, const WayToErr& way, int& slips);
     void drawSlipRate(int slips);
 
     double chance() { return std::uniform_real_distribution<double>()(m_random); }
@@ -121,7 +131,7 @@ Sampler::Sampler(const Decisions& decisions, std::span<const Answer> answers)
             ++evidence.right;
             continue;
         }
-        WrongHolds& wrong = evidence.sort[answer.wild ? 1 : 0];
+        WrongHolds& wrong = evidence.wrong[static_cast<std::size_t>(answer.mistake)];
         ++wrong.count;
         wrong.cost += answer.cost;
     }
@@ -137,8 +147,8 @@ Losses Sampler::draw()
     Losses losses;
     int slips = 0;
     for (const Evidence& evidence : m_evidence) {
-        const Mistakes mistakes = drawMistakes(evidence);
-        const double cost = mistakes.rate * drawCost(evidence, mistakes, slips);
+        const WayToErr way = drawWayToErr(evidence);
+        const double cost = way.rate * drawCost(evidence, way, slips);
         const double each = (1 - m_slipRate) * cost + m_slipRate * evidence.anyHoldCost;
         (evidence.lead < closeLead ? losses.close : losses.clear) += evidence.probability * each;
     }
@@ -150,20 +160,21 @@ void Sampler::fit(Evidence& evidence) const
 {
     if (!evidence.hasErrors())
         return;
-    const auto& sort = evidence.sort;
-    const double slip = m_slipRate * sort[0].blindShare;
-    const double wildSlip = m_slipRate * sort[1].blindShare;
-    evidence.fitKnown = std::pow(slip, sort[0].count) * std::pow(wildSlip, sort[1].count);
+    evidence.fitKnown = 1;
+    for (const WrongHolds& wrong : evidence.wrong)
+        evidence.fitKnown *= std::pow(m_slipRate * wrong.blindShare, wrong.count);
     evidence.fitMistaken = 0;
     for (std::size_t i = 0; i < evidence.fitOfRate.size(); ++i) {
-        const bool wild = i >= steps;
+        const std::size_t habit = i / steps;
         const double rate = (static_cast<double>(i % steps) + 0.5) / steps;
-        const double mistake = (1 - m_slipRate) * rate;
-        evidence.fitOfRate[i] = (wild ? wildMistakes : 1 - wildMistakes) / steps *
-                                std::pow(slip + (wild ? 0 : mistake), sort[0].count) *
-                                std::pow(wildSlip + (wild ? mistake : 0), sort[1].count) *
-                                std::pow(1 - rate, evidence.right);
-        evidence.fitMistaken += evidence.fitOfRate[i];
+        double fit = habitShares[habit] / steps * std::pow(1 - rate, evidence.right);
+        for (std::size_t k = 0; k < mistakes; ++k) {
+            const WrongHolds& wrong = evidence.wrong[k];
+            const double mistake = (1 - m_slipRate) * rate * mistakeShares[habit][k];
+            fit *= std::pow(m_slipRate * wrong.blindShare + mistake, wrong.count);
+        }
+        evidence.fitOfRate[i] = fit;
+        evidence.fitMistaken += fit;
     }
 }
 
@@ -185,7 +196,7 @@ void Sampler::drawLevel()
         levels[std::discrete_distribution<std::size_t>(weight.begin(), weight.end())(m_random)];
 }
 
-Mistakes Sampler::drawMistakes(const Evidence& evidence)
+WayToErr Sampler::drawWayToErr(const Evidence& evidence)
 {
     const double mistaken = m_level * evidence.mistaken * evidence.fitMistaken;
     const double known = (1 - m_level * evidence.mistaken) * evidence.fitKnown;
@@ -201,20 +212,22 @@ Mistakes Sampler::drawMistakes(const Evidence& evidence)
 }
 
 // What a mistake costs on average. Counts those wrong answers that were slips.
-double Sampler::drawCost(const Evidence& evidence, const Mistakes& mistakes, int& slips)
+double Sampler::drawCost(const Evidence& evidence, const WayToErr& way, int& slips)
 {
-    const WrongHolds& wrong = evidence.sort[mistakes.sort];
-    slips += evidence.sort[1 - mistakes.sort].count;
     double weight = 1; // the lead counts as one answer
     double cost = evidence.lead;
-    if (wrong.count > 0) {
+    for (std::size_t k = 0; k < mistakes; ++k) {
+        const WrongHolds& wrong = evidence.wrong[k];
+        if (wrong.count == 0)
+            continue;
         const double slip = m_slipRate * wrong.blindShare;
-        const double isSlip = slip / (slip + (1 - m_slipRate) * mistakes.rate);
+        const double mistake = (1 - m_slipRate) * way.rate * mistakeShares[way.habit][k];
+        const double isSlip = slip / (slip + mistake);
         slips += std::binomial_distribution<int>(wrong.count, isSlip)(m_random);
         weight += (1 - isSlip) * wrong.count;
         cost += (1 - isSlip) * wrong.cost;
     }
-    if (mistakes.rate <= 0)
+    if (way.rate <= 0)
         return 0;
     const double shape = costSpread * weight;
     return cost / weight * gamma(shape) / shape;

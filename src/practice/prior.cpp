@@ -15,7 +15,7 @@ constexpr double clearPower = 6;
 constexpr double boundOfStake = 0.002; // in credits a hand
 
 constexpr double rareMistakes = 0.027;
-constexpr double boundOfRareStake = 0.01;
+constexpr double boundOfRareStake = 0.016;
 
 double stakeOf(const Decision& decision)
 {
@@ -33,9 +33,9 @@ double expectedErrorRate(const Decision& decision)
 
 double chanceOfMistakes(const Decision& decision)
 {
+    const double stake = stakeOf(decision) / boundOfRareStake;
     // On average half of the deals are wrong in a decision that the player does not know.
-    return 2 * expectedErrorRate(decision) +
-           rareMistakes / (1 + stakeOf(decision) / boundOfRareStake);
+    return 2 * expectedErrorRate(decision) + rareMistakes / (1 + stake * stake);
 }
 
 } // namespace quillet::practice

@@ -62,15 +62,16 @@ TEST(Decisions, haveTheExactFiguresOfTheGame)
     EXPECT_EQ(figures("low pair over 4 to an outside straight"), (std::array{413.0, 640.0}));
 }
 
-TEST(Answer, isTakenForASlipWhenItKeepsCardsOfNoKind)
+TEST(Answer, saysWhatAWrongHoldLooksLike)
 {
     const odds::DealtHand hand = dealt("2c 2d 9d Kh 7s");
     const Answer kicker = answerTo(decisions(), hand, 0b01011);
     const Answer king = answerTo(decisions(), hand, 0b01000);
     EXPECT_EQ(decisions()[kicker.decision].name(), "low pair over 1 high");
     EXPECT_TRUE(answerTo(decisions(), hand, 0b00011).isRight());
-    EXPECT_TRUE(kicker.wild);
-    EXPECT_FALSE(king.wild);
+    EXPECT_EQ(kicker.mistake, Mistake::wild);
+    EXPECT_EQ(king.mistake, Mistake::rival);
+    EXPECT_EQ(answerTo(decisions(), hand, 0).mistake, Mistake::other);
     EXPECT_GT(king.cost, kicker.cost);
     const DealtDecision none = decisions().of(dealt("2c 4d 6h 8s Tc"));
     EXPECT_EQ(decisions()[decisions().idOf(none)].name(), "nothing over other cards");
