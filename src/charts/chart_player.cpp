@@ -9,35 +9,39 @@ namespace quillet::charts
 namespace
 {
 
-// The cards that a hold keeps, then the discards.
-std::array<Card, 5> keptFirst(const odds::DealtHand& hand, odds::Hold hold)
+// Those cards of a deal that a hold keeps.
+class KeptCards
 {
-    std::array<Card, 5> cards;
-    auto next = cards.begin();
-    for (const odds::Hold part : {hold, odds::holdAll & ~hold})
-        for (std::size_t i = 0; i < cards.size(); ++i)
-            if ((part >> i & 1U) != 0)
-                *next++ = odds::cardAt(hand.places[i]);
-    return cards;
-}
+public:
+    KeptCards(const odds::DealtHand& hand, odds::Hold hold)
+    {
+        for (std::size_t i = 0; i < m_cards.size(); ++i) {
+            if ((hold >> i & 1U) != 0)
+                m_cards[m_count++] = odds::cardAt(hand.places[i]);
+        }
+    }
+
+    [[nodiscard]] std::span<const Card> cards() const { return std::span(m_cards).first(m_count); }
+
+private:
+    std::array<Card, 5> m_cards;
+    std::size_t m_count = 0;
+};
 
 } // namespace
 
 HoldFacts factsOf(const odds::DealtHand& hand, odds::Hold hold)
 {
-    return hold == odds::holdAll ? HoldFacts(odds::cardsAt(hand.places))
+    return hold == odds::holdAll ? HoldFacts(KeptCards(hand, hold).cards())
                                  : factsByClass()[hand.classOfHold[hold]];
 }
 
 bool allows(const Row& row, const odds::DealtHand& hand, odds::Hold hold)
 {
     const DiscardSet conditions = row.discards | rowKinds()[row.kind].discards;
-    if (conditions == 0)
-        return true;
-    const std::array<Card, 5> cards = keptFirst(hand, hold);
-    const std::size_t kept = odds::cardsIn[hold];
-    return fitAll(conditions,
-                  DiscardFacts(std::span(cards).first(kept), std::span(cards).subspan(kept)));
+    return conditions == 0 ||
+           fitAll(conditions, DiscardFacts(KeptCards(hand, hold).cards(),
+                                           KeptCards(hand, odds::holdAll & ~hold).cards()));
 }
 
 ChartPlayer::ChartPlayer(const Chart& chart) : m_chart(chart)
