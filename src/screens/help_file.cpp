@@ -38,7 +38,7 @@ QString readHelpFile(const QString& path)
 
     // Stateless, so that a character cut off at the end of the file is an error, too.
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString html = utf8(bytes);
+    QString html = utf8(bytes);
     if (utf8.hasError())
         return unreadable("is not UTF-8 text: " + path);
     return html;
