@@ -9,7 +9,7 @@ namespace quillet::charts
 namespace
 {
 
-// Those cards of a deal that a hold keeps.
+// The cards that a hold keeps.
 class KeptCards
 {
 public:
