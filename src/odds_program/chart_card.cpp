@@ -130,14 +130,14 @@ void writeCard(std::ostream& out, odds::DeckPlace place, bool kept, const Box& b
     const std::string rank = name[0] == 'T' ? "10" : name.substr(0, 1);
     const bool red = name[1] == 'd' || name[1] == 'h';
     const std::string_view ink = red ? "#c8102e" : "#17161b";
-    const double size = std::min(0.9 * box.height, 0.36 * box.width);
+    const double size = std::min(0.9 * box.height, 0.34 * box.width);
     const double centre = box.y + box.height / 2;
     out << "<g font-weight='bold' opacity='" << (kept ? 1 : 0.35) << "'>";
     writeBox(out, box, "#ffffff", kept ? wood : "#808080", 0.8);
-    writeLine(out, rank, {size, ink, "middle"}, box.x + 0.32 * box.width,
+    writeLine(out, rank, {size, ink, "middle"}, box.x + 0.31 * box.width,
               centre + capHeight / 2 * size, box.width);
     out << "<use href='#" << name[1] << "' fill='" << ink << "' transform='translate("
-        << box.x + 0.78 * box.width << ' ' << centre << ") scale(" << 0.85 * size / suitHeight
+        << box.x + 0.75 * box.width << ' ' << centre << ") scale(" << 0.85 * size / suitHeight
         << ")'/></g>\n";
 }
 
