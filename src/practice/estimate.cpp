@@ -73,7 +73,8 @@ struct Evidence {
     int right = 0;
     std::array<WrongHolds, mistakes> wrong; // by Mistake
 
-    // How well the answers fit a player who knows the decision, and one who does not.
+    // How well the answers fit a player who knows the decision, and one who does not, up to a
+    // factor.
     double fitKnown = 1;
     double fitMistaken = 1;
     std::array<double, habits * steps> fitOfRate{}; // the steps of each habit
@@ -160,20 +161,29 @@ void Sampler::fit(Evidence& evidence) const
 {
     if (!evidence.hasErrors())
         return;
-    evidence.fitKnown = 1;
-    for (const WrongHolds& wrong : evidence.wrong)
-        evidence.fitKnown *= std::pow(m_slipRate * wrong.blindShare, wrong.count);
-    evidence.fitMistaken = 0;
-    for (std::size_t i = 0; i < evidence.fitOfRate.size(); ++i) {
-        const std::size_t habit = i / steps;
-        const double rate = (static_cast<double>(i % steps) + 0.5) / steps;
-        double fit = habitShares[habit] / steps * std::pow(1 - rate, evidence.right);
+    // Logarithms first: after thousands of answers the chances are too small for a double.
+    const auto logOfFit = [&](double rate, std::size_t habit) {
+        double log = evidence.right * std::log(1 - rate);
         for (std::size_t k = 0; k < mistakes; ++k) {
             const WrongHolds& wrong = evidence.wrong[k];
             const double mistake = (1 - m_slipRate) * rate * mistakeShares[habit][k];
-            fit *= std::pow(m_slipRate * wrong.blindShare + mistake, wrong.count);
+            if (wrong.count > 0)
+                log += wrong.count * std::log(m_slipRate * wrong.blindShare + mistake);
         }
-        evidence.fitOfRate[i] = fit;
+        return log;
+    };
+    const double known = logOfFit(0, tame);
+    double greatest = known;
+    for (std::size_t i = 0; i < evidence.fitOfRate.size(); ++i) {
+        const std::size_t habit = i / steps;
+        const double rate = (static_cast<double>(i % steps) + 0.5) / steps;
+        evidence.fitOfRate[i] = std::log(habitShares[habit] / steps) + logOfFit(rate, habit);
+        greatest = std::max(greatest, evidence.fitOfRate[i]);
+    }
+    evidence.fitKnown = std::exp(known - greatest);
+    evidence.fitMistaken = 0;
+    for (double& fit : evidence.fitOfRate) {
+        fit = std::exp(fit - greatest);
         evidence.fitMistaken += fit;
     }
 }

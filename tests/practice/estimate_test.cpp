@@ -36,6 +36,7 @@ TEST(Estimate, holdsTheExactReturnOfPlayersWhoseReturnIsKnown)
     for (const Player& player : {Player({}), Player(chart)}) {
         EXPECT_GE(insideOf(player, 200, 10, 0.5), 9);
         EXPECT_GE(insideOf(player, 1000, 2, 0.2), 2);
+        EXPECT_EQ(insideOf(player, 10'000, 1, 0.1), 1);
     }
     const Player twelveRows(charts::parseChart(bestOf12));
     EXPECT_GE(insideOf(twelveRows, 200, 10, 0.9), 9);
