@@ -21,8 +21,8 @@ struct PenStroke {
     const char* path;
 };
 
-// A rank, rankMarkHeight high, as filled pieces and pen strokes. The
-// guides are the edges of its stems and bars, ascending.
+// A rank, rankMarkHeight high, as filled pieces and pen strokes. The guides are the edges of its
+// stems and bars, ascending.
 struct RankMark {
     double width;
     const char* pieces;
